@@ -1,0 +1,55 @@
+# Build targets for the source tools: format, format-check, tidy, qml-format, qml-lint.
+
+find_program(TAMBLE_CLANG_FORMAT clang-format)
+find_program(TAMBLE_CLANG_TIDY clang-tidy)
+find_program(TAMBLE_RUN_CLANG_TIDY NAMES run-clang-tidy run-clang-tidy-14)
+
+file(GLOB_RECURSE cpp_files CONFIGURE_DEPENDS
+    ${PROJECT_SOURCE_DIR}/asset/*.cpp
+    ${PROJECT_SOURCE_DIR}/control/*.cpp ${PROJECT_SOURCE_DIR}/control/*.h
+    ${PROJECT_SOURCE_DIR}/gallery/*.cpp ${PROJECT_SOURCE_DIR}/gallery/*.h
+    ${PROJECT_SOURCE_DIR}/libs/*.cpp ${PROJECT_SOURCE_DIR}/libs/*.h
+    ${PROJECT_SOURCE_DIR}/tests/*.cpp ${PROJECT_SOURCE_DIR}/tests/*.h
+)
+file(GLOB_RECURSE qml_files CONFIGURE_DEPENDS
+    ${PROJECT_SOURCE_DIR}/qml/*.qml
+    ${PROJECT_SOURCE_DIR}/gallery/*.qml
+    ${PROJECT_SOURCE_DIR}/tests/*.qml
+)
+
+if(TAMBLE_CLANG_FORMAT)
+    add_custom_target(format COMMAND ${TAMBLE_CLANG_FORMAT} -i ${cpp_files} VERBATIM)
+    add_custom_target(format-check COMMAND ${TAMBLE_CLANG_FORMAT} --dry-run --Werror ${cpp_files} VERBATIM)
+endif()
+
+if(TAMBLE_RUN_CLANG_TIDY)
+    # Every compiled source of the project; generated ones live in the build directory and do not match.
+    add_custom_target(tidy
+        COMMAND ${TAMBLE_RUN_CLANG_TIDY} -quiet -j 2 -p ${PROJECT_BINARY_DIR}
+                "${PROJECT_SOURCE_DIR}/(asset|control|gallery|libs)/.*\\.cpp$"
+        VERBATIM
+    )
+    add_dependencies(tidy tambleclient-control)
+endif()
+
+# qmlformat without -n: with it the members would be sorted alphabetically.
+find_program(TAMBLE_QMLFORMAT qmlformat PATHS /usr/lib/qt6/bin)
+add_custom_target(qml-format COMMAND ${TAMBLE_QMLFORMAT} -i ${qml_files} VERBATIM)
+
+# Against the built modules, as a user's own tools see them; the gallery's files where their qmldir is, which names its
+# singletons.
+set(lint_files)
+foreach(file IN LISTS qml_files)
+    cmake_path(RELATIVE_PATH file BASE_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_VARIABLE path)
+    if(path MATCHES "^gallery/(.*)")
+        list(APPEND lint_files ${PROJECT_BINARY_DIR}/gallery/Gallery/${CMAKE_MATCH_1})
+    else()
+        list(APPEND lint_files ${file})
+    endif()
+endforeach()
+find_program(TAMBLE_QMLLINT qmllint PATHS /usr/lib/qt6/bin)
+add_custom_target(qml-lint
+    COMMAND ${TAMBLE_QMLLINT} -I ${PROJECT_BINARY_DIR}/qml -I ${PROJECT_BINARY_DIR}/gallery ${lint_files}
+    VERBATIM
+)
+add_dependencies(qml-lint tambleclient-control tamble-gallery)

@@ -1,0 +1,50 @@
+#include "TambleClientControlModule.h"
+
+#include "ControlImageProvider.h"
+#include "InterfaceFont.h"
+#include "TypeCatalogue.h"
+#include "workspace/RMouseEventSpy.h"
+
+#include <QtCore/QSet>
+#include <QtGui/QPointingDevice>
+#include <QtQml/QQmlContext>
+#include <QtQml/QQmlEngine>
+
+namespace tamble::client {
+
+namespace {
+
+// Every pointing device counts, a mouse with its own number of points too.
+int maximumTouchPoints()
+{
+    int maximum = 0;
+    for (const QInputDevice *device : QInputDevice::devices()) {
+        if (const auto *pointingDevice = qobject_cast<const QPointingDevice *>(device))
+            maximum = qMax(maximum, pointingDevice->maximumPoints());
+    }
+    return maximum;
+}
+
+} // namespace
+
+void TambleClientControlModule::registerTypes(const char *uri)
+{
+    static QSet<QByteArray> registeredUris;
+    const QByteArray key(uri);
+    if (registeredUris.contains(key))
+        return;
+    registeredUris.insert(key);
+    registerCatalogue(uri);
+}
+
+void TambleClientControlModule::initializeEngine(QQmlEngine *engine, const char *)
+{
+    RMouseEventSpy::instance()->install();
+    engine->addImageProvider(QStringLiteral("tamble"), new ControlImageProvider(engine->baseUrl()));
+    for (const char *path : {"qrc:/", "qrc:/qml/", "qrc:/asset/fonts/", "qrc:/asset/icons/", "qrc:/asset/style/"})
+        engine->addImportPath(QString::fromLatin1(path));
+    engine->rootContext()->setContextProperty(QStringLiteral("maximumTouchPoints"), maximumTouchPoints());
+    registerInterfaceFont();
+}
+
+} // namespace tamble::client

@@ -1,0 +1,288 @@
+#include "TypeCatalogue.h"
+
+#include "bodeplot/BodeplotEnums.h"
+#include "bodeplot/RBodeplot.h"
+#include "bodeplot/RBodeplotAsymmetricEqFilter.h"
+#include "bodeplot/RBodeplotAxis.h"
+#include "bodeplot/RBodeplotCalculationItem.h"
+#include "bodeplot/RBodeplotCurve.h"
+#include "bodeplot/RBodeplotEqFilter.h"
+#include "bodeplot/RBodeplotFIRFilter.h"
+#include "bodeplot/RBodeplotGrid.h"
+#include "bodeplot/RBodeplotXOverFilter.h"
+#include "bodeplot/RLimiterCurve.h"
+#include "bodeplot/RSimpleCurve.h"
+#include "dynamics/AGCCalculator.h"
+#include "dynamics/ANCCalculator.h"
+#include "dynamics/CompressorCalculator.h"
+#include "dynamics/DuckerCalculator.h"
+#include "dynamics/LimiterCalculator.h"
+#include "dynamics/NoiseGateCalculator.h"
+#include "input/RMessageBox.h"
+#include "input/RScreen.h"
+#include "input/RSortFilterProxyModel.h"
+#include "input/RStringRuleValidator.h"
+#include "input/RStringRuleValidatorRule.h"
+#include "input/RTextFieldDoubleValidator.h"
+#include "input/RTextFieldIntValidator.h"
+#include "input/RTextFieldIpAddressValidator.h"
+#include "input/RTextFieldPinValidator.h"
+#include "meter/RMeterBase.h"
+#include "plot/GraphPlotter.h"
+#include "plot/LineCalculator.h"
+#include "plot/LinePlotter.h"
+#include "plot/NumberingHelper.h"
+#include "plot/RAxis.h"
+#include "plot/RConstantGridLineCalculator.h"
+#include "plot/RGrid.h"
+#include "plot/RGridLayout.h"
+#include "plot/RScaleHelper.h"
+#include "style/StateHelper.h"
+#include "style/StyleChecker.h"
+#include "style/StyleEngineSetup.h"
+#include "style/StyleSet.h"
+#include "style/StyleSetProps.h"
+#include "style/StylesDirWatcher.h"
+#include "style/ThemeSelector.h"
+#include "workspace/RMouseCursor.h"
+#include "workspace/RMouseDetection.h"
+#include "workspace/RMouseEventSpy.h"
+#include "workspace/RWorkspaceSelection.h"
+#include "workspace/WorkspaceBase.h"
+#include "workspace/WorkspaceItemBase.h"
+#include "workspace/WorksheetBase.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QPointF>
+#include <QtCore/QRectF>
+#include <QtCore/QUrl>
+#include <QtCore/QUuid>
+#include <QtGui/QMouseEvent>
+#include <QtQml/QQmlEngine>
+#include <QtQml/qqml.h>
+#include <tambleclient-common/DoubleValueConverter.h>
+#include <tambleclient-common/RValueConverter.h>
+
+#include <initializer_list>
+
+namespace tamble::client {
+
+namespace {
+
+constexpr int MajorVersion = 1;
+constexpr int MinorVersion = 0;
+
+/// Registers names under one URI. Composites are given by their folder below qrc:/qml/.
+class Registrar
+{
+public:
+    explicit Registrar(const char *uri) : m_uri(uri) {}
+
+    template <typename T>
+    void creatable(const char *name) const
+    {
+        qmlRegisterType<T>(m_uri, MajorVersion, MinorVersion, name);
+    }
+
+    template <typename T>
+    void uncreatable(const char *name, const char *reason) const
+    {
+        qmlRegisterUncreatableType<T>(m_uri, MajorVersion, MinorVersion, name, QString::fromLatin1(reason));
+    }
+
+    template <typename T>
+    void enumNamespace(const char *name) const
+    {
+        qmlRegisterUncreatableMetaObject(T::staticMetaObject, m_uri, MajorVersion, MinorVersion, name, QString());
+    }
+
+    void composite(const char *folder, const char *name, const char *file) const
+    {
+        const QUrl url(QStringLiteral("qrc:/qml/%1/%2.qml").arg(QLatin1String(folder), QLatin1String(file)));
+        qmlRegisterType(url, m_uri, MajorVersion, MinorVersion, name);
+    }
+
+    void composites(const char *folder, std::initializer_list<const char *> names) const
+    {
+        for (const char *name : names)
+            composite(folder, name, name);
+    }
+
+    /// Composites that are alone in a folder of their own name.
+    void composites(std::initializer_list<const char *> names) const
+    {
+        for (const char *name : names)
+            composite(name, name, name);
+    }
+
+    const char *uri() const { return m_uri; }
+
+private:
+    const char *m_uri;
+};
+
+void registerBars(const Registrar &registrar)
+{
+    registrar.creatable<RValueConverter>("RValueConverter");
+    registrar.composites("RAccordion", {"RAccordion", "RAccordionSectionHeader", "RAccordionItem"});
+    registrar.composites("RAppBar",
+                         {"RAppBar", "RAppBarButton", "RAppBarStateButton", "RAppBarNavButton", "RAppBarSubNavButton"});
+    registrar.composites({"RApplicationWindow"});
+}
+
+void registerBodeplotEnums(const Registrar &registrar)
+{
+    registrar.enumNamespace<RBodeplotEqTypeEnum>("RBodeplotEqTypeEnum");
+    registrar.enumNamespace<RBodeplotXOverTypeEnum>("RBodeplotXOverTypeEnum");
+    registrar.enumNamespace<RBodeplotXOverCategoryEnum>("RBodeplotXOverCategoryEnum");
+    registrar.enumNamespace<RBodeplotSlopeTypeEnum>("RBodeplotSlopeTypeEnum");
+    registrar.enumNamespace<RBodeplotFIRTypeEnum>("RBodeplotFIRTypeEnum");
+    registrar.enumNamespace<RBodeplotDelayUnitEnum>("RBodeplotDelayUnitEnum");
+    registrar.enumNamespace<RBodeplotAxisScaleEnum>("RBodeplotAxisScaleEnum");
+    registrar.enumNamespace<RBodeplotZoomEnum>("RBodeplotZoomEnum");
+    registrar.enumNamespace<RBodeplotSpectrumEnum>("RBodeplotSpectrumEnum");
+}
+
+void registerBodeplot(const Registrar &registrar)
+{
+    registrar.creatable<RAxis>("RAxisTemplate");
+    registrar.composites({"RAxis"});
+    registrar.creatable<RBodeplot>("RBodeplotTemplate");
+    registrar.composites({"RBodeplot"});
+    registrar.creatable<RBodeplotGrid>("RBodeplotGridTemplate");
+    registrar.composites("RBodeplot", {"RBodeplotGrid", "RBodeplotGridStyle"});
+    registrar.creatable<RBodeplotAxis>("RBodeplotAxisTemplate");
+    registrar.composites("RBodeplot", {"RBodeplotAxis", "RBodeplotAxisStyle"});
+    registrar.creatable<RBodeplotCurve>("RBodeplotCurveTemplate");
+    registrar.composites("RBodeplot", {"RBodeplotCurve", "RBodeplotCurveStyle", "RBodeplotFilterPoint",
+                                       "RBodeplotFilterPointSelectedStyle", "RBodeplotFilterPointErrorStyle",
+                                       "RBodeplotFilterPointStyle"});
+    registrar.creatable<RBodeplotCalculationItem>("RBodeplotCalculationItem");
+    registrar.creatable<RBodeplotEqFilter>("RBodeplotEqFilter");
+    registrar.creatable<RBodeplotAsymmetricEqFilter>("RBodeplotAsymmetricEqFilter");
+    registrar.creatable<RBodeplotXOverFilter>("RBodeplotXOverFilter");
+    registrar.creatable<RBodeplotFIRFilter>("RBodeplotFIRFilter");
+    registrar.creatable<RLimiterCurve>("RLimiterCurveTemplate");
+    registrar.composites("RBodeplot", {"RLimiterCurve", "RLimiterCurveStyle", "RLimiterFilterPoint",
+                                       "RLimiterFilterPointStyle"});
+    registrar.creatable<RSimpleCurve>("RSimpleCurveTemplate");
+    registrar.composites("RBodeplot", {"RSimpleCurve", "RSimpleCurveStyle"});
+    registerBodeplotEnums(registrar);
+}
+
+void registerPlotHelpersAndCalculators(const Registrar &registrar)
+{
+    registrar.creatable<RScaleHelper>("RScaleHelper");
+    registrar.creatable<LinePlotter>("RLinePlotter");
+    registrar.creatable<GraphPlotter>("RGraphPlotter");
+    registrar.creatable<LineCalculator>("RLineCalculator");
+    registrar.creatable<LimiterCalculator>("RLimiterCalculator");
+    registrar.creatable<NumberingHelper>("RNumberingHelper");
+    registrar.creatable<CompressorCalculator>("RCompressorCalculator");
+    registrar.creatable<AGCCalculator>("RAGCCalculator");
+    registrar.creatable<ANCCalculator>("RANCCalculator");
+    registrar.creatable<NoiseGateCalculator>("RNoiseGateCalculator");
+    registrar.creatable<DuckerCalculator>("RDuckerCalculator");
+    registrar.creatable<RConstantGridLineCalculator>("RConstantGridLineCalculator");
+}
+
+void registerPanelsAndControls(const Registrar &registrar)
+{
+    registrar.composites("RLimiter", {"RPlotGrid", "RDragHandler", "RAxisNumbering", "RLimiter"});
+    registrar.composites({"RCompressor", "RAGC", "RANC", "RDucker", "RGate"});
+    registrar.composites("RButton", {"RButton", "RButtonIcon", "RButtonIconLabel", "RButtonIconLabelH",
+                                     "RButtonIconLabelV", "RButtonLabelText", "RButtonRow", "RButtonSwitch"});
+    registrar.composites({"RBoxShadow"});
+    registrar.composites("RCell", {"RCell", "RCellContainer", "RCellGridProperties", "RCellComboBox", "RCellButton",
+                                   "RCellLabel", "RCellTabBar", "RCellTabButton", "RCellTextField", "RCellTextArea",
+                                   "RCellSpinBox", "RCellText"});
+    registrar.composites({"RCheckBox", "RComboBox", "RDialog"});
+    registrar.composites("RFader", {"RFader", "TransferFunctions"});
+    registrar.composites("RFlyout", {"RFlyoutWindow", "RFlyoutToolbar", "RFlyoutToolbarItem"});
+    registrar.creatable<RGrid>("RGrid");
+    registrar.creatable<RGridLayout>("RGridLayout");
+    registrar.composites({"RIcon"});
+    registrar.composites("RInconsistentButton", {"RInconsistentButton", "RInconsistentButtonSwitch"});
+    registrar.composites({"RInconsistentPopup", "RLabel", "RListView"});
+    registrar.composites("RScrollView", {"RHorizontalScrollView"});
+    registrar.composites({"RMenu", "RMeter"});
+    registrar.creatable<RMeterBase>("RMeterBase");
+    registrar.composites("RPane", {"RPane", "RPaneSub"});
+    registrar.composites({"RPopupMenu", "RProgressBar", "RRepeater"});
+    registrar.composite("RScreen", "RScreen", "RScreen2");
+    registrar.creatable<RScreen>("RScreenTemplate");
+    registrar.composites({"RSectionHeader", "RSelectionRect", "RSpinBox"});
+}
+
+void registerStyle(const Registrar &registrar)
+{
+    registrar.uncreatable<StyleSet>("RStyleSet", "StyleSet is exposed as an attached property");
+    registrar.uncreatable<StyleSetProps>("RStyleSetProps", "Exposed as RStyleSet.props");
+    // The same name again: nobody writes it, but the engine gets to know the meta-object behind RStyleSet.stateHelper.
+    registrar.uncreatable<StateHelper>("RStyleSetProps", "Exposed as RStyleSet.props");
+    registrar.creatable<StyleEngineSetup>("RStyleEngine");
+    registrar.creatable<StylesDirWatcher>("RStylesDirWatcher");
+    registrar.creatable<StyleChecker>("RStyleChecker");
+    registrar.composites({"RStyleEngineSetup", "RStyleDebugMouseArea"});
+    registrar.composites("RTabButton", {"RTabButton", "RTabButtonIcon", "RTabButtonIconLabelH", "RTabButtonIconLabelV"});
+    registrar.composites("RText", {"RText", "RTextInput", "RTextField", "RNumberTextField", "RTextArea"});
+    registrar.composites({"RTheme"});
+    registrar.creatable<ThemeSelector>("RThemeSelector");
+}
+
+void registerWorkspace(const Registrar &registrar)
+{
+    registrar.creatable<WorksheetBase>("RWorksheetBase");
+    registrar.composites({"RWorksheet"});
+    registrar.creatable<WorkspaceBase>("RWorkspaceBase");
+    registrar.composites({"RWorkspace"});
+    registrar.creatable<RWorkspaceSelection>("RWorkspaceSelection");
+    registrar.creatable<WorkspaceItemBase>("RWorkspaceItemBase");
+    registrar.composites("RWorkspace", {"RWorkspaceItem", "RWorkspaceItemValueBar", "RWorkspaceZoomBar"});
+    registrar.composites("Shared", {"RFocusRectangle", "RDraggableItem"});
+}
+
+void registerInputHelpers(const Registrar &registrar)
+{
+    registrar.creatable<RTextFieldDoubleValidator>("RTextFieldDoubleValidator");
+    registrar.creatable<RTextFieldIntValidator>("RTextFieldIntValidator");
+    registrar.creatable<RTextFieldPinValidator>("RTextFieldPinValidator");
+    registrar.creatable<RTextFieldIpAddressValidator>("RTextFieldIpAddressValidator");
+    qmlRegisterSingletonType<RMouseEventSpy>(registrar.uri(), MajorVersion, MinorVersion, "RMouseEventSpy",
+                                             [](QQmlEngine *, QJSEngine *) -> QObject * {
+                                                 // All engines share the spy, so none may delete it.
+                                                 QObject *spy = RMouseEventSpy::instance();
+                                                 QQmlEngine::setObjectOwnership(spy, QQmlEngine::CppOwnership);
+                                                 return spy;
+                                             });
+    registrar.creatable<RMouseDetection>("RMouseDetection");
+    registrar.creatable<RMouseCursor>("RMouseCursor");
+    registrar.creatable<RSortFilterProxyModel>("RSortFilterProxyModel");
+    const QByteArray ruleClass(RStringRuleValidatorRule::staticMetaObject.className());
+    registrar.uncreatable<RStringRuleValidatorRule>(ruleClass.split(':').constLast().constData(),
+                                                    "You cannot create an instance of the Enums.");
+    registrar.creatable<RStringRuleValidator>("RStringRuleValidator");
+    registrar.creatable<DoubleValueConverter>("RDoubleValueConverter");
+    registrar.creatable<RMessageBox>("RMessageBox");
+    registrar.composites({"RViewContainer", "RLoadingAnimation"});
+}
+
+} // namespace
+
+void registerCatalogue(const char *uri)
+{
+    qRegisterMetaType<QMouseEvent *>("QMouseEvent*");
+    qRegisterMetaType<QHash<QUuid, QPointF>>("QHash<QUuid,QPointF>");
+    qRegisterMetaType<QHash<QUuid, QRectF>>("QHash<QUuid,QRectF>");
+
+    const Registrar registrar(uri);
+    registerBars(registrar);
+    registerBodeplot(registrar);
+    registerPlotHelpersAndCalculators(registrar);
+    registerPanelsAndControls(registrar);
+    registerStyle(registrar);
+    registerWorkspace(registrar);
+    registerInputHelpers(registrar);
+}
+
+} // namespace tamble::client

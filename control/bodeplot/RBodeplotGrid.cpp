@@ -1,0 +1,9 @@
+#include "bodeplot/RBodeplotGrid.h"
+
+namespace tamble::client {
+
+RBodeplotGrid::RBodeplotGrid(QQuickItem *parent)
+    : QQuickItem(parent)
+{}
+
+} // namespace tamble::client

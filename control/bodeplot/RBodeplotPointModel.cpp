@@ -1,0 +1,9 @@
+#include "bodeplot/RBodeplotPointModel.h"
+
+namespace tamble::client {
+
+RBodeplotPointModel::RBodeplotPointModel(QObject *parent)
+    : QObject(parent)
+{}
+
+} // namespace tamble::client

@@ -1,0 +1,9 @@
+#include "input/RMessageBox.h"
+
+namespace tamble::client {
+
+RMessageBox::RMessageBox(QObject *parent)
+    : QObject(parent)
+{}
+
+} // namespace tamble::client

@@ -1,0 +1,57 @@
+#include "plot/StrokeNode.h"
+
+namespace tamble::client
+{
+
+namespace
+{
+
+QSGGeometry::DrawingMode drawingMode(StrokeMode mode)
+{
+    switch (mode) {
+    case StrokeMode::LineStrip:
+        return QSGGeometry::DrawLineStrip;
+    case StrokeMode::Lines:
+        return QSGGeometry::DrawLines;
+    case StrokeMode::TriangleStrip:
+        return QSGGeometry::DrawTriangleStrip;
+    case StrokeMode::Triangles:
+        return QSGGeometry::DrawTriangles;
+    }
+    return QSGGeometry::DrawLines;
+}
+
+} // namespace
+
+StrokeNode::StrokeNode()
+    : m_geometry(QSGGeometry::defaultAttributes_Point2D(), 0)
+{
+    m_geometry.setDrawingMode(drawingMode(m_stroke.mode));
+    setGeometry(&m_geometry);
+    setMaterial(&m_material);
+}
+
+void StrokeNode::setColor(const QColor &color)
+{
+    if (m_material.color() == color)
+        return;
+    m_material.setColor(color);
+    markDirty(DirtyMaterial);
+}
+
+void StrokeNode::setStroke(const StrokeGeometry &stroke)
+{
+    if (m_stroke == stroke)
+        return;
+    m_stroke = stroke;
+    m_geometry.setDrawingMode(drawingMode(stroke.mode));
+    m_geometry.setLineWidth(float(stroke.lineWidth));
+    if (m_geometry.vertexCount() != stroke.vertices.size())
+        m_geometry.allocate(int(stroke.vertices.size()));
+    QSGGeometry::Point2D *vertex = m_geometry.vertexDataAsPoint2D();
+    for (const QPointF &point : stroke.vertices)
+        (vertex++)->set(float(point.x()), float(point.y()));
+    markDirty(DirtyGeometry);
+}
+
+} // namespace tamble::client

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "plot/StrokeGeometry.h"
+
+#include <QtQuick/QSGFlatColorMaterial>
+#include <QtQuick/QSGGeometry>
+#include <QtQuick/QSGGeometryNode>
+
+namespace tamble::client
+{
+
+/// Scene-graph node of lines in one colour; owns geometry and material and updates them in place.
+class StrokeNode : public QSGGeometryNode
+{
+public:
+    StrokeNode();
+
+    /// Marks the material only when the colour differs.
+    void setColor(const QColor &color);
+    /// Rewrites the vertices only when the stroke differs, and reallocates them only when their number does.
+    void setStroke(const StrokeGeometry &stroke);
+
+private:
+    QSGGeometry m_geometry;
+    QSGFlatColorMaterial m_material;
+    StrokeGeometry m_stroke;
+};
+
+} // namespace tamble::client

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "ControlExport.h"
+#include "workspace/WorkspaceBase.h"
+
+#include <QtCore/QPointF>
+#include <QtCore/QPointer>
+#include <QtCore/QUuid>
+#include <QtQuick/QQuickItem>
+
+namespace tamble::client {
+
+/// Document page around a workspace. `pointerPosition` is in plane units of the workspace, without one in own pixels.
+class TAMBLE_CLIENT_CONTROL_EXPORT WorksheetBase : public QQuickItem
+{
+    Q_OBJECT
+    QML_NAMED_ELEMENT(RWorksheetBase)
+    Q_PROPERTY(QUuid sheetId MEMBER m_sheetId NOTIFY sheetIdChanged)
+    Q_PROPERTY(QString title MEMBER m_title NOTIFY titleChanged)
+    Q_PROPERTY(bool modified MEMBER m_modified NOTIFY modifiedChanged)
+    Q_PROPERTY(bool readOnly MEMBER m_readOnly NOTIFY readOnlyChanged)
+    Q_PROPERTY(bool active MEMBER m_active NOTIFY activeChanged)
+    Q_PROPERTY(tamble::client::WorkspaceBase *workspace READ workspace NOTIFY workspaceChanged)
+    Q_PROPERTY(bool pointerInside READ pointerInside NOTIFY pointerInsideChanged)
+    Q_PROPERTY(QPointF pointerPosition READ pointerPosition NOTIFY pointerPositionChanged)
+
+public:
+    explicit WorksheetBase(QQuickItem *parent = nullptr);
+
+    WorkspaceBase *workspace() const { return m_workspace; }
+    bool pointerInside() const { return m_pointerInside; }
+    QPointF pointerPosition() const { return m_pointerPosition; }
+
+Q_SIGNALS:
+    void sheetIdChanged();
+    void titleChanged();
+    void modifiedChanged();
+    void readOnlyChanged();
+    void activeChanged();
+    void workspaceChanged();
+    void pointerInsideChanged();
+    void pointerPositionChanged();
+    void titleEdited(const QString &title);
+
+private:
+    QUuid m_sheetId = QUuid::createUuid();
+    QString m_title;
+    bool m_modified = false;
+    bool m_readOnly = false;
+    bool m_active = false;
+    QPointer<WorkspaceBase> m_workspace;
+    bool m_pointerInside = false;
+    QPointF m_pointerPosition;
+};
+
+} // namespace tamble::client

@@ -1,0 +1,36 @@
+#include "GalleryOptions.h"
+
+#include <QtCore/QCommandLineParser>
+
+GalleryOptions GalleryOptions::parse(const QStringList &arguments)
+{
+    const QCommandLineOption page(QStringLiteral("page"), QStringLiteral("Show this page first, or only this one."),
+                                  QStringLiteral("NAME"));
+    const QCommandLineOption screenshot(QStringLiteral("screenshot"),
+                                        QStringLiteral("Write DIR/<page>-<theme>.png of every page and exit."),
+                                        QStringLiteral("DIR"));
+    const QCommandLineOption scale(QStringLiteral("scale"), QStringLiteral("Enlarge the interface, 0.5 to 4."),
+                                   QStringLiteral("FACTOR"));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this text."));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Shows the controls of TambleClient.Control."));
+    parser.addOptions({page, screenshot, scale, help});
+
+    GalleryOptions options;
+    if (!parser.parse(arguments))
+        options.error = parser.errorText();
+    else if (!parser.positionalArguments().isEmpty())
+        options.error = QStringLiteral("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst());
+    options.page = parser.value(page);
+    options.screenshotDir = parser.value(screenshot);
+    options.scale = parser.value(scale);
+    options.help = parser.isSet(help);
+    options.helpText = parser.helpText();
+
+    bool isNumber = false;
+    const double factor = options.scale.toDouble(&isNumber);
+    if (parser.isSet(scale) && (!isNumber || !(factor >= 0.5 && factor <= 4.0)))
+        options.error = QStringLiteral("the scale \"%1\" is not a number from 0.5 to 4").arg(options.scale);
+    return options;
+}

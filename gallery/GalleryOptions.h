@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+/// What the command line asks for.
+struct GalleryOptions
+{
+    QString page;          ///< name of the page to show; empty for the first
+    QString screenshotDir; ///< where the screenshots go; empty when the gallery runs in a window
+    bool help = false;     ///< only the help text is wanted
+    QString scale;         ///< factor for the whole interface, 0.5 to 4; empty for the screen's own
+    QString error;         ///< why the command line cannot be followed; empty when it can
+    QString helpText;
+
+    /// Reads `arguments`, the program's name first. Needs no application object, since the scale must be in the
+    /// environment before one exists.
+    static GalleryOptions parse(const QStringList &arguments);
+};

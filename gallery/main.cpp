@@ -1,0 +1,72 @@
+#include "GalleryOptions.h"
+#include "PageList.h"
+#include "Screenshots.h"
+
+#include <QtCore/QTextStream>
+#include <QtGui/QGuiApplication>
+#include <QtQml/QQmlApplicationEngine>
+#include <QtQuick/QQuickWindow>
+#include <QtQuickControls2/QQuickStyle>
+
+namespace {
+
+constexpr int UsageError = 2;
+
+int fail(const QString &message, int exitCode)
+{
+    QTextStream(stderr) << "tamble-gallery: " << message << Qt::endl;
+    return exitCode;
+}
+
+GalleryOptions optionsFrom(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return GalleryOptions::parse(arguments);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const GalleryOptions options = optionsFrom(argc, argv);
+    if (!options.error.isEmpty())
+        return fail(options.error, UsageError);
+    if (options.help) {
+        QTextStream(stdout) << options.helpText;
+        return 0;
+    }
+    if (!options.scale.isEmpty())
+        qputenv("QT_SCALE_FACTOR", options.scale.toLatin1());
+
+    const PageList pages(QStringLiteral(":/Gallery/pages"));
+    const int firstPage = options.page.isEmpty() ? 0 : int(pages.indexOf(options.page));
+    if (firstPage < 0) {
+        return fail(QStringLiteral("there is no page \"%1\"; the pages are: %2")
+                        .arg(options.page, pages.names().join(QStringLiteral(", "))),
+                    UsageError);
+    }
+
+    const QGuiApplication application(argc, argv);
+    QQuickStyle::setStyle(QStringLiteral("Basic"));
+
+    QQmlApplicationEngine engine;
+    // The module in the build tree, and as installed.
+    engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../qml"));
+    engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/" TAMBLE_INSTALLED_QML_PATH));
+    engine.addImportPath(QStringLiteral("qrc:/"));
+    engine.setInitialProperties({{QStringLiteral("pages"), pages.toVariantList()},
+                                 {QStringLiteral("currentPage"), firstPage}});
+    engine.load(QUrl(QStringLiteral("qrc:/Gallery/GalleryWindow.qml")));
+    if (engine.rootObjects().isEmpty())
+        return fail(QStringLiteral("the window cannot be loaded"), EXIT_FAILURE);
+
+    if (options.screenshotDir.isEmpty())
+        return QGuiApplication::exec();
+
+    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
+    const QStringList wanted = options.page.isEmpty() ? pages.names() : QStringList(options.page);
+    const QString error = writeScreenshots(*window, pages, wanted, options.screenshotDir);
+    return error.isEmpty() ? EXIT_SUCCESS : fail(error, EXIT_FAILURE);
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QtGlobal>
+
+#if defined(TAMBLE_CLIENT_COMMON_BUILD)
+#define TAMBLE_CLIENT_COMMON_EXPORT Q_DECL_EXPORT
+#else
+#define TAMBLE_CLIENT_COMMON_EXPORT Q_DECL_IMPORT
+#endif

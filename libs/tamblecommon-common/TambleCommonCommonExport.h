@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QtGlobal>
+
+#if defined(TAMBLE_COMMON_COMMON_BUILD)
+#define TAMBLE_COMMON_COMMON_EXPORT Q_DECL_EXPORT
+#else
+#define TAMBLE_COMMON_COMMON_EXPORT Q_DECL_IMPORT
+#endif

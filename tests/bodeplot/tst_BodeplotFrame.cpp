@@ -1,0 +1,185 @@
+#include "bodeplot/tst_BodeplotFrame.h"
+
+#include "bodeplot/RBodeplot.h"
+
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+#include <cmath>
+#include <limits>
+
+using namespace tamble::client;
+
+namespace {
+
+constexpr int Out = RBodeplotZoomEnum::ZOOM_OUT;
+constexpr int In = RBodeplotZoomEnum::ZOOM_IN;
+
+/// A frame as the component of the module sets it up, 300 pixels wide.
+struct Frame : RBodeplot
+{
+    Frame()
+    {
+        setXMinimum(20.0);
+        setXMaximum(20000.0);
+        setYMinimum(-25.0);
+        setYMaximum(25.0);
+        setDefaultXMinimum(20.0);
+        setDefaultXMaximum(20000.0);
+        setDeltaX(1.15);
+        setMinLogDistance(1.5);
+        setDeltaY(2.5);
+        setMinYAxis(12.5);
+        setMaxYAxis(40.0);
+        setProperty("zoomAreaWidth", 300.0);
+    }
+
+    void show(double minimum, double maximum)
+    {
+        setXMinimum(minimum);
+        setXMaximum(maximum);
+    }
+};
+
+} // namespace
+
+void BodeplotFrameTest::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+}
+
+void BodeplotFrameTest::levelZoom_data()
+{
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<int>("steps");
+    QTest::addColumn<double>("bound");
+
+    QTest::newRow("one step in") << In << 1 << 22.5;
+    QTest::newRow("in stops at the smallest bound") << In << 9 << 12.5;
+    QTest::newRow("one step out") << Out << 1 << 27.5;
+    QTest::newRow("out stops at the largest bound") << Out << 9 << 40.0;
+    QTest::newRow("other directions do nothing") << 2 << 1 << 25.0;
+}
+
+void BodeplotFrameTest::levelZoom()
+{
+    QFETCH(int, direction);
+    QFETCH(int, steps);
+    QFETCH(double, bound);
+
+    Frame frame;
+    for (int i = 0; i < steps; ++i)
+        frame.zoomYAxis(direction);
+    QCOMPARE(frame.yMaximum(), bound);
+    QCOMPARE(frame.yMinimum(), -bound);
+}
+
+void BodeplotFrameTest::frequencyZoom()
+{
+    Frame frame;
+    QSignalSpy spy(&frame, &RBodeplot::xMaximumChanged);
+    frame.zoomXAxis(Out);
+    QCOMPARE(frame.xMinimum(), 20.0);
+    QCOMPARE(frame.xMaximum(), 20000.0);
+    QCOMPARE(spy.count(), 0);
+
+    frame.zoomXAxis(In);
+    QCOMPARE(frame.xMinimum(), 23.0);
+    QCOMPARE(frame.xMaximum(), 20000.0 / 1.15);
+    QCOMPARE(spy.count(), 1);
+
+    frame.zoomXAxis(Out);
+    QCOMPARE(frame.xMinimum(), 20.0);
+    QCOMPARE(frame.xMaximum(), 20000.0);
+}
+
+void BodeplotFrameTest::spanGuard()
+{
+    Frame frame;
+    frame.zoomXAxis(In); // only measures
+    QCOMPARE(frame.xMinimum(), 20.0);
+
+    // A span of 1.53 decades is still above the limit of 1.5, so the next step is taken and goes below it.
+    frame.show(100.0, 100.0 * std::pow(10.0, 1.53));
+    frame.zoomXAxis(2);
+    frame.zoomXAxis(In);
+    QCOMPARE(frame.xMinimum(), 115.0);
+    frame.zoomXAxis(In);
+    QCOMPARE(frame.xMinimum(), 115.0);
+}
+
+void BodeplotFrameTest::panning_data()
+{
+    QTest::addColumn<double>("minimum");
+    QTest::addColumn<double>("maximum");
+    QTest::addColumn<double>("press");
+    QTest::addColumn<double>("move");
+    QTest::addColumn<double>("newMinimum");
+    QTest::addColumn<double>("newMaximum");
+
+    // Two decades on 300 pixels: 150 pixels are one decade.
+    QTest::newRow("left") << 50.0 << 5000.0 << 200.0 << 185.0 << 50.0 * std::pow(10.0, 0.1)
+                          << 5000.0 * std::pow(10.0, 0.1);
+    QTest::newRow("right") << 200.0 << 20000.0 / 2 << 50.0 << 50.0 + 150.0 * std::log10(2.0)
+                           << 200.0 / std::pow(50.0, std::log10(2.0) / 2.0)
+                           << 10000.0 / std::pow(50.0, std::log10(2.0) / 2.0);
+    QTest::newRow("right stops at the lower end") << 50.0 << 5000.0 << 0.0 << 150.0 << 20.0 << 2000.0;
+    QTest::newRow("left at the upper end stays") << 200.0 << 20000.0 << 150.0 << 0.0 << 200.0 << 20000.0;
+    QTest::newRow("left of the area") << 50.0 << 5000.0 << 10.0 << -1.0 << 50.0 << 5000.0;
+    QTest::newRow("right of the area") << 50.0 << 5000.0 << 290.0 << 301.0 << 50.0 << 5000.0;
+    QTest::newRow("whole range shown") << 20.0 << 20000.0 << 200.0 << 100.0 << 20.0 << 20000.0;
+}
+
+void BodeplotFrameTest::panning()
+{
+    QFETCH(double, minimum);
+    QFETCH(double, maximum);
+    QFETCH(double, press);
+    QFETCH(double, move);
+    QFETCH(double, newMinimum);
+    QFETCH(double, newMaximum);
+
+    Frame frame;
+    frame.show(minimum, maximum);
+    frame.onMousePressed(press);
+    frame.onMousePositionChanged(move);
+    QCOMPARE(frame.xMinimum(), newMinimum);
+    QCOMPARE(frame.xMaximum(), newMaximum);
+}
+
+void BodeplotFrameTest::panStartsAfreshAtTheEdge()
+{
+    Frame frame;
+    frame.show(50.0, 5000.0);
+    frame.onMousePressed(0.0);
+    frame.onMousePositionChanged(150.0);
+    QCOMPARE(frame.xMinimum(), 20.0);
+
+    // 15 pixels back are a tenth of a decade, although the pointer is still right of where it was pressed.
+    frame.onMousePositionChanged(135.0);
+    QCOMPARE(frame.xMinimum(), 20.0 * std::pow(10.0, 0.1));
+}
+
+void BodeplotFrameTest::disabledFrameIgnoresAll()
+{
+    Frame frame;
+    frame.show(50.0, 5000.0);
+    frame.zoomXAxis(2);
+    frame.setProperty("enableZooming", false);
+    frame.zoomXAxis(In);
+    frame.zoomYAxis(In);
+    frame.onMousePressed(200.0);
+    frame.onMousePositionChanged(100.0);
+    QCOMPARE(frame.xMinimum(), 50.0);
+    QCOMPARE(frame.xMaximum(), 5000.0);
+    QCOMPARE(frame.yMaximum(), 25.0);
+}
+
+void BodeplotFrameTest::notANumberIsIgnored()
+{
+    Frame frame;
+    QSignalSpy spy(&frame, &RBodeplot::xMinimumChanged);
+    frame.setXMinimum(std::numeric_limits<double>::quiet_NaN());
+    QCOMPARE(frame.xMinimum(), 20.0);
+    QCOMPARE(spy.count(), 0);
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+class FilterItemsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void enumKeys_data();
+    void enumKeys();
+    void newFirFilterPassesEverything();
+    void declaredInQml();
+    void listReferenceFollowsItsList();
+};

@@ -1,0 +1,135 @@
+#include "tst_ControlImageProvider.h"
+
+#include "ControlImageProvider.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlEngine>
+#include <QtTest/QTest>
+
+#include <memory>
+
+using namespace tamble::client;
+
+namespace {
+
+// Files are told apart by their width.
+bool writePicture(const QString &file, int width)
+{
+    QDir().mkpath(QFileInfo(file).path());
+    QImage image(width, 1, QImage::Format_ARGB32);
+    image.fill(Qt::gray);
+    return image.save(file);
+}
+
+QString secondDirectory()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/asset");
+}
+
+QSize requestedSizeOf(ControlImageProvider &provider, const QString &id)
+{
+    QSize size(-7, -7);
+    const QImage image = provider.requestImage(id, &size, QSize(100, 100));
+    return image.size() == size ? size : QSize(-1, -1);
+}
+
+} // namespace
+
+void tst_ControlImageProvider::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    QDir(secondDirectory()).removeRecursively();
+}
+
+void tst_ControlImageProvider::cleanup()
+{
+    QDir(secondDirectory()).removeRecursively();
+}
+
+void tst_ControlImageProvider::lookup_data()
+{
+    QTest::addColumn<QStringList>("first");  // files in <base>/asset; the n-th file of both lists is n pixels wide
+    QTest::addColumn<QStringList>("second"); // files in asset beside the executable
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<int>("width");
+
+    const QStringList variants = {"b/add.png", "b/add_24x24.png", "b/add_24x24_hover.png"};
+    const QStringList none;
+    const QStringList placeholder = {"Placeholder.png"};
+    QTest::newRow("exact variant") << variants << none << "ui/b/add_24x24_hover" << 3;
+    QTest::newRow("variant without state") << variants << none << "ui/b/add_24x24_pressed" << 2;
+    QTest::newRow("variant without size") << variants << none << "ui/b/add_9x9_pressed" << 1;
+    QTest::newRow("first directory wins") << QStringList{"a.png"} << QStringList{"a_b.png"} << "ui/a_b" << 1;
+    QTest::newRow("second directory at last") << QStringList{"Placeholder.png"} << QStringList{"a.png"} << "ui/a_b_c" << 2;
+    QTest::newRow("nested folders") << QStringList{"x/y/z.png"} << none << "ui/x/y/z_1" << 1;
+    QTest::newRow("prefix alone") << QStringList{".png", "Placeholder.png"} << none << "ui/" << 1;
+    QTest::newRow("empty last part") << QStringList{"x/.png", "Placeholder.png"} << none << "ui/x/" << 1;
+    QTest::newRow("product") << QStringList{"products/amp.png"} << none << "products/amp" << 1;
+    QTest::newRow("further product segments") << QStringList{"products/amp.png"} << none << "products/amp/rear" << 1;
+    QTest::newRow("products keep their underscores") << QStringList{"products/amp.png", "Placeholder.png"} << none
+                                                     << "products/amp_2" << 2;
+    QTest::newRow("product prefix alone") << QStringList{"products/.png"} << none << "products/" << 1;
+    QTest::newRow("prefix case counts") << QStringList{"a.png", "Placeholder.png"} << none << "UI/a" << 2;
+    QTest::newRow("product prefix case counts") << QStringList{"products/a.png", "Placeholder.png"} << none
+                                                << "Products/a" << 2;
+    QTest::newRow("placeholder of the second directory") << none << placeholder << "ui/unknown" << 1;
+    QTest::newRow("empty id") << placeholder << none << "" << 1;
+    QTest::newRow("nothing found") << QStringList{"a.png"} << none << "ui/b" << 0;
+    QTest::newRow("id leads out of the directory") << QStringList{"../a.png", "x/b.png", "Placeholder.png"} << none
+                                                   << "ui/x/../../a" << 3;
+    QTest::newRow("zero byte") << placeholder << none << QString("ui/a") + QChar(u'\0') << 1;
+    QTest::newRow("very long id") << placeholder << none << "ui/" + QString(5000, u'a') << 1;
+}
+
+void tst_ControlImageProvider::lookup()
+{
+    QFETCH(const QStringList, first);
+    QFETCH(const QStringList, second);
+    QFETCH(const QString, id);
+    QFETCH(const int, width);
+
+    const QTemporaryDir base;
+    QVERIFY(QDir(base.path()).mkpath(QStringLiteral("asset")));
+    int pictureWidth = 0;
+    for (const QString &file : first)
+        QVERIFY(writePicture(base.path() + QStringLiteral("/asset/") + file, ++pictureWidth));
+    for (const QString &file : second)
+        QVERIFY(writePicture(secondDirectory() + u'/' + file, ++pictureWidth));
+
+    ControlImageProvider provider(QUrl::fromLocalFile(base.path()));
+    QCOMPARE(requestedSizeOf(provider, id), width == 0 ? QSize(0, 0) : QSize(width, 1));
+}
+
+void tst_ControlImageProvider::noAssetDirectory()
+{
+    const QTemporaryDir base;
+    ControlImageProvider provider(QUrl::fromLocalFile(base.path()));
+    QCOMPARE(requestedSizeOf(provider, QStringLiteral("ui/a")), QSize(0, 0));
+}
+
+void tst_ControlImageProvider::baseUrlThatIsNoLocalFile()
+{
+    QVERIFY(writePicture(secondDirectory() + QStringLiteral("/a.png"), 4));
+    ControlImageProvider provider(QUrl(QStringLiteral("qrc:/page.qml")));
+    QCOMPARE(requestedSizeOf(provider, QStringLiteral("ui/a_hover")), QSize(4, 1));
+}
+
+void tst_ControlImageProvider::asynchronousRequestsOutliveTheEngine()
+{
+    QVERIFY(writePicture(secondDirectory() + QStringLiteral("/Placeholder.png"), 4));
+    for (int round = 0; round < 5; ++round) {
+        QQmlEngine engine;
+        engine.addImageProvider(QStringLiteral("tamble"), new ControlImageProvider(engine.baseUrl()));
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick\nItem { Repeater { model: 100; Image { required property int index; "
+                          "asynchronous: true; source: 'image://tamble/ui/a_' + index } } }",
+                          QUrl());
+        const std::unique_ptr<QObject> object(component.create());
+        QVERIFY2(object, qPrintable(component.errorString()));
+    }
+}

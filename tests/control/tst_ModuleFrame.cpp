@@ -1,0 +1,149 @@
+#include "tst_ModuleFrame.h"
+
+#include "ControlImageProvider.h"
+#include "TambleClientControlModule.h"
+#include "workspace/RMouseEventSpy.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QRegularExpression>
+#include <QtGui/QFontInfo>
+#include <QtGui/QPointingDevice>
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlContext>
+#include <QtQml/QQmlEngine>
+#include <QtTest/QTest>
+
+#include <malloc.h>
+
+#include <memory>
+
+// Present when the address sanitizer is, whose allocator the C library knows nothing of.
+extern "C" size_t __sanitizer_get_current_allocated_bytes() __attribute__((weak));
+
+using namespace tamble::client;
+
+namespace {
+
+constexpr const char *Uri = "TambleClient.Control";
+
+size_t allocatedBytes()
+{
+    return __sanitizer_get_current_allocated_bytes ? __sanitizer_get_current_allocated_bytes() : mallinfo2().uordblks;
+}
+
+void useOneEngine()
+{
+    QQmlEngine engine;
+    TambleClientControlModule module;
+    module.registerTypes(Uri);
+    module.initializeEngine(&engine, Uri);
+    QQmlComponent component(&engine);
+    component.setData("import QtQuick\nimport TambleClient.Control 1.0\n"
+                      "Item { RMeterBase {} RLimiterCalculator { id: c } property RTheme themeObject: RTheme {}\n"
+                      "property point position: RMouseEventSpy.position; property var values: c.values\n"
+                      "Image { source: 'image://tamble/products/none' } }",
+                      QUrl());
+    const std::unique_ptr<QObject> object(component.create());
+    QVERIFY2(object, qPrintable(component.errorString()));
+}
+
+} // namespace
+
+void tst_ModuleFrame::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+}
+
+void tst_ModuleFrame::engineInitialisation()
+{
+    QQmlEngine engine;
+    const QStringList pathsBefore = engine.importPathList();
+    TambleClientControlModule module;
+    for (int round = 0; round < 2; ++round) { // a repetition changes nothing
+        module.registerTypes(Uri);
+        module.initializeEngine(&engine, "ignored");
+
+        // The engine searches the path that was added last first.
+        const QStringList added = {"qrc:/asset/style/", "qrc:/asset/icons/", "qrc:/asset/fonts/", "qrc:/qml/", "qrc:/"};
+        QStringList found = engine.importPathList().mid(0, added.size());
+        for (QString &path : found)
+            path = path.endsWith(u'/') ? path : path + u'/';
+        QCOMPARE(found, added);
+        QCOMPARE(engine.importPathList().mid(added.size()), pathsBefore);
+
+        QVERIFY(dynamic_cast<ControlImageProvider *>(engine.imageProvider(QStringLiteral("tamble"))));
+    }
+}
+
+void tst_ModuleFrame::touchPointsOfEveryPointingDevice()
+{
+    TambleClientControlModule module;
+    const auto touchPointsOfNewEngine = [&module] {
+        QQmlEngine engine;
+        module.initializeEngine(&engine, Uri);
+        return engine.rootContext()->contextProperty(QStringLiteral("maximumTouchPoints"));
+    };
+
+    const QVariant before = touchPointsOfNewEngine();
+    QCOMPARE(before.typeId(), int(QMetaType::Int));
+    const std::unique_ptr<QPointingDevice> touchScreen(QTest::createTouchDevice());
+    QVERIFY(touchScreen->maximumPoints() > before.toInt());
+    QCOMPARE(touchPointsOfNewEngine().toInt(), touchScreen->maximumPoints());
+}
+
+void tst_ModuleFrame::enginesShareTheSpy()
+{
+    TambleClientControlModule module;
+    QQmlEngine engines[2];
+    QObject *spies[2] = {};
+    for (int i = 0; i < 2; ++i) {
+        module.initializeEngine(&engines[i], Uri);
+        QQmlComponent component(&engines[i]);
+        component.setData("import QtQml\nimport TambleClient.Control 1.0\nQtObject { property QtObject spy: RMouseEventSpy }",
+                          QUrl());
+        const std::unique_ptr<QObject> object(component.create());
+        QVERIFY2(object, qPrintable(component.errorString()));
+        spies[i] = object->property("spy").value<QObject *>();
+    }
+    QCOMPARE(spies[0], RMouseEventSpy::instance());
+    QCOMPARE(spies[1], RMouseEventSpy::instance());
+    QCOMPARE(RMouseEventSpy::instance()->parent(), nullptr);
+    QVERIFY(engines[0].imageProvider(QStringLiteral("tamble")) != engines[1].imageProvider(QStringLiteral("tamble")));
+}
+
+void tst_ModuleFrame::metaTypesAreKnown()
+{
+    for (const char *name : {"QMouseEvent*", "QHash<QUuid,QPointF>", "QHash<QUuid,QRectF>"})
+        QVERIFY2(QMetaType::fromName(name).isValid(), name);
+}
+
+void tst_ModuleFrame::noQmldirWithinReach()
+{
+    // It would make the engine load the plugin on top of a host's own registration.
+    QVERIFY(!QFile::exists(QStringLiteral(":/TambleClient")));
+    QVERIFY(!QFile::exists(QStringLiteral(":/qt/qml/TambleClient")));
+    QVERIFY(QFile::exists(QStringLiteral(":/qml/RTheme/RTheme.qml")));
+}
+
+void tst_ModuleFrame::interfaceFontIsSubstituted()
+{
+    QFont font(QStringLiteral("Brack Office Sans"));
+    QCOMPARE(QFontInfo(font).family(), QStringLiteral("Lato"));
+    font.setBold(true);
+    QVERIFY(QFontInfo(font).bold());
+}
+
+void tst_ModuleFrame::enginesComeAndGo()
+{
+    constexpr int WarmUp = 20;
+    constexpr int Rounds = 100;
+    for (int i = 0; i < WarmUp; ++i)
+        useOneEngine();
+    const size_t before = allocatedBytes();
+    for (int i = 0; i < Rounds; ++i)
+        useOneEngine();
+    const size_t after = allocatedBytes();
+    // An engine that left a type, a provider or its rules behind would cost hundreds of bytes each time.
+    const double growthPerEngine = (double(after) - double(before)) / Rounds;
+    QVERIFY2(growthPerEngine < 100, qPrintable(QStringLiteral("%1 bytes per engine").arg(growthPerEngine)));
+}

@@ -1,0 +1,261 @@
+#include "tst_TypeCatalogue.h"
+
+#include "TambleClientControlModule.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QRegularExpression>
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlContext>
+#include <QtTest/QTest>
+
+#include <memory>
+
+using namespace tamble::client;
+
+namespace {
+
+struct Folder
+{
+    const char *name;
+    const char *components; // separated by blanks
+};
+
+constexpr Folder Composites[] = {
+    {"RAccordion", "RAccordion RAccordionSectionHeader RAccordionItem"},
+    {"RAppBar", "RAppBar RAppBarButton RAppBarStateButton RAppBarNavButton RAppBarSubNavButton"},
+    {"RApplicationWindow", "RApplicationWindow"},
+    {"RAxis", "RAxis"},
+    {"RBodeplot", "RBodeplot RBodeplotGrid RBodeplotGridStyle RBodeplotAxis RBodeplotAxisStyle RBodeplotCurve "
+                  "RBodeplotCurveStyle RBodeplotFilterPoint RBodeplotFilterPointSelectedStyle "
+                  "RBodeplotFilterPointErrorStyle RBodeplotFilterPointStyle RLimiterCurve RLimiterCurveStyle "
+                  "RLimiterFilterPoint RLimiterFilterPointStyle RSimpleCurve RSimpleCurveStyle"},
+    {"RLimiter", "RPlotGrid RDragHandler RAxisNumbering RLimiter"},
+    {"RCompressor", "RCompressor"},
+    {"RAGC", "RAGC"},
+    {"RANC", "RANC"},
+    {"RDucker", "RDucker"},
+    {"RGate", "RGate"},
+    {"RButton", "RButton RButtonIcon RButtonIconLabel RButtonIconLabelH RButtonIconLabelV RButtonLabelText RButtonRow "
+                "RButtonSwitch"},
+    {"RBoxShadow", "RBoxShadow"},
+    {"RCell", "RCell RCellContainer RCellGridProperties RCellComboBox RCellButton RCellLabel RCellTabBar "
+              "RCellTabButton RCellTextField RCellTextArea RCellSpinBox RCellText"},
+    {"RCheckBox", "RCheckBox"},
+    {"RComboBox", "RComboBox"},
+    {"RDialog", "RDialog"},
+    {"RFader", "RFader TransferFunctions"},
+    {"RFlyout", "RFlyoutWindow RFlyoutToolbar RFlyoutToolbarItem"},
+    {"RIcon", "RIcon"},
+    {"RInconsistentButton", "RInconsistentButton RInconsistentButtonSwitch"},
+    {"RInconsistentPopup", "RInconsistentPopup"},
+    {"RLabel", "RLabel"},
+    {"RListView", "RListView"},
+    {"RScrollView", "RHorizontalScrollView"},
+    {"RMenu", "RMenu"},
+    {"RMeter", "RMeter"},
+    {"RPane", "RPane RPaneSub"},
+    {"RPopupMenu", "RPopupMenu"},
+    {"RProgressBar", "RProgressBar"},
+    {"RRepeater", "RRepeater"},
+    {"RScreen", "RScreen"},
+    {"RSectionHeader", "RSectionHeader"},
+    {"RSelectionRect", "RSelectionRect"},
+    {"RSpinBox", "RSpinBox"},
+    {"RStyleEngineSetup", "RStyleEngineSetup"},
+    {"RStyleDebugMouseArea", "RStyleDebugMouseArea"},
+    {"RTabButton", "RTabButton RTabButtonIcon RTabButtonIconLabelH RTabButtonIconLabelV"},
+    {"RText", "RText RTextInput RTextField RNumberTextField RTextArea"},
+    {"RTheme", "RTheme"},
+    {"RWorksheet", "RWorksheet"},
+    {"RWorkspace", "RWorkspace RWorkspaceItem RWorkspaceItemValueBar RWorkspaceZoomBar"},
+    {"Shared", "RFocusRectangle RDraggableItem"},
+    {"RViewContainer", "RViewContainer"},
+    {"RLoadingAnimation", "RLoadingAnimation"},
+};
+
+QString fileOf(const QString &folder, const QString &name)
+{
+    const QString file = name == QLatin1String("RScreen") ? QStringLiteral("RScreen2") : name;
+    return QStringLiteral("qrc:/qml/%1/%2.qml").arg(folder, file);
+}
+
+std::unique_ptr<QQmlComponent> componentOf(QQmlEngine &engine, const QString &body)
+{
+    auto component = std::make_unique<QQmlComponent>(&engine);
+    component->setData("import QtQuick\nimport TambleClient.Control 1.0\n" + body.toUtf8(), QUrl());
+    return component;
+}
+
+} // namespace
+
+void tst_TypeCatalogue::initTestCase()
+{
+    TambleClientControlModule module;
+    module.registerTypes("TambleClient.Control");
+    module.initializeEngine(&m_engine, "TambleClient.Control");
+    // Components read the theme object as soon as they are made.
+    const std::unique_ptr<QObject> selector(
+        componentOf(m_engine, QStringLiteral("RThemeSelector { themeComponent: Component { RTheme {} } }"))->create());
+    QVERIFY(selector);
+
+    QFile list(QStringLiteral(TAMBLE_TEST_DATA "/absent-composites.txt"));
+    QVERIFY(list.open(QFile::ReadOnly));
+    m_absent = QString::fromUtf8(list.readAll()).split(u'\n', Qt::SkipEmptyParts);
+}
+
+void tst_TypeCatalogue::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+}
+
+void tst_TypeCatalogue::composites_data()
+{
+    QTest::addColumn<QString>("file");
+    int count = 0;
+    for (const Folder &folder : Composites) {
+        for (const QString &name : QString::fromLatin1(folder.components).split(u' ')) {
+            QTest::newRow(qPrintable(name)) << fileOf(QString::fromLatin1(folder.name), name);
+            ++count;
+        }
+    }
+    QCOMPARE(count, 104);
+}
+
+void tst_TypeCatalogue::composites()
+{
+    QFETCH(const QString, file);
+    const QString name = QString::fromLatin1(QTest::currentDataTag());
+    const auto component = componentOf(m_engine, name + QStringLiteral(" {}"));
+
+    if (m_absent.contains(name)) {
+        const QString message = QStringLiteral("%1 unavailable\n%2: No such file or directory").arg(name, file);
+        QVERIFY2(component->errorString().contains(name + QStringLiteral(" unavailable")) &&
+                     component->errorString().contains(file + QStringLiteral(": No such file or directory")),
+                 qPrintable(component->errorString()));
+        return;
+    }
+    const std::unique_ptr<QObject> object(component->create());
+    QVERIFY2(object, qPrintable(component->errorString()));
+    const QString type = QString::fromLatin1(object->metaObject()->className());
+    QVERIFY2(type.startsWith(file.section(u'/', -1).chopped(4) + QStringLiteral("_QML")), qPrintable(type));
+}
+
+void tst_TypeCatalogue::absentListIsTrue()
+{
+    // These names have no file, ever.
+    const QStringList styles = {"RBodeplotAxisStyle",        "RBodeplotCurveStyle",
+                                "RBodeplotFilterPointErrorStyle", "RBodeplotFilterPointSelectedStyle",
+                                "RBodeplotFilterPointStyle", "RBodeplotGridStyle",
+                                "RLimiterCurveStyle",        "RLimiterFilterPointStyle",
+                                "RSimpleCurveStyle"};
+    QStringList sorted = m_absent;
+    sorted.sort();
+    sorted.removeDuplicates();
+    QCOMPARE(m_absent, sorted);
+    for (const QString &style : styles)
+        QVERIFY2(m_absent.contains(style), qPrintable(style));
+    for (const QString &name : std::as_const(m_absent))
+        QVERIFY2(componentOf(m_engine, name + QStringLiteral(" {}"))->isError(), qPrintable(name + " has its file now"));
+}
+
+void tst_TypeCatalogue::creatableNatives_data()
+{
+    QTest::addColumn<QString>("className");
+    const QHash<QString, QString> differentClasses = {
+        {"RAxisTemplate", "RAxis"},
+        {"RBodeplotTemplate", "RBodeplot"},
+        {"RBodeplotGridTemplate", "RBodeplotGrid"},
+        {"RBodeplotAxisTemplate", "RBodeplotAxis"},
+        {"RBodeplotCurveTemplate", "RBodeplotCurve"},
+        {"RLimiterCurveTemplate", "RLimiterCurve"},
+        {"RSimpleCurveTemplate", "RSimpleCurve"},
+        {"RLinePlotter", "LinePlotter"},
+        {"RGraphPlotter", "GraphPlotter"},
+        {"RLineCalculator", "LineCalculator"},
+        {"RLimiterCalculator", "LimiterCalculator"},
+        {"RNumberingHelper", "NumberingHelper"},
+        {"RCompressorCalculator", "CompressorCalculator"},
+        {"RAGCCalculator", "AGCCalculator"},
+        {"RANCCalculator", "ANCCalculator"},
+        {"RNoiseGateCalculator", "NoiseGateCalculator"},
+        {"RDuckerCalculator", "DuckerCalculator"},
+        {"RScreenTemplate", "RScreen"},
+        {"RStyleEngine", "StyleEngineSetup"},
+        {"RStylesDirWatcher", "StylesDirWatcher"},
+        {"RStyleChecker", "StyleChecker"},
+        {"RThemeSelector", "ThemeSelector"},
+        {"RWorksheetBase", "WorksheetBase"},
+        {"RWorkspaceBase", "WorkspaceBase"},
+        {"RWorkspaceItemBase", "WorkspaceItemBase"},
+        {"RDoubleValueConverter", "DoubleValueConverter"},
+    };
+    const QString sameName =
+        QStringLiteral("RValueConverter RBodeplotCalculationItem RBodeplotEqFilter RBodeplotAsymmetricEqFilter "
+                       "RBodeplotXOverFilter RBodeplotFIRFilter RScaleHelper RConstantGridLineCalculator RGrid "
+                       "RGridLayout RMeterBase RWorkspaceSelection RTextFieldPinValidator RMouseDetection RMouseCursor "
+                       "RSortFilterProxyModel RStringRuleValidator RMessageBox");
+    const QString scope = QStringLiteral("tamble::client::");
+    for (auto entry = differentClasses.cbegin(); entry != differentClasses.cend(); ++entry)
+        QTest::newRow(qPrintable(entry.key())) << scope + entry.value();
+    for (const QString &name : sameName.split(u' '))
+        QTest::newRow(qPrintable(name)) << scope + name;
+    // Without a meta-object of their own.
+    QTest::newRow("RTextFieldDoubleValidator") << "QDoubleValidator";
+    QTest::newRow("RTextFieldIntValidator") << "QIntValidator";
+    QTest::newRow("RTextFieldIpAddressValidator") << "QValidator";
+}
+
+void tst_TypeCatalogue::creatableNatives()
+{
+    QFETCH(const QString, className);
+    const auto component = componentOf(m_engine, QString::fromLatin1(QTest::currentDataTag()) + QStringLiteral(" {}"));
+    const std::unique_ptr<QObject> object(component->create());
+    QVERIFY2(object, qPrintable(component->errorString()));
+    QCOMPARE(QString::fromLatin1(object->metaObject()->className()), className);
+}
+
+void tst_TypeCatalogue::uncreatable_data()
+{
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("RStyleSet") << "StyleSet is exposed as an attached property";
+    QTest::newRow("RStyleSetProps") << "Exposed as RStyleSet.props";
+    QTest::newRow("RStringRuleValidatorRule") << "You cannot create an instance of the Enums.";
+    for (const char *name : {"RBodeplotEqTypeEnum", "RBodeplotXOverTypeEnum", "RBodeplotXOverCategoryEnum",
+                             "RBodeplotSlopeTypeEnum", "RBodeplotFIRTypeEnum", "RBodeplotDelayUnitEnum",
+                             "RBodeplotAxisScaleEnum", "RBodeplotZoomEnum", "RBodeplotSpectrumEnum"})
+        QTest::newRow(name) << "";
+}
+
+void tst_TypeCatalogue::uncreatable()
+{
+    QFETCH(const QString, reason);
+    const auto component = componentOf(m_engine, QString::fromLatin1(QTest::currentDataTag()) + QStringLiteral(" {}"));
+    QVERIFY(component->isError());
+    QCOMPARE(component->errors().constFirst().description(), reason);
+}
+
+void tst_TypeCatalogue::enumValues()
+{
+    const auto component = componentOf(
+        m_engine, QStringLiteral("Item { property var values: [RBodeplotEqTypeEnum.EQ_SYMMETRICAL_Q,"
+                                 "RBodeplotEqTypeEnum.ASYMMETRIC, RBodeplotXOverTypeEnum.XOVER_LINKWITZ_TWENTYFOUR_DB,"
+                                 "RBodeplotXOverCategoryEnum.XOVERCATEGORY_HIPASS,"
+                                 "RBodeplotSlopeTypeEnum.SLOPE_TWELVE_DB_SLOPE, RBodeplotFIRTypeEnum.FIR_DEF_DC,"
+                                 "RBodeplotDelayUnitEnum.UNIT_S, RBodeplotAxisScaleEnum.LOGARITHMIC,"
+                                 "RBodeplotZoomEnum.ZOOM_IN, RBodeplotSpectrumEnum.PHASE, RLinePlotter.Vertical,"
+                                 "RStringRuleValidatorRule.RULE_PATTERN] }"));
+    const std::unique_ptr<QObject> object(component->create());
+    QVERIFY2(object, qPrintable(component->errorString()));
+    const QVariantList expected = {0, 12, 17, 1, 2, 123, 1, 1, 1, 1, 1, 9};
+    QCOMPARE(object->property("values").toList(), expected);
+}
+
+void tst_TypeCatalogue::attachedStyleSet()
+{
+    const auto component =
+        componentOf(m_engine, QStringLiteral("Item { RStyleSet.name: 'red'; RStyleSet.stateHelper.hovered: true\n"
+                                             "property string state: RStyleSet.state\n"
+                                             "property bool known: RStyleSet.props.isSet('background') }"));
+    const std::unique_ptr<QObject> object(component->create());
+    QVERIFY2(object, qPrintable(component->errorString()));
+}

@@ -1,0 +1,12 @@
+#include "tst_Calculators.h"
+#include "tst_TransferCurves.h"
+
+#include <QtTest/QtTest>
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    tst_TransferCurves curves;
+    tst_Calculators calculators;
+    return QTest::qExec(&curves, argc, argv) + QTest::qExec(&calculators, argc, argv);
+}

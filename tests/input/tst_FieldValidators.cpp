@@ -1,0 +1,220 @@
+#include "input/tst_FieldValidators.h"
+
+#include "input/RTextFieldDoubleValidator.h"
+#include "input/RTextFieldIntValidator.h"
+#include "input/RTextFieldIpAddressValidator.h"
+#include "input/RTextFieldPinValidator.h"
+
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+#include <limits>
+
+using namespace tamble::client;
+
+namespace {
+
+constexpr auto Invalid = QValidator::Invalid;
+constexpr auto Intermediate = QValidator::Intermediate;
+constexpr auto Acceptable = QValidator::Acceptable;
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+
+QValidator::State stateOf(const QValidator &validator, QString text)
+{
+    int cursor = 0;
+    return validator.validate(text, cursor);
+}
+
+} // namespace
+
+void FieldValidatorsTest::decimals_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("bottom");
+    QTest::addColumn<double>("top");
+    QTest::addColumn<int>("decimals");
+    QTest::addColumn<QValidator::State>("state");
+
+    QTest::newRow("in range") << "3.5" << -10.0 << 10.0 << 1 << Acceptable;
+    QTest::newRow("comma separates") << "3,5" << -10.0 << 10.0 << 1 << Acceptable;
+    QTest::newRow("no digit before the separator") << ".5" << -10.0 << 10.0 << 1 << Acceptable;
+    QTest::newRow("on the bound") << "-10" << -10.0 << 10.0 << 1 << Acceptable;
+    QTest::newRow("empty") << "" << -10.0 << 10.0 << 1 << Intermediate;
+    QTest::newRow("sign alone") << "-" << -10.0 << 10.0 << 1 << Intermediate;
+    QTest::newRow("separator alone") << "," << -10.0 << 10.0 << 1 << Intermediate;
+    QTest::newRow("fraction to come") << "5." << -10.0 << 10.0 << 1 << Intermediate;
+    QTest::newRow("above the range") << "11" << -10.0 << 10.0 << 1 << Intermediate;
+    QTest::newRow("below the range") << "2" << 20.0 << 20000.0 << 1 << Intermediate;
+    QTest::newRow("blank behind") << "5 " << -10.0 << 10.0 << 1 << Intermediate;
+    QTest::newRow("blank inside") << "5 0" << -10.0 << 100.0 << 1 << Invalid;
+    QTest::newRow("second separator") << "1.2," << -10.0 << 10.0 << 2 << Invalid;
+    QTest::newRow("sign in the middle") << "1-" << -10.0 << 10.0 << 2 << Invalid;
+    QTest::newRow("exponent") << "1e3" << 0.0 << 1e4 << 2 << Invalid;
+    QTest::newRow("minus without negative numbers") << "-" << 0.0 << 10.0 << 1 << Invalid;
+    QTest::newRow("separator without decimals") << "5." << 0.0 << 10.0 << 0 << Invalid;
+    QTest::newRow("too many decimals") << "0.12" << 0.0 << 10.0 << 1 << Invalid;
+    QTest::newRow("any number of decimals") << "0.123456" << 0.0 << 10.0 << -1 << Acceptable;
+    QTest::newRow("15 digits") << "1234567890.12345" << 0.0 << Infinity << 5 << Acceptable;
+    QTest::newRow("16 digits") << "12345678901.12345" << 0.0 << Infinity << 5 << Invalid;
+    QTest::newRow("other digits") << QStringLiteral("\u0663") << 0.0 << 10.0 << 0 << Invalid;
+    QTest::newRow("open bounds") << "-12" << NotANumber << NotANumber << 0 << Acceptable;
+    QTest::newRow("reversed bounds") << "5" << 10.0 << 0.0 << 0 << Intermediate;
+}
+
+void FieldValidatorsTest::decimals()
+{
+    QFETCH(QString, text);
+    QFETCH(double, bottom);
+    QFETCH(double, top);
+    QFETCH(int, decimals);
+    QFETCH(QValidator::State, state);
+
+    RTextFieldDoubleValidator validator;
+    validator.setRange(bottom, top, decimals);
+    QCOMPARE(stateOf(validator, text), state);
+}
+
+void FieldValidatorsTest::integers_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("bottom");
+    QTest::addColumn<QValidator::State>("state");
+
+    QTest::newRow("in range") << "48" << 1 << Acceptable;
+    QTest::newRow("plus") << "+48" << 1 << Acceptable;
+    QTest::newRow("outside") << "97" << 1 << Intermediate;
+    QTest::newRow("larger than an int, 10 digits") << "9999999999" << 1 << Intermediate;
+    QTest::newRow("11 digits") << "99999999999" << 1 << Invalid;
+    QTest::newRow("minus, only positive") << "-" << 0 << Invalid;
+    QTest::newRow("minus, negative too") << "-" << -1 << Intermediate;
+    QTest::newRow("separator") << "4.0" << 1 << Invalid;
+    QTest::newRow("blank in front") << " 4" << 1 << Intermediate;
+    QTest::newRow("hexadecimal") << "0x1" << 1 << Invalid;
+}
+
+void FieldValidatorsTest::integers()
+{
+    QFETCH(QString, text);
+    QFETCH(int, bottom);
+    QFETCH(QValidator::State, state);
+
+    RTextFieldIntValidator validator;
+    validator.setRange(bottom, 96);
+    QCOMPARE(stateOf(validator, text), state);
+}
+
+void FieldValidatorsTest::addresses_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QValidator::State>("state");
+
+    for (const char *address : {"192.168.1.10", "0.0.0.0", "255.255.255.255"})
+        QTest::newRow(address) << QString::fromLatin1(address) << Acceptable;
+    for (const char *beginning : {"", "1", "192.", "192.168.1", "192.168.1.", " 1.2.3.4", "1.2.3.4 "})
+        QTest::addRow("beginning \"%s\"", beginning) << QString::fromLatin1(beginning) << Intermediate;
+    for (const char *wrong :
+         {".", "1..", "256", "1.2.3.2550", "01", "00", "1.2.3.4.", "1.2.3.4.5", "a", "1,2", "1 .2", "-1"})
+        QTest::newRow(wrong) << QString::fromLatin1(wrong) << Invalid;
+}
+
+void FieldValidatorsTest::addresses()
+{
+    QFETCH(QString, text);
+    QFETCH(QValidator::State, state);
+    QCOMPARE(stateOf(RTextFieldIpAddressValidator(), text), state);
+}
+
+void FieldValidatorsTest::pins_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("trivialAllowed");
+    QTest::addColumn<QValidator::State>("state");
+
+    QTest::newRow("shortest") << "1470" << false << Acceptable;
+    QTest::newRow("too short") << "147" << false << Intermediate;
+    QTest::newRow("longest") << "14701470" << false << Acceptable;
+    QTest::newRow("too long") << "147014701" << false << Invalid;
+    QTest::newRow("letter") << "14a" << false << Invalid;
+    QTest::newRow("blank") << "147 " << false << Invalid;
+    QTest::newRow("repeated digit") << "7777" << false << Intermediate;
+    QTest::newRow("run up") << "23456" << false << Intermediate;
+    QTest::newRow("run down") << "9876" << false << Intermediate;
+    QTest::newRow("broken run") << "12346" << false << Acceptable;
+    QTest::newRow("run where allowed") << "1234" << true << Acceptable;
+}
+
+void FieldValidatorsTest::pins()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, trivialAllowed);
+    QFETCH(QValidator::State, state);
+
+    RTextFieldPinValidator validator;
+    validator.setProperty("trivialAllowed", trivialAllowed);
+    QCOMPARE(stateOf(validator, text), state);
+}
+
+void FieldValidatorsTest::pinMessages()
+{
+    RTextFieldPinValidator validator;
+    validator.setProperty("trivialAllowed", false);
+    QCOMPARE(validator.message(QStringLiteral("12")), QStringLiteral("Enter 4 to 8 digits"));
+    QCOMPARE(validator.message(QStringLiteral("1111")), QStringLiteral("This PIN is too easy to guess"));
+    QCOMPARE(validator.message(QStringLiteral("1470")), QString());
+}
+
+void FieldValidatorsTest::fixup_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("decimal");
+    QTest::addColumn<QString>("integer");
+
+    QTest::newRow("blanks") << " 5 "
+                            << "5"
+                            << "5";
+    QTest::newRow("comma") << "1,50"
+                           << "1.50"
+                           << "1,50";
+    QTest::newRow("trailing separator") << "5,"
+                                        << "5"
+                                        << "5,";
+    QTest::newRow("leading zeros") << "-007"
+                                   << "-7"
+                                   << "-7";
+    QTest::newRow("zeros before a fraction") << "00.5"
+                                             << "0.5"
+                                             << "0.5";
+    QTest::newRow("zero") << "000"
+                          << "0"
+                          << "0";
+    QTest::newRow("nothing to tidy") << "-"
+                                     << "-"
+                                     << "-";
+    QTest::newRow("out of range stays") << "99999"
+                                        << "99999"
+                                        << "99999";
+}
+
+void FieldValidatorsTest::fixup()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, decimal);
+    QFETCH(QString, integer);
+
+    QString asDecimal = text;
+    RTextFieldDoubleValidator().fixup(asDecimal);
+    QCOMPARE(asDecimal, decimal);
+    QString asInteger = text;
+    RTextFieldIntValidator().fixup(asInteger);
+    QCOMPARE(asInteger, integer);
+}
+
+void FieldValidatorsTest::rangeChangeRevalidates()
+{
+    RTextFieldPinValidator validator;
+    QSignalSpy spy(&validator, &QValidator::changed);
+    validator.setProperty("minimumLength", 6);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(stateOf(validator, QStringLiteral("14701")), Intermediate);
+}

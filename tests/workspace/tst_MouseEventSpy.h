@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+class MouseEventSpyTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void windowEventsAreReportedOnce();
+    void movesAreLimited();
+    void lastMoveIsReported();
+    void activityIsLimited();
+    void touchCountsAsLeftButton();
+    void idleIsReportedOncePerPeriod();
+    void nothingRunsWithoutIdleLimit();
+    void installsOnceAndFirst();
+};

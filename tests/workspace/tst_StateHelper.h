@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+class StateHelperTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void words_data();
+    void words();
+    void styleSetFollows();
+};
