@@ -14,13 +14,12 @@ namespace tamble::client {
 
 /// Frequency response of a set of filters, drawn inside a plot frame, with one handle per editable corner.
 ///
-/// Frequencies are in Hz, levels in dB. The filters are declared as children (`calculationItems`) or given as a list of
+/// Frequencies are in Hz, levels in dB. The filters are declared in `calculationItems` or given as a list of
 /// arbitrary objects with filter-named properties (`calculationItemsReference`).
 class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotCurve : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RBodeplotCurveTemplate)
-    Q_CLASSINFO("DefaultProperty", "calculationItems")
     Q_PROPERTY(QObject *style MEMBER m_style NOTIFY styleChanged)
     Q_PROPERTY(qreal xMinimum MEMBER m_xMinimum NOTIFY xMinimumChanged)
     Q_PROPERTY(qreal xMaximum MEMBER m_xMaximum NOTIFY xMaximumChanged)

@@ -7,8 +7,7 @@
 #include <QtCore/QVariantList>
 #include <QtQml/qqmlregistration.h>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Transfer curve of an automatic gain control around its target level.
 ///

@@ -2,8 +2,7 @@
 
 #include "dynamics/CalculatorSetter.h"
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 ANCCalculator::ANCCalculator(QObject *parent)
     : QObject(parent)

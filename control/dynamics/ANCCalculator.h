@@ -7,8 +7,7 @@
 #include <QtCore/QVariantList>
 #include <QtQml/qqmlregistration.h>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Gain curve of an ambient noise compensation over the ambient level.
 ///

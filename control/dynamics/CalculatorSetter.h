@@ -2,11 +2,11 @@
 
 #include <QtCore/QObject>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// The setter rule of the curve calculators; each calculator befriends it.
-struct CalculatorSetter {
+struct CalculatorSetter
+{
     /// Stores a changed value, rebuilds the curve and then emits the property's own signal; an equal value does
     /// nothing.
     template <typename Calculator, typename Value>

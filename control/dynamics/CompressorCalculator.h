@@ -7,8 +7,7 @@
 #include <QtCore/QVariantList>
 #include <QtQml/qqmlregistration.h>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Transfer curve of a compressor with make-up gain and an optional soft knee.
 ///

@@ -2,11 +2,9 @@
 
 #include "dynamics/TransferScale.h"
 
-namespace tamble::client
-{
+namespace tamble::client {
 
-namespace
-{
+namespace {
 
 constexpr int kneeSegments = 16;
 

@@ -2,11 +2,11 @@
 
 #include "dynamics/TransferCurves.h"
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Compressor levels in dB; `ratio` is the plain factor n of n : 1, `softKneeInDbu` the width of the soft knee.
-struct CompressorParameters {
+struct CompressorParameters
+{
     bool active = true;
     bool bypassed = true;
     bool softKneeActive = false;

@@ -2,8 +2,7 @@
 
 #include "dynamics/CalculatorSetter.h"
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 LimiterCalculator::LimiterCalculator(QObject *parent)
     : QObject(parent)

@@ -7,8 +7,7 @@
 #include <QtCore/QVariantList>
 #include <QtQml/qqmlregistration.h>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Transfer curve of a limiter: the identity up to the threshold, level from there on.
 ///

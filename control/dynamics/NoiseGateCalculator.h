@@ -7,8 +7,7 @@
 #include <QtCore/QVariantList>
 #include <QtQml/qqmlregistration.h>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Transfer curve of a noise gate: a drop by the depth below the threshold.
 ///

@@ -2,8 +2,7 @@
 
 #include "dynamics/TransferScale.h"
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 CurvePoints identityLine()
 {

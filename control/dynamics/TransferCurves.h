@@ -5,8 +5,7 @@
 
 #include <optional>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Corner points of a static transfer curve: x 0 (left) to 1 (right), y 0 (top) to 1 (bottom).
 ///
@@ -17,7 +16,8 @@ using CurvePoints = QList<QPointF>;
 CurvePoints identityLine();
 
 /// Limiter levels in dB.
-struct LimiterParameters {
+struct LimiterParameters
+{
     bool active = true;
     bool bypassed = true;
     double threshold = 0.0;
@@ -26,7 +26,8 @@ struct LimiterParameters {
 };
 
 /// Automatic gain control levels in dB; `threshold` is relative to `levelIn`, `ratio` is a plain factor.
-struct AgcParameters {
+struct AgcParameters
+{
     bool active = false;
     bool bypassed = true;
     double levelIn = 0.0;
@@ -45,7 +46,8 @@ struct AgcParameters {
 };
 
 /// Ducker levels in dB; `duckingLevel` is the attenuation above the threshold.
-struct DuckerParameters {
+struct DuckerParameters
+{
     bool active = true;
     bool bypassed = true;
     double threshold = 0.0;
@@ -57,7 +59,8 @@ struct DuckerParameters {
 };
 
 /// Noise gate levels in dB; `depth` is the attenuation below the threshold.
-struct GateParameters {
+struct GateParameters
+{
     bool active = true;
     bool bypassed = true;
     double threshold = 0.0;
@@ -69,7 +72,8 @@ struct GateParameters {
 };
 
 /// Ambient noise compensation: gains and ambient levels in dB, `ratio` in dB of gain per dB of ambient level.
-struct AncParameters {
+struct AncParameters
+{
     bool active = false;
     bool bypassed = true;
     bool freezeGain = true;

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 double clampedScale(double value, double from, double to, double targetFrom, double targetTo)
 {

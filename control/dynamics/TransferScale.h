@@ -2,8 +2,7 @@
 
 #include <QtCore/QPointF>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Maps `value` from `from`…`to` to `targetFrom`…`targetTo`, clamped at both ends.
 ///
@@ -14,7 +13,8 @@ namespace tamble::client
 double clampedScale(double value, double from, double to, double targetFrom, double targetTo);
 
 /// Straight line output = slope · input + intercept, both levels in dB.
-struct Line {
+struct Line
+{
     double slope = 0.0;
     double intercept = 0.0;
 };
@@ -23,7 +23,8 @@ struct Line {
 QPointF intersection(const Line &first, const Line &second);
 
 /// Plotted level range in dB; maps levels to normalised plot coordinates.
-struct LevelRange {
+struct LevelRange
+{
     double minimum = 0.0;
     double maximum = 0.0;
 

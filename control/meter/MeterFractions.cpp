@@ -3,11 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
-namespace
-{
+namespace {
 
 /// The smaller of two distances from the section's origin, as fractions of its length.
 double litFraction(double levelDistance, double zoneDistance, double length)

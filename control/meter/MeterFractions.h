@@ -1,10 +1,10 @@
 #pragma once
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Levels that bound a meter's bar, in dB.
-struct MeterRange {
+struct MeterRange
+{
     double minimum = -80.0;
     double maximum = 6.0;
     /// Origin of the two sections of a split meter.

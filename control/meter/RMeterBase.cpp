@@ -1,10 +1,8 @@
 #include "meter/RMeterBase.h"
 
-namespace tamble::client
-{
+namespace tamble::client {
 
-namespace
-{
+namespace {
 
 constexpr int tickMilliseconds = 50;
 

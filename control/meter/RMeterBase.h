@@ -6,8 +6,7 @@
 #include <QtCore/QTimer>
 #include <QtQuick/QQuickItem>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Level meter without looks: instant rise, timed fall, and the fill fractions of its green, yellow and red zones.
 ///

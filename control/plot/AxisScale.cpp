@@ -5,8 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 AxisScale axisScale(int number)
 {

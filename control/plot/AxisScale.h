@@ -2,8 +2,7 @@
 
 #include <QtCore/QList>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// How values are spread along an axis; the numbers are those that pages use for their scale properties.
 enum class AxisScale { Linear = 0, Logarithmic = 1 };
@@ -12,7 +11,8 @@ enum class AxisScale { Linear = 0, Logarithmic = 1 };
 AxisScale axisScale(int number);
 
 /// Value range of an axis with its scale; it may run backwards (`from` above `to`).
-struct AxisRange {
+struct AxisRange
+{
     double from = 0.0;
     double to = 1.0;
     AxisScale scale = AxisScale::Linear;

@@ -2,11 +2,9 @@
 
 #include <cmath>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
-namespace
-{
+namespace {
 
 /// Far beyond what a screen can show; keeps a mistyped count from filling the memory.
 constexpr double maximumTicks = 10000.0;

@@ -3,11 +3,11 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// One mark of a vertical value axis: distance in pixels from the top, and the value as text.
-struct AxisTick {
+struct AxisTick
+{
     double y = 0.0;
     QString label;
 

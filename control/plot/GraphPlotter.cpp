@@ -2,13 +2,11 @@
 
 #include "plot/StrokeNode.h"
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 GraphPlotter::GraphPlotter(QQuickItem *parent)
     : Plotter(parent)
-{
-}
+{}
 
 void GraphPlotter::setColor(const QColor &color)
 {

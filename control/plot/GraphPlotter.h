@@ -5,8 +5,7 @@
 #include <QtCore/QPointF>
 #include <QtCore/QVariantList>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Draws one line through a list of normalised points.
 class TAMBLE_CLIENT_CONTROL_EXPORT GraphPlotter : public tamble::client::Plotter

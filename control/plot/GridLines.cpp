@@ -2,11 +2,9 @@
 
 #include <algorithm>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
-namespace
-{
+namespace {
 
 using LineAt = QLineF (*)(double, const QSizeF &);
 

@@ -7,8 +7,7 @@
 
 #include <optional>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Line across an item at a position of 0 (bottom) to 1 (top).
 QLineF horizontalLine(double position, const QSizeF &size);
@@ -16,7 +15,8 @@ QLineF horizontalLine(double position, const QSizeF &size);
 QLineF verticalLine(double position, const QSizeF &size);
 
 /// Lines of one direction: finer ones and, over them, major ones. Widths in pixels.
-struct LineFamily {
+struct LineFamily
+{
     QList<double> positions;
     QList<double> majorPositions;
     QColor color = Qt::black;
@@ -27,14 +27,16 @@ struct LineFamily {
 };
 
 /// A grid's two families, either of which may be absent, and its frame.
-struct GridDescription {
+struct GridDescription
+{
     std::optional<LineFamily> horizontal;
     std::optional<LineFamily> vertical;
     bool frameVisible = false;
 };
 
 /// All lines of one colour, as triangles, so that lines of different widths share a node.
-struct ColoredLines {
+struct ColoredLines
+{
     QColor color;
     StrokeGeometry stroke;
 };

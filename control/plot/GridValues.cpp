@@ -3,11 +3,9 @@
 #include <cmath>
 #include <initializer_list>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
-namespace
-{
+namespace {
 
 constexpr int maximumLines = 1000;
 /// In steps: keeps the line at a bound that rounding puts just outside, such as 7 · 0.1 in a range up to 0.7.

@@ -4,11 +4,11 @@
 
 #include <optional>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Where the lines of a regular grid lie.
-struct GridRule {
+struct GridRule
+{
     AxisRange range;
     /// Distance of the lines; ignored on a logarithmic scale, which has 1…9 times each power of ten.
     double step = 0.1;

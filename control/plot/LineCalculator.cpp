@@ -1,7 +1,6 @@
 #include "plot/LineCalculator.h"
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 LineCalculator::LineCalculator(QObject *parent)
     : QObject(parent)

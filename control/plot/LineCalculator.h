@@ -7,8 +7,7 @@
 #include <QtCore/QObject>
 #include <QtQml/qqmlregistration.h>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Turns values on an axis into the normalised positions that a line plotter draws.
 ///

@@ -3,13 +3,11 @@
 #include "plot/GridLines.h"
 #include "plot/StrokeNode.h"
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 LinePlotter::LinePlotter(QQuickItem *parent)
     : Plotter(parent)
-{
-}
+{}
 
 void LinePlotter::setOrientation(ORIENTATION orientation)
 {

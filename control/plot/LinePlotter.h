@@ -4,8 +4,7 @@
 
 #include <QtCore/QList>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Draws full-width horizontal or full-height vertical lines at normalised positions.
 class TAMBLE_CLIENT_CONTROL_EXPORT LinePlotter : public tamble::client::Plotter

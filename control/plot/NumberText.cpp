@@ -3,11 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
-namespace
-{
+namespace {
 
 constexpr int maximumDecimals = 10;
 

@@ -4,8 +4,7 @@
 
 #include <QtCore/QString>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Decimals that a step of an axis needs: 10 needs 0, 0.5 needs 1, 0.25 needs 2; at most 10.
 int decimalsOfStep(double step);

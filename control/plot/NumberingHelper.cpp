@@ -6,8 +6,7 @@
 #include <QtCore/QDebug>
 #include <QtCore/QVariantMap>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 NumberingHelper::NumberingHelper(QObject *parent)
     : QObject(parent)

@@ -9,8 +9,7 @@
 #include <QtQml/qqmlparserstatus.h>
 #include <QtQml/qqmlregistration.h>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Numbers along an axis: their values, texts and normalised positions.
 ///

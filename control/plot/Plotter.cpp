@@ -4,8 +4,7 @@
 
 #include <utility>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 Plotter::Plotter(QQuickItem *parent)
     : QQuickItem(parent)

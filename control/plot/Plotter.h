@@ -5,8 +5,7 @@
 #include <QtGui/QColor>
 #include <QtQuick/QQuickItem>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 class StrokeNode;
 

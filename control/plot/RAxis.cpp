@@ -3,11 +3,9 @@
 #include "plot/AxisTicks.h"
 #include "plot/RAxisItem.h"
 
-namespace tamble::client
-{
+namespace tamble::client {
 
-namespace
-{
+namespace {
 
 constexpr double automaticTickDistancePixels = 10.0;
 

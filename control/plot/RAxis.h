@@ -5,8 +5,7 @@
 #include <QtCore/QList>
 #include <QtQuick/QQuickItem>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Vertical value axis without looks: chooses round tick values for a range and places them over its height.
 ///

@@ -5,8 +5,7 @@
 #include <QtCore/QObject>
 #include <QtQml/qqmlregistration.h>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// One tick of a value axis: its place and its text.
 class TAMBLE_CLIENT_CONTROL_EXPORT RAxisItem : public QObject

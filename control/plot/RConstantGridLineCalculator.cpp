@@ -4,8 +4,7 @@
 
 #include <QtCore/QDebug>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 RConstantGridLineCalculator::RConstantGridLineCalculator(QObject *parent)
     : QObject(parent)

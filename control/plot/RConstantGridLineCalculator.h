@@ -8,8 +8,7 @@
 #include <QtQml/qqmlparserstatus.h>
 #include <QtQml/qqmlregistration.h>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Values and normalised positions of evenly spaced grid lines.
 ///

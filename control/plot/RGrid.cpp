@@ -4,8 +4,7 @@
 
 #include <utility>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 RGrid::RGrid(QQuickItem *parent)
     : QQuickItem(parent)
@@ -53,8 +52,11 @@ QSGNode *RGrid::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
         grid.vertical = m_vertical->lines();
     const QList<ColoredLines> lines = gridLines(grid, size());
 
-    while (root->childCount() > lines.size())
-        delete root->lastChild();
+    while (root->childCount() > lines.size()) {
+        QSGNode *surplus = root->lastChild();
+        root->removeChildNode(surplus);
+        delete surplus;
+    }
     while (root->childCount() < lines.size())
         root->appendChildNode(new StrokeNode);
     auto *node = static_cast<StrokeNode *>(root->firstChild());

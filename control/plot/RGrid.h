@@ -6,8 +6,7 @@
 #include <QtCore/QPointer>
 #include <QtQuick/QQuickItem>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Draws the lines of up to two grid layouts and, if wanted, a frame; one scene-graph node per colour.
 class TAMBLE_CLIENT_CONTROL_EXPORT RGrid : public QQuickItem

@@ -1,7 +1,6 @@
 #include "plot/RGridLayout.h"
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 RGridLayout::RGridLayout(QObject *parent)
     : QObject(parent)

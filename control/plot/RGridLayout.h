@@ -6,8 +6,7 @@
 #include <QtCore/QObject>
 #include <QtQml/qqmlregistration.h>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Describes the lines of one direction of a grid: finer lines and major lines over them.
 ///

@@ -6,13 +6,11 @@
 
 #include <algorithm>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 RScaleHelper::RScaleHelper(QObject *parent)
     : QObject(parent)
-{
-}
+{}
 
 double RScaleHelper::toPosition(double value)
 {

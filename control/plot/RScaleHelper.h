@@ -8,8 +8,7 @@
 
 #include <optional>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Converts between values on a linear or logarithmic axis and positions of 0…1.
 ///

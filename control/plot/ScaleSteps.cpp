@@ -3,8 +3,7 @@
 #include <cmath>
 #include <initializer_list>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 double snapped(double value, double step)
 {

@@ -1,7 +1,6 @@
 #pragma once
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// The multiple of a step nearest to a value; the sign of the step does not matter, and 0 or NaN leave the value as is.
 double snapped(double value, double step);

@@ -3,11 +3,9 @@
 #include <cmath>
 #include <limits>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
-namespace
-{
+namespace {
 
 /// Mitres reach at most this many half widths from the corner.
 constexpr double mitreLimit = 4.0;

@@ -4,8 +4,7 @@
 #include <QtCore/QList>
 #include <QtCore/QPointF>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// How the vertices of a stroke are joined.
 enum class StrokeMode { LineStrip, Lines, TriangleStrip, Triangles };
@@ -14,7 +13,8 @@ enum class StrokeMode { LineStrip, Lines, TriangleStrip, Triangles };
 ///
 /// Widths up to 1 are lines. Wider ones are triangles, because graphics APIs need not support wide lines and the scene
 /// graph may draw line strips of one colour with each other's width.
-struct StrokeGeometry {
+struct StrokeGeometry
+{
     StrokeMode mode = StrokeMode::LineStrip;
     QList<QPointF> vertices;
     double lineWidth = 1.0;

@@ -1,10 +1,8 @@
 #include "plot/StrokeNode.h"
 
-namespace tamble::client
-{
+namespace tamble::client {
 
-namespace
-{
+namespace {
 
 QSGGeometry::DrawingMode drawingMode(StrokeMode mode)
 {

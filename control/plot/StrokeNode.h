@@ -6,8 +6,7 @@
 #include <QtQuick/QSGGeometry>
 #include <QtQuick/QSGGeometryNode>
 
-namespace tamble::client
-{
+namespace tamble::client {
 
 /// Scene-graph node of lines in one colour; owns geometry and material and updates them in place.
 class StrokeNode : public QSGGeometryNode

@@ -99,14 +99,16 @@ void FilterItemsTest::declaredInQml()
         property real heard: 0
         RBodeplotCurveTemplate {
             id: curve
-            RBodeplotEqFilter {
-                id: band
-                onVisibleChanged: value => shown.push(value)
-                onFreqChanged: value => heard = value
-            }
-            RBodeplotAsymmetricEqFilter { }
-            RBodeplotXOverFilter { }
-            RBodeplotFIRFilter { }
+            calculationItems: [
+                RBodeplotEqFilter {
+                    id: band
+                    onVisibleChanged: value => shown.push(value)
+                    onFreqChanged: value => heard = value
+                },
+                RBodeplotAsymmetricEqFilter { },
+                RBodeplotXOverFilter { },
+                RBodeplotFIRFilter { }
+            ]
         }
     })");
     QVERIFY(page);

@@ -40,8 +40,7 @@ void useOneEngine()
     QQmlComponent component(&engine);
     component.setData("import QtQuick\nimport TambleClient.Control 1.0\n"
                       "Item { RMeterBase {} RLimiterCalculator { id: c } property RTheme themeObject: RTheme {}\n"
-                      "property point position: RMouseEventSpy.position; property var values: c.values\n"
-                      "Image { source: 'image://tamble/products/none' } }",
+                      "property point position: RMouseEventSpy.position; property var values: c.values }",
                       QUrl());
     const std::unique_ptr<QObject> object(component.create());
     QVERIFY2(object, qPrintable(component.errorString()));

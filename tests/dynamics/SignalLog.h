@@ -15,7 +15,7 @@ public:
     explicit SignalLog(QObject *watched)
     {
         const QMetaObject *type = watched->metaObject();
-        const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("record()"));
+        const QMetaMethod slot = staticMetaObject.method(staticMetaObject.indexOfSlot("record()"));
         for (int i = type->methodOffset(); i < type->methodCount(); ++i) {
             if (type->method(i).methodType() == QMetaMethod::Signal)
                 connect(watched, type->method(i), this, slot);

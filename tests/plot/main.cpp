@@ -1,4 +1,5 @@
 #include "tst_AxisTicks.h"
+#include "tst_CustomMaterial.h"
 #include "tst_GridValues.h"
 #include "tst_PlotHelpers.h"
 #include "tst_Plotters.h"
@@ -15,9 +16,10 @@ int main(int argc, char **argv)
     tst_StrokeGeometry strokeGeometry;
     tst_PlotHelpers plotHelpers;
     tst_Plotters plotters;
+    tst_CustomMaterial customMaterial;
     int failures = 0;
-    for (QObject *test :
-         std::initializer_list<QObject *>{&axisTicks, &gridValues, &strokeGeometry, &plotHelpers, &plotters})
+    for (QObject *test : std::initializer_list<QObject *>{&axisTicks, &gridValues, &strokeGeometry, &plotHelpers,
+                                                          &plotters, &customMaterial})
         failures += QTest::qExec(test, argc, argv);
     return failures;
 }
