@@ -23,7 +23,7 @@ if(TAMBLE_WARNINGS_AS_ERRORS)
     add_compile_options(-Werror)
 endif()
 
-add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+add_compile_definitions(QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
 
 if(TAMBLE_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)

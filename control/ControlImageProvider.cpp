@@ -23,9 +23,11 @@ QStringList assetDirectories(const QUrl &baseUrl)
 
 struct RuleSet
 {
-    explicit RuleSet(const QStringList &directories) : theme(directories), products(directories), fallback(directories)
-    {
-    }
+    explicit RuleSet(const QStringList &directories)
+        : theme(directories)
+        , products(directories)
+        , fallback(directories)
+    {}
 
     ThemeControlImageProviderRule theme;
     ProductsControlImageProviderRule products;
@@ -44,7 +46,8 @@ const RuleSet &ruleSet(const QStringList &directories)
 
 } // namespace
 
-ControlImageProvider::ControlImageProvider(const QUrl &baseUrl) : QQuickImageProvider(QQmlImageProviderBase::Image)
+ControlImageProvider::ControlImageProvider(const QUrl &baseUrl)
+    : QQuickImageProvider(QQmlImageProviderBase::Image)
 {
     const RuleSet &rules = ruleSet(assetDirectories(baseUrl));
     m_rules = {&rules.theme, &rules.products, &rules.fallback};

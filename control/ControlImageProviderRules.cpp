@@ -23,13 +23,11 @@ bool leavesDirectory(const QStringList &segments)
 
 ControlImageProviderRule::ControlImageProviderRule(QStringList assetDirectories)
     : m_assetDirectories(std::move(assetDirectories))
-{
-}
+{}
 
 ThemeControlImageProviderRule::ThemeControlImageProviderRule(const QStringList &assetDirectories)
     : ControlImageProviderRule(assetDirectories)
-{
-}
+{}
 
 QImage ThemeControlImageProviderRule::image(const QString &id, const QSize &) const
 {
@@ -49,8 +47,7 @@ QImage ThemeControlImageProviderRule::image(const QString &id, const QSize &) co
 
 ProductsControlImageProviderRule::ProductsControlImageProviderRule(const QStringList &assetDirectories)
     : ControlImageProviderRule(assetDirectories)
-{
-}
+{}
 
 QImage ProductsControlImageProviderRule::image(const QString &id, const QSize &) const
 {
@@ -67,8 +64,7 @@ QImage ProductsControlImageProviderRule::image(const QString &id, const QSize &)
 
 FallbackControlImageProviderRule::FallbackControlImageProviderRule(const QStringList &assetDirectories)
     : ControlImageProviderRule(assetDirectories)
-{
-}
+{}
 
 QImage FallbackControlImageProviderRule::image(const QString &, const QSize &) const
 {

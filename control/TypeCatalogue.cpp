@@ -48,9 +48,9 @@
 #include "workspace/RMouseDetection.h"
 #include "workspace/RMouseEventSpy.h"
 #include "workspace/RWorkspaceSelection.h"
+#include "workspace/WorksheetBase.h"
 #include "workspace/WorkspaceBase.h"
 #include "workspace/WorkspaceItemBase.h"
-#include "workspace/WorksheetBase.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QPointF>
@@ -76,7 +76,9 @@ constexpr int MinorVersion = 0;
 class Registrar
 {
 public:
-    explicit Registrar(const char *uri) : m_uri(uri) {}
+    explicit Registrar(const char *uri)
+        : m_uri(uri)
+    {}
 
     template <typename T>
     void creatable(const char *name) const
@@ -163,8 +165,8 @@ void registerBodeplot(const Registrar &registrar)
     registrar.creatable<RBodeplotXOverFilter>("RBodeplotXOverFilter");
     registrar.creatable<RBodeplotFIRFilter>("RBodeplotFIRFilter");
     registrar.creatable<RLimiterCurve>("RLimiterCurveTemplate");
-    registrar.composites("RBodeplot", {"RLimiterCurve", "RLimiterCurveStyle", "RLimiterFilterPoint",
-                                       "RLimiterFilterPointStyle"});
+    registrar.composites("RBodeplot",
+                         {"RLimiterCurve", "RLimiterCurveStyle", "RLimiterFilterPoint", "RLimiterFilterPointStyle"});
     registrar.creatable<RSimpleCurve>("RSimpleCurveTemplate");
     registrar.composites("RBodeplot", {"RSimpleCurve", "RSimpleCurveStyle"});
     registerBodeplotEnums(registrar);
@@ -224,7 +226,8 @@ void registerStyle(const Registrar &registrar)
     registrar.creatable<StylesDirWatcher>("RStylesDirWatcher");
     registrar.creatable<StyleChecker>("RStyleChecker");
     registrar.composites({"RStyleEngineSetup", "RStyleDebugMouseArea"});
-    registrar.composites("RTabButton", {"RTabButton", "RTabButtonIcon", "RTabButtonIconLabelH", "RTabButtonIconLabelV"});
+    registrar.composites("RTabButton",
+                         {"RTabButton", "RTabButtonIcon", "RTabButtonIconLabelH", "RTabButtonIconLabelV"});
     registrar.composites("RText", {"RText", "RTextInput", "RTextField", "RNumberTextField", "RTextArea"});
     registrar.composites({"RTheme"});
     registrar.creatable<ThemeSelector>("RThemeSelector");

@@ -56,8 +56,8 @@ int main(int argc, char **argv)
     engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../qml"));
     engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/" TAMBLE_INSTALLED_QML_PATH));
     engine.addImportPath(QStringLiteral("qrc:/"));
-    engine.setInitialProperties({{QStringLiteral("pages"), pages.toVariantList()},
-                                 {QStringLiteral("currentPage"), firstPage}});
+    engine.setInitialProperties(
+        {{QStringLiteral("pages"), pages.toVariantList()}, {QStringLiteral("currentPage"), firstPage}});
     engine.load(QUrl(QStringLiteral("qrc:/Gallery/GalleryWindow.qml")));
     if (engine.rootObjects().isEmpty())
         return fail(QStringLiteral("the window cannot be loaded"), EXIT_FAILURE);

@@ -12,8 +12,7 @@
 #include <algorithm>
 #include <initializer_list>
 
-namespace
-{
+namespace {
 
 int parserComplaints = 0;
 

@@ -6,8 +6,7 @@
 
 #include <algorithm>
 
-namespace
-{
+namespace {
 
 const QStringList keys = {
     "chevron-up",    "chevron-down",  "chevron-left",

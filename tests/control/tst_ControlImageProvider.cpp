@@ -65,23 +65,24 @@ void tst_ControlImageProvider::lookup_data()
     QTest::newRow("variant without state") << variants << none << "ui/b/add_24x24_pressed" << 2;
     QTest::newRow("variant without size") << variants << none << "ui/b/add_9x9_pressed" << 1;
     QTest::newRow("first directory wins") << QStringList{"a.png"} << QStringList{"a_b.png"} << "ui/a_b" << 1;
-    QTest::newRow("second directory at last") << QStringList{"Placeholder.png"} << QStringList{"a.png"} << "ui/a_b_c" << 2;
+    QTest::newRow("second directory at last")
+        << QStringList{"Placeholder.png"} << QStringList{"a.png"} << "ui/a_b_c" << 2;
     QTest::newRow("nested folders") << QStringList{"x/y/z.png"} << none << "ui/x/y/z_1" << 1;
     QTest::newRow("prefix alone") << QStringList{".png", "Placeholder.png"} << none << "ui/" << 1;
     QTest::newRow("empty last part") << QStringList{"x/.png", "Placeholder.png"} << none << "ui/x/" << 1;
     QTest::newRow("product") << QStringList{"products/amp.png"} << none << "products/amp" << 1;
     QTest::newRow("further product segments") << QStringList{"products/amp.png"} << none << "products/amp/rear" << 1;
-    QTest::newRow("products keep their underscores") << QStringList{"products/amp.png", "Placeholder.png"} << none
-                                                     << "products/amp_2" << 2;
+    QTest::newRow("products keep their underscores")
+        << QStringList{"products/amp.png", "Placeholder.png"} << none << "products/amp_2" << 2;
     QTest::newRow("product prefix alone") << QStringList{"products/.png"} << none << "products/" << 1;
     QTest::newRow("prefix case counts") << QStringList{"a.png", "Placeholder.png"} << none << "UI/a" << 2;
-    QTest::newRow("product prefix case counts") << QStringList{"products/a.png", "Placeholder.png"} << none
-                                                << "Products/a" << 2;
+    QTest::newRow("product prefix case counts")
+        << QStringList{"products/a.png", "Placeholder.png"} << none << "Products/a" << 2;
     QTest::newRow("placeholder of the second directory") << none << placeholder << "ui/unknown" << 1;
     QTest::newRow("empty id") << placeholder << none << "" << 1;
     QTest::newRow("nothing found") << QStringList{"a.png"} << none << "ui/b" << 0;
-    QTest::newRow("id leads out of the directory") << QStringList{"../a.png", "x/b.png", "Placeholder.png"} << none
-                                                   << "ui/x/../../a" << 3;
+    QTest::newRow("id leads out of the directory")
+        << QStringList{"../a.png", "x/b.png", "Placeholder.png"} << none << "ui/x/../../a" << 3;
     QTest::newRow("zero byte") << placeholder << none << QString("ui/a") + QChar(u'\0') << 1;
     QTest::newRow("very long id") << placeholder << none << "ui/" + QString(5000, u'a') << 1;
 }

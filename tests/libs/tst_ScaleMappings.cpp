@@ -44,7 +44,7 @@ class tst_ScaleMappings : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void lin2lin_data();
     void lin2lin() { compareMapping(tamble::common::lin2lin); }
     void log2lin_data();

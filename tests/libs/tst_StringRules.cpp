@@ -11,7 +11,7 @@ class tst_StringRules : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void rule_data();
     void rule();
     void limits_data();

@@ -39,7 +39,7 @@ class tst_ValueConverters : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void baseText_data();
     void baseText();
