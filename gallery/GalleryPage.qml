@@ -31,6 +31,7 @@ Flickable {
             text: root.description
             color: GalleryPalette.subtleText
             wrapMode: Text.WordWrap
+            lineHeight: 1.2
         }
     }
 }

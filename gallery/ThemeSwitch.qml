@@ -9,7 +9,10 @@ T.Switch {
     text: qsTr("Dark theme")
     checked: GalleryPalette.dark
     Accessible.name: root.text
-    onToggled: GalleryPalette.dark = root.checked
+    onToggled: {
+        GalleryPalette.dark = root.checked
+        root.checked = Qt.binding(() => GalleryPalette.dark) // the click has broken it
+    }
     Keys.onReturnPressed: GalleryPalette.dark = !GalleryPalette.dark
     Keys.onEnterPressed: GalleryPalette.dark = !GalleryPalette.dark
 
