@@ -17,20 +17,34 @@ class NameTable
 public:
     static constexpr NameId Unknown = 0xffffffff;
 
+    NameTable() = default;
+    NameTable(NameTable &&) = default;
+    NameTable &operator=(NameTable &&) = default;
+
     /// The number of `name`, which is added when it is new.
     NameId intern(std::string_view name);
     /// The number of `name`, or Unknown when the sheet never mentions it.
     NameId find(std::string_view name) const;
     std::string_view text(NameId id) const { return m_texts[id]; }
+    /// How many names there are; their numbers are all below.
+    std::size_t size() const { return m_texts.size(); }
 
 private:
-    struct Fnv1a
+    // The hash stays with the text: the map asks for it again whenever it walks a bucket.
+    struct Key
     {
-        std::size_t operator()(std::string_view text) const noexcept;
+        std::string_view text;
+        std::size_t hash;
+
+        bool operator==(const Key &other) const { return hash == other.hash && text == other.text; }
+    };
+    struct KeyHash
+    {
+        std::size_t operator()(const Key &key) const noexcept { return key.hash; }
     };
 
     std::deque<std::string> m_texts; // a deque never moves what the map's keys refer to
-    std::unordered_map<std::string_view, NameId, Fnv1a> m_ids;
+    std::unordered_map<Key, NameId, KeyHash> m_ids;
 };
 
 } // namespace tamble::client

@@ -5,6 +5,7 @@
 #include <compare>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tamble::client {
@@ -23,6 +24,12 @@ enum class SheetOrigin : std::uint8_t {
     DefaultSheet, ///< "default stylesheet"
     UserSheet,    ///< "user stylesheet"
 };
+
+/// What a sheet is called in texts for people.
+constexpr std::string_view sheetName(SheetOrigin origin)
+{
+    return origin == SheetOrigin::UserSheet ? "user stylesheet" : "default stylesheet";
+}
 
 /// One declaration of a sheet: `name: value, value;`.
 struct PropertySpec

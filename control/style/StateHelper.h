@@ -8,10 +8,11 @@
 
 namespace tamble::client {
 
-/// The eight interaction states of a control, composed to the text that style sheets match.
+class StyleSet;
+
+/// The eight interaction states of a control, which write the state text of its style set. All are false by default.
 ///
-/// Each property is false by default. `stateTextChanged` precedes the notification of the property itself, so that
-/// whoever reacts to the property finds the style already switched.
+/// When a state changes, the style set has changed before the state's own notification is sent.
 class TAMBLE_CLIENT_CONTROL_EXPORT StateHelper : public QObject
 {
     Q_OBJECT
@@ -26,27 +27,24 @@ class TAMBLE_CLIENT_CONTROL_EXPORT StateHelper : public QObject
     Q_PROPERTY(bool active READ active WRITE setActive NOTIFY activeChanged)
 
 public:
-    explicit StateHelper(QObject *parent = nullptr);
+    explicit StateHelper(StyleSet &styleSet);
 
-    bool hovered() const { return m_hovered; }
-    void setHovered(bool hovered);
-    bool selected() const { return m_selected; }
-    void setSelected(bool selected);
-    bool disabled() const { return m_disabled; }
-    void setDisabled(bool disabled);
-    bool readOnly() const { return m_readOnly; }
-    void setReadOnly(bool readOnly);
-    bool inconsistent() const { return m_inconsistent; }
-    void setInconsistent(bool inconsistent);
-    bool focus() const { return m_focus; }
-    void setFocus(bool focus);
-    bool pressed() const { return m_pressed; }
-    void setPressed(bool pressed);
-    bool active() const { return m_active; }
-    void setActive(bool active);
-
-    /// The words of the true states in a fixed order, each followed by one blank.
-    QString stateText() const;
+    bool hovered() const { return m_states & Hovered; }
+    void setHovered(bool hovered) { assign(Hovered, hovered, &StateHelper::hoveredChanged); }
+    bool selected() const { return m_states & Selected; }
+    void setSelected(bool selected) { assign(Selected, selected, &StateHelper::selectedChanged); }
+    bool disabled() const { return m_states & Disabled; }
+    void setDisabled(bool disabled) { assign(Disabled, disabled, &StateHelper::disabledChanged); }
+    bool readOnly() const { return m_states & ReadOnly; }
+    void setReadOnly(bool readOnly) { assign(ReadOnly, readOnly, &StateHelper::readOnlyChanged); }
+    bool inconsistent() const { return m_states & Inconsistent; }
+    void setInconsistent(bool inconsistent) { assign(Inconsistent, inconsistent, &StateHelper::inconsistentChanged); }
+    bool focus() const { return m_states & Focus; }
+    void setFocus(bool focus) { assign(Focus, focus, &StateHelper::focusChanged); }
+    bool pressed() const { return m_states & Pressed; }
+    void setPressed(bool pressed) { assign(Pressed, pressed, &StateHelper::pressedChanged); }
+    bool active() const { return m_states & Active; }
+    void setActive(bool active) { assign(Active, active, &StateHelper::activeChanged); }
 
 Q_SIGNALS:
     void hoveredChanged();
@@ -57,19 +55,25 @@ Q_SIGNALS:
     void focusChanged();
     void pressedChanged();
     void activeChanged();
-    void stateTextChanged(const QString &text);
 
 private:
-    void assign(bool &state, bool value, void (StateHelper::*notify)());
+    // In the order of the words in the state text.
+    enum State : unsigned {
+        Pressed = 1,
+        Hovered = 2,
+        Disabled = 4,
+        ReadOnly = 8,
+        Selected = 16,
+        Inconsistent = 32,
+        Focus = 64,
+        Active = 128,
+    };
 
-    bool m_hovered = false;
-    bool m_selected = false;
-    bool m_disabled = false;
-    bool m_readOnly = false;
-    bool m_inconsistent = false;
-    bool m_focus = false;
-    bool m_pressed = false;
-    bool m_active = false;
+    static QString stateText(unsigned states);
+    void assign(State state, bool value, void (StateHelper::*notify)());
+
+    StyleSet &m_styleSet; // the parent
+    unsigned m_states = 0;
 };
 
 } // namespace tamble::client

@@ -1,36 +1,64 @@
 #pragma once
 
 #include "ControlExport.h"
+#include "style/SheetFileWatcher.h"
+#include "style/StylesDirWatcher.h"
 
 #include <QtCore/QObject>
-#include <QtCore/QStringList>
 #include <QtCore/QUrl>
 #include <QtQml/QQmlParserStatus>
 #include <QtQml/qqmlregistration.h>
 
 namespace tamble::client {
 
-/// Names the style sheets that the style engine uses: a default sheet and a user sheet.
+/// Names the style sheets of an application, a default sheet and a user sheet, and has them loaded: once when the
+/// component is complete, then at every change of a source or of a file. The style engine behind it is one per process.
 class TAMBLE_CLIENT_CONTROL_EXPORT StyleEngineSetup : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
     Q_INTERFACES(QQmlParserStatus)
     QML_NAMED_ELEMENT(RStyleEngine)
-    Q_PROPERTY(QUrl stylePath MEMBER m_stylePath NOTIFY stylePathChanged)
-    Q_PROPERTY(QString styleName MEMBER m_styleName NOTIFY styleNameChanged)
-    Q_PROPERTY(QString defaultStyleName MEMBER m_defaultStyleName NOTIFY defaultStyleNameChanged)
-    Q_PROPERTY(QStringList fileExtensions MEMBER m_fileExtensions NOTIFY fileExtensionsChanged)
+    Q_PROPERTY(QUrl stylePath READ stylePath WRITE setStylePath NOTIFY stylePathChanged)
+    Q_PROPERTY(QString styleName READ styleName WRITE setStyleName NOTIFY styleNameChanged)
+    Q_PROPERTY(QString defaultStyleName READ defaultStyleName WRITE setDefaultStyleName NOTIFY defaultStyleNameChanged)
+    Q_PROPERTY(QStringList fileExtensions READ fileExtensions WRITE setFileExtensions NOTIFY fileExtensionsChanged)
     Q_PROPERTY(QStringList availableStyles READ availableStyles NOTIFY availableStylesChanged)
-    Q_PROPERTY(QUrl styleSheetSource MEMBER m_styleSheetSource NOTIFY styleSheetSourceChanged)
-    Q_PROPERTY(QUrl defaultStyleSheetSource MEMBER m_defaultStyleSheetSource NOTIFY defaultStyleSheetSourceChanged)
+    Q_PROPERTY(QUrl styleSheetSource READ styleSheetSource WRITE setStyleSheetSource NOTIFY styleSheetSourceChanged)
+    Q_PROPERTY(QUrl defaultStyleSheetSource READ defaultStyleSheetSource WRITE setDefaultStyleSheetSource NOTIFY
+                   defaultStyleSheetSourceChanged)
 
 public:
     explicit StyleEngineSetup(QObject *parent = nullptr);
+    ~StyleEngineSetup() override;
 
-    QStringList availableStyles() const { return m_availableStyles; }
+    /// A directory of style files. The two names below are looked up in it; a name it does not hold changes nothing.
+    QUrl stylePath() const { return m_directory.stylePath(); }
+    void setStylePath(const QUrl &url);
+    QString styleName() const { return m_styleName; }
+    void setStyleName(const QString &name);
+    QString defaultStyleName() const { return m_defaultStyleName; }
+    void setDefaultStyleName(const QString &name);
 
-    void classBegin() override;
+    /// Name filters of style files, "*.css" by default, and the files that match.
+    QStringList fileExtensions() const { return m_directory.fileExtensions(); }
+    void setFileExtensions(const QStringList &filters) { m_directory.setFileExtensions(filters); }
+    QStringList availableStyles() const { return m_directory.availableStyleSheetNames(); }
+
+    /// The sheets themselves: files, resources ("qrc:/…") or relative to the QML file. Empty for none.
+    QUrl styleSheetSource() const { return m_styleSheetSource; }
+    void setStyleSheetSource(const QUrl &url);
+    QUrl defaultStyleSheetSource() const { return m_defaultStyleSheetSource; }
+    void setDefaultStyleSheetSource(const QUrl &url);
+
+    /// Changes both sources and loads once, so that nothing is shown with one new and one old sheet.
+    Q_INVOKABLE void setStyleSheetSources(const QUrl &defaultSource, const QUrl &userSource);
+
+    void classBegin() override {}
     void componentComplete() override;
+
+public Q_SLOTS:
+    /// Loads both sheets again.
+    void onFileChanged(const QString &path);
 
 Q_SIGNALS:
     void stylePathChanged();
@@ -40,18 +68,25 @@ Q_SIGNALS:
     void availableStylesChanged();
     void styleSheetSourceChanged(const QUrl &url);
     void defaultStyleSheetSourceChanged(const QUrl &url);
+    /// New sheets are in force and every style set has changed.
     void styleChanged();
     /// A problem of the style system: its kind and a text for the user.
     void exception(const QString &type, const QString &message);
 
 private:
-    QUrl m_stylePath;
+    void update();
+    bool assignSource(const QUrl &url);
+    bool assignDefaultSource(const QUrl &url);
+    void load();
+
+    StylesDirWatcher m_directory{this};
+    SheetFileWatcher m_files;
+    QString m_localDirectory;
     QString m_styleName;
     QString m_defaultStyleName;
-    QStringList m_fileExtensions{QStringLiteral("*.css")};
-    QStringList m_availableStyles;
     QUrl m_styleSheetSource;
     QUrl m_defaultStyleSheetSource;
+    bool m_complete = false;
 };
 
 } // namespace tamble::client

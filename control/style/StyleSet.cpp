@@ -1,18 +1,60 @@
 #include "style/StyleSet.h"
 
+#include "style/StyleEngine.h"
+#include "style/StylePathPool.h"
+#include "style/StyleTree.h"
+#include "style/UsageCountedStyleSetProps.h"
+
+#include <QtCore/QDebug>
+#include <QtCore/QPointer>
+#include <QtCore/QVariantMap>
+#include <QtQuick/QQuickItem>
+#include <QtQuick/private/qquickitem_p.h>
+
 namespace tamble::client {
 
 StyleSet::StyleSet(QObject *parent)
     : QObject(parent)
-    , m_props(new StyleSetProps(this))
-    , m_stateHelper(new StateHelper(this))
 {
-    connect(m_stateHelper, &StateHelper::stateTextChanged, this, &StyleSet::setState);
+    if (auto *item = qobject_cast<QQuickItem *>(parent)) {
+        connect(item, &QQuickItem::parentChanged, this, &StyleSet::onParentChanged);
+        // An item below unstyled ones hears nothing when one of these gets its parent, but of the window it does.
+        connect(item, &QQuickItem::windowChanged, this, [this, item](QQuickWindow *window) {
+            if (window)
+                onParentChanged(item->parentItem());
+        });
+    } else if (parent) {
+        qInfo().noquote().nospace() << "INFO: Parent to StyleSet is not a QQuickItem but '"
+                                    << parent->metaObject()->className() << "'";
+        Q_EMIT StyleEngine::instance()->exception(
+            QStringLiteral("noParentChangeReports"),
+            QStringLiteral("Hierarchy changes for this component won't be detected"));
+    }
 }
+
+StyleSet::~StyleSet() = default;
 
 StyleSet *StyleSet::qmlAttachedProperties(QObject *object)
 {
     return new StyleSet(object);
+}
+
+void StyleSet::setName(const QString &name)
+{
+    if (m_name == name)
+        return;
+    m_name = name;
+    placeAnew();
+    Q_EMIT nameChanged();
+}
+
+void StyleSet::setTypeName(const QString &typeName)
+{
+    if (m_typeName == typeName)
+        return;
+    m_typeName = typeName;
+    placeAnew();
+    Q_EMIT typeNameChanged();
 }
 
 void StyleSet::setState(const QString &state)
@@ -20,7 +62,110 @@ void StyleSet::setState(const QString &state)
     if (m_state == state)
         return;
     m_state = state;
+    placeAnew();
     Q_EMIT stateChanged();
+}
+
+QVariantList StyleSet::path()
+{
+    QVariantList elements;
+    for (const StylePath *path = stylePath().get(); path; path = path->parent()) {
+        const StyleElement &element = path->element();
+        elements.prepend(QVariantMap{{QStringLiteral("typeName"), element.typeName},
+                                     {QStringLiteral("classes"), element.classes},
+                                     {QStringLiteral("states"), element.states}});
+    }
+    return elements;
+}
+
+StyleSetProps *StyleSet::props()
+{
+    if (!m_props)
+        followProps();
+    return m_props.get();
+}
+
+QString StyleSet::styleInfo()
+{
+    return stylePath() ? StyleEngine::instance()->styleInfo(*stylePath()) : QString();
+}
+
+QString StyleSet::styleInfoOf(QObject *object) const
+{
+    StyleSet *styleSet = object ? attachedStyleSet(object) : nullptr;
+    return styleSet ? styleSet->styleInfo() : QString();
+}
+
+StateHelper *StyleSet::stateHelper()
+{
+    if (!m_stateHelper)
+        m_stateHelper = new StateHelper(*this);
+    return m_stateHelper;
+}
+
+const StylePathRef &StyleSet::stylePath()
+{
+    if (!m_path)
+        m_path = makePath();
+    return m_path;
+}
+
+void StyleSet::onParentChanged(QQuickItem *pNewParent)
+{
+    if (pNewParent)
+        placeAnew();
+}
+
+// Whether others may have seen where the item stands. An item that QML is still building is placed when it is needed.
+bool StyleSet::isPlaced() const
+{
+    if (m_path)
+        return true;
+    auto *item = qobject_cast<QQuickItem *>(parent());
+    return !item || QQuickItemPrivate::get(item)->componentComplete;
+}
+
+void StyleSet::placeAnew()
+{
+    if (!isPlaced())
+        return;
+    StylePathRef path = makePath();
+    if (path == m_path)
+        return;
+    m_path = std::move(path);
+    if (m_props)
+        followProps();
+    Q_EMIT propsChanged();
+    Q_EMIT pathChanged();
+    if (isRooted(m_path.get()))
+        propagate();
+}
+
+StylePathRef StyleSet::makePath() const
+{
+    if (!parent())
+        return {};
+    return StylePathPool::instance().child(pathOf(visualParent(parent())).get(), styleTypeName(parent(), m_typeName), m_name,
+                                           m_state);
+}
+
+void StyleSet::followProps()
+{
+    if (m_props)
+        disconnect(m_propsConnection);
+    m_props = StyleEngine::instance()->propsFor(stylePath());
+    m_propsConnection = connect(m_props.get(), &StyleSetProps::propsChanged, this, &StyleSet::propsChanged);
+}
+
+// Handlers of one descendant's change may destroy or move another.
+void StyleSet::propagate()
+{
+    QList<QPointer<StyleSet>> descendants;
+    collectNearestStyleSets(parent(), descendants);
+    for (const QPointer<StyleSet> &descendant : std::as_const(descendants)) {
+        if (descendant)
+            descendant->placeAnew();
+    }
 }
 
 } // namespace tamble::client

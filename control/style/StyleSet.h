@@ -2,27 +2,35 @@
 
 #include "ControlExport.h"
 #include "style/StateHelper.h"
+#include "style/StylePath.h"
 #include "style/StyleSetProps.h"
 
 #include <QtCore/QObject>
-#include <QtCore/QString>
 #include <QtCore/QVariantList>
 #include <QtQml/qqml.h>
 
+#include <memory>
+
+class QQuickItem;
+
 namespace tamble::client {
 
-/// Attached to an item as `RStyleSet`: names the item for style sheets and gives its resolved values.
+class UsageCountedStyleSetProps;
+
+/// Attached to an item as `RStyleSet`: names the item for style sheets, places it in the tree of items, and gives its
+/// resolved values.
 ///
-/// `name` holds class words and `state` state words, separated by blanks; `typeName` overrides the type of the item
-/// when it is not empty.
+/// While a QML component is being built, its items are not where they will be; the path is made when somebody first
+/// needs it.
 class TAMBLE_CLIENT_CONTROL_EXPORT StyleSet : public QObject
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RStyleSet)
     QML_UNCREATABLE("StyleSet is exposed as an attached property")
+    // Qualified, since the type description takes the name as it stands here.
     QML_ATTACHED(tamble::client::StyleSet)
-    Q_PROPERTY(QString name MEMBER m_name NOTIFY nameChanged)
-    Q_PROPERTY(QString typeName MEMBER m_typeName NOTIFY typeNameChanged)
+    Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
+    Q_PROPERTY(QString typeName READ typeName WRITE setTypeName NOTIFY typeNameChanged)
     Q_PROPERTY(QVariantList path READ path NOTIFY pathChanged)
     Q_PROPERTY(tamble::client::StyleSetProps *props READ props NOTIFY propsChanged)
     Q_PROPERTY(QString styleInfo READ styleInfo)
@@ -31,15 +39,35 @@ class TAMBLE_CLIENT_CONTROL_EXPORT StyleSet : public QObject
 
 public:
     explicit StyleSet(QObject *parent = nullptr);
+    ~StyleSet() override;
 
     static StyleSet *qmlAttachedProperties(QObject *object);
 
-    QVariantList path() const { return {}; }
-    StyleSetProps *props() const { return m_props; }
-    QString styleInfo() const { return {}; }
+    /// Class words, separated by blanks.
+    QString name() const { return m_name; }
+    void setName(const QString &name);
+    /// What style sheets call the type of the item; empty leaves it at the item's own type.
+    QString typeName() const { return m_typeName; }
+    void setTypeName(const QString &typeName);
+    /// State words, separated by blanks. The next change of a flag of the state helper overwrites them.
     QString state() const { return m_state; }
     void setState(const QString &state);
-    StateHelper *stateHelper() const { return m_stateHelper; }
+
+    /// The elements from the scene's root to the item: maps with typeName, classes and states.
+    QVariantList path();
+    StyleSetProps *props();
+    /// The matching rules, strongest first, for the author of a sheet; empty without a sheet.
+    QString styleInfo();
+    StateHelper *stateHelper();
+
+    /// The style information of any object, without making a style set for it; empty when it has none.
+    Q_INVOKABLE QString styleInfoOf(QObject *object) const;
+
+    const StylePathRef &stylePath();
+
+public Q_SLOTS:
+    /// Places the item anew below its new parent; no parent leaves it as it was.
+    void onParentChanged(QQuickItem *pNewParent);
 
 Q_SIGNALS:
     void nameChanged();
@@ -49,11 +77,19 @@ Q_SIGNALS:
     void stateChanged();
 
 private:
+    bool isPlaced() const;
+    void placeAnew();
+    StylePathRef makePath() const;
+    void followProps();
+    void propagate();
+
     QString m_name;
     QString m_typeName;
     QString m_state;
-    StyleSetProps *m_props = nullptr;
-    StateHelper *m_stateHelper = nullptr;
+    StylePathRef m_path; // null until somebody needs it
+    std::shared_ptr<UsageCountedStyleSetProps> m_props; // null until somebody reads a value
+    QMetaObject::Connection m_propsConnection;
+    StateHelper *m_stateHelper = nullptr; // a child, made when it is first used
 };
 
 } // namespace tamble::client

@@ -1,59 +1,146 @@
 #include "style/StyleSetProps.h"
 
+#include "style/ConvertException.h"
+#include "style/StyleEngine.h"
+#include "style/StyleResolver.h"
+#include "style/ValueConversions.h"
+#include "style/ValueFunctions.h"
+
+#include <QtCore/QDebug>
+
 namespace tamble::client {
 
-StyleSetProps::StyleSetProps(QObject *parent)
-    : QObject(parent)
+namespace {
+
+template <typename T, T (*Convert)(const StyleValue &)>
+T onlyValue(const PropertySpec &spec)
+{
+    if (spec.values.size() != 1)
+        throw ConvertException("exactly one value expected");
+    return Convert(spec.values.front());
+}
+
+// A colour or an address for a function call, the call's name for one that cannot be evaluated, otherwise the text.
+QVariant plainValue(const StyleValue &value)
+{
+    const auto *call = boost::get<Expression>(&value);
+    if (!call)
+        return stringFrom(value);
+    try {
+        const EvaluationResult result = evaluate(*call);
+        if (const auto *color = boost::get<QColor>(&result))
+            return *color;
+        if (const auto *address = boost::get<QUrl>(&result))
+            return *address;
+        return {};
+    } catch (const ConvertException &) {
+        return QString::fromStdString(call->name);
+    }
+}
+
+} // namespace
+
+StyleSetProps::StyleSetProps(StylePathRef path)
+    : m_path(std::move(path))
 {}
+
+StyleSetProps::~StyleSetProps() = default;
 
 bool StyleSetProps::isValid() const
 {
-    return false;
+    return !StyleEngine::instance()->resolve(m_path.get()).isEmpty();
 }
 
-bool StyleSetProps::isSet(const QString &) const
+bool StyleSetProps::isSet(const QString &key) const
 {
-    return false;
+    return find(key) != nullptr;
 }
 
-QVariant StyleSetProps::get(const QString &) const
+QVariant StyleSetProps::get(const QString &key)
 {
-    return {};
+    const QVariantList all = values(key).toList();
+    if (all.isEmpty())
+        noteMissing(key);
+    return all.size() > 1 ? QVariant(all) : all.value(0);
 }
 
-QVariant StyleSetProps::values(const QString &) const
+QVariant StyleSetProps::values(const QString &key)
 {
-    return {};
+    QVariantList all;
+    if (const PropertySpec *spec = find(key)) {
+        for (const StyleValue &value : spec->values)
+            all.append(plainValue(value));
+    }
+    return all;
 }
 
-QColor StyleSetProps::color(const QString &) const
+QColor StyleSetProps::color(const QString &key)
 {
-    return {};
+    return converted<QColor>(key, "QColor", onlyValue<QColor, colorFrom>);
 }
 
-bool StyleSetProps::boolean(const QString &) const
+bool StyleSetProps::boolean(const QString &key)
 {
-    return false;
+    return converted<bool>(key, "bool", onlyValue<bool, booleanFrom>);
 }
 
-double StyleSetProps::number(const QString &) const
+double StyleSetProps::number(const QString &key)
 {
-    return 0.0;
+    return converted<double>(key, "double", onlyValue<double, numberFrom>);
 }
 
-QFont StyleSetProps::font(const QString &) const
+QFont StyleSetProps::font(const QString &key)
 {
-    return {};
+    return converted<QFont>(key, "QFont", onlyValue<QFont, fontFrom>);
 }
 
-QString StyleSetProps::string(const QString &) const
+QString StyleSetProps::string(const QString &key)
 {
-    return {};
+    return converted<QString>(key, "QString", onlyValue<QString, stringFrom>);
 }
 
-QUrl StyleSetProps::url(const QString &) const
+QUrl StyleSetProps::url(const QString &key)
 {
-    return {};
+    return converted<QUrl>(key, "QUrl", onlyValue<QUrl, urlFrom>);
+}
+
+void StyleSetProps::invalidate()
+{
+    m_resolved = nullptr;
+    m_converted.clear();
+}
+
+void StyleSetProps::noteMissing(const QString &) {}
+
+const PropertySpec *StyleSetProps::find(const QString &key) const
+{
+    if (!m_resolved)
+        m_resolved = &StyleEngine::instance()->resolve(m_path.get());
+    return m_resolved->find(key);
+}
+
+template <typename T>
+T StyleSetProps::converted(const QString &key, const char *typeName, T (*convert)(const PropertySpec &))
+{
+    const std::pair<QString, const char *> cacheKey(key, typeName);
+    const auto known = m_converted.constFind(cacheKey);
+    if (known != m_converted.constEnd())
+        return known->template value<T>();
+
+    const PropertySpec *spec = find(key);
+    if (!spec) {
+        noteMissing(key);
+        return T();
+    }
+    T value{};
+    try {
+        value = convert(*spec);
+    } catch (const ConvertException &) {
+        qWarning().noquote().nospace() << "WARN: Property " << key << " is not convertible to a '" << typeName << "' ("
+                                       << (m_path ? m_path->text() : QString()) << ")";
+    }
+    m_converted.insert(cacheKey, QVariant::fromValue(value));
+    return value;
 }
 
 } // namespace tamble::client

@@ -1,6 +1,4 @@
 #include "workspace/tst_MouseEventSpy.h"
-#include "workspace/tst_StateHelper.h"
-#include "workspace/tst_ThemeSelector.h"
 
 #include <QtGui/QGuiApplication>
 #include <QtTest/QTest>
@@ -21,7 +19,5 @@ int main(int argc, char **argv)
     const QGuiApplication application(argc, argv);
     int failures = 0;
     failures += runTest<MouseEventSpyTest>(argc, argv);
-    failures += runTest<StateHelperTest>(argc, argv);
-    failures += runTest<ThemeSelectorTest>(argc, argv);
     return failures;
 }

@@ -1,4 +1,4 @@
-#include "workspace/tst_ThemeSelector.h"
+#include "tst_ThemeSelector.h"
 
 #include "style/ThemeSelector.h"
 

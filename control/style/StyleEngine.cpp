@@ -1,0 +1,147 @@
+#include "style/StyleEngine.h"
+
+#include "style/FontFaceLoader.h"
+#include "style/StyleInfoText.h"
+#include "style/StylePathPool.h"
+#include "style/StyleResolver.h"
+#include "style/StyleSheetLoader.h"
+#include "style/UsageCountedStyleSetProps.h"
+
+#include <QtCore/QDebug>
+
+namespace tamble::client {
+
+StyleEngine::StyleEngine()
+    : m_fonts(std::make_unique<FontFaceLoader>())
+{}
+
+StyleEngine::~StyleEngine() = default;
+
+StyleEngine *StyleEngine::instance()
+{
+    // Style sets may outlive every other static object, so the engine is left to the end of the process.
+    static auto *const engine = new StyleEngine;
+    return engine;
+}
+
+void StyleEngine::setStyleSheetSource(const QUrl &url)
+{
+    qInfo().noquote() << "INFO: StyleEngine::setStyleSheetSource" << url.toString();
+    m_styleSheetSource = url;
+}
+
+void StyleEngine::setDefaultStyleSheetSource(const QUrl &url)
+{
+    qInfo().noquote() << "INFO: StyleEngine::setDefaultStyleSheetSource" << url.toString();
+    m_defaultStyleSheetSource = url;
+}
+
+void StyleEngine::loadStyles()
+{
+    qDebug("DEBUG: StyleEngine::loadStyles");
+    const StyleSheetLoader loader(m_baseUrl, [this](const QString &type, const QString &message) {
+        Q_EMIT exception(type, message);
+    });
+    std::optional<StyleSheet> userSheet = loader.load(m_styleSheetSource);
+    std::optional<StyleSheet> defaultSheet = loader.load(m_defaultStyleSheetSource);
+    if (m_loaded && !(userSheet && defaultSheet))
+        return;
+
+    install(StyleSheet::merged(std::move(defaultSheet).value_or(StyleSheet()), std::move(userSheet).value_or(StyleSheet())));
+    m_loaded = true;
+    signalMissingKeys();
+    Q_EMIT styleChanged();
+}
+
+void StyleEngine::install(StyleSheet &&sheet)
+{
+    loadFonts(sheet);
+
+    // Nothing may see a value of the old sheet once somebody hears of the new one, so all forget before any tells.
+    for (const auto &shared : m_props)
+        shared->invalidate();
+    m_resolver.reset();
+    dropUnused();
+    m_sheet = std::make_unique<StyleSheet>(std::move(sheet));
+    m_resolver = std::make_unique<StyleResolver>(*m_sheet);
+    const auto props = m_props; // a listener may make new ones
+    for (const auto &shared : props)
+        Q_EMIT shared->propsChanged();
+}
+
+void StyleEngine::loadFonts(const StyleSheet &sheet)
+{
+    for (const FontFace &face : sheet.fontFaces()) {
+        const QUrl &source = face.origin == SheetOrigin::UserSheet ? m_styleSheetSource : m_defaultStyleSheetSource;
+        const QUrl sheetUrl = m_baseUrl.resolved(source);
+        m_fonts->load(QUrl(QString::fromStdString(face.url)), sheetUrl, [&](const QString &message) {
+            qWarning().noquote().nospace() << "WARN: " << message << " " << QString::fromStdString(face.url) << " ("
+                                           << sheetUrl.toString() << " at line " << face.position.line << " column "
+                                           << face.position.column << ")";
+            Q_EMIT exception(QStringLiteral("fontWasNotLoaded"), message);
+        });
+    }
+}
+
+void StyleEngine::dropUnused()
+{
+    std::erase_if(m_props, [](const auto &shared) { return shared.use_count() == 1; });
+    m_propsByPath.clear();
+    for (std::size_t i = 0; i < m_props.size(); ++i)
+        m_propsByPath.emplace(m_props[i]->path().get(), i);
+    StylePathPool::instance().collect();
+}
+
+std::shared_ptr<UsageCountedStyleSetProps> StyleEngine::propsFor(const StylePathRef &path)
+{
+    const auto [entry, isNew] = m_propsByPath.try_emplace(path.get(), m_props.size());
+    if (isNew)
+        m_props.push_back(std::make_shared<UsageCountedStyleSetProps>(path));
+    return m_props[entry->second];
+}
+
+const ResolvedMap &StyleEngine::resolve(const StylePath *path)
+{
+    static const ResolvedMap empty;
+    return m_resolver && path ? m_resolver->resolve(*path) : empty;
+}
+
+QString StyleEngine::styleInfo(const StylePath &path)
+{
+    return m_sheet && !m_sheet->isEmpty() ? styleInfoText(*m_sheet, path) : QString();
+}
+
+void StyleEngine::noteMissingKey()
+{
+    m_missingPending = true;
+    signalMissingKeys();
+}
+
+void StyleEngine::signalMissingKeys()
+{
+    if (!m_loaded || !m_missingPending || m_reportSignalled)
+        return;
+    m_reportSignalled = true;
+    Q_EMIT propertiesPotentiallyMissing();
+}
+
+void StyleEngine::reportMissingKeys()
+{
+    const auto props = m_props; // a listener may make new ones
+    for (const auto &shared : props) {
+        // The engine holds it, and so does the copy above; further holders are style sets.
+        if (shared.use_count() <= 2)
+            continue;
+        const QString path = shared->path() ? shared->path()->text() : QString();
+        const auto keys = shared->missingKeys();
+        for (const QString &key : keys) {
+            qWarning().noquote().nospace() << "WARN: Property " << key << " not found (" << path << ")";
+            Q_EMIT exception(QStringLiteral("propertyNotFound"),
+                             QStringLiteral("Property '%1' not found (%2)").arg(key, path));
+        }
+    }
+    m_missingPending = false;
+    m_reportSignalled = false;
+}
+
+} // namespace tamble::client

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "ControlExport.h"
+#include "style/StylePath.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QUrl>
+
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace tamble::client {
+
+class FontFaceLoader;
+class ResolvedMap;
+class StyleResolver;
+class StyleSheet;
+class UsageCountedStyleSetProps;
+
+/// The styles of the process: the loaded sheets, what they resolve to for each style path, and the report of keys that
+/// controls asked for in vain. Made on first use, never replaced; belongs to the GUI thread.
+class TAMBLE_CLIENT_CONTROL_EXPORT StyleEngine : public QObject
+{
+    Q_OBJECT
+
+public:
+    static StyleEngine *instance();
+
+    QUrl styleSheetSource() const { return m_styleSheetSource; }
+    QUrl defaultStyleSheetSource() const { return m_defaultStyleSheetSource; }
+    /// The sheets that loadStyles() reads. An empty URL means none. Relative ones are resolved against the base URL.
+    void setStyleSheetSource(const QUrl &url);
+    void setDefaultStyleSheetSource(const QUrl &url);
+    void setBaseUrl(const QUrl &url) { m_baseUrl = url; }
+
+    /// Reads both sheets and restyles everything. A sheet that does not parse is reported and leaves the styles in force
+    /// as they are; at the first load the other sheet is used alone. A sheet that is missing counts as empty.
+    void loadStyles();
+    /// Forgets that styles were loaded: a missing key is not reported until the next load.
+    void unload() { m_loaded = false; }
+
+    /// The values for `path`, shared by all style sets with this path.
+    std::shared_ptr<UsageCountedStyleSetProps> propsFor(const StylePathRef &path);
+    /// The declarations in force for `path`; no path has none. Valid until the next load.
+    const ResolvedMap &resolve(const StylePath *path);
+    /// The rules that match `path`, for the author of a sheet; empty without a sheet.
+    QString styleInfo(const StylePath &path);
+
+    /// A key was asked for and not found.
+    void noteMissingKey();
+    /// Logs every key that a used path still misses, and raises "propertyNotFound" for it.
+    void reportMissingKeys();
+
+Q_SIGNALS:
+    /// New sheets are in force and every style set has changed.
+    void styleChanged();
+    /// A problem of the style system: its kind and a text for the user.
+    void exception(const QString &type, const QString &message);
+    /// Once per report that is due; serve it by reportMissingKeys().
+    void propertiesPotentiallyMissing();
+
+private:
+    StyleEngine();
+    ~StyleEngine() override;
+
+    void install(StyleSheet &&sheet);
+    void loadFonts(const StyleSheet &sheet);
+    void dropUnused();
+    void signalMissingKeys();
+
+    std::unique_ptr<FontFaceLoader> m_fonts;
+    QUrl m_baseUrl;
+    QUrl m_styleSheetSource;
+    QUrl m_defaultStyleSheetSource;
+    std::unique_ptr<StyleSheet> m_sheet;
+    std::unique_ptr<StyleResolver> m_resolver;
+
+    // All shared values in the order they were first asked for, and where each path's stand among them.
+    std::vector<std::shared_ptr<UsageCountedStyleSetProps>> m_props;
+    std::unordered_map<const StylePath *, std::size_t> m_propsByPath;
+
+    bool m_loaded = false;
+    bool m_missingPending = false;
+    bool m_reportSignalled = false;
+};
+
+} // namespace tamble::client

@@ -1,0 +1,116 @@
+#include "style/StyleMatcher.h"
+
+#include <algorithm>
+#include <limits>
+#include <string>
+
+namespace tamble::client {
+
+namespace {
+
+void addWord(std::vector<MatchWord> &words, NameId key, const Specificity &weight)
+{
+    const auto known = std::ranges::find(words, key, &MatchWord::key);
+    if (known != words.end())
+        ++known->count;
+    else
+        words.push_back({key, 1, weight});
+}
+
+std::uint32_t saturatedProduct(std::uint32_t a, std::uint32_t b)
+{
+    return std::uint32_t(std::min<std::uint64_t>(std::uint64_t(a) * b, std::numeric_limits<std::uint32_t>::max()));
+}
+
+/// True for texts that the tree uses for classes and states: as the type name of an item they match nothing.
+bool isTypeName(const QString &name)
+{
+    return !name.startsWith(u'.') && !name.startsWith(u':');
+}
+
+} // namespace
+
+StyleMatcher::StyleMatcher(const NameTable &names, const SelectorTree &tree)
+    : m_names(names)
+    , m_tree(tree)
+    , m_sameElement(names.find(SelectorTree::SameElementKey))
+    , m_descendant(names.find(SelectorTree::DescendantKey))
+{}
+
+std::vector<MatchWord> StyleMatcher::words(const StyleElement &element) const
+{
+    std::vector<MatchWord> result;
+    const auto add = [&](const char *mark, const QString &word, const Specificity &weight) {
+        const NameId key = m_names.find(std::string(mark).append(word.toStdString()));
+        // A word that spells out one of the tree's own keys is none of the sheet's words.
+        if (key != NameTable::Unknown && key != m_sameElement && key != m_descendant)
+            addWord(result, key, weight);
+    };
+    if (isTypeName(element.typeName))
+        add("", element.typeName, {.types = 1});
+    for (const QString &word : element.classes)
+        add(".", word, {.classes = 1});
+    for (const QString &word : element.states)
+        add("::", word, {.states = 1});
+    return result;
+}
+
+void StyleMatcher::match(const MatchElement &innermost, std::vector<StyleMatch> &matches)
+{
+    matches.clear();
+    m_candidates.clear();
+    matchWords({SelectorTree::Root, &innermost, {}, 1}, SelectorTree::Root, innermost);
+    for (std::size_t i = 0; i < m_candidates.size(); ++i) {
+        const Candidate candidate = m_candidates[i]; // a copy: the list grows meanwhile
+        continueFrom(candidate, matches);
+    }
+}
+
+void StyleMatcher::continueFrom(const Candidate &candidate, std::vector<StyleMatch> &matches)
+{
+    record(candidate, candidate.node, matches);
+
+    if (const SelectorTree::Node same = child(candidate.node, m_sameElement); same != SelectorTree::None) {
+        record(candidate, same, matches);
+        matchWords(candidate, same, *candidate.element);
+    }
+
+    if (!candidate.element->parent)
+        return;
+    matchWords(candidate, candidate.node, *candidate.element->parent);
+    if (const SelectorTree::Node descendant = child(candidate.node, m_descendant); descendant != SelectorTree::None) {
+        // The nearest ancestor that fits any selector behind the step ends the search for all of them.
+        const MatchElement *ancestor = candidate.element->nearestKnown;
+        while (ancestor && !matchWords(candidate, descendant, *ancestor))
+            ancestor = ancestor->nearestKnown;
+    }
+}
+
+/// Adds the children of `node` that fit `element` to the candidates; false when there is none.
+bool StyleMatcher::matchWords(const Candidate &from, SelectorTree::Node node, const MatchElement &element)
+{
+    bool found = false;
+    for (const MatchWord &word : element.words) {
+        const SelectorTree::Node next = child(node, word.key);
+        if (next == SelectorTree::None)
+            continue;
+        found = true;
+        m_candidates.push_back(
+            {next, &element, from.specificity + word.weight, saturatedProduct(from.routes, word.count)});
+    }
+    return found;
+}
+
+void StyleMatcher::record(const Candidate &candidate, SelectorTree::Node node, std::vector<StyleMatch> &matches) const
+{
+    if (!m_tree.declarations(node).empty())
+        matches.push_back({node, candidate.specificity, candidate.routes});
+}
+
+SelectorTree::Node StyleMatcher::child(SelectorTree::Node node, NameId key)
+{
+    ++m_lookUps;
+    return m_tree.child(node, key);
+}
+
+} // namespace tamble::client

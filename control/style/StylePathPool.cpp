@@ -1,0 +1,133 @@
+#include "style/StylePathPool.h"
+
+#include <QtCore/QHashFunctions>
+
+#include <vector>
+
+namespace tamble::client {
+
+namespace {
+
+/// Calls `visit` with each word of `text` until it returns false; true when it never did.
+template <typename Visit>
+bool visitWords(QStringView text, Visit visit)
+{
+    while (!text.isEmpty()) {
+        const qsizetype blank = text.indexOf(u' ');
+        const QStringView word = blank < 0 ? text : text.first(blank);
+        if (!word.isEmpty() && !visit(word))
+            return false;
+        text = text.sliced(blank < 0 ? text.size() : blank + 1);
+    }
+    return true;
+}
+
+QStringList wordsOf(QStringView text)
+{
+    qsizetype count = 0;
+    visitWords(text, [&count](QStringView) { return ++count > 0; });
+    QStringList result;
+    result.reserve(count);
+    visitWords(text, [&result](QStringView word) {
+        result.append(word.toString());
+        return true;
+    });
+    return result;
+}
+
+bool hasWords(QStringView text, const QStringList &words)
+{
+    auto next = words.begin();
+    const bool fits = visitWords(text, [&](QStringView word) { return next != words.end() && *next++ == word; });
+    return fits && next == words.end();
+}
+
+} // namespace
+
+StylePathPool &StylePathPool::instance()
+{
+    static auto *pool = new StylePathPool;
+    return *pool;
+}
+
+// Both hashes take the same words in the same order. The number of classes sets classes and states apart.
+std::size_t StylePathPool::ElementHash::operator()(const StyleElement &element) const noexcept
+{
+    const QtPrivate::QHashCombine combine;
+    std::size_t hash = qHash(QStringView(element.typeName));
+    for (const QString &word : element.classes)
+        hash = combine(hash, QStringView(word));
+    hash = combine(hash, element.classes.size());
+    for (const QString &word : element.states)
+        hash = combine(hash, QStringView(word));
+    return hash;
+}
+
+std::size_t StylePathPool::ElementHash::operator()(const ElementText &text) const noexcept
+{
+    const QtPrivate::QHashCombine combine;
+    std::size_t hash = qHash(text.typeName);
+    qsizetype classes = 0;
+    visitWords(text.name, [&](QStringView word) {
+        hash = combine(hash, word);
+        return ++classes > 0;
+    });
+    hash = combine(hash, classes);
+    visitWords(text.state, [&](QStringView word) {
+        hash = combine(hash, word);
+        return true;
+    });
+    return hash;
+}
+
+bool StylePathPool::ElementEqual::operator()(const StyleElement &element, const ElementText &text) const
+{
+    return element.typeName == text.typeName && hasWords(text.name, element.classes) &&
+           hasWords(text.state, element.states);
+}
+
+std::size_t StylePathPool::PathHash::operator()(const PathKey &key) const noexcept
+{
+    return qHashMulti(0, quintptr(key.parent), quintptr(key.element));
+}
+
+StylePathRef StylePathPool::child(const StylePathRef &parent, QStringView typeName, QStringView name, QStringView state)
+{
+    const StyleElement *innermost = element({typeName, name, state});
+    auto path = m_paths.find(PathKey(parent.get(), innermost));
+    if (path == m_paths.end())
+        path = m_paths.emplace(parent.get(), innermost).first;
+    return StylePathRef(&*path);
+}
+
+const StyleElement *StylePathPool::element(const ElementText &text)
+{
+    auto element = m_elements.find(text);
+    if (element == m_elements.end())
+        element = m_elements.insert({text.typeName.toString(), wordsOf(text.name), wordsOf(text.state)}).first;
+    return &*element;
+}
+
+void StylePathPool::collect()
+{
+    std::vector<const StylePath *> unused;
+    for (const StylePath &path : m_paths) {
+        if (path.m_users == 0)
+            unused.push_back(&path);
+    }
+    for (const StylePath *path : unused) {
+        // A path holds the one it lies below, so going outward meets each path after everything below it.
+        while (path && path->m_users == 0) {
+            const StylePath *parent = path->parent();
+            m_paths.erase(m_paths.find(PathKey(*path)));
+            path = parent;
+        }
+    }
+
+    std::unordered_set<const StyleElement *> used;
+    for (const StylePath &path : m_paths)
+        used.insert(&path.element());
+    std::erase_if(m_elements, [&used](const StyleElement &element) { return !used.contains(&element); });
+}
+
+} // namespace tamble::client

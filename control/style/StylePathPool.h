@@ -1,0 +1,88 @@
+#pragma once
+
+#include "style/StylePath.h"
+
+#include <QtCore/QStringView>
+
+#include <cstddef>
+#include <unordered_set>
+
+namespace tamble::client {
+
+/// Makes style paths and holds each distinct one once. For the GUI thread only.
+class StylePathPool
+{
+public:
+    StylePathPool() = default;
+    /// The one that the items on screen use. It is never destroyed, so paths may be held until the process ends.
+    static StylePathPool &instance();
+    Q_DISABLE_COPY_MOVE(StylePathPool)
+
+    /// The path of an item below `parent`; null `parent` for the outermost item.
+    ///
+    /// `name` and `state` hold words separated by single blanks; empty words are dropped. The cost does not depend on
+    /// the depth of `parent`.
+    StylePathRef child(const StylePathRef &parent, QStringView typeName, QStringView name, QStringView state);
+
+    /// Drops all paths that nothing refers to, and all that only those referred to.
+    void collect();
+
+    /// How many paths and how many distinct elements are held.
+    std::size_t pathCount() const { return m_paths.size(); }
+    std::size_t elementCount() const { return m_elements.size(); }
+
+private:
+    /// The texts of an element before they are split; equal to the element that they split into.
+    struct ElementText
+    {
+        QStringView typeName;
+        QStringView name;
+        QStringView state;
+    };
+    struct ElementHash
+    {
+        using is_transparent = void;
+        std::size_t operator()(const StyleElement &element) const noexcept;
+        std::size_t operator()(const ElementText &text) const noexcept;
+    };
+    struct ElementEqual
+    {
+        using is_transparent = void;
+        bool operator()(const StyleElement &a, const StyleElement &b) const { return a == b; }
+        bool operator()(const StyleElement &element, const ElementText &text) const;
+        bool operator()(const ElementText &text, const StyleElement &element) const { return (*this)(element, text); }
+    };
+
+    struct PathKey
+    {
+        PathKey(const StylePath *parentPath, const StyleElement *innermost)
+            : parent(parentPath)
+            , element(innermost)
+        {}
+        PathKey(const StylePath &path) // NOLINT(google-explicit-constructor): a path is found by its key
+            : PathKey(path.parent(), &path.element())
+        {}
+
+        bool operator==(const PathKey &) const = default;
+
+        const StylePath *parent;
+        const StyleElement *element;
+    };
+    struct PathHash
+    {
+        using is_transparent = void;
+        std::size_t operator()(const PathKey &key) const noexcept;
+    };
+    struct PathEqual
+    {
+        using is_transparent = void;
+        bool operator()(const PathKey &a, const PathKey &b) const { return a == b; }
+    };
+
+    const StyleElement *element(const ElementText &text);
+
+    std::unordered_set<StyleElement, ElementHash, ElementEqual> m_elements;
+    std::unordered_set<StylePath, PathHash, PathEqual> m_paths;
+};
+
+} // namespace tamble::client
