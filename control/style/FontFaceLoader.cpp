@@ -1,6 +1,7 @@
 #include "style/FontFaceLoader.h"
 
-#include <QtCore/QDebug>
+#include "style/StyleLog.h"
+
 #include <QtCore/QFileInfo>
 #include <QtGui/QFontDatabase>
 
@@ -37,7 +38,7 @@ void FontFaceLoader::load(const QUrl &url, const QUrl &sheetUrl, const Report &r
         return;
     }
     m_loaded.insert(path, id);
-    qInfo().noquote() << "INFO: Load font from" << path << "-> family:" << families.constFirst();
+    qCInfo(styleLog).noquote() << "INFO: Load font from" << path << "-> family:" << families.constFirst();
 }
 
 } // namespace tamble::client

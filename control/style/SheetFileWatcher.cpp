@@ -19,7 +19,8 @@ constexpr auto SettleTime = 50ms;
 QByteArray digestOf(const QString &path)
 {
     QFile file(path);
-    return file.open(QFile::ReadOnly) ? QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha1) : QByteArray();
+    return file.open(QFile::ReadOnly) ? QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha1)
+                                      : QByteArray();
 }
 
 // The directory of `file`, or the nearest one above that exists: the rest of the path may appear later.

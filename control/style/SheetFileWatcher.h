@@ -11,8 +11,8 @@ namespace tamble::client {
 /// Tells when one of a few files changes, however an editor saves: in place, by truncating and writing, by renaming
 /// another file over it, or by deleting and making it anew. Also when a missing file appears.
 ///
-/// Several events within 50 ms of each other are one change, so that half-written files are not read. Other files in the
-/// same directories cause none, and neither does saving what the file holds already.
+/// Several events within 50 ms of each other are one change, so that half-written files are not read. Other files in
+/// the same directories cause none, and neither does saving what the file holds already.
 class SheetFileWatcher : public QObject
 {
     Q_OBJECT

@@ -2,12 +2,11 @@
 
 #include "style/FontFaceLoader.h"
 #include "style/StyleInfoText.h"
+#include "style/StyleLog.h"
 #include "style/StylePathPool.h"
 #include "style/StyleResolver.h"
 #include "style/StyleSheetLoader.h"
 #include "style/UsageCountedStyleSetProps.h"
-
-#include <QtCore/QDebug>
 
 namespace tamble::client {
 
@@ -26,28 +25,28 @@ StyleEngine *StyleEngine::instance()
 
 void StyleEngine::setStyleSheetSource(const QUrl &url)
 {
-    qInfo().noquote() << "INFO: StyleEngine::setStyleSheetSource" << url.toString();
+    qCInfo(styleLog).noquote() << "INFO: StyleEngine::setStyleSheetSource" << url.toString();
     m_styleSheetSource = url;
 }
 
 void StyleEngine::setDefaultStyleSheetSource(const QUrl &url)
 {
-    qInfo().noquote() << "INFO: StyleEngine::setDefaultStyleSheetSource" << url.toString();
+    qCInfo(styleLog).noquote() << "INFO: StyleEngine::setDefaultStyleSheetSource" << url.toString();
     m_defaultStyleSheetSource = url;
 }
 
 void StyleEngine::loadStyles()
 {
-    qDebug("DEBUG: StyleEngine::loadStyles");
-    const StyleSheetLoader loader(m_baseUrl, [this](const QString &type, const QString &message) {
-        Q_EMIT exception(type, message);
-    });
+    qCDebug(styleLog, "DEBUG: StyleEngine::loadStyles");
+    const StyleSheetLoader loader(
+        m_baseUrl, [this](const QString &type, const QString &message) { Q_EMIT exception(type, message); });
     std::optional<StyleSheet> userSheet = loader.load(m_styleSheetSource);
     std::optional<StyleSheet> defaultSheet = loader.load(m_defaultStyleSheetSource);
     if (m_loaded && !(userSheet && defaultSheet))
         return;
 
-    install(StyleSheet::merged(std::move(defaultSheet).value_or(StyleSheet()), std::move(userSheet).value_or(StyleSheet())));
+    install(StyleSheet::merged(std::move(defaultSheet).value_or(StyleSheet()),
+                               std::move(userSheet).value_or(StyleSheet())));
     m_loaded = true;
     signalMissingKeys();
     Q_EMIT styleChanged();
@@ -75,9 +74,9 @@ void StyleEngine::loadFonts(const StyleSheet &sheet)
         const QUrl &source = face.origin == SheetOrigin::UserSheet ? m_styleSheetSource : m_defaultStyleSheetSource;
         const QUrl sheetUrl = m_baseUrl.resolved(source);
         m_fonts->load(QUrl(QString::fromStdString(face.url)), sheetUrl, [&](const QString &message) {
-            qWarning().noquote().nospace() << "WARN: " << message << " " << QString::fromStdString(face.url) << " ("
-                                           << sheetUrl.toString() << " at line " << face.position.line << " column "
-                                           << face.position.column << ")";
+            qCWarning(styleLog).noquote().nospace()
+                << "WARN: " << message << " " << QString::fromStdString(face.url) << " (" << sheetUrl.toString()
+                << " at line " << face.position.line << " column " << face.position.column << ")";
             Q_EMIT exception(QStringLiteral("fontWasNotLoaded"), message);
         });
     }
@@ -135,7 +134,7 @@ void StyleEngine::reportMissingKeys()
         const QString path = shared->path() ? shared->path()->text() : QString();
         const auto keys = shared->missingKeys();
         for (const QString &key : keys) {
-            qWarning().noquote().nospace() << "WARN: Property " << key << " not found (" << path << ")";
+            qCWarning(styleLog).noquote().nospace() << "WARN: Property " << key << " not found (" << path << ")";
             Q_EMIT exception(QStringLiteral("propertyNotFound"),
                              QStringLiteral("Property '%1' not found (%2)").arg(key, path));
         }

@@ -34,8 +34,8 @@ public:
     void setDefaultStyleSheetSource(const QUrl &url);
     void setBaseUrl(const QUrl &url) { m_baseUrl = url; }
 
-    /// Reads both sheets and restyles everything. A sheet that does not parse is reported and leaves the styles in force
-    /// as they are; at the first load the other sheet is used alone. A sheet that is missing counts as empty.
+    /// Reads both sheets and restyles everything. A sheet that does not parse is reported and leaves the styles in
+    /// force as they are; at the first load the other sheet is used alone. A sheet that is missing counts as empty.
     void loadStyles();
     /// Forgets that styles were loaded: a missing key is not reported until the next load.
     void unload() { m_loaded = false; }

@@ -39,7 +39,7 @@ public:
     Q_DISABLE_COPY_MOVE(StylePath)
 
     /// The path without its innermost element; null for a path of one element.
-    const StylePath *parent() const { return m_parent.get(); }
+    const StylePath *parent() const { return m_parent; }
     /// The innermost element. Paths that end in equal elements share one.
     const StyleElement &element() const { return *m_element; }
     /// Number of elements, from 1.
@@ -60,7 +60,7 @@ private:
     // A path without users stays known until its pool collects: a state that was left often comes back.
     friend void intrusive_ptr_release(const StylePath *path) noexcept { --path->m_users; }
 
-    StylePathRef m_parent;
+    const StylePath *m_parent; // its pool counts this path among the users of that one
     const StyleElement *m_element;
     qint32 m_depth;
     mutable quint32 m_users = 0;

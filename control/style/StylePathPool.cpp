@@ -12,12 +12,13 @@ namespace {
 template <typename Visit>
 bool visitWords(QStringView text, Visit visit)
 {
-    while (!text.isEmpty()) {
-        const qsizetype blank = text.indexOf(u' ');
-        const QStringView word = blank < 0 ? text : text.first(blank);
-        if (!word.isEmpty() && !visit(word))
+    qsizetype begin = 0;
+    for (qsizetype i = 0; i <= text.size(); ++i) {
+        if (i < text.size() && text[i] != u' ')
+            continue;
+        if (i > begin && !visit(text.sliced(begin, i - begin)))
             return false;
-        text = text.sliced(blank < 0 ? text.size() : blank + 1);
+        begin = i + 1;
     }
     return true;
 }
@@ -53,28 +54,26 @@ StylePathPool &StylePathPool::instance()
 // Both hashes take the same words in the same order. The number of classes sets classes and states apart.
 std::size_t StylePathPool::ElementHash::operator()(const StyleElement &element) const noexcept
 {
-    const QtPrivate::QHashCombine combine;
     std::size_t hash = qHash(QStringView(element.typeName));
     for (const QString &word : element.classes)
-        hash = combine(hash, QStringView(word));
-    hash = combine(hash, element.classes.size());
+        hash = qHash(QStringView(word), hash);
+    hash = qHash(element.classes.size(), hash);
     for (const QString &word : element.states)
-        hash = combine(hash, QStringView(word));
+        hash = qHash(QStringView(word), hash);
     return hash;
 }
 
 std::size_t StylePathPool::ElementHash::operator()(const ElementText &text) const noexcept
 {
-    const QtPrivate::QHashCombine combine;
     std::size_t hash = qHash(text.typeName);
     qsizetype classes = 0;
     visitWords(text.name, [&](QStringView word) {
-        hash = combine(hash, word);
+        hash = qHash(word, hash);
         return ++classes > 0;
     });
-    hash = combine(hash, classes);
+    hash = qHash(classes, hash);
     visitWords(text.state, [&](QStringView word) {
-        hash = combine(hash, word);
+        hash = qHash(word, hash);
         return true;
     });
     return hash;
@@ -95,8 +94,11 @@ StylePathRef StylePathPool::child(const StylePathRef &parent, QStringView typeNa
 {
     const StyleElement *innermost = element({typeName, name, state});
     auto path = m_paths.find(PathKey(parent.get(), innermost));
-    if (path == m_paths.end())
+    if (path == m_paths.end()) {
         path = m_paths.emplace(parent.get(), innermost).first;
+        if (parent)
+            intrusive_ptr_add_ref(parent.get());
+    }
     return StylePathRef(&*path);
 }
 
@@ -120,6 +122,8 @@ void StylePathPool::collect()
         while (path && path->m_users == 0) {
             const StylePath *parent = path->parent();
             m_paths.erase(m_paths.find(PathKey(*path)));
+            if (parent)
+                intrusive_ptr_release(parent);
             path = parent;
         }
     }

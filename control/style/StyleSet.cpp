@@ -1,11 +1,11 @@
 #include "style/StyleSet.h"
 
 #include "style/StyleEngine.h"
+#include "style/StyleLog.h"
 #include "style/StylePathPool.h"
 #include "style/StyleTree.h"
 #include "style/UsageCountedStyleSetProps.h"
 
-#include <QtCore/QDebug>
 #include <QtCore/QPointer>
 #include <QtCore/QVariantMap>
 #include <QtQuick/QQuickItem>
@@ -24,8 +24,8 @@ StyleSet::StyleSet(QObject *parent)
                 onParentChanged(item->parentItem());
         });
     } else if (parent) {
-        qInfo().noquote().nospace() << "INFO: Parent to StyleSet is not a QQuickItem but '"
-                                    << parent->metaObject()->className() << "'";
+        qCInfo(styleLog).noquote().nospace()
+            << "INFO: Parent to StyleSet is not a QQuickItem but '" << parent->metaObject()->className() << "'";
         Q_EMIT StyleEngine::instance()->exception(
             QStringLiteral("noParentChangeReports"),
             QStringLiteral("Hierarchy changes for this component won't be detected"));
@@ -145,8 +145,8 @@ StylePathRef StyleSet::makePath() const
 {
     if (!parent())
         return {};
-    return StylePathPool::instance().child(pathOf(visualParent(parent())).get(), styleTypeName(parent(), m_typeName), m_name,
-                                           m_state);
+    return StylePathPool::instance().child(pathOf(visualParent(parent())).get(), styleTypeName(parent(), m_typeName),
+                                           m_name, m_state);
 }
 
 void StyleSet::followProps()

@@ -86,7 +86,7 @@ private:
     QString m_name;
     QString m_typeName;
     QString m_state;
-    StylePathRef m_path; // null until somebody needs it
+    StylePathRef m_path;                                // null until somebody needs it
     std::shared_ptr<UsageCountedStyleSetProps> m_props; // null until somebody reads a value
     QMetaObject::Connection m_propsConnection;
     StateHelper *m_stateHelper = nullptr; // a child, made when it is first used

@@ -2,11 +2,10 @@
 
 #include "style/ConvertException.h"
 #include "style/StyleEngine.h"
+#include "style/StyleLog.h"
 #include "style/StyleResolver.h"
 #include "style/ValueConversions.h"
 #include "style/ValueFunctions.h"
-
-#include <QtCore/QDebug>
 
 namespace tamble::client {
 
@@ -136,8 +135,8 @@ T StyleSetProps::converted(const QString &key, const char *typeName, T (*convert
     try {
         value = convert(*spec);
     } catch (const ConvertException &) {
-        qWarning().noquote().nospace() << "WARN: Property " << key << " is not convertible to a '" << typeName << "' ("
-                                       << (m_path ? m_path->text() : QString()) << ")";
+        qCWarning(styleLog).noquote().nospace() << "WARN: Property " << key << " is not convertible to a '" << typeName
+                                                << "' (" << (m_path ? m_path->text() : QString()) << ")";
     }
     m_converted.insert(cacheKey, QVariant::fromValue(value));
     return value;

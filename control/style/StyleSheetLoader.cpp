@@ -1,9 +1,9 @@
 #include "style/StyleSheetLoader.h"
 
 #include "style/ParseException.h"
+#include "style/StyleLog.h"
 #include "style/StyleSheetParser.h"
 
-#include <QtCore/QDebug>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QThread>
@@ -37,13 +37,13 @@ std::optional<StyleSheet> StyleSheetLoader::load(const QUrl &url) const
 {
     if (url.isEmpty())
         return StyleSheet();
-    qInfo().noquote().nospace() << "INFO: Load style from '" << url.toString() << "'";
+    qCInfo(styleLog).noquote().nospace() << "INFO: Load style from '" << url.toString() << "'";
 
     const bool wellFormed = url.isLocalFile() || url.isRelative() || (url.isValid() && isResource(url.toString()));
     if (!wellFormed) {
         const QString message =
             QStringLiteral("wrong path format '%1': missing 'file:///' or 'qrc:/' ? ").arg(url.toString());
-        qCritical().noquote() << "CRITICAL: loading style sheet failed:" << message;
+        qCCritical(styleLog).noquote() << "CRITICAL: loading style sheet failed:" << message;
         m_report(QStringLiteral("loadingStyleSheetFailed"),
                  QStringLiteral("Loading style sheet failed '%1'.").arg(message));
         return StyleSheet();
@@ -51,7 +51,7 @@ std::optional<StyleSheet> StyleSheetLoader::load(const QUrl &url) const
 
     const QString path = filePath(url);
     if (!appears(path)) {
-        qCritical().noquote().nospace() << "CRITICAL: Style '" << path << "' not found";
+        qCCritical(styleLog).noquote().nospace() << "CRITICAL: Style '" << path << "' not found";
         m_report(QStringLiteral("styleSheetNotFound"), QStringLiteral("Style '%1' not found.").arg(path));
         return StyleSheet();
     }
@@ -71,7 +71,7 @@ QString StyleSheetLoader::filePath(const QUrl &url) const
 
 std::optional<StyleSheet> StyleSheetLoader::parse(const QString &path) const
 {
-    qInfo().noquote().nospace() << "INFO: Load style from '" << path << "' ...";
+    qCInfo(styleLog).noquote().nospace() << "INFO: Load style from '" << path << "' ...";
     QFile file(path);
     if (!file.open(QFile::ReadOnly)) {
         m_report(QStringLiteral("loadingStyleSheetFailed"),
@@ -86,7 +86,7 @@ std::optional<StyleSheet> StyleSheetLoader::parse(const QString &path) const
                                     .arg(error.line())
                                     .arg(error.column())
                                     .arg(QString::fromStdString(error.lineText()).trimmed());
-        qCritical().noquote() << "CRITICAL: loading style sheet failed:" << message;
+        qCCritical(styleLog).noquote() << "CRITICAL: loading style sheet failed:" << message;
         m_report(QStringLiteral("loadingStyleSheetFailed"),
                  QStringLiteral("Loading style sheet failed '%1'.").arg(message));
         return std::nullopt;

@@ -35,7 +35,8 @@ StylePathRef pathOf(QObject *object)
         return {};
     if (StyleSet *styleSet = attachedStyleSet(object))
         return styleSet->stylePath();
-    return StylePathPool::instance().child(pathOf(visualParent(object)).get(), styleTypeName(object, QString()), {}, {});
+    return StylePathPool::instance().child(pathOf(visualParent(object)).get(), styleTypeName(object, QString()), {},
+                                           {});
 }
 
 bool isRooted(const StylePath *path)

@@ -1,6 +1,7 @@
 #include "style/ThemeSelector.h"
 
-#include <QtCore/QDebug>
+#include "style/StyleLog.h"
+
 #include <QtQml/QQmlContext>
 #include <QtQml/QQmlEngine>
 
@@ -27,14 +28,14 @@ void ThemeSelector::setThemeComponent(QQmlComponent *component)
 void ThemeSelector::installTheme()
 {
     if (m_themeComponent->isError())
-        qWarning().noquote() << "WARN:" << m_themeComponent->errorString();
+        qCWarning(styleLog).noquote() << "WARN:" << m_themeComponent->errorString();
     if (!m_themeComponent->isReady())
         return;
 
     QQmlEngine *engine = m_themeComponent->engine();
     QObject *theme = m_themeComponent->create();
     if (!theme) {
-        qWarning().noquote() << "WARN:" << m_themeComponent->errorString();
+        qCWarning(styleLog).noquote() << "WARN:" << m_themeComponent->errorString();
         return;
     }
     theme->setParent(engine);

@@ -24,7 +24,7 @@ GalleryPage {
         spacing: 4
 
         Repeater {
-            model: IconKeys.keys
+            model: GalleryFiles.iconKeys
 
             IconTile {
                 required property string modelData

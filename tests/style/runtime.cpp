@@ -4,7 +4,6 @@
 #include "tst_StyleEngine.h"
 #include "tst_ThemeSelector.h"
 
-#include <QtCore/QLoggingCategory>
 #include <QtGui/QGuiApplication>
 #include <QtTest/QTest>
 
@@ -22,7 +21,6 @@ int runTest(int argc, char **argv)
 int main(int argc, char **argv)
 {
     const QGuiApplication application(argc, argv);
-    QLoggingCategory::setFilterRules(QStringLiteral("default.info=false\ndefault.debug=false"));
     tamble::client::TambleClientControlModule().registerTypes("TambleClient.Control");
     return runTest<StateHelperTest>(argc, argv) + runTest<ThemeSelectorTest>(argc, argv) +
            runTest<tst_StyleEngine>(argc, argv) + runTest<tst_SheetReload>(argc, argv);

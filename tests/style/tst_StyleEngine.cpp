@@ -41,11 +41,16 @@ void tst_StyleEngine::sourceForms_data()
 {
     QTest::addColumn<QString>("source"); // %1 is the directory
     QTest::addColumn<QString>("type");   // of the message; empty when the sheet is found
-    QTest::newRow("file URL") << "file://%1/a.style" << "";
-    QTest::newRow("relative") << "a.style" << "";
-    QTest::newRow("resource URL") << "qrc:/none.style" << "styleSheetNotFound";
-    QTest::newRow("network") << "http://example.org/a.style" << "loadingStyleSheetFailed";
-    QTest::newRow("directory") << "file://%1" << "styleSheetNotFound";
+    QTest::newRow("file URL") << "file://%1/a.style"
+                              << "";
+    QTest::newRow("relative") << "a.style"
+                              << "";
+    QTest::newRow("resource URL") << "qrc:/none.style"
+                                  << "styleSheetNotFound";
+    QTest::newRow("network") << "http://example.org/a.style"
+                             << "loadingStyleSheetFailed";
+    QTest::newRow("directory") << "file://%1"
+                               << "styleSheetNotFound";
 }
 
 void tst_StyleEngine::sourceForms()
@@ -77,10 +82,14 @@ void tst_StyleEngine::brokenSheets_data()
     QTest::addColumn<QString>("userText");
     QTest::addColumn<double>("atFirst");    // value of "a" when these are the first sheets
     QTest::addColumn<double>("afterwards"); // and when good ones giving 7 were in force
-    QTest::newRow("user sheet") << "Box { a: 1 }" << "Box { a: 2; b: " << 1.0 << 7.0;
-    QTest::newRow("default sheet") << "Box { a: 1 } }" << "Box { a: 2 }" << 2.0 << 7.0;
-    QTest::newRow("both") << "{" << "@x" << 0.0 << 7.0;
-    QTest::newRow("undefined variable") << "Box { a: 1 }" << "Box { a: @nothing }" << 1.0 << 7.0;
+    QTest::newRow("user sheet") << "Box { a: 1 }"
+                                << "Box { a: 2; b: " << 1.0 << 7.0;
+    QTest::newRow("default sheet") << "Box { a: 1 } }"
+                                   << "Box { a: 2 }" << 2.0 << 7.0;
+    QTest::newRow("both") << "{"
+                          << "@x" << 0.0 << 7.0;
+    QTest::newRow("undefined variable") << "Box { a: 1 }"
+                                        << "Box { a: @nothing }" << 1.0 << 7.0;
 }
 
 void tst_StyleEngine::brokenSheets()
@@ -95,7 +104,8 @@ void tst_StyleEngine::brokenSheets()
     };
     const int broken = defaultText == "{" ? 2 : 1;
     for (int i = 0; i < 2 * broken; ++i)
-        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression(QStringLiteral("^CRITICAL: loading style sheet failed:")));
+        QTest::ignoreMessage(QtCriticalMsg,
+                             QRegularExpression(QStringLiteral("^CRITICAL: loading style sheet failed:")));
 
     StyleFixture fixture;
     fixture.load(defaultText.toUtf8(), userText.toUtf8());
@@ -238,8 +248,10 @@ void tst_StyleEngine::convertedValues_data()
     QTest::addColumn<QByteArray>("getter");
     QTest::addColumn<QVariant>("expected");
     QTest::newRow("hexadecimal colour") << "#008ccd" << QByteArray("color") << QVariant(QColor(0, 140, 205));
-    QTest::newRow("quoted colour, alpha first") << "\"#20000000\"" << QByteArray("color") << QVariant(QColor(0, 0, 0, 32));
-    QTest::newRow("colour function") << "rgba(255, 0, 0, 0.5)" << QByteArray("color") << QVariant(QColor(255, 0, 0, 128));
+    QTest::newRow("quoted colour, alpha first")
+        << "\"#20000000\"" << QByteArray("color") << QVariant(QColor(0, 0, 0, 32));
+    QTest::newRow("colour function") << "rgba(255, 0, 0, 0.5)" << QByteArray("color")
+                                     << QVariant(QColor(255, 0, 0, 128));
     QTest::newRow("flag") << "true" << QByteArray("boolean") << QVariant(true);
     QTest::newRow("number") << "-0.5" << QByteArray("number") << QVariant(-0.5);
     QTest::newRow("text") << "\"a b\"" << QByteArray("string") << QVariant("a b");
@@ -265,7 +277,8 @@ void tst_StyleEngine::convertedValues()
                                       Q_ARG(QString, "key"));
         } else {
             QMetaObject::invokeMethod(&box.props(), getter.constData(),
-                                      QGenericReturnArgument(expected.typeName(), result.data()), Q_ARG(QString, "key"));
+                                      QGenericReturnArgument(expected.typeName(), result.data()),
+                                      Q_ARG(QString, "key"));
         }
         QCOMPARE(result, expected);
     }
@@ -326,7 +339,8 @@ void tst_StyleEngine::missingKeyReports()
 void tst_StyleEngine::fontFaces()
 {
     StyleFixture fixture;
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^WARN: Could not find font file .* at line 1")));
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QStringLiteral("^WARN: Could not find font file .* at line 1")));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^WARN: Font url could not be resolved.")));
     fixture.load("@font-face { src: url(none.ttf) }\n@font-face { src: url(http://example.org/a.ttf); }\n"
                  "@font-face { src: url(qrc:/asset/fonts/Lato-Regular.ttf) }\nBox { face: \"Lato bold 14px\" }");

@@ -45,11 +45,9 @@ TestCase {
     Component {
         id: popupComponent
         Popup {
-            property alias button: popupButton
+            readonly property Item button: contentItem.children[0]
             contentItem: Item {
-                Button {
-                    id: popupButton
-                }
+                Button {}
             }
         }
     }
@@ -63,7 +61,7 @@ TestCase {
     }
 
     function types(item: Item): var {
-        return item.RStyleSet.path.map(element => element.typeName)
+        return Array.from(item.RStyleSet.path, element => element.typeName)
     }
 
     function test_pathRunsFromTheSceneRoot() {
@@ -125,12 +123,13 @@ TestCase {
 
     function test_unrootedItemsLeaveTheirDescendantsAlone() {
         const panel = panelComponent.createObject(null)
-        compare(types(panel.button), ["Panel", "QQuickItem", "Button"])
+        const button = panel["button"]
+        compare(types(button), ["Panel", "QQuickItem", "Button"])
         panel.RStyleSet.name = "dense"
-        compare(panel.button.RStyleSet.path[0].classes, [])
+        compare(button.RStyleSet.path[0].classes, [])
         panel.parent = root
-        compare(types(panel.button)[0], "QQuickRootItem")
-        compare(panel.button.RStyleSet.props.number("gap"), 2)
+        compare(types(button)[0], "QQuickRootItem")
+        compare(button.RStyleSet.props.number("gap"), 2)
         panel.destroy()
     }
 
@@ -166,14 +165,14 @@ TestCase {
     function test_popupsAreScenesOfTheirOwn() {
         const popup = createTemporaryObject(popupComponent, root)
         verify(types(popup.button).indexOf("QQuickPopupItem") >= 0)
-        compare(popup.button.background, "#707070")
+        compare(popup.button.RStyleSet.props.color("background"), "#707070")
         popup.open()
         tryVerify(() => popup.opened)
         compare(types(popup.button)[0], "QQuickRootItem")
-        compare(popup.button.background, "#707070")
+        compare(popup.button.RStyleSet.props.color("background"), "#707070")
         popup.close()
         tryVerify(() => !popup.visible)
-        compare(popup.button.background, "#707070")
+        compare(popup.button.RStyleSet.props.color("background"), "#707070")
     }
 
     function test_styleInfoNamesTheRules() {
