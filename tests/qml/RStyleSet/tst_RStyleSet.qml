@@ -64,6 +64,10 @@ TestCase {
         return Array.from(item.RStyleSet.path, element => element.typeName)
     }
 
+    function withoutParent(component: Component): var {
+        return component.createObject(null)
+    }
+
     function test_pathRunsFromTheSceneRoot() {
         const panel = createTemporaryObject(panelComponent, root)
         const path = types(panel.button)
@@ -122,8 +126,8 @@ TestCase {
     }
 
     function test_unrootedItemsLeaveTheirDescendantsAlone() {
-        const panel = panelComponent.createObject(null)
-        const button = panel["button"]
+        const panel = withoutParent(panelComponent)
+        const button = panel.button
         compare(types(button), ["Panel", "QQuickItem", "Button"])
         panel.RStyleSet.name = "dense"
         compare(button.RStyleSet.path[0].classes, [])
@@ -134,7 +138,7 @@ TestCase {
     }
 
     function test_reparentingBelowUnstyledItems() {
-        const holder = itemComponent.createObject(null)
+        const holder = withoutParent(itemComponent)
         const button = buttonComponent.createObject(holder)
         compare(types(button), ["QQuickItem", "Button"])
         holder.parent = root
