@@ -6,6 +6,7 @@ find_program(TAMBLE_RUN_CLANG_TIDY NAMES run-clang-tidy run-clang-tidy-14)
 
 file(GLOB_RECURSE cpp_files CONFIGURE_DEPENDS
     ${PROJECT_SOURCE_DIR}/asset/*.cpp
+    ${PROJECT_SOURCE_DIR}/benchmarks/*.cpp ${PROJECT_SOURCE_DIR}/benchmarks/*.h
     ${PROJECT_SOURCE_DIR}/control/*.cpp ${PROJECT_SOURCE_DIR}/control/*.h
     ${PROJECT_SOURCE_DIR}/gallery/*.cpp ${PROJECT_SOURCE_DIR}/gallery/*.h
     ${PROJECT_SOURCE_DIR}/libs/*.cpp ${PROJECT_SOURCE_DIR}/libs/*.h
@@ -42,14 +43,21 @@ set(lint_files)
 foreach(file IN LISTS qml_files)
     cmake_path(RELATIVE_PATH file BASE_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_VARIABLE path)
     if(path MATCHES "^gallery/(.*)")
-        list(APPEND lint_files ${PROJECT_BINARY_DIR}/gallery/Gallery/${CMAKE_MATCH_1})
+        if(TARGET tamble-gallery)
+            list(APPEND lint_files ${PROJECT_BINARY_DIR}/gallery/Gallery/${CMAKE_MATCH_1})
+        endif()
     else()
         list(APPEND lint_files ${file})
     endif()
 endforeach()
 find_program(TAMBLE_QMLLINT qmllint PATHS /usr/lib/qt6/bin)
 add_custom_target(qml-lint
-    COMMAND ${TAMBLE_QMLLINT} -I ${PROJECT_BINARY_DIR}/qml -I ${PROJECT_BINARY_DIR}/gallery ${lint_files}
+    COMMAND ${CMAKE_COMMAND} -D QMLLINT=${TAMBLE_QMLLINT}
+            "-DARGUMENTS=-I;${PROJECT_BINARY_DIR}/qml;-I;${PROJECT_BINARY_DIR}/gallery" "-DFILES=${lint_files}"
+            -P ${PROJECT_SOURCE_DIR}/cmake/QmlLint.cmake
     VERBATIM
 )
-add_dependencies(qml-lint tambleclient-control tamble-gallery)
+add_dependencies(qml-lint tambleclient-control)
+if(TARGET tamble-gallery)
+    add_dependencies(qml-lint tamble-gallery)
+endif()

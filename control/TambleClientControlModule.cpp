@@ -5,10 +5,10 @@
 #include "TypeCatalogue.h"
 #include "workspace/RMouseEventSpy.h"
 
-#include <QtCore/QSet>
 #include <QtGui/QPointingDevice>
 #include <QtQml/QQmlContext>
 #include <QtQml/QQmlEngine>
+#include <QtQml/qqml.h>
 
 namespace tamble::client {
 
@@ -29,12 +29,9 @@ int maximumTouchPoints()
 
 void TambleClientControlModule::registerTypes(const char *uri)
 {
-    static QSet<QByteArray> registeredUris;
-    const QByteArray key(uri);
-    if (registeredUris.contains(key))
-        return;
-    registeredUris.insert(key);
-    registerCatalogue(uri);
+    // Qt is asked rather than a list of our own, since its registrations can be cleared and made again.
+    if (qmlTypeId(uri, 1, 0, "RValueConverter") < 0)
+        registerCatalogue(uri);
 }
 
 void TambleClientControlModule::initializeEngine(QQmlEngine *engine, const char *)

@@ -28,6 +28,8 @@ GalleryOptions GalleryOptions::parse(const QStringList &arguments)
     options.help = parser.isSet(help);
     options.helpText = parser.helpText();
 
+    if (parser.isSet(screenshot) && options.screenshotDir.isEmpty())
+        options.error = QStringLiteral("the screenshots need a directory");
     bool isNumber = false;
     const double factor = options.scale.toDouble(&isNumber);
     if (parser.isSet(scale) && (!isNumber || !(factor >= 0.5 && factor <= 4.0)))

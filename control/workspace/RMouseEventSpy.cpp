@@ -2,6 +2,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QMetaMethod>
 #include <QtCore/QTimerEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QTouchEvent>
@@ -31,7 +32,11 @@ RMouseEventSpy::RMouseEventSpy(Clock clock, QObject *parent)
 RMouseEventSpy *RMouseEventSpy::instance()
 {
     // Never deleted: windows and engines may still ask for it while static objects go away.
-    static auto *const spy = new RMouseEventSpy;
+    static auto *const spy = [] {
+        auto *const created = new RMouseEventSpy;
+        created->install();
+        return created;
+    }();
     return spy;
 }
 
@@ -55,10 +60,7 @@ void RMouseEventSpy::setIdleLimit(int limitMs)
         return;
     m_idleLimit = limitMs;
     m_idleReported = false;
-    if (m_idleLimit > 0)
-        m_idleTimer.start(1000, this);
-    else
-        m_idleTimer.stop();
+    updateIdleTimer();
     Q_EMIT idleLimitChanged();
 }
 
@@ -112,12 +114,28 @@ void RMouseEventSpy::timerEvent(QTimerEvent *event)
 {
     if (event->timerId() == m_idleTimer.timerId()) {
         checkIdle();
+        updateIdleTimer();
     } else if (event->timerId() == m_restTimer.timerId()) {
         m_restTimer.stop();
         noteMove(m_position);
     } else {
         QObject::timerEvent(event);
     }
+}
+
+void RMouseEventSpy::connectNotify(const QMetaMethod &signal)
+{
+    if (signal == QMetaMethod::fromSignal(&RMouseEventSpy::idleTimeChanged))
+        updateIdleTimer();
+}
+
+void RMouseEventSpy::updateIdleTimer()
+{
+    const bool wanted = m_idleLimit > 0 || isSignalConnected(QMetaMethod::fromSignal(&RMouseEventSpy::idleTimeChanged));
+    if (!wanted)
+        m_idleTimer.stop();
+    else if (!m_idleTimer.isActive())
+        m_idleTimer.start(1000, this);
 }
 
 void RMouseEventSpy::watchMouse(QMouseEvent *event)
@@ -134,7 +152,7 @@ void RMouseEventSpy::watchMouse(QMouseEvent *event)
         noteMove(position);
     else if (event->type() == QEvent::MouseButtonRelease)
         Q_EMIT mouseReleased(position, event->button());
-    else
+    else if (event->type() == QEvent::MouseButtonPress) // a double click comes in addition to its second press
         Q_EMIT mousePressed(position, event->button());
 }
 

@@ -35,7 +35,7 @@ public:
     /// A spy that watches nothing until it is installed; `clock` is for tests and replay, default the system's.
     explicit RMouseEventSpy(Clock clock = {}, QObject *parent = nullptr);
 
-    /// The spy of this process, made on first use. It has no parent and stays until the process ends.
+    /// The spy of this process, made and installed on first use. It has no parent and stays until the process ends.
     static RMouseEventSpy *instance();
 
     /// Puts the spy in front of the application's event filters, so that it is installed once and sees events first.
@@ -45,7 +45,7 @@ public:
     QPointF position() const { return m_position; }
     /// Whether any mouse button or touch point is down.
     bool anyPressed() const { return m_mousePressed || m_touchPressed; }
-    /// Time since the last input in ms. The notification comes each second, and only while `idleLimit` is set.
+    /// Time since the last input in ms. Its notification comes each second while somebody listens.
     int idleTime() const;
     /// Idle time in ms after which `idle` is emitted, once per idle period; 0 (default) and less: never.
     int idleLimit() const { return m_idleLimit; }
@@ -72,9 +72,11 @@ Q_SIGNALS:
     void idle(int ms);
 
 protected:
+    void connectNotify(const QMetaMethod &signal) override;
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    void updateIdleTimer();
     void watchMouse(QMouseEvent *event);
     void watchTouch(QTouchEvent *event);
     void noteActivity();
@@ -92,7 +94,7 @@ private:
     RateLimit m_moveLimit{50};
     RateLimit m_activityLimit{250};
     QBasicTimer m_restTimer; ///< Runs for less than 50 ms after a move that the limit held back.
-    QBasicTimer m_idleTimer; ///< Runs while `idleLimit` is set.
+    QBasicTimer m_idleTimer; ///< Runs while `idleLimit` is set or somebody listens to the idle time.
 };
 
 } // namespace tamble::client

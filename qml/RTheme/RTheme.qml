@@ -6,7 +6,7 @@ QtObject {
     id: root
 
     /*! False on machines that are touched, where a hover look would stick to the last touched control. */
-    property bool hoverEnabled: maximumTouchPoints === 0 // qmllint disable unqualified
+    property bool hoverEnabled: maximumTouchPoints === 0
     property bool nativeRendering: false
     property string fontFamily: "Brack Office Sans"
 

@@ -31,6 +31,11 @@ QString secondDirectory()
     return QCoreApplication::applicationDirPath() + QStringLiteral("/asset");
 }
 
+QString bundleResources()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../Resources");
+}
+
 QSize requestedSizeOf(ControlImageProvider &provider, const QString &id)
 {
     QSize size(-7, -7);
@@ -49,6 +54,7 @@ void tst_ControlImageProvider::init()
 void tst_ControlImageProvider::cleanup()
 {
     QDir(secondDirectory()).removeRecursively();
+    QDir(bundleResources()).removeRecursively();
 }
 
 void tst_ControlImageProvider::lookup_data()
@@ -118,6 +124,21 @@ void tst_ControlImageProvider::baseUrlThatIsNoLocalFile()
     QVERIFY(writePicture(secondDirectory() + QStringLiteral("/a.png"), 4));
     ControlImageProvider provider(QUrl(QStringLiteral("qrc:/page.qml")));
     QCOMPARE(requestedSizeOf(provider, QStringLiteral("ui/a_hover")), QSize(4, 1));
+}
+
+void tst_ControlImageProvider::bundleStandsInForTheFirstDirectory()
+{
+    const QTemporaryDir base;
+    const QUrl url = QUrl::fromLocalFile(base.path());
+    ControlImageProvider early(url); // decided at construction, whether or not the bundle's directory is there
+    QVERIFY(writePicture(bundleResources() + QStringLiteral("/asset/a.png"), 2));
+    QVERIFY(writePicture(secondDirectory() + QStringLiteral("/a_b.png"), 3));
+    QCOMPARE(requestedSizeOf(early, QStringLiteral("ui/a_b")), QSize(2, 1));
+
+    QVERIFY(QDir(base.path()).mkpath(QStringLiteral("asset")));
+    QCOMPARE(requestedSizeOf(early, QStringLiteral("ui/a_b")), QSize(2, 1));
+    ControlImageProvider late(url);
+    QCOMPARE(requestedSizeOf(late, QStringLiteral("ui/a_b")), QSize(3, 1));
 }
 
 void tst_ControlImageProvider::asynchronousRequestsOutliveTheEngine()

@@ -13,5 +13,6 @@ private Q_SLOTS:
     void lookup();
     void noAssetDirectory();
     void baseUrlThatIsNoLocalFile();
+    void bundleStandsInForTheFirstDirectory();
     void asynchronousRequestsOutliveTheEngine();
 };

@@ -4,8 +4,10 @@
 #include "TambleClientControlModule.h"
 #include "workspace/RMouseEventSpy.h"
 
+#include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
+#include <QtCore/QResource>
 #include <QtGui/QFontInfo>
 #include <QtGui/QPointingDevice>
 #include <QtQml/QQmlComponent>
@@ -48,6 +50,11 @@ void useOneEngine()
 
 } // namespace
 
+void tst_ModuleFrame::initTestCase()
+{
+    TambleClientControlModule().registerTypes(Uri);
+}
+
 void tst_ModuleFrame::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
@@ -72,6 +79,23 @@ void tst_ModuleFrame::engineInitialisation()
 
         QVERIFY(dynamic_cast<ControlImageProvider *>(engine.imageProvider(QStringLiteral("tamble"))));
     }
+}
+
+void tst_ModuleFrame::typesUnderSeveralUris()
+{
+    QQmlEngine engine;
+    TambleClientControlModule module;
+    for (const char *uri : {Uri, "Another.Uri", "Another.Uri"})
+        module.registerTypes(uri);
+    module.initializeEngine(&engine, Uri);
+    QQmlComponent component(&engine);
+    component.setData("import QtQml\nimport Another.Uri 1.0 as Another\nimport TambleClient.Control 1.0 as Own\n"
+                      "QtObject { property QtObject meter: Another.RMeterBase {}\n"
+                      "property bool shared: Another.RMouseEventSpy === Own.RMouseEventSpy }",
+                      QUrl());
+    const std::unique_ptr<QObject> object(component.create());
+    QVERIFY2(object, qPrintable(component.errorString()));
+    QVERIFY(object->property("shared").toBool());
 }
 
 void tst_ModuleFrame::touchPointsOfEveryPointingDevice()
@@ -123,6 +147,21 @@ void tst_ModuleFrame::noQmldirWithinReach()
     QVERIFY(!QFile::exists(QStringLiteral(":/TambleClient")));
     QVERIFY(!QFile::exists(QStringLiteral(":/qt/qml/TambleClient")));
     QVERIFY(QFile::exists(QStringLiteral(":/qml/RTheme/RTheme.qml")));
+}
+
+void tst_ModuleFrame::resourcesAreCompressedWithZlib()
+{
+    QStringList others;
+    for (const char *folder : {":/asset", ":/icons", ":/qml", ":/shaders", ":/style", ":/tamble-module"}) {
+        QDirIterator files(QString::fromLatin1(folder), QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            if (QResource(files.next()).compressionAlgorithm() == QResource::ZstdCompression)
+                others << files.filePath();
+        }
+    }
+    QCOMPARE(others, QStringList());
+    QCOMPARE(QResource(QStringLiteral(":/style/tamble.light.style")).compressionAlgorithm(),
+             QResource::ZlibCompression);
 }
 
 void tst_ModuleFrame::interfaceFontIsSubstituted()

@@ -262,4 +262,5 @@ void tst_TypeCatalogue::attachedStyleSet()
                                              "property bool known: RStyleSet.props.isSet('background') }"));
     const std::unique_ptr<QObject> object(component->create());
     QVERIFY2(object, qPrintable(component->errorString()));
+    QCOMPARE(object->property("state").toString().trimmed(), QStringLiteral("hovered"));
 }

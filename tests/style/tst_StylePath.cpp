@@ -97,6 +97,15 @@ void tst_StylePath::equalPathsAreOne()
     QVERIFY(pathFrom(pool, a) == first);
 }
 
+void tst_StylePath::longerListsOfWordsDiffer()
+{
+    StylePathPool pool;
+    // So many that some share a bucket of the pool's table with one that begins alike.
+    for (int count = 300; count > 0; --count)
+        pool.child({}, u"A", QStringLiteral("x ").repeated(count), u"");
+    QCOMPARE(pool.elementCount(), std::size_t(300));
+}
+
 void tst_StylePath::unusedPathsStayUntilCollected()
 {
     StylePathPool pool;

@@ -13,6 +13,7 @@ private Q_SLOTS:
     void parts();
     void equalPathsAreOne_data();
     void equalPathsAreOne();
+    void longerListsOfWordsDiffer();
     void unusedPathsStayUntilCollected();
     void collectKeepsWhatIsUsed();
     void collectOfADeepPath();

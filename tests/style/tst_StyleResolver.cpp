@@ -155,12 +155,15 @@ void tst_StyleResolver::wordsAreNoKeysOfTheTree()
     QFETCH(QString, typeName);
     QFETCH(QString, name);
     QFETCH(QString, state);
-    const StyleSheet sheet = sheetFrom("A B, .x B, A::s B, .x, A::s { k: v }");
+    const StyleSheet sheet = sheetFrom("A B, .x B, A::s B, .x, A::s, B.y { k: v }");
     StylePathPool pool;
-    const StylePathRef outer = pool.child({}, typeName, name, state);
     StyleResolver resolver(sheet);
-    QVERIFY(resolver.matches(*outer).empty());
-    QVERIFY(resolver.matches(*pool.child(outer, u"B", u"", u"")).empty());
+    const StylePathRef alone = pool.child({}, typeName, name, state);
+    QVERIFY(resolver.matches(*alone).empty());
+    QVERIFY(resolver.matches(*pool.child(alone, u"B", u"", u"")).empty());
+    // Nor do they lead from B to the element around.
+    const StylePathRef between = pool.child(pool.child({}, u"A", u"y", u""), typeName, name, state);
+    QCOMPARE(resolver.matches(*pool.child(between, u"B", u"", u"")), resolver.matches(*pathFrom(pool, "A.y/Other/B")));
 }
 
 void tst_StyleResolver::repeatedWordsMatchByEachRoute()

@@ -2,6 +2,8 @@
 
 #include "workspace/RMouseEventSpy.h"
 
+#include <QtCore/QAbstractEventDispatcher>
+#include <QtCore/QTimerEvent>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWindow>
@@ -41,6 +43,11 @@ struct Observed
     Window window;
 };
 
+QList<QAbstractEventDispatcher::TimerInfo> timersOf(RMouseEventSpy &spy)
+{
+    return QAbstractEventDispatcher::instance()->registeredTimers(&spy);
+}
+
 } // namespace
 
 void MouseEventSpyTest::init()
@@ -66,6 +73,19 @@ void MouseEventSpyTest::windowEventsAreReportedOnce()
     QCOMPARE(released.count(), 1);
     QCOMPARE(observed.spy.position(), QPointF(5, 6));
     QCOMPARE(observed.window.received, 2);
+}
+
+void MouseEventSpyTest::doubleClickIsTwoPresses()
+{
+    Observed observed;
+    observed.window.setGeometry(0, 0, 100, 100);
+    observed.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&observed.window));
+    QSignalSpy pressed(&observed.spy, &RMouseEventSpy::mousePressed);
+    QSignalSpy released(&observed.spy, &RMouseEventSpy::mouseReleased);
+    QTest::mouseDClick(&observed.window, Qt::LeftButton, {}, {5, 5});
+    QCOMPARE(pressed.count(), 2);
+    QCOMPARE(released.count(), 2);
 }
 
 void MouseEventSpyTest::movesAreLimited()
@@ -155,28 +175,32 @@ void MouseEventSpyTest::idleIsReportedOncePerPeriod()
 void MouseEventSpyTest::nothingRunsWithoutIdleLimit()
 {
     Observed observed;
-    int timers = 0;
-    struct Counter : QObject
-    {
-        explicit Counter(int &count)
-            : m_count(count)
-        {}
-        bool eventFilter(QObject *, QEvent *event) override
-        {
-            m_count += event->type() == QEvent::Timer ? 1 : 0;
-            return false;
-        }
-        int &m_count;
-    } counter(timers);
-    observed.spy.installEventFilter(&counter);
-
     QSignalSpy moved(&observed.spy, &RMouseEventSpy::mouseMoved);
     observed.mouse(QEvent::MouseMove, {1, 0});
     observed.mouse(QEvent::MouseMove, {2, 0});
     observed.now += 50;
     QTRY_COMPARE(moved.count(), 2);
-    QTest::qWait(150);
-    QCOMPARE(timers, 1);
+    QVERIFY(timersOf(observed.spy).isEmpty());
+}
+
+void MouseEventSpyTest::idleTimeTicksForItsListeners()
+{
+    Observed observed;
+    int timer = 0;
+    {
+        QSignalSpy notified(&observed.spy, &RMouseEventSpy::idleTimeChanged);
+        const auto timers = timersOf(observed.spy);
+        QCOMPARE(timers.size(), 1);
+        QCOMPARE(timers.first().interval, 1000);
+        timer = timers.first().timerId;
+        QTimerEvent tick(timer);
+        QCoreApplication::sendEvent(&observed.spy, &tick);
+        QCOMPARE(notified.count(), 1);
+        QCOMPARE(timersOf(observed.spy).size(), 1);
+    }
+    QTimerEvent lastTick(timer);
+    QCoreApplication::sendEvent(&observed.spy, &lastTick);
+    QVERIFY(timersOf(observed.spy).isEmpty());
 }
 
 void MouseEventSpyTest::installsOnceAndFirst()
@@ -189,13 +213,15 @@ void MouseEventSpyTest::installsOnceAndFirst()
     QCOMPARE(RMouseEventSpy::instance(), spy);
     QVERIFY(!spy->parent());
 
-    spy->install();
-    QCoreApplication::instance()->installEventFilter(&eater);
-    spy->install();
     QSignalSpy pressed(spy, &RMouseEventSpy::mousePressed);
     QWindow window;
     QMouseEvent event(QEvent::MouseButtonPress, {1, 1}, {1, 1}, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&window, &event);
     QCOMPARE(pressed.count(), 1);
+
+    QCoreApplication::instance()->installEventFilter(&eater);
+    spy->install();
+    QCoreApplication::sendEvent(&window, &event);
+    QCOMPARE(pressed.count(), 2);
     QCoreApplication::instance()->removeEventFilter(spy);
 }

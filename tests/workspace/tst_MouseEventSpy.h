@@ -9,11 +9,13 @@ class MouseEventSpyTest : public QObject
 private Q_SLOTS:
     void init();
     void windowEventsAreReportedOnce();
+    void doubleClickIsTwoPresses();
     void movesAreLimited();
     void lastMoveIsReported();
     void activityIsLimited();
     void touchCountsAsLeftButton();
     void idleIsReportedOncePerPeriod();
     void nothingRunsWithoutIdleLimit();
+    void idleTimeTicksForItsListeners();
     void installsOnceAndFirst();
 };

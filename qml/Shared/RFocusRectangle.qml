@@ -1,0 +1,15 @@
+import QtQuick
+import TambleClient.Control 1.0
+
+/*! Frame around the item that has the keyboard focus. */
+Rectangle {
+    id: root
+
+    property color ssBorderColor: root.RStyleSet.props.color("border")
+
+    anchors.fill: parent
+    color: "transparent"
+    border.width: theme.dp(1)
+    border.color: root.ssBorderColor
+    Accessible.ignored: true
+}
