@@ -14,9 +14,10 @@ QImage variantOrLessSpecific(const QString &folder, const QString &name)
     return {};
 }
 
+// Backslashes separate segments on some systems.
 bool leavesDirectory(const QStringList &segments)
 {
-    return segments.contains(QStringLiteral(".."));
+    return segments.contains(QStringLiteral("..")) || segments.join(u'/').contains(u'\\');
 }
 
 } // namespace
@@ -54,6 +55,8 @@ QImage ProductsControlImageProviderRule::image(const QString &id, const QSize &)
     if (!id.startsWith(QStringLiteral("products/")))
         return {};
     const QString product = id.section(u'/', 1, 1);
+    if (leavesDirectory({product}))
+        return {};
     for (const QString &directory : assetDirectories()) {
         const QImage image(directory + QStringLiteral("/products/") + product + QStringLiteral(".png"));
         if (!image.isNull())

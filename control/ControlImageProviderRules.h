@@ -10,8 +10,8 @@ namespace tamble::client {
 /// One way of finding the file behind an image id in a list of asset directories.
 ///
 /// A rule is immutable, so that image-loading threads may share it. Ids and requested sizes are the engine's; no rule
-/// scales, so the requested size is ignored. An id segment ".." finds nothing: product names come from devices on the
-/// network and must not lead out of the asset directories.
+/// scales, so the requested size is ignored. An id with a segment ".." or a backslash finds nothing: product names come
+/// from devices on the network and must not lead out of the asset directories.
 class TAMBLE_CLIENT_CONTROL_EXPORT ControlImageProviderRule
 {
 public:

@@ -89,6 +89,7 @@ void tst_ControlImageProvider::lookup_data()
     QTest::newRow("nothing found") << QStringList{"a.png"} << none << "ui/b" << 0;
     QTest::newRow("id leads out of the directory")
         << QStringList{"../a.png", "x/b.png", "Placeholder.png"} << none << "ui/x/../../a" << 3;
+    QTest::newRow("backslash") << QStringList{"products/a\\b.png", "Placeholder.png"} << none << "products/a\\b" << 2;
     QTest::newRow("zero byte") << placeholder << none << QString("ui/a") + QChar(u'\0') << 1;
     QTest::newRow("very long id") << placeholder << none << "ui/" + QString(5000, u'a') << 1;
 }
