@@ -1,3 +1,5 @@
+#include "tst_BuiltInSheets.h"
+#include "tst_ColourMetrics.h"
 #include "tst_StylePath.h"
 #include "tst_StyleResolver.h"
 #include "tst_StyleSheetParser.h"
@@ -13,8 +15,11 @@ int main(int argc, char **argv)
     tst_StyleValues styleValues;
     tst_StylePath stylePath;
     tst_StyleResolver styleResolver;
+    tst_ColourMetrics colourMetrics;
+    tst_BuiltInSheets builtInSheets;
     int failures = 0;
-    for (QObject *test : std::initializer_list<QObject *>{&styleSheetParser, &styleValues, &stylePath, &styleResolver})
+    for (QObject *test : std::initializer_list<QObject *>{&styleSheetParser, &styleValues, &stylePath, &styleResolver,
+                                                          &colourMetrics, &builtInSheets})
         failures += QTest::qExec(test, argc, argv);
     return failures;
 }
