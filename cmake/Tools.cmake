@@ -19,8 +19,10 @@ file(GLOB_RECURSE qml_files CONFIGURE_DEPENDS
 )
 
 if(TAMBLE_CLANG_FORMAT)
-    add_custom_target(format COMMAND ${TAMBLE_CLANG_FORMAT} -i ${cpp_files} VERBATIM)
-    add_custom_target(format-check COMMAND ${TAMBLE_CLANG_FORMAT} --dry-run --Werror ${cpp_files} VERBATIM)
+    add_custom_target(format COMMAND ${TAMBLE_CLANG_FORMAT} -i ${cpp_files} COMMENT "Formatting C++" VERBATIM)
+    add_custom_target(format-check COMMAND ${TAMBLE_CLANG_FORMAT} --dry-run --Werror ${cpp_files}
+        COMMENT "Checking the format of C++ files" VERBATIM
+    )
 endif()
 
 if(TAMBLE_RUN_CLANG_TIDY)
@@ -28,6 +30,7 @@ if(TAMBLE_RUN_CLANG_TIDY)
     add_custom_target(tidy
         COMMAND ${TAMBLE_RUN_CLANG_TIDY} -quiet -j 2 -p ${PROJECT_BINARY_DIR}
                 "${PROJECT_SOURCE_DIR}/(asset|control|gallery|libs)/.*\\.cpp$"
+        COMMENT "Analysing C++ files"
         VERBATIM
     )
     add_dependencies(tidy tambleclient-control)
@@ -35,7 +38,7 @@ endif()
 
 # qmlformat without -n: with it the members would be sorted alphabetically.
 find_program(TAMBLE_QMLFORMAT qmlformat PATHS /usr/lib/qt6/bin)
-add_custom_target(qml-format COMMAND ${TAMBLE_QMLFORMAT} -i ${qml_files} VERBATIM)
+add_custom_target(qml-format COMMAND ${TAMBLE_QMLFORMAT} -i ${qml_files} COMMENT "Formatting QML" VERBATIM)
 
 # Against the built modules, as a user's own tools see them; the gallery's files where their qmldir is, which names its
 # singletons.
@@ -55,6 +58,7 @@ add_custom_target(qml-lint
     COMMAND ${CMAKE_COMMAND} -D QMLLINT=${TAMBLE_QMLLINT}
             "-DARGUMENTS=-I;${PROJECT_BINARY_DIR}/qml;-I;${PROJECT_BINARY_DIR}/gallery" "-DFILES=${lint_files}"
             -P ${PROJECT_SOURCE_DIR}/cmake/QmlLint.cmake
+    COMMENT "Checking QML files"
     VERBATIM
 )
 add_dependencies(qml-lint tambleclient-control)

@@ -6,6 +6,8 @@ import TambleClient.Control 1.0
 T.AbstractButton {
     id: root
 
+    RStyleSet.typeName: "RButton"
+
     property bool selectable: false
     property bool selected: false
     /*! False while several devices differ in what the button stands for. */
