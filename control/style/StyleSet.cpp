@@ -10,19 +10,47 @@
 #include <QtCore/QVariantMap>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/private/qquickitem_p.h>
+#include <QtQuick/private/qquickitemchangelistener_p.h>
 
 namespace tamble::client {
+
+// Told of the item's new parents at a tenth of the memory of a connection.
+class StyleSet::ItemListener : public QQuickItemChangeListener
+{
+public:
+    ItemListener(StyleSet &styleSet, QQuickItem *item)
+        : m_styleSet(styleSet)
+        , m_item(item)
+    {
+        QQuickItemPrivate::get(m_item)->addItemChangeListener(this, Changes);
+    }
+
+    ~ItemListener() override
+    {
+        if (m_item)
+            QQuickItemPrivate::get(m_item)->removeItemChangeListener(this, Changes);
+    }
+
+    Q_DISABLE_COPY_MOVE(ItemListener)
+
+    /// Null while the item is being destroyed.
+    QQuickItem *item() const { return m_item; }
+
+    void itemParentChanged(QQuickItem *, QQuickItem *parent) override { m_styleSet.onParentChanged(parent); }
+    void itemDestroyed(QQuickItem *) override { m_item = nullptr; }
+
+private:
+    static constexpr QQuickItemPrivate::ChangeTypes Changes = QQuickItemPrivate::Parent | QQuickItemPrivate::Destroyed;
+
+    StyleSet &m_styleSet;
+    QQuickItem *m_item;
+};
 
 StyleSet::StyleSet(QObject *parent)
     : QObject(parent)
 {
     if (auto *item = qobject_cast<QQuickItem *>(parent)) {
-        connect(item, &QQuickItem::parentChanged, this, &StyleSet::onParentChanged);
-        // An item below unstyled ones hears nothing when one of these gets its parent, but of the window it does.
-        connect(item, &QQuickItem::windowChanged, this, [this, item](QQuickWindow *window) {
-            if (window)
-                onParentChanged(item->parentItem());
-        });
+        m_listener = std::make_unique<ItemListener>(*this, item);
     } else if (parent) {
         qCInfo(styleLog).noquote().nospace()
             << "INFO: Parent to StyleSet is not a QQuickItem but '" << parent->metaObject()->className() << "'";
@@ -106,7 +134,7 @@ StateHelper *StyleSet::stateHelper()
 const StylePathRef &StyleSet::stylePath()
 {
     if (!m_path)
-        m_path = makePath();
+        takePath(makePath());
     return m_path;
 }
 
@@ -121,8 +149,7 @@ bool StyleSet::isPlaced() const
 {
     if (m_path)
         return true;
-    auto *item = qobject_cast<QQuickItem *>(parent());
-    return !item || QQuickItemPrivate::get(item)->componentComplete;
+    return !m_listener || (m_listener->item() && QQuickItemPrivate::get(m_listener->item())->componentComplete);
 }
 
 void StyleSet::placeAnew()
@@ -132,7 +159,7 @@ void StyleSet::placeAnew()
     StylePathRef path = makePath();
     if (path == m_path)
         return;
-    m_path = std::move(path);
+    takePath(std::move(path));
     if (m_props)
         followProps();
     Q_EMIT propsChanged();
@@ -147,6 +174,20 @@ StylePathRef StyleSet::makePath() const
         return {};
     return StylePathPool::instance().child(pathOf(visualParent(parent())).get(), styleTypeName(parent(), m_typeName),
                                            m_name, m_state);
+}
+
+// An item below unstyled ones hears nothing when one of these gets its parent, but of the window it does.
+void StyleSet::takePath(StylePathRef path)
+{
+    m_path = std::move(path);
+    if (m_followsWindow || !m_listener || !m_listener->item() || isInScene(m_path.get()))
+        return;
+    m_followsWindow = true;
+    QQuickItem *item = m_listener->item();
+    connect(item, &QQuickItem::windowChanged, this, [this, item](QQuickWindow *window) {
+        if (window)
+            onParentChanged(item->parentItem());
+    });
 }
 
 void StyleSet::followProps()

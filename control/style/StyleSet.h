@@ -77,9 +77,12 @@ Q_SIGNALS:
     void stateChanged();
 
 private:
+    class ItemListener;
+
     bool isPlaced() const;
     void placeAnew();
     StylePathRef makePath() const;
+    void takePath(StylePathRef path);
     void followProps();
     void propagate();
 
@@ -89,7 +92,9 @@ private:
     StylePathRef m_path;                                // null until somebody needs it
     std::shared_ptr<UsageCountedStyleSetProps> m_props; // null until somebody reads a value
     QMetaObject::Connection m_propsConnection;
-    StateHelper *m_stateHelper = nullptr; // a child, made when it is first used
+    StateHelper *m_stateHelper = nullptr;     // a child, made when it is first used
+    std::unique_ptr<ItemListener> m_listener; // null when attached to another object than an item
+    bool m_followsWindow = false;
 };
 
 } // namespace tamble::client

@@ -39,12 +39,14 @@ StylePathRef pathOf(QObject *object)
                                            {});
 }
 
+bool isInScene(const StylePath *path)
+{
+    return path && path->outermost().typeName() == QLatin1String("QQuickRootItem");
+}
+
 bool isRooted(const StylePath *path)
 {
-    if (!path)
-        return false;
-    const QString &root = path->outermost().typeName();
-    return root == QLatin1String("QQuickRootItem") || root == QLatin1String("QQuickPopupItem");
+    return isInScene(path) || (path && path->outermost().typeName() == QLatin1String("QQuickPopupItem"));
 }
 
 void collectNearestStyleSets(const QObject *object, QList<QPointer<StyleSet>> &found)

@@ -27,6 +27,9 @@ QString styleTypeName(const QObject *object, const QString &typeName);
 /// The path of `object`, styled or not; null for no object.
 StylePathRef pathOf(QObject *object);
 
+/// Whether a path begins in the scene of a window.
+bool isInScene(const StylePath *path);
+
 /// Whether a path begins in a scene or in a popup, rather than at an item that is not in one yet.
 bool isRooted(const StylePath *path);
 
