@@ -3,8 +3,9 @@
 #include "style/RulePrinter.h"
 #include "style/StyleResolver.h"
 
+#include <boost/range/adaptor/reversed.hpp>
+
 #include <algorithm>
-#include <ranges>
 #include <string>
 
 namespace tamble::client {
@@ -22,7 +23,7 @@ QString styleInfoText(const StyleSheet &sheet, const StylePath &path)
         return {};
     std::string text = "Style info for path " + path.text().toStdString() + '\n';
     const std::vector<StyleMatch> matches = StyleResolver(sheet).matches(path);
-    for (const StyleMatch &match : matches | std::views::reverse) {
+    for (const StyleMatch &match : boost::adaptors::reverse(matches)) {
         std::string rule = "// specificity: " + match.specificity.text() + '\n' + ruleText(sheet, match.node);
         if (!rule.ends_with('\n'))
             rule += '\n';

@@ -60,8 +60,8 @@ void StyleMatcher::match(const MatchElement &innermost, std::vector<StyleMatch> 
     matches.clear();
     m_candidates.clear();
     matchWords({SelectorTree::Root, &innermost, {}, 1}, SelectorTree::Root, innermost);
-    for (std::size_t i = 0; i < m_candidates.size(); ++i) {
-        const Candidate candidate = m_candidates[i]; // a copy: the list grows meanwhile
+    for (std::size_t i = 0; i < m_candidates.size(); ++i) { // NOLINT(modernize-loop-convert): the list grows meanwhile
+        const Candidate candidate = m_candidates[i];
         continueFrom(candidate, matches);
     }
 }

@@ -4,7 +4,8 @@
 
 #include <QtCore/QHashFunctions>
 
-#include <ranges>
+#include <boost/range/adaptor/reversed.hpp>
+
 #include <utility>
 
 namespace tamble::client {
@@ -26,7 +27,7 @@ const ResolvedMap &StyleResolver::resolve(const StylePath &path)
     std::vector<const StylePath *> missing; // instead of a recursion: a path may have hundreds of elements
     for (const StylePath *step = &path; step && !m_entries.contains(step); step = step->parent())
         missing.push_back(step);
-    for (const StylePath *step : missing | std::views::reverse)
+    for (const StylePath *step : boost::adaptors::reverse(missing))
         addEntry(*step);
     return *m_entries.at(&path).map;
 }
