@@ -351,3 +351,15 @@ void tst_StyleEngine::fontFaces()
     QCOMPARE(box.props().font("face").pixelSize(), 14);
     QVERIFY(box.props().font("face").bold());
 }
+
+void tst_StyleEngine::objectsThatAreNoItems()
+{
+    StyleFixture fixture;
+    fixture.load("Box QObject { a: 1 }");
+    StyledBox box;
+    QObject object(&box);
+    const StyleSet styleSet(&object);
+    QCOMPARE(fixture.types, QStringList("noParentChangeReports"));
+    QCOMPARE(fixture.messages, QStringList("Hierarchy changes for this component won't be detected"));
+    QCOMPARE(StyleSet(&object).props()->number("a"), 1.0); // placed by its object's parent
+}

@@ -25,4 +25,5 @@ private Q_SLOTS:
     void unconvertibleValuesAreLoggedOnce();
     void missingKeyReports();
     void fontFaces();
+    void objectsThatAreNoItems();
 };
