@@ -30,7 +30,6 @@ void StyleEngineSetup::setStylePath(const QUrl &url)
 {
     if (stylePath() == url)
         return;
-    m_localDirectory = localStylePath(url, this);
     m_directory.setStylePath(url);
     update();
 }
@@ -86,10 +85,11 @@ void StyleEngineSetup::onFileChanged(const QString &)
 
 void StyleEngineSetup::update()
 {
-    if (m_localDirectory.isEmpty())
+    const QString directory = localStylePath(stylePath(), this);
+    if (directory.isEmpty())
         return;
-    const auto fileUrl = [this](const QString &name) {
-        const QString path = QDir(m_localDirectory).filePath(name);
+    const auto fileUrl = [&directory](const QString &name) {
+        const QString path = QDir(directory).filePath(name);
         return !name.isEmpty() && QFileInfo(path).isFile() ? QUrl::fromLocalFile(path) : QUrl();
     };
     const QUrl userSheet = fileUrl(m_styleName);

@@ -81,7 +81,6 @@ private:
 
     StylesDirWatcher m_directory{this};
     SheetFileWatcher m_files;
-    QString m_localDirectory;
     QString m_styleName;
     QString m_defaultStyleName;
     QUrl m_styleSheetSource;
