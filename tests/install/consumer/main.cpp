@@ -7,6 +7,7 @@
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 #include <tambleclient-common/DoubleValueConverter.h>
+#include <tamblecommon-math/FilterAlgorithm.h>
 #include <tamblecommon-math/ScaleMappings.h>
 
 #include <memory>
@@ -24,8 +25,13 @@ int main(int argc, char **argv)
     const std::unique_ptr<QObject> object(component.create());
     const auto *meter = qobject_cast<tamble::client::RMeterBase *>(object.get());
     const tamble::client::DoubleValueConverter converter;
+    tamble::common::XOverFilter crossover;
+    tamble::common::BodePlotCalculation response;
+    response.items = {&crossover};
+    tamble::common::FilterAlgorithm::calculateBodePlotLogarithmic(response, false, 0);
     const bool works = meter && meter->getValue() == 0 && converter.toText(1.0) == QStringLiteral("1.0") &&
-                       tamble::common::lin2lin(5, 0, 10, 0, 1) == 0.5;
+                       tamble::common::lin2lin(5, 0, 10, 0, 1) == 0.5 &&
+                       response.results.aggregated.magnitude == std::vector<double>(4096, 0.0);
     if (!works)
         qWarning("%s", qPrintable(component.errorString()));
     return works ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -1,0 +1,175 @@
+#include <tamblecommon-math/FilterAlgorithm.h>
+
+#include <QFile>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+using namespace tamble::common;
+
+namespace {
+
+using Fields = QList<QByteArray>;
+
+double real(const Fields &fields, qsizetype i)
+{
+    return fields.at(i).toDouble();
+}
+
+int integer(const Fields &fields, qsizetype i)
+{
+    return fields.at(i).toInt();
+}
+
+std::unique_ptr<CalculationItem> eqRecord(const Fields &fields)
+{
+    auto filter = std::make_unique<EqFilter>();
+    filter->type = integer(fields, 2);
+    filter->freq = real(fields, 3);
+    filter->gain = real(fields, 4);
+    filter->quality = real(fields, 5);
+    filter->slope = integer(fields, 6);
+    return filter;
+}
+
+std::unique_ptr<CalculationItem> asymmetricRecord(const Fields &fields)
+{
+    auto filter = std::make_unique<AsymmetricEqFilter>();
+    filter->freq = real(fields, 2);
+    filter->gain = real(fields, 3);
+    filter->quality = real(fields, 4);
+    filter->freq2 = real(fields, 5);
+    filter->quality2 = real(fields, 6);
+    return filter;
+}
+
+std::unique_ptr<CalculationItem> crossoverRecord(const Fields &fields)
+{
+    auto filter = std::make_unique<XOverFilter>();
+    filter->type = integer(fields, 2);
+    filter->freq = real(fields, 3);
+    filter->category = integer(fields, 4);
+    return filter;
+}
+
+std::unique_ptr<CalculationItem> listRecord(const Fields &fields)
+{
+    auto filter = std::make_unique<FIRFilter>();
+    if (fields.at(2) == "scattered") {
+        filter->coefficients.resize(300);
+        for (int m = 0; m < 300; ++m)
+            filter->coefficients[std::size_t(m)] = ((m * 7919 + 13) % 2003 - 1001) / 65536.0;
+    } else {
+        filter->coefficients.assign(32, std::ldexp(1.0, -31));
+        for (std::size_t m = 1; m < 32; ++m)
+            filter->coefficients[m] = filter->coefficients[m - 1] * double(32 - m) / double(m);
+    }
+    return filter;
+}
+
+std::unique_ptr<CalculationItem> designRecord(const Fields &fields)
+{
+    auto filter = std::make_unique<FIRFilter>();
+    filter->type = integer(fields, 2);
+    filter->order = integer(fields, 3);
+    filter->freqHP = real(fields, 4);
+    filter->freqLP = real(fields, 5);
+    filter->slope = integer(fields, 6);
+    return filter;
+}
+
+std::unique_ptr<CalculationItem> makeRecord(const Fields &fields)
+{
+    if (fields.first() == "eq")
+        return eqRecord(fields);
+    if (fields.first() == "asymmetric")
+        return asymmetricRecord(fields);
+    if (fields.first() == "crossover")
+        return crossoverRecord(fields);
+    return fields.first() == "list" ? listRecord(fields) : designRecord(fields);
+}
+
+QList<double> numbers(const QByteArray &text)
+{
+    QList<double> result;
+    for (const QByteArray &word : text.trimmed().split(' '))
+        result.append(word.toDouble());
+    return result;
+}
+
+} // namespace
+
+// Against responses to 50 digits, which tests/data/filter/make_responses.py finds in another way.
+class tst_FilterResponseReference : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyType_data();
+    void everyType();
+    void cleanupTestCase();
+
+private:
+    double m_worstLevel = 0;
+    double m_worstPhase = 0;
+};
+
+void tst_FilterResponseReference::everyType_data()
+{
+    QTest::addColumn<QByteArray>("record");
+    QTest::addColumn<QList<double>>("levels");
+    QTest::addColumn<QList<double>>("phases");
+
+    QFile file(QStringLiteral(TAMBLE_TEST_DATA "/filter/responses.txt"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine();
+        const QList<QByteArray> parts = line.split('|');
+        if (parts.size() == 3)
+            QTest::newRow(parts.first().constData()) << parts.at(0) << numbers(parts.at(1)) << numbers(parts.at(2));
+    }
+}
+
+void tst_FilterResponseReference::everyType()
+{
+    QFETCH(QByteArray, record);
+    QFETCH(QList<double>, levels);
+    QFETCH(QList<double>, phases);
+    const Fields fields = record.simplified().split(' ');
+
+    const auto filter = makeRecord(fields);
+    BodePlotCalculation block;
+    block.sampleRate = real(fields, 1);
+    block.lowestFrequency = real(fields, fields.size() - 2);
+    block.highestFrequency = real(fields, fields.size() - 1);
+    block.resolution = int(levels.size());
+    block.items = {filter.get()};
+    FilterAlgorithm::calculateBodePlotLogarithmic(block, false, 0);
+
+    const FilterResponse &curve = block.results.items.front();
+    for (qsizetype i = 0; i < levels.size(); ++i) {
+        const double level = curve.magnitude[std::size_t(i)];
+        const double phase = curve.phase[std::size_t(i)];
+        if (levels.at(i) < -120) {
+            QVERIFY2(level < -119.9, qPrintable(QStringLiteral("point %1: %2 dB").arg(i).arg(level)));
+            continue;
+        }
+        const double levelError = std::abs(level - levels.at(i));
+        const double phaseError = std::abs(std::remainder(phase - phases.at(i), 360.0));
+        QVERIFY2(levelError < 1e-6 && phaseError < 1e-6,
+                 qPrintable(QStringLiteral("point %1: %2 dB, %3 degrees").arg(i).arg(level).arg(phase)));
+        m_worstLevel = std::max(m_worstLevel, levelError);
+        m_worstPhase = std::max(m_worstPhase, phaseError);
+    }
+}
+
+void tst_FilterResponseReference::cleanupTestCase()
+{
+    qInfo("worst differences: %.2g dB, %.2g degrees", m_worstLevel, m_worstPhase);
+}
+
+QTEST_APPLESS_MAIN(tst_FilterResponseReference)
+
+#include "tst_FilterResponseReference.moc"
