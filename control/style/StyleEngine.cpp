@@ -65,7 +65,7 @@ void StyleEngine::install(StyleSheet &&sheet)
     m_resolver = std::make_unique<StyleResolver>(*m_sheet);
     const auto props = m_props; // a listener may make new ones
     for (const auto &shared : props)
-        Q_EMIT shared->propsChanged();
+        shared->announceChange();
 }
 
 void StyleEngine::loadFonts(const StyleSheet &sheet)

@@ -192,10 +192,9 @@ void StyleSet::takePath(StylePathRef path)
 
 void StyleSet::followProps()
 {
-    if (m_props)
-        disconnect(m_propsConnection);
+    unlink();
     m_props = StyleEngine::instance()->propsFor(stylePath());
-    m_propsConnection = connect(m_props.get(), &StyleSetProps::propsChanged, this, &StyleSet::propsChanged);
+    m_props->addUser(*this);
 }
 
 // Handlers of one descendant's change may destroy or move another.

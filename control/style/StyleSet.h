@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ControlExport.h"
+#include "style/PropsUser.h"
 #include "style/StateHelper.h"
 #include "style/StylePath.h"
 #include "style/StyleSetProps.h"
@@ -22,7 +23,7 @@ class UsageCountedStyleSetProps;
 ///
 /// While a QML component is being built, its items are not where they will be; the path is made when somebody first
 /// needs it.
-class TAMBLE_CLIENT_CONTROL_EXPORT StyleSet : public QObject
+class TAMBLE_CLIENT_CONTROL_EXPORT StyleSet : public QObject, private PropsUser
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RStyleSet)
@@ -84,6 +85,7 @@ private:
     StylePathRef makePath() const;
     void takePath(StylePathRef path);
     void followProps();
+    void onPropsChanged() override { Q_EMIT propsChanged(); }
     void propagate();
 
     QString m_name;
@@ -91,9 +93,8 @@ private:
     QString m_state;
     StylePathRef m_path;                                // null until somebody needs it
     std::shared_ptr<UsageCountedStyleSetProps> m_props; // null until somebody reads a value
-    QMetaObject::Connection m_propsConnection;
-    StateHelper *m_stateHelper = nullptr;     // a child, made when it is first used
-    std::unique_ptr<ItemListener> m_listener; // null when attached to another object than an item
+    StateHelper *m_stateHelper = nullptr;               // a child, made when it is first used
+    std::unique_ptr<ItemListener> m_listener;           // null when attached to another object than an item
     bool m_followsWindow = false;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "style/PropsUser.h"
 #include "style/StyleSetProps.h"
 
 #include <set>
@@ -15,6 +16,10 @@ class TAMBLE_CLIENT_CONTROL_EXPORT UsageCountedStyleSetProps : public StyleSetPr
 public:
     using StyleSetProps::StyleSetProps;
 
+    void addUser(PropsUser &user) { m_users.push_back(user); }
+    /// Tells the users and whoever listens to propsChanged().
+    void announceChange();
+
     /// In alphabetical order, since the values were last invalidated.
     const std::set<QString> &missingKeys() const { return m_missingKeys; }
 
@@ -24,6 +29,7 @@ protected:
     void noteMissing(const QString &key) override;
 
 private:
+    PropsUserList m_users;
     std::set<QString> m_missingKeys;
 };
 
