@@ -12,12 +12,18 @@
 #include "bodeplot/RBodeplotXOverFilter.h"
 #include "bodeplot/RLimiterCurve.h"
 #include "bodeplot/RSimpleCurve.h"
+#include "button/RButtonBase.h"
+#include "decoration/RControlBackground.h"
+#include "decoration/RTintedImage.h"
 #include "dynamics/AGCCalculator.h"
 #include "dynamics/ANCCalculator.h"
 #include "dynamics/CompressorCalculator.h"
 #include "dynamics/DuckerCalculator.h"
 #include "dynamics/LimiterCalculator.h"
 #include "dynamics/NoiseGateCalculator.h"
+#include "dynamics/RPlotRules.h"
+#include "fader/RFaderBase.h"
+#include "fader/RTransferTable.h"
 #include "input/RMessageBox.h"
 #include "input/RScreen.h"
 #include "input/RSortFilterProxyModel.h"
@@ -27,6 +33,8 @@
 #include "input/RTextFieldIntValidator.h"
 #include "input/RTextFieldIpAddressValidator.h"
 #include "input/RTextFieldPinValidator.h"
+#include "label/RLabelBase.h"
+#include "meter/RMeterBar.h"
 #include "meter/RMeterBase.h"
 #include "plot/GraphPlotter.h"
 #include "plot/LineCalculator.h"
@@ -95,13 +103,21 @@ public:
     template <typename T>
     void enumNamespace(const char *name) const
     {
+        // Compiled QML looks the holder up by its pointer type, which that registration leaves out.
+        qRegisterMetaType<T *>();
         qmlRegisterUncreatableMetaObject(T::staticMetaObject, m_uri, MajorVersion, MinorVersion, name, QString());
+    }
+
+    /// Gives native types that derive from one of Qt's the properties that its later versions brought.
+    template <typename T>
+    void withLaterProperties() const
+    {
+        qmlRegisterRevision<T, 0>(m_uri, MajorVersion, MinorVersion);
     }
 
     void composite(const char *folder, const char *name, const char *file) const
     {
-        const QUrl url(QStringLiteral("qrc:/qml/%1/%2.qml").arg(QLatin1String(folder), QLatin1String(file)));
-        qmlRegisterType(url, m_uri, MajorVersion, MinorVersion, name);
+        qmlRegisterType(fileUrl(folder, file), m_uri, MajorVersion, MinorVersion, name);
     }
 
     void composites(const char *folder, std::initializer_list<const char *> names) const
@@ -117,9 +133,34 @@ public:
             composite(name, name, name);
     }
 
+    template <typename T>
+    void nativeSingleton(const char *name) const
+    {
+        qmlRegisterSingletonType<T>(m_uri, MajorVersion, MinorVersion, name,
+                                    [](QQmlEngine *, QJSEngine *) -> QObject * { return new T; });
+    }
+
+    void singletons(const char *folder, std::initializer_list<const char *> names) const
+    {
+        for (const char *name : names)
+            qmlRegisterSingletonType(fileUrl(folder, name), m_uri, MajorVersion, MinorVersion, name);
+    }
+
+    template <typename T>
+    void singleton(const char *name) const
+    {
+        qmlRegisterSingletonType<T>(m_uri, MajorVersion, MinorVersion, name,
+                                    [](QQmlEngine *, QJSEngine *) -> QObject * { return new T; });
+    }
+
     const char *uri() const { return m_uri; }
 
 private:
+    static QUrl fileUrl(const char *folder, const char *file)
+    {
+        return QUrl(QStringLiteral("qrc:/qml/%1/%2.qml").arg(QLatin1String(folder), QLatin1String(file)));
+    }
+
     const char *m_uri;
 };
 
@@ -270,6 +311,22 @@ void registerInputHelpers(const Registrar &registrar)
     registrar.composites({"RViewContainer", "RLoadingAnimation"});
 }
 
+// What the module's own components share. Not for clients: names and properties may change.
+void registerInternals(const Registrar &registrar)
+{
+    registrar.creatable<RButtonBase>("RButtonBase");
+    registrar.creatable<RControlBackground>("RControlBackground");
+    registrar.creatable<RFaderBase>("RFaderBase");
+    registrar.creatable<RMeterBar>("RMeterBar");
+    registrar.creatable<RLabelBase>("RLabelBase");
+    registrar.withLaterProperties<QQuickText>();
+    registrar.withLaterProperties<QQuickLabel>();
+    registrar.singleton<RPlotRules>("RPlotRules");
+    registrar.creatable<RTintedImage>("RTintedImage");
+    registrar.nativeSingleton<RTransferTable>("RTransferTable");
+    registrar.singletons("Shared", {"RThemeValues"});
+}
+
 } // namespace
 
 void registerCatalogue(const char *uri)
@@ -286,6 +343,7 @@ void registerCatalogue(const char *uri)
     registerStyle(registrar);
     registerWorkspace(registrar);
     registerInputHelpers(registrar);
+    registerInternals(registrar);
 }
 
 } // namespace tamble::client

@@ -5,9 +5,9 @@ import TambleClient.Control 1.0
 Text {
     id: root
 
-    color: root.RStyleSet.props.color("foreground")
-    font.family: theme.fontFamily
-    font.pixelSize: theme.fontSizeM
-    renderType: theme.nativeRendering ? Text.NativeRendering : Text.QtRendering
+    color: root.RStyleSet.props.foreground
+    font.family: RThemeValues.fontFamily
+    font.pixelSize: RThemeValues.fontSizeM
+    renderType: RThemeValues.renderType
     textFormat: Text.PlainText
 }

@@ -5,11 +5,11 @@ import TambleClient.Control 1.0
 Rectangle {
     id: root
 
-    property color ssBorderColor: root.RStyleSet.props.color("border")
+    property color ssBorderColor: root.RStyleSet.props.border
 
     anchors.fill: parent
     color: "transparent"
-    border.width: theme.dp(1)
+    border.width: RThemeValues.unit
     border.color: root.ssBorderColor
     Accessible.ignored: true
 }

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "ControlExport.h"
+
+#include <QtQml/qqmlregistration.h>
+#include <QtQuickTemplates2/private/qquickabstractbutton_p.h>
+
+namespace tamble::client {
+
+/// The behaviour of all buttons: selection, which is not the template's check state, "mixed", Enter, mnemonics, and
+/// what assistive tools are told.
+class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton
+{
+    Q_OBJECT
+    QML_NAMED_ELEMENT(RButtonBase)
+    Q_PROPERTY(bool selectable READ isSelectable WRITE setSelectable NOTIFY selectableChanged FINAL)
+    Q_PROPERTY(bool selected READ isSelected WRITE setSelected NOTIFY selectedChanged FINAL)
+    Q_PROPERTY(bool consistent READ isConsistent WRITE setConsistent NOTIFY consistentChanged FINAL)
+    Q_PROPERTY(bool useCustomEvent MEMBER m_useCustomEvent NOTIFY useCustomEventChanged FINAL)
+    Q_PROPERTY(bool enterClicks MEMBER m_enterClicks NOTIFY enterClicksChanged FINAL)
+    Q_PROPERTY(QString plainText READ plainText NOTIFY plainTextChanged FINAL)
+
+public:
+    explicit RButtonBase(QQuickItem *parent = nullptr);
+
+    /// Whether a click turns `selected` over, showing the edit for 300 ms before a bound value counts again; false by
+    /// default.
+    bool isSelectable() const { return m_selectable; }
+    void setSelectable(bool selectable);
+    bool isSelected() const { return m_selected; }
+    void setSelected(bool selected);
+    /// False while several devices differ in what the button stands for ("mixed"); true by default.
+    bool isConsistent() const { return m_consistent; }
+    void setConsistent(bool consistent);
+    /// `text` without the mark of its mnemonic.
+    QString plainText() const;
+
+Q_SIGNALS:
+    void selectableChanged();
+    void selectedChanged();
+    void consistentChanged();
+    void useCustomEventChanged();
+    void enterClicksChanged();
+    void plainTextChanged();
+    /// A click has edited the selection; sent before clicked().
+    void selectionEdited(bool selected);
+    /// Enter was released while `useCustomEvent` is set; no clicked() is sent then.
+    void customEventActivated();
+
+protected:
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void nextCheckState() override;
+    void buttonChange(ButtonChange change) override;
+    void accessibilityActiveChanged(bool active) override;
+
+private:
+    void tellAssistiveTools();
+    void warnAboutMissingName() const;
+    void editSelection();
+
+    QObject *m_selectionEdit = nullptr; // a child, made at the first click that edits
+    bool m_selectable = false;
+    bool m_selected = false;
+    bool m_consistent = true;
+    bool m_useCustomEvent = false;
+    bool m_enterClicks = true; // whether releasing Enter clicks
+};
+
+} // namespace tamble::client

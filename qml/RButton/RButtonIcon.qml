@@ -1,0 +1,18 @@
+import QtQuick
+import TambleClient.Control 1.0
+import "../Shared"
+
+/*! Button with an icon; `label` is its name for assistive tools. */
+RStyledButton {
+    id: root
+
+    property alias iconItem: icon
+
+    contentItem: Item { // qmllint disable deferred-property-id
+        RIcon {
+            id: icon
+            anchors.centerIn: parent
+            ssIconForeground: root.ssColor
+        }
+    }
+}

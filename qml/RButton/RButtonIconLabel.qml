@@ -1,0 +1,40 @@
+import QtQuick
+import TambleClient.Control 1.0
+import "../Shared"
+
+/*! Button that shows either its text or its icon. */
+RStyledButton {
+    id: root
+
+    property bool showIcon: false
+
+    property alias iconItem: icon
+    property alias textColor: textItem.color
+    property alias horizontalAlignment: textItem.horizontalAlignment
+    property alias elide: textItem.elide
+    property alias fontSize: textItem.font.pixelSize
+    property alias fontSizeMode: textItem.fontSizeMode
+    property alias minimumPixelSize: textItem.minimumPixelSize
+    property alias wrapMode: textItem.wrapMode
+
+    contentItem: Item { // qmllint disable deferred-property-id
+        RIcon {
+            id: icon
+            anchors.centerIn: parent
+            visible: root.showIcon
+            ssIconForeground: root.ssColor
+        }
+        RText {
+            id: textItem
+            anchors.fill: parent
+            leftPadding: 4 * RThemeValues.unit
+            rightPadding: 4 * RThemeValues.unit
+            visible: !root.showIcon
+            text: root.plainText
+            color: root.ssColor
+            elide: Text.ElideRight
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+        }
+    }
+}

@@ -1,0 +1,41 @@
+import QtQuick
+import TambleClient.Control 1.0
+import "../Shared"
+
+/*! Button with an icon and its text beside it. Without an icon the text has the whole width. */
+RStyledButton {
+    id: root
+
+    property alias iconItem: icon
+    property alias txt: textItem
+    property alias textColor: textItem.color
+    property alias horizontalAlignment: textItem.horizontalAlignment
+    property alias elide: textItem.elide
+    property alias fontSize: textItem.font.pixelSize
+
+    contentItem: Item { // qmllint disable deferred-property-id
+        RIcon {
+            id: icon
+
+            readonly property bool shown: icon.source.toString().length > 0
+            readonly property real space: icon.shown ? icon.width + 4 * RThemeValues.unit : 0
+
+            x: root.mirrored ? parent.width - icon.space : 4 * RThemeValues.unit
+            y: (parent.height - icon.height) / 2
+            ssIconForeground: root.ssColor
+        }
+        RText {
+            id: textItem
+            x: root.mirrored ? 0 : icon.space
+            width: parent.width - icon.space
+            height: parent.height
+            leftPadding: 4 * RThemeValues.unit
+            rightPadding: 4 * RThemeValues.unit
+            text: root.plainText
+            color: root.ssColor
+            elide: Text.ElideRight
+            horizontalAlignment: !icon.shown ? Text.AlignHCenter : root.mirrored ? Text.AlignRight : Text.AlignLeft
+            verticalAlignment: Text.AlignVCenter
+        }
+    }
+}

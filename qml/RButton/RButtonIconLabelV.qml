@@ -1,0 +1,38 @@
+import QtQuick
+import TambleClient.Control 1.0
+import "../Shared"
+
+/*! Tall button with an icon above its text. */
+RStyledButton {
+    id: root
+
+    property alias iconItem: icon
+    property alias txt: textItem
+    property alias textColor: textItem.color
+    property alias horizontalAlignment: textItem.horizontalAlignment
+    property alias elide: textItem.elide
+    property alias fontSize: textItem.font.pixelSize
+
+    implicitHeight: 64 * RThemeValues.unit
+    backgroundRect.lineInset: backgroundRect.border.width
+
+    contentItem: Item { // qmllint disable deferred-property-id
+        RIcon {
+            id: icon
+            x: (parent.width - icon.width) / 2
+            y: (textItem.y - icon.height) / 2
+            ssIconForeground: root.ssColor
+        }
+        RText {
+            id: textItem
+            y: parent.height - textItem.height - 4 * RThemeValues.unit
+            width: parent.width
+            leftPadding: 4 * RThemeValues.unit
+            rightPadding: 4 * RThemeValues.unit
+            text: root.plainText
+            color: root.ssColor
+            elide: Text.ElideRight
+            horizontalAlignment: Text.AlignHCenter
+        }
+    }
+}

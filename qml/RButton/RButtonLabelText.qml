@@ -1,0 +1,49 @@
+import QtQuick
+import TambleClient.Control 1.0
+import "../Shared"
+
+/*! Tall button with a caption above its text, such as a parameter's name above its value. */
+RStyledButton {
+    id: root
+
+    property string textSub: ""
+
+    property alias labelSub: root.textSub
+    property alias txt: textItem
+    property alias txtSub: subTextItem
+    property alias textColor: textItem.color
+    property alias horizontalAlignment: textItem.horizontalAlignment
+    property alias elide: textItem.elide
+    property alias fontSize: textItem.font.pixelSize
+
+    property color ssLabelColor: root.RStyleSet.props.label
+
+    implicitHeight: 64 * RThemeValues.unit
+
+    contentItem: Item { // qmllint disable deferred-property-id
+        RText {
+            id: textItem
+            y: 4 * RThemeValues.unit
+            width: parent.width
+            leftPadding: 4 * RThemeValues.unit
+            rightPadding: 4 * RThemeValues.unit
+            text: root.plainText
+            color: root.ssLabelColor
+            elide: Text.ElideRight
+            horizontalAlignment: Text.AlignHCenter
+        }
+        RText {
+            id: subTextItem
+            y: textItem.y + textItem.height
+            width: parent.width
+            height: parent.height - subTextItem.y
+            leftPadding: 4 * RThemeValues.unit
+            rightPadding: 4 * RThemeValues.unit
+            text: root.textSub
+            color: root.ssColor
+            elide: textItem.elide
+            horizontalAlignment: textItem.horizontalAlignment
+            verticalAlignment: Text.AlignVCenter
+        }
+    }
+}

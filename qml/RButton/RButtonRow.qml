@@ -1,0 +1,7 @@
+import QtQuick
+import TambleClient.Control 1.0
+
+/*! Buttons side by side. */
+Row {
+    spacing: RThemeValues.unit
+}

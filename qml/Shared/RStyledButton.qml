@@ -1,0 +1,41 @@
+import QtQuick
+import TambleClient.Control 1.0
+
+/*! What all buttons have in common: states, style, size, focus frame, line and the selection. A button of its own look
+    is this with a content item. */
+RButtonBase {
+    id: root
+
+    RStyleSet.typeName: "RButton"
+
+    property alias label: root.text
+    property alias backgroundRect: back
+    property alias line: back.line
+
+    property color ssBackground: root.RStyleSet.props.background
+    property color ssColor: root.RStyleSet.props.foreground
+    property color ssLineColor: root.RStyleSet.props.line
+    property bool ssLineVisible: root.RStyleSet.props.lineVisible
+
+    RStyleSet.stateHelper.hovered: root.hovered
+    RStyleSet.stateHelper.pressed: root.down
+    RStyleSet.stateHelper.disabled: !root.enabled
+    RStyleSet.stateHelper.selected: root.selected
+    RStyleSet.stateHelper.inconsistent: !root.consistent
+    RStyleSet.stateHelper.focus: root.activeFocus
+
+    implicitWidth: 144 * RThemeValues.unit
+    implicitHeight: 32 * RThemeValues.unit
+    hoverEnabled: RThemeValues.hoverEnabled
+    focusPolicy: Qt.StrongFocus
+
+    background: RControlBackground { // qmllint disable deferred-property-id
+        id: back
+        color: root.ssBackground
+        lineColor: root.ssLineColor
+        // A button that stands on its side has its line at its outer edge, one at any other angle has none.
+        lineVisible: root.ssLineVisible && (root.rotation === 0 || root.rotation === 90 || root.rotation === -90)
+        lineEdge: root.rotation === 0 ? Qt.BottomEdge : Qt.LeftEdge
+        focusVisible: root.activeFocus
+    }
+}

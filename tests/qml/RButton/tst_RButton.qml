@@ -1,0 +1,219 @@
+import QtQuick
+import QtTest
+import TambleClient.Control 1.0
+import "../Support"
+
+ThemedTestCase {
+    id: root
+    name: "RButton"
+
+    readonly property var variants: ["RButton", "RButtonIcon", "RButtonIconLabel", "RButtonIconLabelH",
+        "RButtonIconLabelV", "RButtonLabelText", "RButtonSwitch", "RInconsistentButton"]
+
+    Component {
+        id: spyComponent
+        SignalSpy {}
+    }
+
+    function cleanup() {
+        root.sheet = "dark"
+    }
+
+    function make(body: string): Item {
+        return createTemporaryQmlObject("import QtQuick\nimport TambleClient.Control 1.0\n" + body, root)
+    }
+
+    function spyOn(target: QtObject, signalName: string): SignalSpy {
+        return createTemporaryObject(spyComponent, root, { target: target, signalName: signalName })
+    }
+
+    function variantRows(): list<var> {
+        return root.variants.map(name => ({ tag: name, type: name }))
+    }
+
+    function test_size_data() {
+        return [
+            { tag: "RButton", width: 144, height: 32 },
+            { tag: "RButtonIcon", width: 144, height: 32 },
+            { tag: "RButtonIconLabel", width: 144, height: 32 },
+            { tag: "RButtonIconLabelH", width: 144, height: 32 },
+            { tag: "RButtonIconLabelV", width: 144, height: 64 },
+            { tag: "RButtonLabelText", width: 144, height: 64 },
+            { tag: "RButtonSwitch", width: 36, height: 32 },
+        ]
+    }
+    function test_size(data) {
+        const button = make(data.tag + " {}")
+        compare([button.width, button.height], [data.width, data.height])
+        theme.setDpZoomFactor(2)
+        compare([button.width, button.height], [2 * data.width, 2 * data.height])
+        theme.setDpZoomFactor(0)
+    }
+
+    function test_states_data() {
+        return [
+            { tag: "plain", type: "RButton", body: "", states: "" },
+            { tag: "disabled and selected", type: "RButton", body: "enabled: false; selected: true", states: "disabled selected " },
+            { tag: "mixed masks selected", type: "RButton", body: "selected: true; consistent: false", states: "inconsistent " },
+            { tag: "variants do not mask it", type: "RButtonIcon", body: "selected: true; consistent: false", states: "selected inconsistent " },
+            { tag: "active", type: "RButton", body: "active: true", states: "active " },
+            { tag: "down", type: "RButton", body: "down: true", states: "pressed " },
+            { tag: "a page's own state", type: "RButton", body: "RStyleSet.stateHelper.disabled: true", states: "disabled " },
+        ]
+    }
+    function test_states(data) {
+        compare(make(data.type + " {" + data.body + "}").RStyleSet.state, data.states)
+    }
+
+    function test_coloursFollowSheetAndState() {
+        const button = make("RButton { text: 'Level' }")
+        compare(button.background.color, "#505050")
+        compare(button.textColor, "#efefef")
+        button.enabled = false
+        compare(button.textColor, "#8c8c8c")
+        button.enabled = true
+        button.selected = true
+        compare(button.line.visible, true)
+        compare(button.line.height, 4)
+        root.sheet = "light"
+        button.selected = false
+        compare(button.background.color, "#a0a0a0")
+        compare(button.line.visible, false)
+    }
+
+    // A handler of one button's change looks at another one: neither may still wear the other theme.
+    function test_noButtonSeesTwoThemes() {
+        const first = make("RButton {}")
+        const second = make("RButton {}")
+        const seen = []
+        const record = () => seen.push(first.RStyleSet.props.color("background") + " " + second.RStyleSet.props.color("background"))
+        first.ssBackgroundChanged.connect(record)
+        second.ssBackgroundChanged.connect(record)
+        root.sheet = "light"
+        compare(seen, ["#a0a0a0 #a0a0a0", "#a0a0a0 #a0a0a0"])
+    }
+
+    function test_lineOfRotatedButtons_data() {
+        return [
+            { tag: "upright", rotation: 0, visible: true, size: [144, 4] },
+            { tag: "to the right", rotation: 90, visible: true, size: [4, 32] },
+            { tag: "to the left", rotation: -90, visible: true, size: [4, 32] },
+            { tag: "askew", rotation: 45, visible: false, size: [4, 32] },
+        ]
+    }
+    function test_lineOfRotatedButtons(data) {
+        const button = make("RButton { selected: true; rotation: " + data.rotation + " }")
+        compare(button.line.visible, data.visible)
+        compare([button.line.width, button.line.height], data.size)
+    }
+
+    function test_pageOverridesTheLine() {
+        const button = make("RButton { line.height: 8; line.color: 'red'; selected: true }")
+        compare(button.line.height, 8)
+        compare(button.line.y, 24)
+        compare(button.line.color, "#ff0000")
+    }
+
+    function test_press_data() {
+        return variantRows()
+    }
+    function test_press(data) {
+        const button = make(data.type + " { text: 'Level' }")
+        const clicked = spyOn(button, "clicked")
+        mouseClick(button)
+        compare(clicked.count, 1, "mouse")
+        touchEvent(button).press(0, button).commit()
+        compare(button.down, true)
+        touchEvent(button).release(0, button).commit()
+        compare(clicked.count, 2, "touch")
+        compare(button.selected, false, "a page decides on the selection")
+
+        button.forceActiveFocus(Qt.TabFocusReason)
+        compare(button.background.focusVisible, true)
+        keyClick(Qt.Key_Space)
+        compare(clicked.count, 3, "space")
+        const takesEnter = data.type !== "RButton" && data.type !== "RInconsistentButton"
+        keyClick(Qt.Key_Return)
+        keyClick(Qt.Key_Enter)
+        compare(clicked.count, takesEnter ? 5 : 3, "enter")
+        const custom = spyOn(button, "customEventActivated")
+        button.useCustomEvent = true
+        keyClick(Qt.Key_Return)
+        compare(custom.count, takesEnter ? 1 : 0, "enter with an event of the page's own")
+        compare(clicked.count, takesEnter ? 5 : 3)
+    }
+
+    function test_selectableButtonShowsTheEditBeforeTheDevice() {
+        const device = make("QtObject { property bool muted: false }")
+        const button = make("RButton { property QtObject device; selectable: true; selected: device !== null && device.muted }")
+        button.device = device
+        const log = []
+        button.selectionEdited.connect(selected => log.push("edited " + selected))
+        button.clicked.connect(() => log.push("clicked"))
+        mouseClick(button)
+        compare(log, ["edited true", "clicked"])
+        compare(button.selected, true, "at once")
+        tryCompare(button, "selected", false, 1000, "the device did not take it")
+        device.muted = true
+        compare(button.selected, true, "the page's binding is alive")
+    }
+
+    function test_mixedButtonIsEditedToSelected() {
+        const button = make("RButton { selectable: true; selected: true; consistent: false }")
+        const edited = spyOn(button, "selectionEdited")
+        mouseClick(button)
+        compare(edited.signalArguments[0][0], true)
+        compare(button.selected, true)
+    }
+
+    function test_mnemonics_data() {
+        return [
+            { tag: "marked", text: "&Mute", shown: "Mute", key: Qt.Key_M, clicks: 1 },
+            { tag: "inside", text: "E&xit", shown: "Exit", key: Qt.Key_X, clicks: 1 },
+            { tag: "escaped", text: "R&&D", shown: "R&D", key: Qt.Key_D, clicks: 0 },
+            { tag: "a word of its own", text: "Drums & Bass", shown: "Drums & Bass", key: Qt.Key_B, clicks: 0 },
+            { tag: "at the end", text: "Keys &", shown: "Keys &", key: Qt.Key_K, clicks: 0 },
+        ]
+    }
+    function test_mnemonics(data) {
+        const button = make("RButton { text: '" + data.text + "' }")
+        const clicked = spyOn(button, "clicked")
+        compare(button.textControl.text, data.shown)
+        button.forceActiveFocus()
+        keyClick(data.key, Qt.AltModifier)
+        compare(clicked.count, data.clicks)
+    }
+
+    function test_deviceTextIsNotInterpreted() {
+        const button = make("RButton { id: b; converter: RValueConverter { value: 'R&D <b>1</b>' } }")
+        compare(button.value, "R&D <b>1</b>")
+        compare(button.text, "R&D <b>1</b>")
+        compare(button.textControl.text, "R&D <b>1</b>")
+        compare(button.textControl.textFormat, Text.PlainText)
+    }
+
+    function test_mirrored() {
+        const button = make("RButtonIconLabelH { label: 'Solo'; iconItem.key: 'solo'; width: 144 }")
+        compare([button.iconItem.x, button.txt.x], [4, 28])
+        button.LayoutMirroring.enabled = true
+        compare([button.iconItem.x, button.txt.x], [116, 0])
+    }
+
+    function test_switch_data() {
+        return [
+            { tag: "off", body: "", handle: 1, text: "OFF", shown: true },
+            { tag: "on", body: "selected: true", handle: 19, text: "ON", shown: true },
+            { tag: "mixed", body: "consistent: false", handle: 10, text: "OFF", shown: false },
+            { tag: "without text", body: "showHandleText: false", handle: 1, text: "OFF", shown: false },
+            { tag: "mirrored", body: "LayoutMirroring.enabled: true", handle: 19, text: "OFF", shown: true },
+        ]
+    }
+    function test_switch(data) {
+        const bar = make("RButtonSwitch {" + data.body + "}").contentItem.children[0]
+        const text = bar.children[0]
+        const handle = bar.children[1]
+        compare([bar.height, handle.width, handle.height], [16, 16, 14])
+        compare(handle.x, data.handle)
+        compare([text.text, text.visible], [data.text, data.shown])
+    }
+}
