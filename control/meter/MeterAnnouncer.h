@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtGui/QAccessible>
+
+class QQuickAccessibleAttached;
+
+namespace tamble::client {
+
+class RMeterBase;
+
+/// Tells assistive tools of a meter: its role, its name and its level with the unit. While no such tool runs it costs
+/// nothing; a role or name that the page has given stays.
+class MeterAnnouncer : private QAccessible::ActivationObserver
+{
+public:
+    explicit MeterAnnouncer(RMeterBase &meter);
+    ~MeterAnnouncer() override;
+    Q_DISABLE_COPY_MOVE(MeterAnnouncer)
+
+    void setUnit(const QString &unit);
+    void announceLevel();
+
+private:
+    void accessibilityActiveChanged(bool active) override;
+
+    RMeterBase &m_meter;
+    QString m_unit;
+    QQuickAccessibleAttached *m_attached = nullptr; // belongs to the meter; null while no tool runs
+};
+
+} // namespace tamble::client

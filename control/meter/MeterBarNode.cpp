@@ -1,0 +1,50 @@
+#include "meter/MeterBarNode.h"
+
+#include <algorithm>
+
+namespace tamble::client {
+
+namespace {
+
+constexpr int SegmentCount = int(std::tuple_size_v<MeterSegments>);
+constexpr int VerticesPerSegment = 4;
+constexpr int IndicesPerSegment = 6;
+
+} // namespace
+
+MeterBarNode::MeterBarNode()
+    : m_geometry(QSGGeometry::defaultAttributes_ColoredPoint2D(), SegmentCount * VerticesPerSegment,
+                 SegmentCount * IndicesPerSegment)
+{
+    m_geometry.setDrawingMode(QSGGeometry::DrawTriangles);
+    quint16 *index = m_geometry.indexDataAsUShort();
+    for (int segment = 0; segment < SegmentCount; ++segment) {
+        for (const int corner : {0, 1, 2, 2, 1, 3})
+            *index++ = quint16(segment * VerticesPerSegment + corner);
+    }
+    setGeometry(&m_geometry);
+    setMaterial(&m_material);
+}
+
+void MeterBarNode::setBar(const MeterSegments &segments, float breadth, bool horizontal, const MeterColors &colors)
+{
+    QSGGeometry::ColoredPoint2D *vertex = m_geometry.vertexDataAsColoredPoint2D();
+    for (const MeterSegment &segment : segments) {
+        // The material wants colours that are multiplied with their opacity.
+        const QRgb color = qPremultiply(colors.at(std::size_t(segment.zone)).rgba());
+        for (const float along : {segment.from, segment.to}) {
+            for (const float across : {0.0F, breadth}) {
+                vertex++->set(horizontal ? along : across, horizontal ? across : along, uchar(qRed(color)),
+                              uchar(qGreen(color)), uchar(qBlue(color)), uchar(qAlpha(color)));
+            }
+        }
+    }
+    const bool opaque = std::all_of(colors.begin(), colors.end(), [](const QColor &c) { return c.alpha() == 255; });
+    if (opaque == m_material.flags().testFlag(QSGMaterial::Blending)) {
+        m_material.setFlag(QSGMaterial::Blending, !opaque);
+        markDirty(DirtyMaterial);
+    }
+    markDirty(DirtyGeometry);
+}
+
+} // namespace tamble::client

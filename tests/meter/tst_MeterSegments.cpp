@@ -1,0 +1,100 @@
+#include "tst_MeterSegments.h"
+
+#include "meter/MeterSegments.h"
+#include "meter/RMeterBar.h"
+
+#include <QtQuick/QQuickWindow>
+#include <QtQuick/private/qquickitem_p.h>
+#include <QtTest/QTest>
+
+#include <limits>
+
+using namespace tamble::client;
+
+namespace {
+
+// The lit segments as "G0-10 Y10-12", in the order of the zones.
+QString textOf(const MeterSegments &segments)
+{
+    QStringList parts;
+    for (const MeterSegment &segment : segments) {
+        if (segment.from < segment.to)
+            parts += QStringLiteral("%1%2-%3").arg(QChar(u"-GYR"[int(segment.zone)])).arg(segment.from).arg(segment.to);
+    }
+    return parts.join(u' ');
+}
+
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+
+} // namespace
+
+void tst_MeterSegments::bar_data()
+{
+    QTest::addColumn<QList<double>>("factors"); // green, yellow, red
+    QTest::addColumn<bool>("horizontal");
+    QTest::addColumn<bool>("reverse");
+    QTest::addColumn<double>("pixelRatio");
+    QTest::addColumn<QString>("segments");
+
+    using Factors = QList<double>;
+    QTest::newRow("dark") << Factors{0.0, 0.0, 0.0} << false << false << 1.0 << "-0-100";
+    QTest::newRow("upwards") << Factors{0.5, 0.7, 0.8} << false << false << 1.0 << "G50-100 Y30-50 R20-30 -0-20";
+    QTest::newRow("downwards") << Factors{0.5, 0.7, 0.8} << false << true << 1.0 << "G0-50 Y50-70 R70-80 -80-100";
+    QTest::newRow("rightwards") << Factors{0.5, 0.5, 0.5} << true << false << 1.0 << "G0-50 -50-100";
+    QTest::newRow("leftwards") << Factors{0.5, 0.5, 0.5} << true << true << 1.0 << "G50-100 -0-50";
+    QTest::newRow("lower zones hide higher ones")
+        << Factors{0.8, 0.5, 0.9} << true << false << 1.0 << "G0-80 R80-90 -90-100";
+    QTest::newRow("out of range") << Factors{-1.0, 0.5, 7.0} << true << false << 1.0 << "Y0-50 R50-100";
+    QTest::newRow("not a number") << Factors{NotANumber, NotANumber, NotANumber} << true << false << 1.0 << "-0-100";
+    QTest::newRow("whole pixels") << Factors{0.333, 0.333, 0.333} << true << false << 1.0 << "G0-33 -33-100";
+    QTest::newRow("whole device pixels") << Factors{0.333, 0.333, 0.333} << true << false << 2.0 << "G0-33.5 -33.5-100";
+}
+
+void tst_MeterSegments::bar()
+{
+    QFETCH(QList<double>, factors);
+    QFETCH(bool, horizontal);
+    QFETCH(bool, reverse);
+    QFETCH(double, pixelRatio);
+    const MeterSegments segments =
+        barSegments({factors[0], factors[1], factors[2]}, 100.0, pixelRatio, {horizontal, reverse});
+    QTEST(textOf(segments), "segments");
+}
+
+void tst_MeterSegments::split()
+{
+    const SectionFactors dark;
+    QCOMPARE(textOf(splitSegments({0.5, 0.75, 0.75}, dark, 0.4, 100.0, 1.0)),
+             QStringLiteral("G20-40 Y10-20 -0-10 -40-100"));
+    QCOMPARE(textOf(splitSegments(dark, {0.5, 0.5, 1.0}, 0.4, 100.0, 1.0)), QStringLiteral("-0-40 G40-70 R70-100"));
+    QCOMPARE(textOf(splitSegments(dark, dark, NotANumber, 100.0, 1.0)), QStringLiteral("-0-100"));
+}
+
+void tst_MeterSegments::repaintsOnlyWhatIsSeen()
+{
+    QQuickWindow window;
+    RMeterBase meter(window.contentItem());
+    RMeterBar bar(&meter);
+    bar.setSize(QSizeF(12, 100));
+    bar.setMeter(&meter);
+    const auto isDirty = [&] {
+        return bool(QQuickItemPrivate::get(&bar)->dirtyAttributes & QQuickItemPrivate::Content);
+    };
+    const auto clean = [&] { QQuickItemPrivate::get(&bar)->dirtyAttributes = 0; };
+
+    clean();
+    meter.setValue(0.0);
+    QVERIFY2(isDirty(), "a level lights the bar");
+    clean();
+    meter.setCurrentValue(0.1);
+    QVERIFY2(!isDirty(), "a tenth of a decibel lights the same pixels");
+    meter.setVisible(false);
+    clean();
+    const MeterSegments before = bar.segments();
+    meter.setCurrentValue(-40.0);
+    QVERIFY2(!isDirty(), "nothing is painted while hidden");
+    QCOMPARE(bar.segments(), before);
+    meter.setVisible(true);
+    QVERIFY2(isDirty(), "shown again with the level of now");
+    QCOMPARE(textOf(bar.segments()), QStringLiteral("G53-100 -0-53"));
+}

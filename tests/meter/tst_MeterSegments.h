@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+class tst_MeterSegments : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void bar_data();
+    void bar();
+    void split();
+    void repaintsOnlyWhatIsSeen();
+};
