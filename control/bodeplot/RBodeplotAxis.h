@@ -2,6 +2,7 @@
 
 #include "ControlExport.h"
 #include "bodeplot/BodeplotEnums.h"
+#include "bodeplot/FrameTicks.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QVariantList>
@@ -11,7 +12,12 @@ namespace tamble::client {
 
 /// Labels of one axis of a frequency plot.
 ///
-/// `labels` lists maps of value, text and position, the latter in pixels along the axis (to the right, or downwards).
+/// `horizontal` (true) and `minimum` 20 to `maximum` 20000 on a LOGARITHMIC `scale`; `delta` 10 is the distance of the
+/// labels on a linear one. Of `xAxisTickValues` and `yAxisTickValues` the list of the axis' own direction chooses what
+/// is labelled, unless it is empty. A linear axis whose delta is not positive and a logarithmic one that starts at 0 or
+/// less have no labels, which is logged once; nor have bounds that are not finite or do not rise.
+///
+/// `style` carries fontFamily and fontSize, `fontSizeAxis` the size in pixels, for the component that shows the labels.
 class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotAxis : public QQuickItem
 {
     Q_OBJECT
@@ -24,13 +30,29 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotAxis : public QQuickItem
     Q_PROPERTY(QVariantList xAxisTickValues MEMBER m_xAxisTickValues NOTIFY xAxisTickValuesChanged)
     Q_PROPERTY(QVariantList yAxisTickValues MEMBER m_yAxisTickValues NOTIFY yAxisTickValuesChanged)
     Q_PROPERTY(qreal fontSizeAxis MEMBER m_fontSizeAxis NOTIFY fontSizeAxisChanged)
-    Q_PROPERTY(QObject *style MEMBER m_style NOTIFY styleChanged)
+    Q_PROPERTY(QObject *style READ style WRITE setStyle NOTIFY styleChanged)
     Q_PROPERTY(QVariantList labels READ labels NOTIFY labelsChanged)
+    Q_PROPERTY(QList<bool> readable READ readable NOTIFY labelsChanged)
 
 public:
     explicit RBodeplotAxis(QQuickItem *parent = nullptr);
 
-    QVariantList labels() const { return m_labels; }
+    QObject *style() const { return m_style; }
+    void setStyle(QObject *style);
+
+    /// Maps of value, text and position, lowest value first; the position is the label's centre in pixels along the
+    /// axis (to the right, or downwards).
+    ///
+    /// Always up to date; in a window its change is signalled once a frame, however many properties changed.
+    QVariantList labels();
+
+    /// For each label whether there is room to show it. Labels that the page listed always are; without a list, those
+    /// of a logarithmic axis that would touch a rounder number are not.
+    QList<bool> readable();
+
+public Q_SLOTS:
+    /// Reads the style object anew; its own change signals do the same.
+    void refreshFont();
 
 Q_SIGNALS:
     void horizontalChanged();
@@ -44,7 +66,17 @@ Q_SIGNALS:
     void styleChanged();
     void labelsChanged();
 
+protected:
+    void componentComplete() override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+    void updatePolish() override;
+
 private:
+    void invalidateLabels();
+    void updateLabels();
+    void reportProblem(TickProblem problem);
+    QList<bool> readableOf(const QList<FrameLabel> &labels) const;
+
     bool m_horizontal = true;
     qreal m_minimum = 20.0;
     qreal m_maximum = 20000.0;
@@ -55,6 +87,10 @@ private:
     qreal m_fontSizeAxis = 8.0;
     QPointer<QObject> m_style;
     QVariantList m_labels;
+    QList<bool> m_readable;
+    TickProblem m_problem = TickProblem::None;
+    bool m_labelsStale = true;
+    bool m_changeUnsignalled = false;
 };
 
 } // namespace tamble::client

@@ -1,6 +1,14 @@
 #include "bodeplot/RBodeplotCurve.h"
 
+#include "bodeplot/StyleObject.h"
+
+#include <tamblecommon-math/FilterAlgorithm.h>
+
+#include <QtCore/QDebug>
+#include <QtQuick/QQuickWindow>
+
 #include <algorithm>
+#include <utility>
 
 namespace tamble::client {
 
@@ -11,11 +19,60 @@ RBodeplotCurve *curveOf(const QQmlListProperty<RBodeplotCalculationItem> *list)
     return static_cast<RBodeplotCurve *>(list->object);
 }
 
+LineStyle lineStyle(const QObject *style, const char *color, const char *width)
+{
+    return {styleColor(style, color), styleWidth(style, width)};
+}
+
 } // namespace
 
 RBodeplotCurve::RBodeplotCurve(QQuickItem *parent)
     : QQuickItem(parent)
-{}
+{
+    setFlag(ItemHasContents);
+    connectProperties();
+    connect(&m_filters, &CurveFilters::pointModelsChanged, this, &RBodeplotCurve::filterPointModelsChanged);
+    connect(&m_filters, &CurveFilters::recordChanged, this, &RBodeplotCurve::requestEvaluation);
+    connect(&m_filters, &CurveFilters::displayChanged, this, &RBodeplotCurve::requestLines);
+}
+
+RBodeplotCurve::~RBodeplotCurve()
+{
+    // The members go one after the other and must not be told of each other's end.
+    for (RBodeplotCalculationItem *item : std::as_const(m_calculationItems))
+        item->disconnect(this);
+    m_filters.disconnect(this);
+}
+
+void RBodeplotCurve::connectProperties()
+{
+    connect(this, &QQuickItem::widthChanged, this, &RBodeplotCurve::onWidthChanged);
+    connect(this, &QQuickItem::heightChanged, this, &RBodeplotCurve::onHeightChanged);
+    connect(this, &RBodeplotCurve::xMinimumChanged, this, &RBodeplotCurve::onXMinOrMaxChanged);
+    connect(this, &RBodeplotCurve::xMaximumChanged, this, &RBodeplotCurve::onXMinOrMaxChanged);
+    connect(this, &RBodeplotCurve::yMinimumChanged, this, &RBodeplotCurve::onYMinOrMaxChanged);
+    connect(this, &RBodeplotCurve::yMaximumChanged, this, &RBodeplotCurve::onYMinOrMaxChanged);
+    connect(this, &RBodeplotCurve::trimChanged, this, &RBodeplotCurve::onTrimChanged);
+    connect(this, &RBodeplotCurve::spectrumChanged, this, &RBodeplotCurve::requestLines);
+    connect(this, &RBodeplotCurve::hideIndividualCurvesChanged, this, &RBodeplotCurve::requestLines);
+    const auto evaluateAll = [this] { requestEvaluation(CurveFilters::allRecords); };
+    connect(this, &RBodeplotCurve::samplerateChanged, this, evaluateAll);
+    connect(this, &RBodeplotCurve::resolutionChanged, this, evaluateAll);
+    connect(this, &RBodeplotCurve::calculationItemsChanged, this, &RBodeplotCurve::convertFilters);
+    connect(this, &RBodeplotCurve::calculationItemsReferenceChanged, this, &RBodeplotCurve::convertFilters);
+}
+
+void RBodeplotCurve::setStyle(QObject *style)
+{
+    if (m_style == style)
+        return;
+    if (m_style)
+        m_style->disconnect(this);
+    m_style = style;
+    followStyle(style, this, "refreshColors()");
+    refreshColors();
+    Q_EMIT styleChanged();
+}
 
 QQmlListProperty<RBodeplotCalculationItem> RBodeplotCurve::calculationItems()
 {
@@ -66,6 +123,253 @@ void RBodeplotCurve::forgetItem(QObject *item)
     const auto isItem = [item](const QObject *candidate) { return candidate == item; };
     if (erase_if(m_calculationItems, isItem) > 0)
         Q_EMIT calculationItemsChanged();
+}
+
+void RBodeplotCurve::convertFilters()
+{
+    if (!isComponentComplete())
+        return;
+    if (!m_calculationItems.isEmpty())
+        m_filters.setFilters(calculationItemsQListToStdVector(m_calculationItems));
+    else if (m_calculationItemsReference.isValid())
+        m_filters.setFilters(calculationItemsQmlListReferenceToStdVector(m_calculationItemsReference));
+    else
+        m_filters.setFilters({});
+}
+
+void RBodeplotCurve::onCalculationItemsChanged()
+{
+    convertFilters();
+    evaluate();
+}
+
+void RBodeplotCurve::refresh(const QList<QSharedPointer<tamble::common::CalculationItem>> &data)
+{
+    ConvertedFilters filters;
+    filters.records.assign(data.begin(), data.end());
+    m_filters.setFilters(filters);
+    evaluate();
+}
+
+void RBodeplotCurve::refreshColors()
+{
+    const QObject *style = m_style;
+    CurveStyle read;
+    read.aggregated = lineStyle(style, "aggregatedCurveColor", "aggregatedCurveLineWidth");
+    read.individual = lineStyle(style, "individualCurveColor", "individualCurveLineWidth");
+    read.bypass = lineStyle(style, "bypassCurveColor", "bypassCurveLineWidth");
+    if (!read.bypass.color.isValid())
+        read.bypass = read.individual;
+    read.selected = lineStyle(style, "selectedCurveColor", "selectedCurveLineWidth");
+    read.area = styleColor(style, "aggregatedAreaColor");
+    read.saturation.nearCurve = styleWidth(style, "areaSaturationNearAggregatedCurve");
+    read.saturation.nearAxis = styleWidth(style, "areaSaturationNearxAchsis");
+    if (std::exchange(m_curveStyle, read) != read)
+        update();
+}
+
+void RBodeplotCurve::selectFilterPoint(int index)
+{
+    m_filters.select(index);
+}
+
+void RBodeplotCurve::selectFilterPointBySystem(int item)
+{
+    m_filters.select(m_filters.set().firstHandleOf(item));
+}
+
+void RBodeplotCurve::onUserSelectFilterPoint(int index)
+{
+    m_filters.select(index);
+    Q_EMIT userSelectedFilterPoint(index, m_filters.selectedRecord());
+}
+
+void RBodeplotCurve::onUserMoveFilterPoint(int index, const QPointF &pt)
+{
+    tellEdit(m_filters.move(index, pt));
+}
+
+void RBodeplotCurve::onUserChangeFilterPointQuality(int index, qreal baseQuality, qreal change)
+{
+    tellEdit(m_filters.changeQuality(index, baseQuality, change));
+}
+
+void RBodeplotCurve::holdFilterPoint(int index)
+{
+    m_filters.hold(index);
+}
+
+void RBodeplotCurve::releaseFilterPoint()
+{
+    m_filters.release(m_settleTime);
+}
+
+void RBodeplotCurve::cancelFilterPoint()
+{
+    tellEdit(m_filters.cancel());
+}
+
+void RBodeplotCurve::levelFilterPoint(int index)
+{
+    const auto relation = m_filters.set().relationOf(index);
+    if (!relation)
+        return;
+    const auto moveToAxis = [&] {
+        const FilterHandle &handle = m_filters.set().handles()[std::size_t(index)];
+        onUserMoveFilterPoint(index, {handle.point.x(), handleY(0.0, m_filters.set().frame())});
+    };
+    moveToAxis();
+    // An asymmetric band tells its gain one step late.
+    if (isAsymmetric(*relation) && m_filters.set().relationOf(index) == relation)
+        moveToAxis();
+}
+
+int RBodeplotCurve::nextFilterPoint(int index, bool forward) const
+{
+    return neighbourHandle(m_filters.set().handles(), index, forward);
+}
+
+void RBodeplotCurve::tellEdit(const HandleEdit &edit)
+{
+    if (!edit) {
+        if (!edit.problem.isEmpty())
+            qDebug().noquote() << edit.problem;
+        return;
+    }
+    Q_EMIT userChangedFilterPoint(edit.record, relationText(edit.relation), float(edit.frequencyHz), float(edit.gainDb),
+                                  float(edit.quality));
+    requestEvaluation(edit.record);
+}
+
+void RBodeplotCurve::onWidthChanged()
+{
+    requestLines();
+}
+
+void RBodeplotCurve::onHeightChanged()
+{
+    requestLines();
+}
+
+void RBodeplotCurve::onXMinOrMaxChanged()
+{
+    updateHandleFrame();
+}
+
+void RBodeplotCurve::onYMinOrMaxChanged()
+{
+    updateHandleFrame();
+}
+
+void RBodeplotCurve::updateHandleFrame()
+{
+    m_filters.setFrame({m_xMinimum, m_xMaximum, m_yMinimum, m_yMaximum});
+    requestLines();
+}
+
+void RBodeplotCurve::onTrimChanged()
+{
+    qDebug() << "RBodeplotCurve::onTrimChanged(); value" << m_trim << "width" << width() << "height" << height();
+    requestLines();
+}
+
+void RBodeplotCurve::requestEvaluation(int record)
+{
+    const bool first = m_evaluation == Evaluation::None;
+    const bool one = record != CurveFilters::allRecords && (first || m_evaluatedRecord == record);
+    m_evaluation = one && m_evaluation != Evaluation::All ? Evaluation::One : Evaluation::All;
+    m_evaluatedRecord = record;
+    requestLines();
+}
+
+void RBodeplotCurve::requestLines()
+{
+    if (!isComponentComplete())
+        return;
+    if (window())
+        polish();
+    else
+        updatePolish();
+}
+
+void RBodeplotCurve::evaluate()
+{
+    const Evaluation evaluation = std::exchange(m_evaluation, Evaluation::None);
+    if (evaluation == Evaluation::None)
+        return;
+    const bool one = evaluation == Evaluation::One;
+    const FilterRecords &records = m_filters.set().records();
+    m_calculation.items.resize(records.size());
+    std::ranges::transform(records, m_calculation.items.begin(),
+                           [](const FilterRecord &record) { return record.data(); });
+    m_calculation.sampleRate = m_samplerate;
+    m_calculation.resolution = m_resolution;
+    tamble::common::FilterAlgorithm::calculateBodePlotLogarithmic(m_calculation, one, unsigned(m_evaluatedRecord));
+    if (one)
+        m_lines.recordChanged(m_evaluatedRecord);
+    else
+        m_lines.allChanged();
+    m_filters.returnHeaders();
+}
+
+void RBodeplotCurve::updateScaledCurve()
+{
+    const FilterRecords &records = m_filters.set().records();
+    m_shownRecords.resize(records.size());
+    for (std::size_t i = 0; i < records.size(); ++i)
+        m_shownRecords[i] = !m_hideIndividualCurves && recordDisplay(records[i].data()).visible;
+
+    ResponseLines::Settings settings;
+    settings.view = {m_xMinimum,
+                     m_xMaximum,
+                     m_yMinimum,
+                     m_yMaximum,
+                     size(),
+                     m_resolution,
+                     m_calculation.lowestFrequency,
+                     m_calculation.highestFrequency};
+    settings.phase = m_spectrum == RBodeplotSpectrumEnum::PHASE;
+    settings.trim = m_trim;
+    if (const auto outside = m_lines.update(m_calculation.results, settings, m_shownRecords)) {
+        const auto &aggregated = m_calculation.results.aggregated;
+        qDebug() << "RBodeplotCurve::updateScaledCurve() index out of range value:" << *outside << "not between 0 and"
+                 << qsizetype(aggregated.magnitude.size()) - 1;
+    }
+    update();
+}
+
+void RBodeplotCurve::componentComplete()
+{
+    QQuickItem::componentComplete();
+    m_filters.setFrame({m_xMinimum, m_xMaximum, m_yMinimum, m_yMaximum});
+    onCalculationItemsChanged();
+}
+
+void RBodeplotCurve::itemChange(ItemChange change, const ItemChangeData &value)
+{
+    if (change == ItemSceneChange && value.window)
+        requestLines();
+    else if (change == ItemDevicePixelRatioHasChanged)
+        update();
+    QQuickItem::itemChange(change, value);
+}
+
+void RBodeplotCurve::updatePolish()
+{
+    evaluate();
+    updateScaledCurve();
+}
+
+QSGNode *RBodeplotCurve::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
+{
+    auto *node = oldNode ? static_cast<ResponseCurveNode *>(oldNode) : new ResponseCurveNode;
+    node->show({.lines = m_lines,
+                .records = m_filters.set().records(),
+                .selectedRecord = m_filters.selectedRecord(),
+                .style = m_curveStyle,
+                .size = size(),
+                .pixelRatio = window()->effectiveDevicePixelRatio()});
+    return node;
 }
 
 } // namespace tamble::client

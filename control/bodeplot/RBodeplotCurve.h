@@ -2,10 +2,15 @@
 
 #include "ControlExport.h"
 #include "bodeplot/BodeplotEnums.h"
+#include "bodeplot/CurveFilters.h"
 #include "bodeplot/RBodeplotCalculationItem.h"
 #include "bodeplot/RBodeplotPointModel.h"
+#include "bodeplot/ResponseCurveNode.h"
+#include "bodeplot/ResponseLines.h"
 
 #include <QtCore/QList>
+#include <QtCore/QPointer>
+#include <QtCore/QSharedPointer>
 #include <QtQml/QQmlListProperty>
 #include <QtQml/QQmlListReference>
 #include <QtQuick/QQuickItem>
@@ -14,13 +19,14 @@ namespace tamble::client {
 
 /// Frequency response of a set of filters, drawn inside a plot frame, with one handle per editable corner.
 ///
-/// Frequencies are in Hz, levels in dB. The filters are declared in `calculationItems` or given as a list of
-/// arbitrary objects with filter-named properties (`calculationItemsReference`).
+/// Frequencies are in Hz, levels in dB. The filters are declared in `calculationItems` or, when that is empty, given as
+/// a list of arbitrary objects with filter-named properties (`calculationItemsReference`). Changed filters are
+/// evaluated and drawn with the next frame; without a window, which has no frames, at once.
 class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotCurve : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RBodeplotCurveTemplate)
-    Q_PROPERTY(QObject *style MEMBER m_style NOTIFY styleChanged)
+    Q_PROPERTY(QObject *style READ style WRITE setStyle NOTIFY styleChanged)
     Q_PROPERTY(qreal xMinimum MEMBER m_xMinimum NOTIFY xMinimumChanged)
     Q_PROPERTY(qreal xMaximum MEMBER m_xMaximum NOTIFY xMaximumChanged)
     Q_PROPERTY(qreal yMinimum MEMBER m_yMinimum NOTIFY yMinimumChanged)
@@ -30,6 +36,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotCurve : public QQuickItem
     Q_PROPERTY(bool hideIndividualCurves MEMBER m_hideIndividualCurves NOTIFY hideIndividualCurvesChanged)
     Q_PROPERTY(qreal samplerate MEMBER m_samplerate NOTIFY samplerateChanged)
     Q_PROPERTY(int resolution MEMBER m_resolution NOTIFY resolutionChanged)
+    Q_PROPERTY(int settleTime MEMBER m_settleTime NOTIFY settleTimeChanged)
     Q_PROPERTY(QQmlListProperty<tamble::client::RBodeplotCalculationItem> calculationItems READ calculationItems NOTIFY
                    calculationItemsChanged)
     Q_PROPERTY(QQmlListReference calculationItemsReference READ calculationItemsReference WRITE
@@ -38,6 +45,11 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotCurve : public QQuickItem
 
 public:
     explicit RBodeplotCurve(QQuickItem *parent = nullptr);
+    ~RBodeplotCurve() override;
+
+    /// Colours and widths; see refreshColors(). Default none, which draws nothing.
+    QObject *style() const { return m_style; }
+    void setStyle(QObject *style);
 
     /// The filters. A filter that is destroyed leaves the list by itself.
     QQmlListProperty<RBodeplotCalculationItem> calculationItems();
@@ -45,7 +57,45 @@ public:
     QQmlListReference calculationItemsReference() const { return m_calculationItemsReference; }
     void setCalculationItemsReference(const QQmlListReference &reference);
 
-    QList<QObject *> filterPointModels() const { return m_filterPointModels; }
+    QList<QObject *> filterPointModels() const { return m_filters.pointModels(); }
+
+    /// While a handle is held, values that a page writes to its filter wait until the handle is released and
+    /// `settleTime` (ms, default 300) has passed.
+    Q_INVOKABLE void holdFilterPoint(int index);
+    Q_INVOKABLE void releaseFilterPoint();
+    /// Puts the filter of the held handle back to what it was when the hold began.
+    Q_INVOKABLE void cancelFilterPoint();
+    /// Sets the gain of a handle's filter to 0 dB, if it can be dragged.
+    Q_INVOKABLE void levelFilterPoint(int index);
+    /// The handle that follows in order of frequency, see neighbourHandle().
+    Q_INVOKABLE int nextFilterPoint(int index, bool forward) const;
+
+public Q_SLOTS:
+    /// Takes ready-made records in place of the present ones, until the lists change.
+    void refresh(const QList<QSharedPointer<tamble::common::CalculationItem>> &data);
+    /// Reads the style object. Colours: aggregatedCurveColor, aggregatedAreaColor, individualCurveColor,
+    /// bypassCurveColor, selectedCurveColor; a missing one is not drawn, but for bypassed curves, which then look like
+    /// the others. Widths in pixels: the names of the curves with LineWidth, default 1. Strength of the area:
+    /// areaSaturationNearAggregatedCurve and areaSaturationNearxAchsis, 0 to 1.
+    void refreshColors();
+    /// Selects a handle; an index without handle selects none.
+    void selectFilterPoint(int index);
+    /// Selects the first handle of a filter, given by its position among the filters.
+    void selectFilterPointBySystem(int item);
+    /// To be called once for each press on a handle.
+    void onUserSelectFilterPoint(int index);
+    /// Drags a handle to a normalised point.
+    void onUserMoveFilterPoint(int index, const QPointF &pt);
+    /// Changes the Q of a handle's filter; `change` is a way in pixels, see draggedQuality().
+    void onUserChangeFilterPointQuality(int index, qreal baseQuality, qreal change);
+
+    void onWidthChanged();
+    void onHeightChanged();
+    /// Converts and evaluates all filters anew.
+    void onCalculationItemsChanged();
+    void onYMinOrMaxChanged();
+    void onXMinOrMaxChanged();
+    void onTrimChanged();
 
 Q_SIGNALS:
     void styleChanged();
@@ -58,20 +108,42 @@ Q_SIGNALS:
     void hideIndividualCurvesChanged();
     void samplerateChanged();
     void resolutionChanged();
+    void settleTimeChanged();
     void calculationItemsChanged();
     void calculationItemsReferenceChanged();
     void filterPointModelsChanged();
+    /// A handle was pressed: its index and the position of its filter.
     void userSelectedFilterPoint(int index, int selectedIndex);
+    /// A handle was dragged: position of its filter, which of the filter's parameters it edits, and their new values.
     void userChangedFilterPoint(int index, const QString &type, float frequency, float gain, float quality);
+
+protected:
+    void componentComplete() override;
+    void itemChange(ItemChange change, const ItemChangeData &value) override;
+    void updatePolish() override;
+    QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
+
+    /// Pixel columns and lines as of the last rescaling.
+    const ResponseLines &lines() const { return m_lines; }
 
 private:
     using ItemList = QQmlListProperty<RBodeplotCalculationItem>;
+    enum class Evaluation { None, One, All };
 
     static void appendItem(ItemList *list, RBodeplotCalculationItem *item);
     static qsizetype itemCount(ItemList *list);
     static RBodeplotCalculationItem *itemAt(ItemList *list, qsizetype index);
     static void clearItems(ItemList *list);
     void forgetItem(QObject *item);
+
+    void connectProperties();
+    void convertFilters();
+    void requestEvaluation(int record);
+    void requestLines();
+    void evaluate();
+    void updateScaledCurve();
+    void updateHandleFrame();
+    void tellEdit(const HandleEdit &edit);
 
     QPointer<QObject> m_style;
     qreal m_xMinimum = 20.0;
@@ -83,9 +155,17 @@ private:
     bool m_hideIndividualCurves = false;
     qreal m_samplerate = 48000.0;
     int m_resolution = 4096;
+    int m_settleTime = 300;
     QList<RBodeplotCalculationItem *> m_calculationItems;
     QQmlListReference m_calculationItemsReference;
-    QList<QObject *> m_filterPointModels;
+
+    CurveFilters m_filters;
+    tamble::common::BodePlotCalculation m_calculation;
+    Evaluation m_evaluation = Evaluation::All;
+    int m_evaluatedRecord = CurveFilters::allRecords;
+    std::vector<bool> m_shownRecords;
+    ResponseLines m_lines;
+    CurveStyle m_curveStyle;
 };
 
 } // namespace tamble::client

@@ -2,8 +2,43 @@
 
 namespace tamble::client {
 
-RBodeplotPointModel::RBodeplotPointModel(QObject *parent)
+RBodeplotPointModel::RBodeplotPointModel(HandleRelation relation, QObject *parent)
     : QObject(parent)
+    , m_relation(relation)
 {}
+
+bool RBodeplotPointModel::hasQuality() const
+{
+    return m_relation == HandleRelation::Eq || m_relation == HandleRelation::AsymmetricFirst ||
+           m_relation == HandleRelation::AsymmetricSecond;
+}
+
+template <typename Value>
+void RBodeplotPointModel::assign(Value &member, const Value &value, void (RBodeplotPointModel::*changed)())
+{
+    if (member == value)
+        return;
+    member = value;
+    Q_EMIT(this->*changed)();
+}
+
+void RBodeplotPointModel::update(const FilterHandle &handle, int index, bool selected)
+{
+    assign(m_moveMode, handle.motion, &RBodeplotPointModel::moveModeChanged);
+    assign(m_frequency, handle.frequencyHz, &RBodeplotPointModel::frequencyChanged);
+    assign(m_gain, handle.gainDb, &RBodeplotPointModel::gainChanged);
+    assign(m_quality, handle.quality, &RBodeplotPointModel::qualityChanged);
+    assign(m_point, handle.point, &RBodeplotPointModel::pointChanged);
+    assign(m_index, index, &RBodeplotPointModel::indexChanged);
+    assign(m_label, handle.label, &RBodeplotPointModel::labelChanged);
+    assign(m_errorFlag, handle.errorFlag, &RBodeplotPointModel::errorFlagChanged);
+    assign(m_visiblePoint, !handle.bypass, &RBodeplotPointModel::visiblePointChanged);
+    setSelected(selected);
+}
+
+void RBodeplotPointModel::setSelected(bool selected)
+{
+    assign(m_selected, selected, &RBodeplotPointModel::selectedChanged);
+}
 
 } // namespace tamble::client

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ControlExport.h"
+#include "bodeplot/FilterHandles.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QPointF>
@@ -11,7 +12,8 @@ namespace tamble::client {
 /// One draggable handle of a curve.
 ///
 /// `point` is normalised to the curve's size: x from 0 (left) to 1 (right), y from 0 (top) to 1 (bottom); a handle
-/// outside that square is not shown.
+/// outside that square is not shown. `frequency` (Hz) and `gain` (dB) are what the filter has there, `hasGain` and
+/// `hasQuality` whether the filter has them at all.
 class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotPointModel : public QObject
 {
     Q_OBJECT
@@ -23,19 +25,26 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotPointModel : public QObject
     Q_PROPERTY(bool errorFlag MEMBER m_errorFlag NOTIFY errorFlagChanged)
     Q_PROPERTY(bool selected MEMBER m_selected NOTIFY selectedChanged)
     Q_PROPERTY(bool visiblePoint MEMBER m_visiblePoint NOTIFY visiblePointChanged)
+    Q_PROPERTY(qreal frequency READ frequency NOTIFY frequencyChanged)
+    Q_PROPERTY(qreal gain READ gain NOTIFY gainChanged)
+    Q_PROPERTY(bool hasGain READ hasGain NOTIFY moveModeChanged)
+    Q_PROPERTY(bool hasQuality READ hasQuality CONSTANT)
 
 public:
-    /// Which way a drag moves the handle.
-    enum class MoveMode {
-        Horizontal = 0, ///< frequency only
-        Vertical = 1,   ///< gain only
-        Both = 2,
-    };
+    using MoveMode = HandleMotion;
 
-    explicit RBodeplotPointModel(QObject *parent = nullptr);
+    /// A handle of that relation; the relation stays.
+    explicit RBodeplotPointModel(HandleRelation relation, QObject *parent = nullptr);
 
     MoveMode moveMode() const { return m_moveMode; }
-    void setMoveMode(MoveMode mode) { m_moveMode = mode; }
+    qreal frequency() const { return m_frequency; }
+    qreal gain() const { return m_gain; }
+    bool hasGain() const { return m_moveMode != MoveMode::Horizontal; }
+    bool hasQuality() const;
+
+    /// Takes over what differs, with one notification for each property.
+    void update(const FilterHandle &handle, int index, bool selected);
+    void setSelected(bool selected);
 
 Q_SIGNALS:
     void pointChanged();
@@ -45,8 +54,14 @@ Q_SIGNALS:
     void errorFlagChanged();
     void selectedChanged();
     void visiblePointChanged();
+    void frequencyChanged();
+    void gainChanged();
+    void moveModeChanged();
 
 private:
+    template <typename Value>
+    void assign(Value &member, const Value &value, void (RBodeplotPointModel::*changed)());
+
     QPointF m_point;
     int m_index = 0;
     qreal m_quality = 1.0;
@@ -54,7 +69,10 @@ private:
     bool m_errorFlag = false;
     bool m_selected = false;
     bool m_visiblePoint = true;
+    qreal m_frequency = 0.0;
+    qreal m_gain = 0.0;
     MoveMode m_moveMode = MoveMode::Both;
+    HandleRelation m_relation;
 };
 
 } // namespace tamble::client

@@ -1,9 +1,102 @@
 #include "bodeplot/RLimiterCurve.h"
 
+#include "bodeplot/StyleObject.h"
+#include "plot/ScaleSteps.h"
+
+#include <utility>
+
 namespace tamble::client {
 
 RLimiterCurve::RLimiterCurve(QQuickItem *parent)
     : QQuickItem(parent)
-{}
+{
+    setFlag(ItemHasContents);
+    for (const auto signal :
+         {&RLimiterCurve::xMinimumChanged, &RLimiterCurve::xMaximumChanged, &RLimiterCurve::yMinimumChanged,
+          &RLimiterCurve::yMaximumChanged, &RLimiterCurve::xAxisScaleChanged, &RLimiterCurve::thresholdChanged,
+          &RLimiterCurve::ratioChanged, &RLimiterCurve::bypassChanged})
+        connect(this, signal, this, &RLimiterCurve::updateLine);
+    updateLine();
+}
+
+void RLimiterCurve::setStyle(QObject *style)
+{
+    if (m_style == style)
+        return;
+    if (m_style)
+        m_style->disconnect(this);
+    m_style = style;
+    followStyle(style, this, "refreshColors()");
+    refreshColors();
+    Q_EMIT styleChanged();
+}
+
+QVariantList RLimiterCurve::points() const
+{
+    return {m_line.cbegin(), m_line.cend()};
+}
+
+qreal RLimiterCurve::thresholdNear(const QPointF &normalised, qreal step) const
+{
+    const FrameAxes frame = axes();
+    return thresholdInside(snapped(client::thresholdNear(normalised, frame), step), frame);
+}
+
+qreal RLimiterCurve::thresholdMovedBy(qreal difference) const
+{
+    return client::thresholdMovedBy(m_threshold, difference, axes());
+}
+
+void RLimiterCurve::refreshColors()
+{
+    polish();
+}
+
+void RLimiterCurve::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    if (newGeometry.size() != oldGeometry.size())
+        polish();
+}
+
+void RLimiterCurve::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    QQuickItem::itemChange(change, data);
+    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange)
+        polish();
+}
+
+void RLimiterCurve::updatePolish()
+{
+    m_stroke.readStyle(m_style, m_bypass ? "bypassCurveColor" : "curveColor",
+                       m_bypass ? "bypassCurveLineWidth" : "curveLineWidth", *this);
+    QList<QPointF> pixels;
+    for (const QPointF &point : std::as_const(m_line))
+        pixels.append({point.x() * width(), point.y() * height()});
+    m_stroke.setLines({pixels});
+    if (m_stroke.isStale())
+        update();
+}
+
+QSGNode *RLimiterCurve::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
+{
+    return m_stroke.handOver(oldNode);
+}
+
+void RLimiterCurve::updateLine()
+{
+    const QList<QPointF> line = limiterLine(rule(), axes());
+    const QPointF handlePoint = limiterHandle(rule(), axes());
+    polish(); // bypassing may change the looks alone
+    if (std::exchange(m_line, line) != line)
+        Q_EMIT pointsChanged();
+    if (std::exchange(m_handlePoint, handlePoint) != handlePoint)
+        Q_EMIT handlePointChanged();
+}
+
+FrameAxes RLimiterCurve::axes() const
+{
+    return {{m_xMinimum, m_xMaximum, axisScale(m_xAxisScale)}, {m_yMinimum, m_yMaximum, AxisScale::Linear}};
+}
 
 } // namespace tamble::client

@@ -2,6 +2,8 @@
 
 #include "ControlExport.h"
 #include "bodeplot/BodeplotEnums.h"
+#include "bodeplot/CurvePixels.h"
+#include "bodeplot/CurveStroke.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QVariantList>
@@ -11,12 +13,14 @@ namespace tamble::client {
 
 /// Any given curve inside a plot frame: a measured response, a target, a stored reference.
 ///
-/// The points are in axis units, as `points` or, when that is empty, as `xValues` with `yValues`; `trim` is added to y.
+/// The frame is `xMinimum` 20 to `xMaximum` 20000 on a LOGARITHMIC `xAxisScale` and `yMinimum` -20 to `yMaximum` 20 on
+/// a LINEAR `yAxisScale`; bounds that are not finite or do not rise draw nothing. `trim` (0) is added to y. Values of
+/// the style object: curveColor (missing: nothing is drawn) and curveLineWidth (missing: 1 pixel).
 class TAMBLE_CLIENT_CONTROL_EXPORT RSimpleCurve : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RSimpleCurveTemplate)
-    Q_PROPERTY(QObject *style MEMBER m_style NOTIFY styleChanged)
+    Q_PROPERTY(QObject *style READ style WRITE setStyle NOTIFY styleChanged)
     Q_PROPERTY(qreal xMinimum MEMBER m_xMinimum NOTIFY xMinimumChanged)
     Q_PROPERTY(qreal xMaximum MEMBER m_xMaximum NOTIFY xMaximumChanged)
     Q_PROPERTY(qreal yMinimum MEMBER m_yMinimum NOTIFY yMinimumChanged)
@@ -32,7 +36,15 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RSimpleCurve : public QQuickItem
 public:
     explicit RSimpleCurve(QQuickItem *parent = nullptr);
 
+    QObject *style() const { return m_style; }
+    void setStyle(QObject *style);
+
+    /// Number of given points that lie inside the frame.
     int visibleCount() const { return m_visibleCount; }
+
+public Q_SLOTS:
+    /// Reads the style object anew before the next frame; its own change signals do the same.
+    void refreshColors();
 
 Q_SIGNALS:
     void styleChanged();
@@ -48,7 +60,17 @@ Q_SIGNALS:
     void trimChanged();
     void visibleCountChanged();
 
+protected:
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
+    void updatePolish() override;
+    QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
+
 private:
+    void collectPoints();
+    void invalidateCurve();
+    FrameAxes axes() const;
+
     QPointer<QObject> m_style;
     qreal m_xMinimum = 20.0;
     qreal m_xMaximum = 20000.0;
@@ -56,11 +78,17 @@ private:
     qreal m_yMaximum = 20.0;
     int m_xAxisScale = RBodeplotAxisScaleEnum::LOGARITHMIC;
     int m_yAxisScale = RBodeplotAxisScaleEnum::LINEAR;
+    /// The curve in axis units; an entry that is no point interrupts it.
     QVariantList m_points;
+    /// The curve when `points` is empty; the shorter list counts.
     QList<qreal> m_xValues;
     QList<qreal> m_yValues;
     qreal m_trim = 0.0;
     int m_visibleCount = 0;
+
+    QList<QPointF> m_samples; ///< Whichever form the page gave, as points.
+    CurveStroke m_stroke;
+    bool m_linesStale = true;
 };
 
 } // namespace tamble::client

@@ -9,6 +9,7 @@ namespace tamble::client {
 CustomMaterial::CustomMaterial()
 {
     setFlag(Blending);
+    setFlag(NoBatching); // its shader has no variant for merged batches
 }
 
 void CustomMaterial::setFields(const CustomMaterialFields &fields)

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "bodeplot/FilterHandles.h"
+#include "bodeplot/FilterRecords.h"
+#include "bodeplot/HandleRules.h"
+
+#include <QtCore/QPointF>
+#include <QtCore/QStringList>
+
+#include <vector>
+
+namespace tamble::client {
+
+/// What a gesture made of a handle, as it is told to the page.
+struct HandleEdit
+{
+    int record = -1; ///< -1: nothing was changed.
+    HandleRelation relation = HandleRelation::Eq;
+    double frequencyHz = 0.0;
+    double gainDb = 0.0;
+    double quality = 0.0;
+    QString problem; ///< Why nothing was changed, where that is worth a line in the log.
+
+    explicit operator bool() const { return record >= 0; }
+};
+
+/// The filters of a curve and their handles, and what gestures make of them.
+class FilterSet
+{
+public:
+    const FilterRecords &records() const { return m_records; }
+    const std::vector<FilterHandle> &handles() const { return m_handles; }
+    const HandleFrame &frame() const { return m_frame; }
+
+    /// Takes new records and makes their handles anew; returns a log line for each record without one.
+    QStringList setRecords(FilterRecords records);
+    /// Exchanges one record. The handles are made anew where its kind differs and updated otherwise.
+    void setRecord(int position, FilterRecord record);
+    /// Moves all handles to where their filters are in another frame.
+    void setFrame(const HandleFrame &frame);
+
+    /// Record of a handle, -1 for an index without handle.
+    int recordOf(int handle) const;
+    /// Relation of a handle, none for an index without handle.
+    std::optional<HandleRelation> relationOf(int handle) const;
+    /// First handle of a record, -1 for none.
+    int firstHandleOf(int record) const;
+
+    /// Drags a handle to a normalised point and stores what follows in its record.
+    HandleEdit move(int handle, const QPointF &wanted);
+    /// Drags the Q of a handle's band; see draggedQuality().
+    HandleEdit changeQuality(int handle, double baseQuality, double change);
+    /// What the record of a handle says now, as an edit; nothing for an index without handle.
+    HandleEdit current(int handle) const;
+
+private:
+    QString indexProblem(const char *method, int handle) const;
+    QStringList makeHandles();
+    void placeHandles();
+
+    HandleEdit moveEq(FilterHandle &handle, tamble::common::EqFilter &record, const QPointF &wanted) const;
+    HandleEdit moveXOver(FilterHandle &handle, tamble::common::XOverFilter &record, const QPointF &wanted) const;
+    HandleEdit moveAsymmetric(int index, tamble::common::AsymmetricEqFilter &record, const QPointF &wanted);
+    HandleEdit moveFir(int index, tamble::common::FIRFilter &record, const QPointF &wanted);
+
+    FilterRecords m_records;
+    std::vector<FilterHandle> m_handles;
+    HandleFrame m_frame;
+};
+
+} // namespace tamble::client

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QtCore/QPointF>
+
+#include <optional>
+
+namespace tamble::client {
+
+/// The part of a frequency plot in which handles are placed: frequencies in Hz, levels in dB.
+struct HandleFrame
+{
+    double xMinimum = 20.0;
+    double xMaximum = 20000.0;
+    double yMinimum = -20.0;
+    double yMaximum = 20.0;
+
+    bool operator==(const HandleFrame &) const = default;
+};
+
+// Positions are normalised: x from 0 (left) to 1 (right), y from 0 (top) to 1 (bottom).
+
+/// Position of a handle that is outside the frame on the left or above, and on the right or below.
+constexpr double beforeFrame = -1.0;
+constexpr double behindFrame = 2.0;
+
+/// Smallest distance of the two handles of a band-pass FIR filter.
+constexpr double firHandleDistance = 0.03;
+
+/// x of a frequency, `beforeFrame` or `behindFrame` for one that is not visible (NaN too).
+double handleX(double frequencyHz, const HandleFrame &frame);
+/// y of a level, `beforeFrame` or `behindFrame` for one that is not visible (NaN too).
+double handleY(double levelDb, const HandleFrame &frame);
+
+/// Frequency at a normalised x, Hz.
+double frequencyAt(double x, const HandleFrame &frame);
+/// Level at a normalised y, dB.
+double levelAt(double y, const HandleFrame &frame);
+
+/// Keeps a dragged handle between +12 dB and -18 dB, whatever the frame shows.
+double limitedHandleY(double y, const HandleFrame &frame);
+
+/// Highest Q that a gesture can give an equaliser band of the type; none when its Q cannot be dragged.
+std::optional<double> qualityLimit(int eqType, int slope);
+/// Highest Q that a gesture can give an asymmetric band.
+constexpr double asymmetricQualityLimit = 2.0;
+
+/// Q after a drag of `change` pixels (positive is downwards and raises Q) from `baseQuality`: 200 pixels reach the
+/// upper limit or the lower one of 0.4. Never outside these; a base that is not a number counts as 0.4.
+double draggedQuality(double baseQuality, double change, double upperLimit);
+
+} // namespace tamble::client

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "bodeplot/FilterRecords.h"
+#include "bodeplot/ResponseLines.h"
+#include "plot/CurveAreaNode.h"
+#include "plot/SmoothStrokeNode.h"
+
+#include <QtQuick/QSGClipNode>
+
+#include <memory>
+#include <vector>
+
+namespace tamble::client {
+
+/// Colour and width of one kind of line; a colour that does not show draws nothing.
+struct LineStyle
+{
+    QColor color = Qt::transparent;
+    double width = 1.0;
+
+    bool operator==(const LineStyle &) const = default;
+};
+
+/// How the lines and the area of a curve are drawn.
+struct CurveStyle
+{
+    LineStyle aggregated;
+    LineStyle individual;
+    LineStyle bypass;
+    LineStyle selected;
+    QColor area = Qt::transparent;
+    AreaSaturation saturation;
+
+    bool operator==(const CurveStyle &) const = default;
+};
+
+/// What a curve's node shows.
+struct ResponseScene
+{
+    const ResponseLines &lines;
+    const FilterRecords &records;
+    int selectedRecord = -1;
+    const CurveStyle &style;
+    QSizeF size;
+    double pixelRatio = 1.0;
+};
+
+/// Scene-graph node of a whole curve, cut off at the item's edges: the area, the lines of the records, the selected one
+/// and the sum. Its nodes stay, and what did not change touches none of them.
+class ResponseCurveNode : public QSGClipNode
+{
+public:
+    ResponseCurveNode();
+
+    void show(const ResponseScene &scene);
+
+    /// How many lines and areas were written so far.
+    int rewriteCount() const { return m_rewriteCount; }
+
+private:
+    /// A node with what it was last given.
+    struct LineNode
+    {
+        SmoothStrokeNode node;
+        unsigned revision = 0;
+        StrokeWidth width;
+    };
+
+    void showFrame(const QSizeF &size);
+    void showArea(const ResponseScene &scene);
+    void showLine(LineNode &target, const ResponseLine *line, const LineStyle &style, double pixelRatio);
+    void setRecordCount(std::size_t count);
+
+    QSGGeometry m_frame;
+    CurveAreaNode m_area;
+    unsigned m_areaRevision = 0;
+    AreaSaturation m_areaSaturation;
+    QSGNode m_group; ///< Keeps the records' lines below the two others.
+    std::vector<std::unique_ptr<LineNode>> m_records;
+    LineNode m_selected;
+    LineNode m_aggregated;
+    int m_rewriteCount = 0;
+};
+
+} // namespace tamble::client

@@ -1,0 +1,406 @@
+#include "bodeplot/tst_CurveItem.h"
+
+#include "bodeplot/RBodeplotAsymmetricEqFilter.h"
+#include "bodeplot/RBodeplotCurve.h"
+#include "bodeplot/RBodeplotEqFilter.h"
+#include "bodeplot/RBodeplotFIRFilter.h"
+#include "bodeplot/RBodeplotXOverFilter.h"
+
+#include <QtCore/QRegularExpression>
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlEngine>
+#include <QtQuick/QQuickWindow>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+#include <memory>
+
+using namespace tamble::client;
+
+namespace {
+
+/// Lets a test see what is drawn.
+class Curve : public RBodeplotCurve
+{
+public:
+    using RBodeplotCurve::lines;
+
+    int rewriteCount() const { return m_node ? m_node->rewriteCount() : 0; }
+    int updateCount() const { return m_updateCount; }
+
+    RBodeplotPointModel *handle(int index) const
+    {
+        return qobject_cast<RBodeplotPointModel *>(filterPointModels().value(index));
+    }
+    QPointF point(int index) const { return handle(index)->property("point").toPointF(); }
+    double column(int index) const { return lines().aggregated().columns.at(std::size_t(index)); }
+
+protected:
+    QSGNode *updatePaintNode(QSGNode *old, UpdatePaintNodeData *data) override
+    {
+        ++m_updateCount;
+        m_node = static_cast<ResponseCurveNode *>(RBodeplotCurve::updatePaintNode(old, data));
+        return m_node;
+    }
+
+private:
+    ResponseCurveNode *m_node = nullptr;
+    int m_updateCount = 0;
+};
+
+/// A curve of 300 x 400 pixels and what else is declared with it as children of one item.
+struct Page
+{
+    explicit Page(const QByteArray &curveBody, const QByteArray &siblings = {})
+    {
+        static const bool registered = [] {
+            qmlRegisterType<RBodeplotCalculationItem>("CurveItems", 1, 0, "RBodeplotCalculationItem");
+            qmlRegisterType<RBodeplotEqFilter>("CurveItems", 1, 0, "RBodeplotEqFilter");
+            qmlRegisterType<RBodeplotAsymmetricEqFilter>("CurveItems", 1, 0, "RBodeplotAsymmetricEqFilter");
+            qmlRegisterType<RBodeplotXOverFilter>("CurveItems", 1, 0, "RBodeplotXOverFilter");
+            qmlRegisterType<RBodeplotFIRFilter>("CurveItems", 1, 0, "RBodeplotFIRFilter");
+            qmlRegisterType<Curve>("CurveItems", 1, 0, "Curve");
+            return true;
+        }();
+        Q_UNUSED(registered)
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick\nimport CurveItems 1.0\nItem { width: 300; height: 400\n"
+                          "Curve { id: curve; objectName: 'curve'; width: 300; height: 400\n" +
+                              curveBody + "}\n" + siblings + "}",
+                          QUrl());
+        root.reset(component.create());
+        if (!root)
+            qWarning().noquote() << component.errorString();
+        curve = root ? root->findChild<Curve *>(QStringLiteral("curve")) : nullptr;
+    }
+
+    QObject *filter(int index) const
+    {
+        const QQmlListReference list(curve, "calculationItems");
+        return list.at(index);
+    }
+
+    QQmlEngine engine;
+    std::unique_ptr<QObject> root;
+    Curve *curve = nullptr;
+};
+
+const QByteArray colours = "style: QtObject { property color aggregatedCurveColor: '#ff0000'\n"
+                           "property color aggregatedAreaColor: '#0000ff'; property real aggregatedCurveLineWidth: 4\n"
+                           "property color individualCurveColor: '#00ff00'; property real individualCurveLineWidth: 3\n"
+                           "property color selectedCurveColor: 'transparent'\n"
+                           "property real areaSaturationNearAggregatedCurve: 1\n"
+                           "property real areaSaturationNearxAchsis: 1 }\n";
+
+} // namespace
+
+void CurveItemTest::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+}
+
+void CurveItemTest::declaredFilters()
+{
+    QTest::ignoreMessage(QtWarningMsg,
+                         "calculationItemsQListToStdVector() calculationItem at index 1 is not an RBodeplotEqFilter / "
+                         "RBodeplotXOverFilter / RBodeplotFIRFilter / RBodeplotAsymmetricEqFilter");
+    const Page page("calculationItems: [ RBodeplotEqFilter { freq: 200; gain: 10; label: 'a' },\n"
+                    "RBodeplotCalculationItem {}, RBodeplotXOverFilter { type: 12; freq: 20000 },\n"
+                    "RBodeplotEqFilter { visible: false; bypass: true } ]");
+    QCOMPARE(page.curve->filterPointModels().size(), 3);
+    QCOMPARE(page.curve->point(0), QPointF(1.0 / 3.0, 0.25));
+    QCOMPARE(page.curve->handle(0)->property("label"), "a");
+    QCOMPARE(page.curve->handle(1)->property("label"), "LP");
+    QCOMPARE(page.curve->handle(2)->property("visiblePoint"), false);
+    QVERIFY(page.curve->point(2).x() < 0.0);
+    // The peak of 10 dB is where its handle is, a third of the way at three quarters of the height.
+    QVERIFY(std::abs(page.curve->column(100) - 100.0) < 0.1);
+    QCOMPARE(page.curve->lines().records().size(), std::size_t(3));
+    QVERIFY(page.curve->lines().records()[2].columns.empty());
+}
+
+void CurveItemTest::listOfPlainObjects()
+{
+    const Page page("calculationItemsReference: root.bands\n",
+                    "id: root; property list<QtObject> bands: [ QtObject { property real freq: 1000.1 },\n"
+                    "QtObject { objectName: 'odd'; property int type: 12; property var gain: 'loud'\n"
+                    "property real freq: 200; property string label: 'asym' } ]");
+    Curve *curve = page.curve;
+    QCOMPARE(curve->filterPointModels().size(), 3);
+    QCOMPARE(curve->handle(0)->property("label"), "1");
+    QCOMPARE(curve->handle(0)->frequency(), 1000.0999755859375);
+    QCOMPARE(curve->handle(1)->property("label"), "asym");
+    QCOMPARE(curve->handle(1)->gain(), 0.0);
+    QCOMPARE(curve->handle(2)->frequency(), 20.0);
+
+    QObject *odd = curve->calculationItemsReference().at(1);
+    odd->setProperty("freq", 2000.0);
+    QCOMPARE(curve->handle(1)->frequency(), 2000.0);
+    delete odd;
+    QCOMPARE(curve->filterPointModels().size(), 1);
+}
+
+void CurveItemTest::badInput_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<double>("y"); // of column 150, -1: nothing is drawn
+
+    const QByteArray peak = "calculationItems: RBodeplotEqFilter { gain: 10; ";
+    const QByteArray sound = peak + "freq: 632.4555 } ";
+    QTest::newRow("sound") << sound << 100.0;
+    QTest::newRow("frequency is no number") << peak + "freq: NaN }" << 200.0;
+    QTest::newRow("frequency below zero") << peak + "freq: -1 }" << 200.0;
+    QTest::newRow("Q is no number") << peak + "freq: 632.4555; quality: NaN }" << 100.0;
+    QTest::newRow("Q of zero") << peak + "freq: 632.4555; quality: 0 }" << 100.0;
+    QTest::newRow("unknown type") << peak + "freq: 632.4555; type: 77 }" << 200.0;
+    QTest::newRow("no sample rate") << sound + "samplerate: 0" << 200.0;
+    QTest::newRow("sample rate is no number") << sound + "samplerate: NaN" << 200.0;
+    QTest::newRow("level range is no number") << sound + "yMaximum: NaN" << 400.0;
+    QTest::newRow("trim is no number") << sound + "trim: NaN" << 400.0;
+    QTest::newRow("no height") << sound + "Component.onCompleted: height = 0.9" << -1.0;
+}
+
+void CurveItemTest::badInput()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(double, y);
+
+    const Page page(body);
+    if (y < 0.0)
+        QCOMPARE(page.curve->lines().aggregated().points.count(), std::size_t(0));
+    else
+        QVERIFY(std::abs(page.curve->column(150) - y) < 0.5);
+}
+
+void CurveItemTest::filterChangesFollowInPlace()
+{
+    const Page page("calculationItems: [ RBodeplotEqFilter { freq: 200; gain: 10 }, RBodeplotEqFilter {} ]");
+    Curve *curve = page.curve;
+    QSignalSpy listChanged(curve, &RBodeplotCurve::filterPointModelsChanged);
+    const QList<QObject *> models = curve->filterPointModels();
+    const unsigned other = curve->lines().records()[1].revision;
+
+    page.filter(0)->setProperty("gain", -10.0);
+    QCOMPARE(curve->point(0), QPointF(1.0 / 3.0, 0.75));
+    QVERIFY(std::abs(curve->column(100) - 300.0) < 0.1);
+    QCOMPARE(curve->lines().records()[1].revision, other);
+
+    page.filter(0)->setProperty("type", int(RBodeplotEqTypeEnum::EQ_NOTCH));
+    QCOMPARE(curve->handle(0)->moveMode(), HandleMotion::Horizontal);
+    QCOMPARE(curve->filterPointModels(), models);
+    QCOMPARE(listChanged.count(), 0);
+
+    page.filter(1)->setProperty("visible", false);
+    QVERIFY(curve->lines().records()[1].columns.empty());
+    QVERIFY(curve->point(1).x() < 0.0);
+}
+
+void CurveItemTest::destroyedFilters()
+{
+    const Page page("calculationItems: [ RBodeplotEqFilter { gain: 5 }, RBodeplotXOverFilter {} ]");
+    delete page.filter(0);
+    QCOMPARE(page.curve->filterPointModels().size(), 1);
+    QCOMPARE(page.curve->handle(0)->property("label"), "LP");
+    page.curve->onUserMoveFilterPoint(0, {0.5, 0.5});
+    delete page.filter(0);
+    QCOMPARE(page.curve->filterPointModels().size(), 0);
+    QTest::ignoreMessage(QtDebugMsg, "RBodeplotCurve::onUserMoveFilterPoint() index out of range "
+                                     "(filterPointModels_); value 0 not between 0 and -1");
+    page.curve->onUserMoveFilterPoint(0, {0.5, 0.5});
+}
+
+void CurveItemTest::firHeaderComesBack()
+{
+    const Page page("calculationItems: RBodeplotFIRFilter { type: 1; freqHP: 200 }");
+    QObject *fir = page.filter(0);
+    QCOMPARE(fir->property("header"), "VELA-Net FIR-Filter=HiPass 200 Hz, 512 taps");
+    page.curve->onUserMoveFilterPoint(0, {2.0 / 3.0, 0.5});
+    QCOMPARE(fir->property("header"), "VELA-Net FIR-Filter=HiPass 2000 Hz, 512 taps");
+    QCOMPARE(fir->property("freqHP"), 200.0);
+}
+
+void CurveItemTest::selection()
+{
+    const Page page("calculationItems: [ RBodeplotEqFilter {}, RBodeplotAsymmetricEqFilter {} ]");
+    Curve *curve = page.curve;
+    const auto selected = [&] {
+        QByteArray flags;
+        for (const QObject *model : curve->filterPointModels())
+            flags += model->property("selected").toBool() ? '1' : '0';
+        for (int i = 0; i < 2; ++i)
+            flags += page.filter(i)->property("selected").toBool() ? 'S' : '-';
+        return flags;
+    };
+    QSignalSpy pressed(curve, &RBodeplotCurve::userSelectedFilterPoint);
+    curve->onUserSelectFilterPoint(2);
+    QCOMPARE(pressed, (QList<QVariantList>{{2, 1}}));
+    QCOMPARE(selected(), "001-S");
+    curve->onUserMoveFilterPoint(2, {0.5, 0.5});
+    QCOMPARE(selected(), "001-S");
+    page.filter(0)->setProperty("selected", true);
+    QCOMPARE(selected(), "100S-");
+    curve->selectFilterPointBySystem(1);
+    QCOMPARE(selected(), "010-S");
+    curve->selectFilterPointBySystem(7);
+    QCOMPARE(selected(), "000--");
+    QCOMPARE(pressed.count(), 1);
+}
+
+void CurveItemTest::dragTellsThePage()
+{
+    const Page page("property var told: []; onUserChangedFilterPoint: (index, type, frequency, gain, quality) => {\n"
+                    "told.push(index, type, frequency, gain, quality); calculationItems[index].freq = frequency\n"
+                    "calculationItems[index].gain = gain }\n"
+                    "calculationItems: [ RBodeplotXOverFilter {}, RBodeplotEqFilter { quality: 2 } ]");
+    Curve *curve = page.curve;
+    QSignalSpy listChanged(curve, &RBodeplotCurve::filterPointModelsChanged);
+    curve->onUserMoveFilterPoint(1, {2.0 / 3.0, 0.25});
+    QCOMPARE(curve->property("told").toList(), (QVariantList{1, "EQ", 2000.0, 10.0, 2.0}));
+    QVERIFY(std::abs(curve->column(200) - 100.0) < 0.1);
+    QCOMPARE(listChanged.count(), 0);
+    curve->onUserChangeFilterPointQuality(1, 2.0, 200.0);
+    QCOMPARE(curve->handle(1)->property("quality"), 40.0);
+    QCOMPARE(curve->property("told").toList().size(), 10);
+}
+
+void CurveItemTest::heldValuesWait()
+{
+    const Page page("settleTime: 20; calculationItems: RBodeplotEqFilter { gain: 3 }");
+    Curve *curve = page.curve;
+    curve->holdFilterPoint(0);
+    curve->onUserMoveFilterPoint(0, {0.5, 0.25});
+    page.filter(0)->setProperty("gain", 4.0);
+    QCOMPARE(curve->handle(0)->gain(), 10.0);
+    curve->onCalculationItemsChanged();
+    QCOMPARE(curve->handle(0)->gain(), 10.0);
+    curve->releaseFilterPoint();
+    QCOMPARE(curve->handle(0)->gain(), 10.0);
+    QTRY_COMPARE(curve->handle(0)->gain(), 4.0);
+    page.filter(0)->setProperty("gain", 5.0);
+    QCOMPARE(curve->handle(0)->gain(), 5.0);
+
+    // A filter that goes while its handle is held takes the hold with it.
+    curve->holdFilterPoint(0);
+    delete page.filter(0);
+    curve->releaseFilterPoint();
+    QCOMPARE(curve->filterPointModels().size(), 0);
+}
+
+void CurveItemTest::cancelledDrag()
+{
+    const Page page("calculationItems: RBodeplotAsymmetricEqFilter { freq: 200; freq2: 2000; gain: 5; quality2: 1.5 }");
+    Curve *curve = page.curve;
+    curve->holdFilterPoint(1);
+    curve->onUserMoveFilterPoint(1, {0.9, 0.3});
+    curve->onUserMoveFilterPoint(1, {0.8, 0.4});
+    curve->onUserChangeFilterPointQuality(1, 1.5, 100.0);
+    QSignalSpy told(curve, &RBodeplotCurve::userChangedFilterPoint);
+    curve->cancelFilterPoint();
+    QCOMPARE(told, (QList<QVariantList>{{0, "ASYMEQ2", 2000.0f, 5.0f, 1.5f}}));
+    QCOMPARE(curve->point(1), QPointF(2.0 / 3.0, 0.375));
+    curve->releaseFilterPoint();
+    curve->cancelFilterPoint();
+    QCOMPARE(told.count(), 1);
+}
+
+void CurveItemTest::nativeRecords()
+{
+    const Page page("calculationItems: RBodeplotXOverFilter {}");
+    auto band = QSharedPointer<EqFilterExtended>::create();
+    band->gain = 10.0;
+    band->freq = 200.0;
+    page.curve->refresh({band, nullptr});
+    QCOMPARE(page.curve->filterPointModels().size(), 1);
+    QVERIFY(std::abs(page.curve->column(100) - 100.0) < 0.1);
+    page.curve->onUserMoveFilterPoint(0, {2.0 / 3.0, 0.5});
+    QCOMPARE(band->freq, 2000.0);
+    page.curve->onCalculationItemsChanged();
+    QCOMPARE(page.curve->handle(0)->property("label"), "LP");
+}
+
+void CurveItemTest::outOfRangeIsLoggedOnce()
+{
+    const Page page("calculationItems: RBodeplotEqFilter {}");
+    // 300 columns over four decades of 4096/3 values each: column 225 is the first of the last decade.
+    QTest::ignoreMessage(QtDebugMsg,
+                         "RBodeplotCurve::updateScaledCurve() index out of range value: 4096 not between 0 and 4095");
+    page.curve->setProperty("xMaximum", 200000.0);
+    QTest::ignoreMessage(QtDebugMsg,
+                         "RBodeplotCurve::updateScaledCurve() index out of range value: 0 not between 0 and -1");
+    page.curve->setProperty("resolution", 0);
+    QCOMPARE(page.curve->lines().aggregated().points.count(), std::size_t(0));
+}
+
+void CurveItemTest::nothingIsRewrittenWithoutChange()
+{
+    if (!QGuiApplication::platformName().contains(QLatin1String("xcb")))
+        QSKIP("Needs a display.");
+    const Page page(colours + "calculationItems: [ RBodeplotEqFilter { freq: 200; gain: 10 }, RBodeplotEqFilter {} ]");
+    QQuickWindow window;
+    window.resize(300, 400);
+    static_cast<QQuickItem *>(page.root.get())->setParentItem(window.contentItem());
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    auto rewritten = [&, count = 0]() mutable {
+        window.grabWindow();
+        return page.curve->rewriteCount() - std::exchange(count, page.curve->rewriteCount());
+    };
+    rewritten();
+    page.curve->update();
+    QCOMPARE(rewritten(), 0);
+    page.curve->style()->setProperty("aggregatedCurveColor", QColor(Qt::yellow));
+    QCOMPARE(rewritten(), 0);
+    page.curve->onUserMoveFilterPoint(0, {0.4, 0.4});
+    QCOMPARE(rewritten(), 3); // its line, the sum and the area
+    page.curve->onUserMoveFilterPoint(0, {0.45, 0.4});
+    QCOMPARE(rewritten(), 3);
+    const int updates = page.curve->updateCount();
+    page.filter(0)->setProperty("gain", page.filter(0)->property("gain"));
+    page.curve->refreshColors();
+    QTest::qWait(50);
+    QCOMPARE(page.curve->updateCount(), updates);
+}
+
+void CurveItemTest::drawnPixels_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QPoint>("place");
+    QTest::addColumn<QColor>("color");
+
+    const QByteArray filter = "calculationItems: RBodeplotEqFilter { freq: 632.4555; gain: 10; quality: 0.5; ";
+    QTest::newRow("curve") << filter + "}" << QPoint(150, 100) << QColor(Qt::red);
+    QTest::newRow("area between curve and axis") << filter + "}" << QPoint(150, 150) << QColor(Qt::blue);
+    QTest::newRow("nothing above") << filter + "}" << QPoint(150, 90) << QColor(Qt::white);
+    QTest::newRow("nothing below the axis") << filter + "}" << QPoint(150, 210) << QColor(Qt::white);
+    QTest::newRow("trimmed") << filter + "} trim: 5" << QPoint(150, 50) << QColor(Qt::red);
+    QTest::newRow("cut off above, not drawn along the edge")
+        << filter + "} yMaximum: 5; yMinimum: -5" << QPoint(150, 0) << QColor(Qt::blue);
+    QTest::newRow("own curve without the sum's trim") << filter + "} trim: -9" << QPoint(150, 100) << QColor(Qt::green);
+    QTest::newRow("hidden own curve") << filter + "} trim: -9; hideIndividualCurves: true" << QPoint(150, 100)
+                                      << QColor(Qt::white);
+    QTest::newRow("bypassed is flat") << filter + "bypass: true } trim: 5" << QPoint(150, 200) << QColor(Qt::green);
+    QTest::newRow("phase") << filter + "} spectrum: 1; yMinimum: -180; yMaximum: 180" << QPoint(150, 200)
+                           << QColor(Qt::red);
+}
+
+void CurveItemTest::drawnPixels()
+{
+    if (!QGuiApplication::platformName().contains(QLatin1String("xcb")))
+        QSKIP("Needs a display.");
+    QFETCH(QByteArray, body);
+    QFETCH(QPoint, place);
+    QFETCH(QColor, color);
+
+    const Page page(colours + body);
+    QQuickWindow window;
+    window.resize(300, 400);
+    static_cast<QQuickItem *>(page.root.get())->setParentItem(window.contentItem());
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QImage image = window.grabWindow();
+    const double ratio = window.effectiveDevicePixelRatio();
+    const QColor drawn = image.pixelColor(place * ratio);
+    const int distance = std::abs(drawn.red() - color.red()) + std::abs(drawn.green() - color.green()) +
+                         std::abs(drawn.blue() - color.blue());
+    QVERIFY2(distance < 60, qPrintable(drawn.name()));
+}

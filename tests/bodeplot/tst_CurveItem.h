@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+/// The curve as pages use it: lists of filters, handle models, gestures, drawing.
+class CurveItemTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void declaredFilters();
+    void listOfPlainObjects();
+    void badInput_data();
+    void badInput();
+    void filterChangesFollowInPlace();
+    void destroyedFilters();
+    void firHeaderComesBack();
+    void selection();
+    void dragTellsThePage();
+    void heldValuesWait();
+    void cancelledDrag();
+    void nativeRecords();
+    void outOfRangeIsLoggedOnce();
+    void nothingIsRewrittenWithoutChange();
+    void drawnPixels_data();
+    void drawnPixels();
+};

@@ -1,0 +1,211 @@
+import QtQuick
+import QtTest
+import TambleClient.Control 1.0
+import "../Support"
+
+ThemedTestCase {
+    id: root
+
+    name: "RBodeplot"
+    width: 600
+    height: 400
+
+    Component {
+        id: frameComponent
+
+        RBodeplot {
+            width: 536
+            height: 336
+
+            readonly property alias curve: simpleCurve
+            readonly property alias limiter: limiterCurve
+
+            RSimpleCurve {
+                id: simpleCurve
+            }
+            RLimiterCurve {
+                id: limiterCurve
+                threshold: 10
+            }
+        }
+    }
+    SignalSpy {
+        id: fingers
+        signalName: "twoFingerHorizontalChange"
+    }
+    SignalSpy {
+        id: changed
+        signalName: "userChangedThreshold"
+    }
+    SignalSpy {
+        id: committed
+        signalName: "userCommittedThreshold"
+    }
+
+    function make(properties: var): var {
+        const frame = createTemporaryObject(frameComponent, root, properties)
+        fingers.target = frame
+        changed.target = frame.limiter
+        committed.target = frame.limiter
+        for (const spy of [fingers, changed, committed])
+            spy.clear()
+        waitForRendering(frame)
+        return frame
+    }
+
+    function test_plotArea() {
+        const frame = make({})
+        // 8 of spacing all around, 20 for each axis.
+        const area = frame.curve.mapToItem(frame, 0, 0)
+        compare(area, Qt.point(28, 8))
+        compare([frame.curve.width, frame.curve.height], [500, 300])
+        compare(frame.zoomAreaWidth, 500)
+        frame.showAxis = false
+        compare([frame.curve.width, frame.curve.height], [520, 320])
+    }
+
+    function test_curvesFollowTheFrame() {
+        const frame = make({ xIncrement: 1000 })
+        frame.yMaximum = 40
+        frame.xMinimum = 100
+        frame.xAxisScale = RBodeplotAxisScaleEnum.LINEAR
+        for (const curve of [frame.curve, frame.limiter]) {
+            compare([curve.xMinimum, curve.xMaximum, curve.yMinimum, curve.yMaximum], [100, 20000, -25, 40])
+            compare(curve.xAxisScale, RBodeplotAxisScaleEnum.LINEAR)
+        }
+    }
+
+    function test_wheel_data() {
+        return [
+            { tag: "turns are the page's", properties: {}, x: 0, y: 120, fingers: [0.12], maximum: 25 },
+            { tag: "a turn to the side zooms out", properties: {}, x: 120, y: 0, fingers: [], maximum: 27.5 },
+            { tag: "no zooming", properties: { allowZoom: false }, x: 120, y: 0, fingers: [], maximum: 25 },
+            { tag: "notch towards the user", properties: { wheelZooms: true }, x: 0, y: -120, fingers: [], maximum: 22.5 },
+            { tag: "three notches away", properties: { wheelZooms: true }, x: 0, y: 360, fingers: [], maximum: 32.5 },
+            { tag: "part of a notch", properties: { wheelZooms: true }, x: 0, y: 60, fingers: [], maximum: 25 },
+            { tag: "to the side in that mode", properties: { wheelZooms: true }, x: 120, y: 0, fingers: [], maximum: 25 }
+        ]
+    }
+    function test_wheel(row) {
+        const frame = make(row.properties)
+        mouseWheel(frame, 200, 100, row.x, row.y)
+        compare(fingers.signalArguments.map(args => args[0]), row.fingers)
+        compare(frame.yMaximum, row.maximum)
+    }
+
+    function test_middleButtonTogglesWhatIsZoomed() {
+        const frame = make({})
+        mouseClick(frame, 200, 100, Qt.MiddleButton)
+        frame.xMinimum = 200
+        mouseWheel(frame, 200, 100, 120, 0)
+        compare(frame.yMaximum, 25)
+        fuzzyCompare(frame.xMinimum, 200 / 1.15, 1e-9)
+    }
+
+    function test_dragPansAZoomedPlot() {
+        const frame = make({})
+        mouseDrag(frame, 300, 100, -100, 0)
+        compare(frame.xMinimum, 20, "the whole range is shown")
+        frame.xMinimum = 200
+        frame.xMaximum = 2000
+        mouseDrag(frame, 300, 100, -100, 0)
+        verify(frame.xMinimum > 200 && frame.xMaximum > 2000)
+        fuzzyCompare(frame.xMaximum / frame.xMinimum, 10, 1e-9)
+    }
+
+    function test_keys() {
+        const frame = make({})
+        frame.forceActiveFocus()
+        keyClick(Qt.Key_Plus)
+        compare(frame.yMaximum, 22.5)
+        keyClick(Qt.Key_Minus)
+        keyClick(Qt.Key_Minus)
+        compare(frame.yMaximum, 27.5)
+        frame.xMinimum = 200
+        frame.xMaximum = 2000
+        keyClick(Qt.Key_Right)
+        verify(frame.xMinimum > 200)
+        keyClick(Qt.Key_Space)
+        keyClick(Qt.Key_Minus)
+        compare(frame.yMaximum, 27.5)
+        verify(frame.xMinimum < 200)
+    }
+
+    function test_pinch() {
+        const frame = make({})
+        const touch = touchEvent(frame)
+        let x = 300
+        touch.press(0, frame, 200, 150).commit()
+        touch.stationary(0).press(1, frame, x, 150).commit()
+        // Movements within a frame come as one.
+        tryVerify(() => {
+            x += 4
+            touch.move(0, frame, 200, 150).move(1, frame, x, 150).commit()
+            return fingers.count >= 3
+        })
+        touch.release(0, frame, 200, 150).release(1, frame, x, 150).commit()
+        const sum = fingers.signalArguments.reduce((total, args) => total + args[0], 0)
+        verify(sum > 0 && sum <= Math.log((x - 200) / 100) + 1e-6)
+    }
+
+    function test_thresholdDrag() {
+        const frame = make({})
+        const handle = frame.limiter.handle
+        // 300 pixels are 50 dB: 6 pixels a dB.
+        mousePress(handle, 15, 9)
+        compare(changed.count, 0)
+        mouseMove(handle, 15, 9 + 30)
+        compare(changed.signalArguments.map(args => args[0]), [5])
+        compare(frame.limiter.threshold, 5)
+        mouseRelease(handle, 15, 9)
+        compare(committed.signalArguments.map(args => args[0]), [5])
+        compare(frame.limiter.threshold, 5, "not bound by the page, so it keeps the edit")
+        verify(handle.activeFocus)
+    }
+
+    function test_escapeEndsADragWithoutEffect() {
+        const frame = make({})
+        const handle = frame.limiter.handle
+        mousePress(handle, 12, 12)
+        mouseMove(handle, 12, 72)
+        keyClick(Qt.Key_Escape)
+        mouseMove(handle, 12, 100)
+        mouseRelease(handle, 12, 100)
+        compare(frame.limiter.threshold, 10)
+        compare(changed.signalArguments.map(args => args[0]), [0, 10])
+        compare(committed.count, 0)
+    }
+
+    function test_doubleClickSetsTheDefault() {
+        const frame = make({})
+        frame.limiter.defaultThreshold = -3
+        mouseDoubleClickSequence(frame.limiter.handle, 12, 12)
+        compare(frame.limiter.threshold, -3)
+        compare(committed.signalArguments.map(args => args[0]), [-3])
+    }
+
+    function test_noThreshold() {
+        const frame = make({})
+        frame.limiter.threshold = NaN
+        frame.limiter.handle.forceActiveFocus()
+        keyClick(Qt.Key_Up)
+        compare([changed.count, committed.count], [0, 0])
+        compare(frame.limiter.handle.valueText, "–")
+    }
+
+    function test_thresholdKeys_data() {
+        return [
+            { tag: "up", key: Qt.Key_Up, modifiers: Qt.NoModifier, threshold: 10.5 },
+            { tag: "down", key: Qt.Key_Down, modifiers: Qt.NoModifier, threshold: 9.5 },
+            { tag: "fine", key: Qt.Key_Left, modifiers: Qt.ShiftModifier, threshold: 9.95 },
+            { tag: "page", key: Qt.Key_PageDown, modifiers: Qt.NoModifier, threshold: 5 }
+        ]
+    }
+    function test_thresholdKeys(row) {
+        const frame = make({})
+        frame.limiter.handle.forceActiveFocus()
+        keyClick(row.key, row.modifiers)
+        compare(committed.signalArguments.map(args => args[0]), [row.threshold])
+        compare(frame.limiter.threshold, row.threshold)
+    }
+}
