@@ -133,13 +133,6 @@ public:
             composite(name, name, name);
     }
 
-    template <typename T>
-    void nativeSingleton(const char *name) const
-    {
-        qmlRegisterSingletonType<T>(m_uri, MajorVersion, MinorVersion, name,
-                                    [](QQmlEngine *, QJSEngine *) -> QObject * { return new T; });
-    }
-
     void singletons(const char *folder, std::initializer_list<const char *> names) const
     {
         for (const char *name : names)
@@ -319,11 +312,14 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RFaderBase>("RFaderBase");
     registrar.creatable<RMeterBar>("RMeterBar");
     registrar.creatable<RLabelBase>("RLabelBase");
+    registrar.withLaterProperties<QQuickItem>();
+    registrar.withLaterProperties<QQuickControl>();
+    registrar.withLaterProperties<QQuickAbstractButton>();
     registrar.withLaterProperties<QQuickText>();
     registrar.withLaterProperties<QQuickLabel>();
     registrar.singleton<RPlotRules>("RPlotRules");
     registrar.creatable<RTintedImage>("RTintedImage");
-    registrar.nativeSingleton<RTransferTable>("RTransferTable");
+    registrar.singleton<RTransferTable>("RTransferTable");
     registrar.singletons("Shared", {"RThemeValues"});
 }
 

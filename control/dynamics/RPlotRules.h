@@ -1,0 +1,38 @@
+#pragma once
+
+#include "ControlExport.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QVariantList>
+#include <QtGui/QFont>
+#include <QtQml/qqmlregistration.h>
+
+namespace tamble::client {
+
+/// What the plots of the dynamics panels compute, for their QML; the rules themselves are plain functions.
+class TAMBLE_CLIENT_CONTROL_EXPORT RPlotRules : public QObject
+{
+    Q_OBJECT
+    QML_NAMED_ELEMENT(RPlotRules)
+    QML_SINGLETON
+
+public:
+    using QObject::QObject;
+
+    Q_INVOKABLE double placeOnAxis(double level, double from, double to) const;
+    Q_INVOKABLE double levelAtPlace(double place, double from, double to) const;
+    Q_INVOKABLE double limitedValue(double wanted, double minimum, double maximum, double step) const;
+    Q_INVOKABLE double steppedValue(double value, double change, double minimum, double maximum, double step) const;
+    Q_INVOKABLE double ratioOfLine(double run, double rise, double highest) const;
+    Q_INVOKABLE double compressorOutput(double input, double threshold, double ratio, double gain, double knee) const;
+
+    /// Height of the curve through a calculator's `values`; entries that are no points count as (0, 0).
+    Q_INVOKABLE double heightOfCurve(const QVariantList &values, double x) const;
+
+    /// The labels of a numbering helper that have room along an axis of `length` pixels: objects { text, start }, where
+    /// `start` counts in pixels from the left or, when not `horizontal`, from the top.
+    Q_INVOKABLE QVariantList shownNumbers(const QVariantList &labels, const QFont &font, double length,
+                                          bool horizontal) const;
+};
+
+} // namespace tamble::client

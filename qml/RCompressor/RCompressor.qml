@@ -1,0 +1,131 @@
+import QtQuick
+import TambleClient.Control 1.0
+import "../RLimiter"
+import "../Shared" as Shared
+
+/*! Curve of a compressor with handles for its threshold, ratio and make-up gain, and a meter of its gain reduction. */
+Shared.RDynamicsPlot {
+    id: root
+
+    property alias calculatorActive: calculator.calculatorActive
+    property alias compressorBypassed: calculator.compressorBypassed
+    property alias softKneeActive: calculator.softKneeActive
+    property alias softKneeInDbu: calculator.softKneeInDbu
+    property alias threshold: calculator.threshold
+    property alias thresholdMin: calculator.thresholdMin
+    property alias thresholdMax: calculator.thresholdMax
+    property alias ratio: calculator.ratio
+    property alias ratioMin: calculator.ratioMin
+    property alias ratioMax: calculator.ratioMax
+    property alias makeUpGain: calculator.makeUpGain
+    property alias makeUpGainMin: calculator.makeUpGainMin
+    property alias makeUpGainMax: calculator.makeUpGainMax
+    readonly property alias values: calculator.values
+    property var defaultThreshold: 0
+    property var defaultRatio: 4
+    property var defaultMakeUpGain: 0
+    /*! Reduction at present, in dB, counted positive. */
+    property real gainReduction: 0
+    property bool gainReductionVisible: false
+
+    readonly property real knee: root.softKneeActive && root.softKneeInDbu > 0 ? root.softKneeInDbu : 0
+
+    signal thresholdEdited(real value)
+    signal thresholdCommitted(real value)
+    signal ratioEdited(real value)
+    signal ratioCommitted(real value)
+    signal makeUpGainEdited(real value)
+    signal makeUpGainCommitted(real value)
+
+    function outputOf(input: real): real {
+        return RPlotRules.compressorOutput(input, root.threshold, root.ratio, root.makeUpGain, root.knee)
+    }
+
+    title: qsTr("Compressor")
+    xFrom: root.thresholdMin
+    xTo: root.thresholdMax
+    active: root.calculatorActive
+    bypassed: root.compressorBypassed
+    points: root.values
+    sideRoom: meter.implicitWidth
+
+    RCompressorCalculator {
+        id: calculator
+        thresholdMin: -60
+        thresholdMax: 20
+        ratio: 4
+        ratioMin: 1
+        ratioMax: 20
+        makeUpGainMin: 0
+        makeUpGainMax: 20
+        softKneeInDbu: 6
+        compressorBypassed: false
+    }
+    // qmllint disable unqualified
+    Loader {
+        id: meter
+        x: parent.width + 2 * root.margin
+        height: parent.height
+        active: root.gainReductionVisible
+        sourceComponent: RGainMeter {
+            reverse: true
+            value: root.gainReduction
+            valueMin: 0
+            valueMax: 20
+            valueMinYellow: 10
+            valueMinRed: 20
+            label: qsTr("Gain reduction")
+        }
+    }
+    // qmllint enable unqualified
+    RParameterHandle {
+        function valueAt(x: real, y: real): real {
+            return y - x
+        }
+
+        plot: root
+        target: calculator
+        name: "makeUpGain"
+        label: qsTr("Gain")
+        defaultValue: root.defaultMakeUpGain
+        xEnabled: false
+        // The middle of the straight part below the knee.
+        xValue: (root.thresholdMin + Math.min(root.threshold - root.knee / 2, root.thresholdMax)) / 2
+        yValue: xValue + root.makeUpGain
+        onEdited: value => root.makeUpGainEdited(value)
+        onCommitted: value => root.makeUpGainCommitted(value)
+    }
+    RParameterHandle {
+        function valueAt(x: real, y: real): real {
+            return RPlotRules.ratioOfLine(root.thresholdMax - root.threshold, y - root.makeUpGain - root.threshold, root.ratioMax)
+        }
+
+        plot: root
+        target: calculator
+        name: "ratio"
+        label: qsTr("Ratio")
+        valueText: qsTr("%1 : 1").arg(shown)
+        defaultValue: root.defaultRatio
+        homeIsQuiet: false
+        step: 0.1
+        fineStep: 0.1
+        xEnabled: false
+        xValue: root.thresholdMax
+        yValue: root.outputOf(root.thresholdMax)
+        onEdited: value => root.ratioEdited(value)
+        onCommitted: value => root.ratioCommitted(value)
+    }
+    RParameterHandle {
+        plot: root
+        target: calculator
+        name: "threshold"
+        label: qsTr("Threshold")
+        unit: root.xUnit
+        defaultValue: root.defaultThreshold
+        yEnabled: false
+        xValue: root.threshold
+        yValue: root.outputOf(root.threshold)
+        onEdited: value => root.thresholdEdited(value)
+        onCommitted: value => root.thresholdCommitted(value)
+    }
+}

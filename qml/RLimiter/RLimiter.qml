@@ -1,0 +1,50 @@
+import QtQuick
+import TambleClient.Control 1.0
+import "../Shared" as Shared
+
+/*! Curve of a limiter with a handle for its threshold, on the diagonal. */
+Shared.RDynamicsPlot {
+    id: root
+
+    property alias calculatorActive: calculator.calculatorActive
+    property alias limiterBypassed: calculator.limiterBypassed
+    property alias threshold: calculator.threshold
+    property alias thresholdMin: calculator.thresholdMin
+    property alias thresholdMax: calculator.thresholdMax
+    readonly property alias values: calculator.values
+    /*! Where a double click leads; undefined for nowhere. So with all panels. */
+    property var defaultThreshold: 0
+
+    signal thresholdEdited(real value)
+    signal thresholdCommitted(real value)
+
+    title: qsTr("Limiter")
+    xFrom: root.thresholdMin
+    xTo: root.thresholdMax
+    active: root.calculatorActive
+    bypassed: root.limiterBypassed
+    points: root.values
+
+    RLimiterCalculator {
+        id: calculator
+        thresholdMin: -60
+        thresholdMax: 20
+        limiterBypassed: false
+    }
+    RParameterHandle {
+        function valueAt(x: real, y: real): real {
+            return (x + y) / 2
+        }
+
+        plot: root
+        target: calculator
+        name: "threshold"
+        label: qsTr("Threshold")
+        unit: root.xUnit
+        defaultValue: root.defaultThreshold
+        xValue: root.threshold
+        yValue: root.threshold
+        onEdited: value => root.thresholdEdited(value)
+        onCommitted: value => root.thresholdCommitted(value)
+    }
+}

@@ -1,0 +1,100 @@
+import QtQuick
+import TambleClient.Control 1.0
+import "../Shared" as Shared
+
+/*! Handle of one parameter of a dynamics panel. Keys step the parameter, the pointer moves its point of the plot. */
+RPlotHandle {
+    id: root
+
+    required property Shared.RDynamicsPlot plot
+    /*! The object that holds the parameter with its bounds, called `name`, `name`Min and `name`Max. */
+    required property QtObject target
+    required property string name
+    property var defaultValue
+    property string unit: "dB"
+    /*! Whether the Home key may lead to the lower bound: not where that is the louder one. */
+    property bool homeIsQuiet: true
+    /*! Rounding while dragging, and with Shift. */
+    property real step: root.plot.dragStep
+    property real fineStep: root.step / 5
+
+    readonly property real minimum: root.bound("Min")
+    readonly property real maximum: root.bound("Max")
+    /*! The number of the parameter, or a dash where it has none. */
+    readonly property string shown: isNaN(root.value) ? "–" : root.value.toFixed(1)
+
+    signal edited(real value)
+    signal committed(real value)
+
+    /*! A bound, and anew when the parameter itself is announced: some bounds have only that signal. */
+    function bound(end: string): real {
+        return [root.target[root.name], root.target[root.name + end]][1]
+    }
+
+    /*! Value of the parameter for a point of the plot; each handle has its own rule. */
+    function valueAt(x: real, y: real): real {
+        return x
+    }
+
+    function edit(value: real) {
+        if (isNaN(value) || value === root.value)
+            return
+        valueEdit.update(value)
+        root.edited(value)
+    }
+
+    /*! A change that is complete in itself. */
+    function editAtOnce(value: real) {
+        root.open()
+        root.edit(RPlotRules.limitedValue(value, root.minimum, root.maximum, 0))
+        root.close()
+    }
+
+    objectName: root.name
+    xFrom: root.plot.xFrom
+    xTo: root.plot.xTo
+    yFrom: root.plot.yFrom
+    yTo: root.plot.yTo
+    readOnly: root.plot.readOnly
+    visiblePoint: !root.plot.bypassed && root.enabled
+    visible: root.plot.handlesVisible && Math.abs(root.maximum - root.minimum) > 0
+    value: root.target[root.name]
+    minimumValue: Math.min(root.minimum, root.maximum)
+    maximumValue: Math.max(root.minimum, root.maximum)
+    stepSize: root.step > 0 ? root.step : Math.abs(root.maximum - root.minimum) / 100
+    valueText: qsTr("%1 %2").arg(root.shown).arg(root.unit)
+    bubbleText: qsTr("%1 %2").arg(root.label).arg(root.valueText)
+
+    onBegun: valueEdit.begin(root.value)
+    onMovedTo: (x, y, fine) => root.edit(RPlotRules.limitedValue(root.valueAt(x, y), root.minimum, root.maximum, fine ? root.fineStep : root.step))
+    onStepped: (right, up, fine) => {
+        const rounding = fine ? root.fineStep : root.step
+        const size = rounding > 0 ? rounding : fine ? root.stepSize / 5 : root.stepSize
+        root.edit(RPlotRules.steppedValue(root.value, (right + up) * size, root.minimum, root.maximum, rounding))
+    }
+    onEnded: {
+        valueEdit.commit()
+        if (root.value !== valueEdit.valueAtBegin)
+            root.committed(root.value)
+    }
+    onCanceled: {
+        root.edit(valueEdit.valueAtBegin)
+        valueEdit.cancel()
+        root.plot.editCanceled()
+    }
+    onHomeRequested: {
+        if (root.homeIsQuiet)
+            root.editAtOnce(root.minimumValue)
+    }
+    onResetRequested: {
+        if (root.defaultValue !== undefined)
+            root.editAtOnce(root.defaultValue)
+    }
+
+    Shared.RValueEdit {
+        id: valueEdit
+        target: root.target
+        name: root.name
+        settleTime: root.plot.settleTime
+    }
+}
