@@ -7,7 +7,7 @@ RBodeplotAxisTemplate {
 
     RStyleSet.typeName: "RBodeplotAxis"
 
-    property color ssColor: root.RStyleSet.props.color("foreground")
+    property color ssColor: root.RStyleSet.props.foreground
 
     implicitWidth: 20 * RThemeValues.unit
     implicitHeight: 20 * RThemeValues.unit

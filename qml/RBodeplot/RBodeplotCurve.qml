@@ -1,6 +1,5 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared"
 
 /*! Frequency response of a set of filters in a plot frame, with handles to edit them: the left button drags frequency
     and gain, the right button Q. */
@@ -15,11 +14,11 @@ RBodeplotCurveTemplate {
     /*! Handle that has the keyboard focus, -1 for none. */
     property int focusedPoint: -1
 
-    property color ssAggregatedCurve: root.RStyleSet.props.color("aggregated-curve")
-    property color ssAggregatedArea: root.RStyleSet.props.color("aggregated-area")
-    property color ssIndividualCurve: root.RStyleSet.props.color("individual-curve")
-    property color ssBypassCurve: root.RStyleSet.props.color("bypass-curve")
-    property color ssSelectedCurve: root.RStyleSet.props.color("selected-curve")
+    property color ssAggregatedCurve: root.RStyleSet.props.aggregatedCurve
+    property color ssAggregatedArea: root.RStyleSet.props.aggregatedArea
+    property color ssIndividualCurve: root.RStyleSet.props.individualCurve
+    property color ssBypassCurve: root.RStyleSet.props.bypassCurve
+    property color ssSelectedCurve: root.RStyleSet.props.selectedCurve
 
     /*! What the surrounding frame says about its axes, or `fallback` outside a frame. */
     function fromFrame(name: string, fallback: real): real {
@@ -67,8 +66,11 @@ RBodeplotCurveTemplate {
     }
     Repeater {
         id: handles
+        // qmllint disable
         model: root.enabled && !root.hidePoints ? root.filterPointModels : []
+        // qmllint enable
 
+        // qmllint disable unqualified
         RBodeplotFilterPoint {
             id: handle
 
@@ -221,5 +223,6 @@ RBodeplotCurveTemplate {
                 }
             }
         }
+        // qmllint enable unqualified
     }
 }

@@ -1,6 +1,6 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared"
+import "../Shared" as Shared
 
 /*! Handle of a filter: a disc with a label above the dot that marks the filter's frequency and gain, at three quarters
     of the height. The curve that owns it moves it. */
@@ -24,15 +24,18 @@ Item {
     /*! Shows the Q in a bubble beside the handle, while it is being changed. */
     property bool showQuality: false
 
-    property color ssBackground: root.RStyleSet.props.color("background")
-    property color ssBackgroundSelected: root.RStyleSet.props.color("background-selected")
-    property color ssBackgroundError: root.RStyleSet.props.color("background-error")
-    property color ssColor: labelStyle.RStyleSet.props.color("foreground")
+    property color ssBackground: root.RStyleSet.props.background
+    property color ssBackgroundSelected: root.RStyleSet.props.backgroundSelected
+    property color ssBackgroundError: root.RStyleSet.props.backgroundError
+    property color ssColor: labelStyle.RStyleSet.props.foreground
 
     readonly property color stateColor: root.errorFlag ? root.ssBackgroundError : root.selected ? root.ssBackgroundSelected : root.ssBackground
     readonly property string qualityText: qsTr("Q %1").arg(root.quality.toFixed(1))
     readonly property string gainText: qsTr("%1 dB").arg((root.gain >= 0 ? "+" : "") + root.gain.toFixed(1))
-    readonly property string valueText: [qsTr("%1 Hz").arg(Math.round(root.frequency)), root.hasGain ? root.gainText : "", root.hasQuality ? root.qualityText : "", root.errorFlag ? qsTr("error") : ""].filter(part => part !== "").join(", ")
+    readonly property string valueText: qsTr("%1 Hz").arg(Math.round(root.frequency))
+                                        + (root.hasGain ? ", " + root.gainText : "")
+                                        + (root.hasQuality ? ", " + root.qualityText : "")
+                                        + (root.errorFlag ? ", " + qsTr("error") : "")
 
     RStyleSet.stateHelper.focus: root.activeFocus
     RStyleSet.stateHelper.selected: root.selected
@@ -44,7 +47,7 @@ Item {
     Accessible.description: root.valueText
     Accessible.focusable: true
 
-    RStyleProbe {
+    Shared.RStyleProbe {
         id: labelStyle
         type: "RButton"
     }
@@ -88,6 +91,7 @@ Item {
         anchors.leftMargin: 4 * RThemeValues.unit
         anchors.verticalCenter: disc.verticalCenter
         active: root.showQuality
+        // qmllint disable unqualified
         sourceComponent: Rectangle {
             width: bubbleText.implicitWidth + 8 * RThemeValues.unit
             height: bubbleText.implicitHeight + 4 * RThemeValues.unit
@@ -102,5 +106,6 @@ Item {
                 font.pixelSize: RThemeValues.fontSizeXS
             }
         }
+        // qmllint enable unqualified
     }
 }

@@ -7,10 +7,10 @@ RBodeplotGridTemplate {
 
     RStyleSet.typeName: "RBodeplotGrid"
 
-    property color ssBackground: root.RStyleSet.props.color("background")
-    property color ssLineVertical: root.RStyleSet.props.color("line-vertical")
-    property color ssLineHorizontal: root.RStyleSet.props.color("line-horizontal")
-    property color ssLineXaxis: root.RStyleSet.props.color("line-xaxis")
+    property color ssBackground: root.RStyleSet.props.background
+    property color ssLineVertical: root.RStyleSet.props.lineVertical
+    property color ssLineHorizontal: root.RStyleSet.props.lineHorizontal
+    property color ssLineXaxis: root.RStyleSet.props.lineXaxis
 
     Accessible.ignored: true
 

@@ -22,8 +22,8 @@ RLimiterCurveTemplate {
     /*! Tells the ranges and scales, as far as it has properties of these names. */
     readonly property var frame: root.parent
 
-    property color ssCurve: root.RStyleSet.props.color("curve")
-    property color ssBypassCurve: root.RStyleSet.props.color("bypass-curve")
+    property color ssCurve: root.RStyleSet.props.curve
+    property color ssBypassCurve: root.RStyleSet.props.bypassCurve
 
     /*! The user moves the threshold. */
     signal userChangedThreshold(real threshold)

@@ -21,10 +21,10 @@ Item {
     /*! Shows the threshold in a bubble beside the handle, while it is being moved. */
     property bool showQuality: false
 
-    property color ssBackground: root.RStyleSet.props.color("background")
-    property color ssBackgroundSelected: root.RStyleSet.props.color("background-selected")
-    property color ssBackgroundError: root.RStyleSet.props.color("background-error")
-    property color ssColor: labelStyle.RStyleSet.props.color("foreground")
+    property color ssBackground: root.RStyleSet.props.background
+    property color ssBackgroundSelected: root.RStyleSet.props.backgroundSelected
+    property color ssBackgroundError: root.RStyleSet.props.backgroundError
+    property color ssColor: labelStyle.RStyleSet.props.foreground
 
     readonly property color stateColor: root.errorFlag ? root.ssBackgroundError : root.selected ? root.ssBackgroundSelected : root.ssBackground
     readonly property string valueText: isNaN(root.gain) ? "–" : qsTr("%1 dB").arg(root.gain.toFixed(1))

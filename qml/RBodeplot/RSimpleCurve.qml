@@ -14,8 +14,8 @@ RSimpleCurveTemplate {
     /*! Tells the ranges and scales, as far as it has properties of these names. */
     readonly property var frame: root.parent
 
-    property color ssIndividualCurve: root.RStyleSet.props.color("individual-curve")
-    property color ssSelectedCurve: root.RStyleSet.props.color("selected-curve")
+    property color ssIndividualCurve: root.RStyleSet.props.individualCurve
+    property color ssSelectedCurve: root.RStyleSet.props.selectedCurve
 
     anchors.fill: parent
     visible: !root.hidden

@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared"
+import "../Shared" as Shared
 
 /*! Push button with a text. `selected` and `consistent` are the page's to set; a click only emits `clicked`. */
-RStyledButton {
+Shared.RStyledButton {
     id: root
 
     property bool active: false

@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared"
+import "../Shared" as Shared
 
 /*! Button with an icon; `label` is its name for assistive tools. */
-RStyledButton {
+Shared.RStyledButton {
     id: root
 
     property alias iconItem: icon

@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared"
+import "../Shared" as Shared
 
 /*! Button that shows either its text or its icon. */
-RStyledButton {
+Shared.RStyledButton {
     id: root
 
     property bool showIcon: false

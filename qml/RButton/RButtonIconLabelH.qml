@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared"
+import "../Shared" as Shared
 
 /*! Button with an icon and its text beside it. Without an icon the text has the whole width. */
-RStyledButton {
+Shared.RStyledButton {
     id: root
 
     property alias iconItem: icon
@@ -17,7 +17,7 @@ RStyledButton {
         RIcon {
             id: icon
 
-            readonly property bool shown: icon.source.toString().length > 0
+            readonly property bool shown: String(icon.source).length > 0
             readonly property real space: icon.shown ? icon.width + 4 * RThemeValues.unit : 0
 
             x: root.mirrored ? parent.width - icon.space : 4 * RThemeValues.unit

@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared"
+import "../Shared" as Shared
 
 /*! Tall button with an icon above its text. */
-RStyledButton {
+Shared.RStyledButton {
     id: root
 
     property alias iconItem: icon

@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared"
+import "../Shared" as Shared
 
 /*! Tall button with a caption above its text, such as a parameter's name above its value. */
-RStyledButton {
+Shared.RStyledButton {
     id: root
 
     property string textSub: ""

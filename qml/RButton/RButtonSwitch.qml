@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared"
+import "../Shared" as Shared
 
 /*! Switch with a handle: at the left off, at the right on, in the middle while several devices differ. */
-RStyledButton {
+Shared.RStyledButton {
     id: root
 
     RStyleSet.typeName: "RButtonSwitch"

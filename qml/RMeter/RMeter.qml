@@ -48,6 +48,7 @@ RMeterBase {
     }
     Loader {
         active: root.clipIndicatorSupported || root.faderIndicatorActive
+        // qmllint disable unqualified
         sourceComponent: Item {
             id: marks
 
@@ -91,5 +92,6 @@ RMeterBase {
                 color: root.ssIndicatorColor
             }
         }
+        // qmllint enable unqualified
     }
 }

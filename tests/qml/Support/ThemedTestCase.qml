@@ -20,7 +20,10 @@ TestCase {
 
     RThemeSelector {
         themeComponent: Component {
-            RTheme {}
+            // Which pointing devices there are depends on what ran before.
+            RTheme {
+                hoverEnabled: true
+            }
         }
     }
     RStyleEngineSetup {
