@@ -1,0 +1,456 @@
+#include "fader/RFaderBase.h"
+
+#include <QtCore/QMetaMethod>
+#include <QtCore/QTimerEvent>
+#include <QtGui/QAccessible>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QStyleHints>
+#include <QtGui/QWheelEvent>
+#include <QtQml/qqml.h>
+#include <QtQuick/private/qquickaccessibleattached_p.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tamble::client {
+
+namespace {
+
+constexpr int stepsEndMs = 400;
+constexpr int longPressMs = 500;
+constexpr int wheelStep = 120; // eighths of a degree
+
+// Parts of the range that steps of 0, which stand for "continuous", move by.
+constexpr double normalPart = 0.01;
+constexpr double finePart = 0.001;
+constexpr double pagePart = 0.1;
+
+} // namespace
+
+RFaderBase::RFaderBase(QQuickItem *parent)
+    : FaderItem(parent)
+{
+    setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
+    setAcceptTouchEvents(true);
+    setWheelEnabled(true);
+    connect(this, &RFaderBase::readOnlyChanged, this, &RFaderBase::letGo);
+    connect(this, &RFaderBase::enabledChanged, this, &RFaderBase::letGo);
+}
+
+// Editing
+
+bool RFaderBase::canEdit() const
+{
+    return !isReadOnly() && isEnabled() && travel().isUsable();
+}
+
+void RFaderBase::edit(double level)
+{
+    // The first edit while devices differ sets them all, even to the level that is shown.
+    if (level == value() && (m_editing || isConsistent()))
+        return;
+    if (!m_editing) {
+        m_levelBefore = value();
+        m_editing = true;
+        m_edit.show(level);
+        Q_EMIT editingChanged();
+    } else {
+        m_edit.show(level);
+    }
+    if (live())
+        Q_EMIT valueEdited(value());
+}
+
+void RFaderBase::finish()
+{
+    m_stepsEnd.stop();
+    if (!m_editing)
+        return;
+    m_editing = false;
+    m_edit.settle(m_settleTime);
+    const double level = value();
+    Q_EMIT editingChanged();
+    if (!live())
+        Q_EMIT valueEdited(level);
+    Q_EMIT valueCommitted(level);
+}
+
+void RFaderBase::takeBack()
+{
+    m_stepsEnd.stop();
+    m_editing = false;
+    const double level = m_levelBefore;
+    m_edit.takeBack();
+    Q_EMIT editingChanged();
+    if (live())
+        Q_EMIT valueEdited(level);
+    Q_EMIT editCanceled();
+}
+
+void RFaderBase::reset()
+{
+    const std::optional<double> level = resetLevel();
+    if (!level || !canEdit())
+        return;
+    edit(*level);
+    finish();
+}
+
+void RFaderBase::step(double delta)
+{
+    m_stepsEnd.start(stepsEndMs, this);
+    edit(travel().stepped(value(), delta));
+}
+
+double RFaderBase::pageStep() const
+{
+    const double page = std::abs(pageStepSize());
+    return page > 0.0 ? page : pagePart * std::abs(to() - from());
+}
+
+double RFaderBase::stepFor(Qt::KeyboardModifiers modifiers) const
+{
+    if (modifiers & Qt::ControlModifier)
+        return pageStep();
+    const bool isFine = modifiers & Qt::ShiftModifier;
+    const double step = std::abs(isFine ? fineStepSize() : stepSize());
+    return step > 0.0 ? step : (isFine ? finePart : normalPart) * std::abs(to() - from());
+}
+
+// Keys and wheel
+
+std::optional<double> RFaderBase::keyDelta(const QKeyEvent *event) const
+{
+    switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Right:
+        return stepFor(event->modifiers());
+    case Qt::Key_Down:
+    case Qt::Key_Left:
+        return -stepFor(event->modifiers());
+    case Qt::Key_PageUp:
+        return pageStep();
+    case Qt::Key_PageDown:
+        return -pageStep();
+    default:
+        return std::nullopt;
+    }
+}
+
+// End leads to the default level and not to the maximum, which would be loud.
+std::optional<double> RFaderBase::keyTarget(const QKeyEvent *event) const
+{
+    switch (event->key()) {
+    case Qt::Key_Home:
+        return from();
+    case Qt::Key_End:
+        return resetLevel();
+    case Qt::Key_0:
+        return event->modifiers() & Qt::ControlModifier ? resetLevel() : std::nullopt;
+    default:
+        return std::nullopt;
+    }
+}
+
+void RFaderBase::keyPressEvent(QKeyEvent *event)
+{
+    event->ignore();
+    if (event->key() == Qt::Key_Escape && m_editing) {
+        event->accept();
+        m_hold = Hold::None;
+        takeBack();
+        return;
+    }
+    const Qt::KeyboardModifiers known = Qt::ShiftModifier | Qt::ControlModifier | Qt::KeypadModifier;
+    if (!canEdit() || (event->modifiers() & ~known))
+        return;
+    if (const std::optional<double> delta = keyDelta(event)) {
+        event->accept();
+        step(*delta);
+    } else if (const std::optional<double> target = keyTarget(event)) {
+        event->accept();
+        m_stepsEnd.start(stepsEndMs, this);
+        edit(*target);
+    }
+}
+
+void RFaderBase::keyReleaseEvent(QKeyEvent *event)
+{
+    event->ignore();
+}
+
+void RFaderBase::wheelEvent(QWheelEvent *event)
+{
+    event->ignore();
+    const QPointingDevice *device = event->pointingDevice();
+    // Two fingers on a pad scroll the page.
+    const bool isMouse = !device || device->type() == QInputDevice::DeviceType::Mouse;
+    if (!isWheelEnabled() || !canEdit() || !isMouse || (m_wheelNeedsFocus && !hasActiveFocus()))
+        return;
+    const QPoint turned = event->angleDelta();
+    // Some platforms turn the wheel sideways while Shift is down.
+    const int delta = turned.y() != 0 || !(event->modifiers() & Qt::ShiftModifier) ? turned.y() : turned.x();
+    if (delta == 0)
+        return;
+    event->accept();
+    if ((delta > 0) != (m_wheelRest > 0))
+        m_wheelRest = 0;
+    m_wheelRest += delta;
+    const int steps = m_wheelRest / wheelStep;
+    m_wheelRest -= steps * wheelStep;
+    if (steps != 0)
+        step(steps * stepFor(event->modifiers()));
+}
+
+void RFaderBase::focusOutEvent(QFocusEvent *event)
+{
+    FaderItem::focusOutEvent(event);
+    m_wheelRest = 0;
+    if (m_hold == Hold::None)
+        finish();
+}
+
+void RFaderBase::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() == m_stepsEnd.timerId()) {
+        if (m_hold == Hold::None)
+            finish();
+        m_stepsEnd.stop();
+    } else if (event->timerId() == m_longPress.timerId()) {
+        letGo();
+        Q_EMIT contextMenuRequested(m_pressPoint);
+    } else {
+        FaderItem::timerEvent(event);
+    }
+}
+
+void RFaderBase::accessibilityActiveChanged(bool active)
+{
+    FaderItem::accessibilityActiveChanged(active);
+    auto *accessible =
+        qobject_cast<QQuickAccessibleAttached *>(qmlAttachedPropertiesObject<QQuickAccessibleAttached>(this, active));
+    if (!active || !accessible)
+        return;
+    const auto stepBy = [this](int direction) {
+        if (canEdit())
+            step(direction * stepFor(Qt::NoModifier));
+    };
+    accessible->disconnect(this);
+    connect(accessible, &QQuickAccessibleAttached::increaseAction, this, [stepBy] { stepBy(1); });
+    connect(accessible, &QQuickAccessibleAttached::decreaseAction, this, [stepBy] { stepBy(-1); });
+}
+
+// Holding the handle
+
+double RFaderBase::along(const QPointF &point) const
+{
+    return isVertical() ? height() - point.y() : point.x();
+}
+
+bool RFaderBase::isOnHandle(const QPointF &point) const
+{
+    return handle() && handle()->contains(mapToItem(handle(), point));
+}
+
+void RFaderBase::takeHold(Hold hold, const QPointF &point)
+{
+    finish();
+    m_hold = hold;
+    m_moved = false;
+    m_pressPoint = point;
+    m_drag.begin(travelPosition(), along(point));
+    setPressed(true);
+}
+
+void RFaderBase::jumpTo(const QPointF &point)
+{
+    const double length = travelLength();
+    if (!m_jumpOnTrackPress || isOnHandle(point) || !(length > 0.0))
+        return;
+    const double travelStart = ((isVertical() ? height() : width()) - length) / 2.0;
+    const FaderTravel travel = this->travel();
+    edit(travel.rounded(travel.level((along(point) - travelStart) / length), stepSize()));
+}
+
+void RFaderBase::drag(const QPointF &point, bool fine)
+{
+    const double pointer = along(point);
+    if (!m_moved) {
+        if (pointer == m_drag.pointer())
+            return;
+        // The device may have moved the handle since the press.
+        m_drag.begin(travelPosition(), m_drag.pointer());
+        m_moved = true;
+    }
+    const double speed = !fine ? 1.0 : m_fineFactor > 0.0 ? m_fineFactor : 0.1;
+    const double length = travelLength();
+    const double asked = m_drag.moved(pointer, length, speed, travelPosition());
+    const FaderTravel travel = this->travel();
+    double level = travel.rounded(travel.level(asked), fine ? fineStepSize() : stepSize());
+    if (!fine && length > 0.0)
+        level = travel.held(level, asked, m_detents, m_detentReach / length);
+    edit(level);
+}
+
+void RFaderBase::letGo()
+{
+    m_hold = Hold::None;
+    m_touchId = -1;
+    m_longPress.stop();
+    setKeepMouseGrab(false);
+    setKeepTouchGrab(false);
+    setPressed(false);
+    finish();
+}
+
+bool RFaderBase::wantsContextMenu() const
+{
+    static const QMetaMethod signal = QMetaMethod::fromSignal(&RFaderBase::contextMenuRequested);
+    return isSignalConnected(signal);
+}
+
+// Mouse
+
+void RFaderBase::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton) {
+        event->setAccepted(wantsContextMenu());
+        return;
+    }
+    event->accept();
+    if (focusPolicy() & Qt::ClickFocus)
+        forceActiveFocus(Qt::MouseFocusReason);
+    if (m_hold == Hold::None && canEdit()) {
+        setKeepMouseGrab(true);
+        takeHold(Hold::Mouse, event->position());
+        jumpTo(event->position());
+    }
+}
+
+void RFaderBase::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_hold == Hold::Mouse)
+        drag(event->position(), event->modifiers() & Qt::ShiftModifier);
+}
+
+void RFaderBase::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton) {
+        if (contains(event->position()))
+            Q_EMIT contextMenuRequested(event->position());
+        return;
+    }
+    const bool isReset = m_hold == Hold::Mouse && !m_moved && (event->modifiers() & Qt::ControlModifier);
+    letGo();
+    if (isReset)
+        reset();
+}
+
+void RFaderBase::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    event->setAccepted(event->button() == Qt::LeftButton);
+    if (m_hold != Hold::Mouse || event->button() != Qt::LeftButton)
+        return;
+    m_hold = Hold::None; // a double click that slips is no drag
+    reset();
+}
+
+void RFaderBase::mouseUngrabEvent()
+{
+    if (m_hold != Hold::Touch)
+        letGo();
+}
+
+// Touch
+
+void RFaderBase::touchEvent(QTouchEvent *event)
+{
+    if (event->type() == QEvent::TouchCancel || !canEdit()) {
+        event->ignore();
+        letGo();
+        return;
+    }
+    for (const QEventPoint &point : event->points()) {
+        if (point.state() == QEventPoint::Pressed && m_hold == Hold::None)
+            touchPressed(point);
+        else if (m_hold != Hold::Touch || point.id() != m_touchId)
+            continue;
+        else if (point.state() == QEventPoint::Updated)
+            touchMoved(point, event->modifiers() & Qt::ShiftModifier);
+        else if (point.state() == QEventPoint::Released)
+            touchReleased(point);
+    }
+}
+
+void RFaderBase::touchUngrabEvent()
+{
+    if (m_hold == Hold::Touch)
+        letGo();
+}
+
+void RFaderBase::touchPressed(const QEventPoint &point)
+{
+    m_touchId = point.id();
+    m_touchDecided = false;
+    if (wantsContextMenu())
+        m_longPress.start(longPressMs, this);
+    takeHold(Hold::Touch, point.position());
+}
+
+// A view behind the fader may scroll either way. It takes the finger at the platform's drag distance, so the fader
+// decides at half of that: along its travel it keeps the finger, across it leaves it to the view.
+void RFaderBase::touchMoved(const QEventPoint &point, bool fine)
+{
+    if (!m_touchDecided) {
+        const QPointF way = point.position() - m_pressPoint;
+        const double own = isVertical() ? -way.y() : way.x();
+        const double across = isVertical() ? way.x() : way.y();
+        const double threshold = QGuiApplication::styleHints()->startDragDistance() / 2.0;
+        if (std::max(std::abs(own), std::abs(across)) < threshold)
+            return;
+        m_longPress.stop();
+        if (std::abs(across) > std::abs(own)) {
+            letGo();
+            return;
+        }
+        m_touchDecided = true;
+        setKeepTouchGrab(true);
+        if (focusPolicy() & Qt::ClickFocus)
+            forceActiveFocus(Qt::MouseFocusReason);
+        jumpTo(m_pressPoint);
+        // What it took to decide does not move the handle.
+        m_drag.begin(travelPosition(), m_drag.pointer() + std::copysign(threshold, own));
+    }
+    drag(point.position(), fine);
+}
+
+void RFaderBase::touchReleased(const QEventPoint &point)
+{
+    const bool isTap = !m_touchDecided;
+    if (isTap)
+        jumpTo(point.position());
+    letGo();
+    if (!isTap)
+        return;
+    if (focusPolicy() & Qt::ClickFocus)
+        forceActiveFocus(Qt::MouseFocusReason);
+    if (isSecondTap(point.position()))
+        reset();
+}
+
+bool RFaderBase::isSecondTap(const QPointF &point)
+{
+    const QStyleHints *hints = QGuiApplication::styleHints();
+    const QPointF way = point - m_tapPoint;
+    const bool isSecond = m_sinceTap.isValid() && m_sinceTap.elapsed() < hints->mouseDoubleClickInterval() &&
+                          way.manhattanLength() < 2.0 * hints->touchDoubleTapDistance();
+    m_tapPoint = point;
+    if (isSecond)
+        m_sinceTap.invalidate();
+    else
+        m_sinceTap.start();
+    return isSecond;
+}
+
+} // namespace tamble::client

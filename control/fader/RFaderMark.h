@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QtCore/QMetaType>
+#include <QtCore/QString>
+#include <QtQml/qqmlregistration.h>
+
+namespace tamble::client {
+
+/// A tick as a fader's page draws it.
+struct RFaderMark
+{
+    Q_GADGET
+    QML_ANONYMOUS
+    Q_PROPERTY(double position MEMBER position)
+    Q_PROPERTY(QString label MEMBER label)
+    Q_PROPERTY(bool extra MEMBER isExtra)
+
+public:
+    double position = 0.0; // 0 (bottom) to 1 (top) of the travel
+    QString label;         // empty: none, or no room for it
+    bool isExtra = false;  // longer, in a colour of its own
+
+    bool operator==(const RFaderMark &) const = default;
+};
+
+} // namespace tamble::client

@@ -1,0 +1,49 @@
+import QtQuick
+import TambleClient.Control 1.0
+
+/*! Vertical axis of values with ticks and numbers. */
+RAxisTemplate {
+    id: root
+
+    property real tickWidth: 4 * RThemeValues.unit
+    property real tickHeight: RThemeValues.unit
+    /*! Draws the lowest value at the top. */
+    property bool reverse: false
+    /*! Numbers to the left of the ticks instead of to their right. */
+    property bool leftSided: false
+
+    property color ssColor: root.RStyleSet.props.foreground
+    property color ssTickColor: root.RStyleSet.props.tick
+
+    RStyleSet.stateHelper.focus: false
+
+    implicitWidth: 32 * RThemeValues.unit
+    implicitHeight: 280 * RThemeValues.unit
+    Accessible.ignored: true
+
+    Repeater {
+        model: root.ticks
+
+        Rectangle {
+            id: tick
+
+            required property var modelData
+
+            y: root.reverse ? root.height - tick.modelData.y : tick.modelData.y
+            width: root.tickWidth
+            height: root.tickHeight
+            color: root.ssTickColor
+
+            RText {
+                id: number
+                x: root.leftSided ? -number.width - 4 * RThemeValues.unit : tick.width
+                y: (tick.height - number.height) / 2
+                width: 16 * RThemeValues.unit
+                horizontalAlignment: Text.AlignRight
+                text: tick.modelData.label
+                color: root.ssColor
+                font.pixelSize: RThemeValues.fontSizeXS
+            }
+        }
+    }
+}

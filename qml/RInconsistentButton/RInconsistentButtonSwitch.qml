@@ -1,0 +1,55 @@
+import QtQuick
+import QtQuick.Templates as T
+import TambleClient.Control 1.0
+
+/*! Switch that, while several devices differ, asks whether to set all on or off. It sets nothing
+    itself: the page answers clickedOn and clickedOff. */
+RButtonSwitch {
+    id: root
+
+    readonly property string test_key: "control"
+    property string textOn: qsTr("ON")
+    property string textOff: qsTr("OFF")
+    property bool openAbove: false
+    property bool openLeft: false
+    property bool horizontalText: false
+
+    /*! Made when the question is first asked. */
+    property T.Popup popup: null
+
+    signal clickedOn()
+    signal clickedOff()
+
+    onClicked: {
+        if (!root.consistent) {
+            if (!root.popup)
+                root.popup = popupComponent.createObject(root) as T.Popup
+            root.popup.visible = !root.popup.visible
+        } else if (root.selected) {
+            root.clickedOff()
+        } else {
+            root.clickedOn()
+        }
+    }
+    // The devices may come to agree while the question stands.
+    onConsistentChanged: {
+        if (root.popup)
+            root.popup.close()
+    }
+
+    // qmllint disable unqualified
+    Component {
+        id: popupComponent
+        RInconsistentPopup {
+            width: Math.max(root.width, 72 * RThemeValues.unit)
+            textOn: root.textOn
+            textOff: root.textOff
+            openAbove: root.openAbove
+            openLeft: root.openLeft
+            horizontalText: root.horizontalText
+            onClickedOn: root.clickedOn()
+            onClickedOff: root.clickedOff()
+        }
+    }
+    // qmllint enable unqualified
+}

@@ -1,0 +1,94 @@
+import QtQuick
+import QtQuick.Templates as T
+import "../Shared"
+import TambleClient.Control 1.0
+
+/*! Asks "on or off?" when several devices differ. It opens at its parent and is as wide. */
+T.Popup {
+    id: root
+
+    property string textOn: qsTr("ON")
+    property string textOff: qsTr("OFF")
+    /*! Puts the choices side by side. */
+    property bool horizontalText: false
+    property bool openAbove: false
+    property bool openLeft: false
+
+    readonly property bool parentMirrored: root.parent !== null && root.parent.LayoutMirroring.enabled
+    property bool roomBelow: true
+    /*! Gets the focus back. */
+    property Item formerFocus: null
+
+    signal clickedOn()
+    signal clickedOff()
+
+    x: !root.openLeft ? 0 : root.parentMirrored ? 128 * RThemeValues.unit : -128 * RThemeValues.unit
+    y: root.openAbove || !root.roomBelow ? -root.height : root.openLeft || !root.parent ? 0 : root.parent.height
+    width: root.parent ? root.parent.width : implicitWidth
+    implicitWidth: 144 * RThemeValues.unit
+    implicitHeight: (root.horizontalText ? 1 : 2) * 33 * RThemeValues.unit + RThemeValues.unit
+    padding: 0
+    margins: 8 * RThemeValues.unit
+    focus: true
+    // A press on the parent is the parent's to answer.
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+
+    onAboutToShow: {
+        const top = root.parent.mapToItem(null, 0, root.openLeft ? 0 : root.parent.height).y
+        root.roomBelow = top + root.height + root.margins <= root.parent.Window.height
+        root.formerFocus = root.parent.Window.activeFocusItem
+        on.forceActiveFocus(Qt.PopupFocusReason)
+    }
+    onClosed: {
+        const focused = root.parent.Window.activeFocusItem
+        if (root.formerFocus && (!focused || focused === root.parent.Window.contentItem))
+            root.formerFocus.forceActiveFocus(Qt.PopupFocusReason)
+    }
+
+    contentItem: RPopupFrame { // qmllint disable deferred-property-id
+        Accessible.role: Accessible.PopupMenu
+        Accessible.name: qsTr("Set all to")
+
+        Grid {
+            id: choices
+
+            readonly property real buttonWidth: (root.width - (choices.columns + 1) * choices.spacing) / choices.columns
+
+            x: choices.spacing
+            y: choices.spacing
+            columns: root.horizontalText ? 2 : 1
+            spacing: RThemeValues.unit
+            layoutDirection: root.parentMirrored ? Qt.RightToLeft : Qt.LeftToRight
+
+            RButton {
+                id: on
+                width: choices.buttonWidth
+                text: root.textOn
+                enterClicks: true
+                focus: true
+                KeyNavigation.up: off
+                KeyNavigation.down: off
+                KeyNavigation.left: off
+                KeyNavigation.right: off
+                onClicked: {
+                    root.close()
+                    root.clickedOn()
+                }
+            }
+            RButton {
+                id: off
+                width: choices.buttonWidth
+                text: root.textOff
+                enterClicks: true
+                KeyNavigation.up: on
+                KeyNavigation.down: on
+                KeyNavigation.left: on
+                KeyNavigation.right: on
+                onClicked: {
+                    root.close()
+                    root.clickedOff()
+                }
+            }
+        }
+    }
+}

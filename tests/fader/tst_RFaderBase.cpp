@@ -1,0 +1,91 @@
+#include "tst_RFaderBase.h"
+
+#include "fader/RFaderBase.h"
+
+#include <QtGui/QAccessible>
+#include <QtQuick/QQuickWindow>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+using namespace tamble::client;
+
+namespace {
+
+/// A fader of 200 pixels of travel for 100 dB in a window that is never shown.
+struct Fixture
+{
+    QQuickWindow window;
+    RFaderBase *fader = new RFaderBase(window.contentItem());
+
+    Fixture()
+    {
+        window.resize(100, 248);
+        fader->setSize({56, 248});
+        fader->setFrom(-90);
+        fader->setValue(-20);
+    }
+
+    void send(QEvent::Type type, double y, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+        const Qt::MouseButtons buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent event(type, {28, y}, {28, y}, button, buttons, modifiers);
+        QCoreApplication::sendEvent(&window, &event);
+    }
+};
+
+} // namespace
+
+void tst_RFaderBase::fineDrag()
+{
+    Fixture test;
+    test.send(QEvent::MouseButtonPress, 200);
+    test.send(QEvent::MouseMove, 190);
+    QCOMPARE(test.fader->value(), -15.0);
+    test.send(QEvent::MouseMove, 186, Qt::ShiftModifier); // 4 pixels are 2 dB, a tenth of them 0.2
+    QCOMPARE(test.fader->value(), -14.8);
+    test.send(QEvent::MouseMove, 170, Qt::ShiftModifier);
+    QCOMPARE(test.fader->value(), -14.0);
+    test.send(QEvent::MouseMove, 168);
+    QCOMPARE(test.fader->value(), -13.0);
+    const QSignalSpy committed(test.fader, &RFaderBase::valueCommitted);
+    test.send(QEvent::MouseButtonRelease, 168);
+    QCOMPARE(committed.count(), 1);
+}
+
+void tst_RFaderBase::fineDragIgnoresDetents()
+{
+    Fixture test;
+    test.fader->setProperty("detents", QVariant::fromValue(QList<qreal>{-15.0}));
+    test.send(QEvent::MouseButtonPress, 200);
+    test.send(QEvent::MouseMove, 188);
+    QCOMPARE(test.fader->value(), -15.0);
+    test.send(QEvent::MouseMove, 184, Qt::ShiftModifier);
+    QCOMPARE(test.fader->value(), -14.8);
+    test.send(QEvent::MouseButtonRelease, 184, Qt::ShiftModifier);
+}
+
+void tst_RFaderBase::accessible()
+{
+    QAccessible::setActive(true);
+    Fixture test;
+    test.fader->setProperty("label", QStringLiteral("Main"));
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(test.fader);
+    QVERIFY(interface);
+    QCOMPARE(interface->role(), QAccessible::Slider);
+    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Main"));
+    QCOMPARE(interface->text(QAccessible::Description), QStringLiteral("-20.0\u00a0dB"));
+    test.fader->setProperty("consistent", false);
+    test.fader->setProperty("confirmed", false);
+    test.fader->setReadOnly(true);
+    test.fader->setValue(-90);
+    QCOMPARE(interface->text(QAccessible::Description),
+             QStringLiteral("\u2212\u221e, mixed, not confirmed, read only"));
+    test.fader->setReadOnly(false);
+
+    const QSignalSpy edited(test.fader, &RFaderBase::valueEdited);
+    interface->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+    QCOMPARE(test.fader->value(), -89.5);
+    QCOMPARE(edited.count(), 1);
+    QAccessible::setActive(false);
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+class tst_RFaderBase : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fineDrag();
+    void fineDragIgnoresDetents();
+    void accessible();
+};

@@ -1,0 +1,139 @@
+import QtQuick
+import QtTest
+import TambleClient.Control 1.0
+
+TestCase {
+    id: root
+    name: "RApplicationWindow"
+    when: windowShown
+    visible: true
+
+    property var exceptions: []
+
+    Component {
+        id: windowComponent
+        RApplicationWindow {
+            property alias button: button
+            property alias requests: requests
+            property alias loads: loads
+            appStyleSheetKey: ""
+            visible: true
+            onStyleException: (type, message) => root.exceptions.push(type)
+            RButton {
+                id: button
+                x: 400
+                text: "Mute"
+            }
+            RLabel {
+                y: 40
+                text: "&Mute"
+                buddy: button
+            }
+            RIcon {
+                y: 80
+                key: "settings"
+            }
+            RInconsistentButton {
+                y: 120
+            }
+            SignalSpy {
+                id: requests
+                target: button.Window.window
+                signalName: "closeRequested"
+            }
+            SignalSpy {
+                id: loads
+                signalName: "styleChanged"
+            }
+        }
+    }
+
+    function init() {
+        // There is no theme before the window is made, and whatever reads it too early warns.
+        failOnWarning(/.*/)
+        root.exceptions = []
+    }
+
+    function shownWindow(properties: var): var {
+        const window = createTemporaryObject(windowComponent, null, properties ?? {})
+        window.loads.target = window.styleEngine
+        window.requestActivate()
+        tryVerify(() => window.active)
+        return window
+    }
+
+    function test_themes_data() {
+        return [
+            { tag: "light", ground: "#dcdcdc" },
+            { tag: "contrast-dark", ground: "#000000" },
+            { tag: "contrast-light", ground: "#ffffff" },
+            { tag: "dark", ground: "#323232" }
+        ]
+    }
+    function test_themes(row) {
+        const window = shownWindow()
+        window.setTheme(row.tag)
+        compare(String(window.styleEngine.defaultStyleSheetSource), "qrc:/style/tamble." + row.tag + ".style")
+        compare(window.background.color, row.ground)
+        grabImage(window.contentItem) // missing keys are reported with a frame
+        compare(root.exceptions, [])
+    }
+
+    function test_oneLoadPerChange() {
+        const window = shownWindow({ appStyleSheetDirectory: Qt.resolvedUrl("."), appStyleSheetKey: "own" })
+        compare(window.button.ssBackground, "#102030", "the application's sheet is loaded too")
+        theme.stylesheet = "light"
+        tryCompare(window.loads, "count", 1)
+        compare(window.button.ssBackground, "#405060")
+        window.setTheme("dark")
+        compare(window.loads.count, 2)
+        window.appStyleSheetKey = ""
+        tryCompare(window.loads, "count", 3)
+        compare(String(window.styleEngine.styleSheetSource), "")
+        wait(0)
+        compare(window.loads.count, 3)
+        compare(root.exceptions, [])
+    }
+
+    function test_styleExceptions() {
+        const window = shownWindow({ reportMissingKeys: false })
+        window.tambleStyleSheetKey = "none"
+        tryVerify(() => root.exceptions.includes("styleSheetNotFound"), 3000)
+    }
+
+    function test_zoomShortcuts_data() {
+        return [
+            { tag: "larger", keys: [Qt.Key_Plus, Qt.Key_Equal], factor: 1.2 },
+            { tag: "smaller", keys: [Qt.Key_Minus], factor: 0.9 },
+            { tag: "automatic", keys: [Qt.Key_Minus, Qt.Key_0], factor: 0 },
+            { tag: "from automatic", auto: 1.5, keys: [Qt.Key_Plus], factor: 1.6 },
+            { tag: "upper limit", start: 2.95, keys: [Qt.Key_Plus, Qt.Key_Plus], factor: 3 },
+            { tag: "lower limit", start: 0.5, keys: [Qt.Key_Minus], factor: 0.5 },
+            { tag: "switched off", shortcuts: false, keys: [Qt.Key_Plus], factor: 0 }
+        ]
+    }
+    function test_zoomShortcuts(row) {
+        const window = shownWindow({ zoomShortcuts: row.shortcuts ?? true })
+        theme.setDpAutoZoomFactor(row.auto ?? 1)
+        theme.setDpZoomFactor(row.start ?? 0)
+        window.contentItem.forceActiveFocus()
+        for (const key of row.keys)
+            keyClick(key, Qt.ControlModifier)
+        compare(theme.dpZoomFactor, row.factor)
+        compare(window.button.height, 32 * theme.dp(1))
+    }
+
+    function test_closing_data() {
+        return [
+            { tag: "at once", confirm: false },
+            { tag: "after a question", confirm: true }
+        ]
+    }
+    function test_closing(row) {
+        const window = shownWindow({ confirmClose: row.confirm })
+        window.requests.target = window
+        window.close()
+        compare(window.requests.count, 1)
+        compare(window.visible, row.confirm)
+    }
+}

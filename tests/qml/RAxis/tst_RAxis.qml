@@ -1,0 +1,41 @@
+import QtQuick
+import QtTest
+import TambleClient.Control 1.0
+import "../Support"
+
+ThemedTestCase {
+    id: root
+    name: "RAxis"
+
+    Component {
+        id: axisComponent
+        RAxis {
+            maxValue: 10
+            tickCount: 10
+        }
+    }
+
+    function test_layout_data() {
+        return [
+            { tag: "numbers at the right", body: {}, tick: 280, x: 4 },
+            { tag: "numbers at the left", body: { leftSided: true }, tick: 280, x: -20 },
+            { tag: "reversed", body: { reverse: true }, tick: 0, x: 4 },
+        ]
+    }
+    function test_layout(data) {
+        const axis = createTemporaryObject(axisComponent, root, data.body)
+        compare([axis.width, axis.height], [32, 280])
+        const first = axis.children[0]
+        compare([first.x, first.y, first.width, first.height], [0, data.tick, 4, 1])
+        compare(first.color, "#a0a0a0")
+        const number = first.children[0]
+        compare([number.text, number.x, number.width], ["0", data.x, 16])
+        compare(number.y + number.height / 2, 0.5, "centred on its tick")
+    }
+
+    function test_ticksFollowTheRange() {
+        const axis = createTemporaryObject(axisComponent, root)
+        axis.minValue = -10
+        compare(axis.children[0].children[0].text, "-10")
+    }
+}

@@ -1,0 +1,131 @@
+import QtQuick
+import QtTest
+import TambleClient.Control 1.0
+import "../Support"
+
+ThemedTestCase {
+    id: root
+    name: "RInconsistentButton"
+    height: 400
+
+    property var log: []
+
+    // qmllint disable unqualified
+    Component {
+        id: buttonComponent
+        RInconsistentButton {
+            text: "Mute"
+            x: 150
+            y: 150
+            onClickedOn: root.log.push("on")
+            onClickedOff: root.log.push("off")
+        }
+    }
+    Component {
+        id: switchComponent
+        RInconsistentButtonSwitch {
+            x: 150
+            y: 150
+            label: "Power"
+            onClickedOn: root.log.push("on")
+            onClickedOff: root.log.push("off")
+        }
+    }
+    // qmllint enable unqualified
+
+    function makeMixed(component: Component, properties: var): var {
+        root.log = []
+        const button = createTemporaryObject(component, root, Object.assign({ consistent: false }, properties))
+        button.forceActiveFocus()
+        return button
+    }
+    function openedPopup(button: Item): var {
+        tryVerify(() => button.popup && button.popup.opened)
+        return button.popup
+    }
+
+    function test_consistentButtonsAskNothing_data() {
+        return [
+            { tag: "button", component: buttonComponent },
+            { tag: "switch", component: switchComponent }
+        ]
+    }
+    function test_consistentButtonsAskNothing(row) {
+        const button = makeMixed(row.component, { consistent: true })
+        mouseClick(button)
+        button.selected = true
+        mouseClick(button)
+        compare(root.log, ["on", "off"])
+        compare(button.popup, null, "no popup is made before it is needed")
+    }
+
+    /*! Keys after the click that opens the question; what the button then signals. */
+    function test_keys_data() {
+        return [
+            { tag: "Enter", keys: [Qt.Key_Return], log: ["on"] },
+            { tag: "Space", keys: [Qt.Key_Space], log: ["on"] },
+            { tag: "Down", keys: [Qt.Key_Down, Qt.Key_Enter], log: ["off"] },
+            { tag: "Up", keys: [Qt.Key_Up, Qt.Key_Enter], log: ["off"] },
+            { tag: "there and back", keys: [Qt.Key_Down, Qt.Key_Up, Qt.Key_Enter], log: ["on"] },
+            { tag: "Tab", keys: [Qt.Key_Tab, Qt.Key_Tab, Qt.Key_Tab, Qt.Key_Enter], log: ["off"] },
+            { tag: "side by side", keys: [Qt.Key_Right, Qt.Key_Enter], horizontal: true, log: ["off"] },
+            { tag: "Esc", keys: [Qt.Key_Escape], log: [] }
+        ]
+    }
+    function test_keys(row) {
+        for (const component of [buttonComponent, switchComponent]) {
+            const button = makeMixed(component, { horizontalText: row.horizontal ?? false })
+            keyClick(Qt.Key_Space)
+            const popup = openedPopup(button)
+            for (const key of row.keys)
+                keyClick(key)
+            tryVerify(() => !popup.visible)
+            compare(root.log, row.log)
+            tryVerify(() => button.activeFocus)
+            verify(!popup.visible, "the key that chose has not opened it again")
+        }
+    }
+
+    function test_place_data() {
+        return [
+            { tag: "below", x: 0, y: 32 },
+            { tag: "above", properties: { openAbove: true }, x: 0, y: -67 },
+            { tag: "left", properties: { openLeft: true }, x: -128, y: 0 },
+            { tag: "mirrored", properties: { openLeft: true, x: 100 }, mirrored: true, x: 128, y: 0 },
+            { tag: "no room below", properties: { y: 350 }, x: 0, y: -67 },
+            { tag: "side by side", properties: { horizontalText: true, openAbove: true }, x: 0, y: -34 }
+        ]
+    }
+    function test_place(row) {
+        const button = makeMixed(buttonComponent, row.properties ?? {})
+        button.LayoutMirroring.enabled = row.mirrored ?? false
+        mouseClick(button)
+        const popup = openedPopup(button)
+        compare([popup.x, popup.y, popup.width], [row.x, row.y, 144])
+        mouseClick(button)
+        tryVerify(() => !popup.visible, 1000, "a second click closes it")
+    }
+
+    function test_widthOfTheSwitch() {
+        const button = makeMixed(switchComponent, {})
+        mouseClick(button)
+        compare(openedPopup(button).width, 72)
+        button.consistent = true
+        tryVerify(() => !button.popup.visible, 1000, "there is nothing left to ask")
+        compare(root.log, [])
+    }
+
+    function test_choosingByPointer() {
+        const button = makeMixed(buttonComponent, { textOff: "AUS" })
+        mouseClick(button)
+        const popup = openedPopup(button)
+        mouseClick(root, button.x + 20, button.y + 32 + 50)
+        compare(root.log, ["off"])
+        tryVerify(() => !popup.visible)
+        mouseClick(button)
+        openedPopup(button)
+        mouseClick(root, 5, 5)
+        tryVerify(() => !popup.visible)
+        compare(root.log, ["off"])
+    }
+}
