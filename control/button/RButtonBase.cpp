@@ -10,6 +10,7 @@
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 #include <QtQml/qqml.h>
+#include <QtQuick/private/qquickaccessibleattached_p.h>
 
 namespace tamble::client {
 
@@ -60,9 +61,14 @@ void RButtonBase::keyReleaseEvent(QKeyEvent *event)
     if (m_useCustomEvent) {
         Q_EMIT customEventActivated();
     } else {
-        nextCheckState();
-        Q_EMIT clicked();
+        click();
     }
+}
+
+void RButtonBase::click()
+{
+    nextCheckState();
+    Q_EMIT clicked();
 }
 
 void RButtonBase::nextCheckState()
@@ -87,6 +93,8 @@ void RButtonBase::accessibilityActiveChanged(bool active)
     if (!active)
         return;
     maybeSetAccessibleName(plainText());
+    if (auto *tools = QQuickAccessibleAttached::attachedProperties(this))
+        connect(tools, &QQuickAccessibleAttached::pressAction, this, &RButtonBase::click, Qt::UniqueConnection);
     tellAssistiveTools();
     warnAboutMissingName();
 }

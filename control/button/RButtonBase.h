@@ -54,6 +54,7 @@ protected:
     void accessibilityActiveChanged(bool active) override;
 
 private:
+    void click();
     void tellAssistiveTools();
     void warnAboutMissingName() const;
     void editSelection();

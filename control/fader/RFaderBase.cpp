@@ -10,6 +10,7 @@
 #include <QtQml/qqml.h>
 #include <QtQuick/private/qquickaccessibleattached_p.h>
 
+#include <QDebug>
 #include <algorithm>
 #include <cmath>
 
@@ -294,7 +295,7 @@ void RFaderBase::drag(const QPointF &point, bool fine)
 }
 
 void RFaderBase::letGo()
-{
+{ qWarning() << "letGo" << this;
     m_hold = Hold::None;
     m_touchId = -1;
     m_longPress.stop();
@@ -365,7 +366,7 @@ void RFaderBase::mouseUngrabEvent()
 // Touch
 
 void RFaderBase::touchEvent(QTouchEvent *event)
-{
+{ qWarning() << "touch" << this << event << int(m_hold);
     if (event->type() == QEvent::TouchCancel || !canEdit()) {
         event->ignore();
         letGo();
@@ -384,7 +385,7 @@ void RFaderBase::touchEvent(QTouchEvent *event)
 }
 
 void RFaderBase::touchUngrabEvent()
-{
+{ qWarning() << "ungrab" << this;
     if (m_hold == Hold::Touch)
         letGo();
 }

@@ -1,0 +1,174 @@
+#include "TambleClientControlModule.h"
+#include "button/Mnemonic.h"
+
+#include <QtCore/QRegularExpression>
+#include <QtGui/QAccessible>
+#include <QtGui/private/qguiapplication_p.h>
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlEngine>
+#include <QtQuick/QQuickItem>
+#include <QtQuick/QQuickWindow>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
+#include <memory>
+
+using namespace tamble::client;
+
+/// What assistive tools see of buttons.
+class tst_ButtonAccessibility : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
+    void mnemonics_data();
+    void mnemonics();
+    void seen_data();
+    void seen();
+    void followsChanges();
+    void pressAction();
+    void missingNameIsReportedOnce();
+
+private:
+    std::unique_ptr<QQuickItem> make(const QString &body);
+
+    QQmlEngine m_engine;
+    std::unique_ptr<QObject> m_styles;
+    QQuickWindow m_window;
+};
+
+std::unique_ptr<QQuickItem> tst_ButtonAccessibility::make(const QString &body)
+{
+    QQmlComponent component(&m_engine);
+    component.setData("import QtQuick\nimport TambleClient.Control 1.0\n" + body.toUtf8(), QUrl());
+    auto *object = component.create();
+    if (!object)
+        qWarning() << component.errorString();
+    std::unique_ptr<QQuickItem> item(qobject_cast<QQuickItem *>(object));
+    if (item)
+        item->setParentItem(m_window.contentItem());
+    return item;
+}
+
+void tst_ButtonAccessibility::initTestCase()
+{
+    TambleClientControlModule module;
+    module.registerTypes("TambleClient.Control");
+    module.initializeEngine(&m_engine, "TambleClient.Control");
+    // As when a screen reader runs.
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
+    m_styles = make(QStringLiteral("Item { RThemeSelector { themeComponent: Component { RTheme {} } }\n"
+                                   "RStyleEngineSetup { engine.defaultStyleSheetSource: "
+                                   "'qrc:/style/tamble.dark.style' } }"));
+    QVERIFY(m_styles);
+}
+
+void tst_ButtonAccessibility::mnemonics_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("shown");
+
+    QTest::newRow("none") << "Mute"
+                          << "Mute";
+    QTest::newRow("first letter") << "&Mute"
+                                  << "Mute";
+    QTest::newRow("digit") << "Scene &2"
+                           << "Scene 2";
+    QTest::newRow("escaped") << "R&&D"
+                             << "R&D";
+    QTest::newRow("both") << "&R&&D"
+                          << "R&D";
+    QTest::newRow("word of its own") << "Drums & Bass"
+                                     << "Drums & Bass";
+    QTest::newRow("at the end") << "Keys &"
+                                << "Keys &";
+    QTest::newRow("before a sign") << "A&-B"
+                                   << "A&-B";
+    QTest::newRow("empty") << ""
+                           << "";
+}
+
+void tst_ButtonAccessibility::mnemonics()
+{
+    QFETCH(QString, text);
+    QTEST(withoutMnemonic(text), "shown");
+}
+
+void tst_ButtonAccessibility::seen_data()
+{
+    QTest::addColumn<QString>("body");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("checkable");
+    QTest::addColumn<bool>("checked");
+    QTest::addColumn<QString>("description");
+
+    QTest::newRow("plain") << "RButton { text: 'Drums & Bass' }"
+                           << "Drums & Bass" << false << false << "";
+    QTest::newRow("mnemonic") << "RButton { text: '&Mute' }"
+                              << "Mute" << false << false << "";
+    QTest::newRow("selectable") << "RButton { text: 'Mute'; selectable: true }"
+                                << "Mute" << true << false << "";
+    QTest::newRow("selected") << "RButton { text: 'Mute'; selected: true }"
+                              << "Mute" << true << true << "";
+    QTest::newRow("mixed") << "RButton { text: 'Mute'; selected: true; consistent: false }"
+                           << "Mute" << true << false << "mixed";
+    QTest::newRow("named by the page") << "RButton { text: '1'; Accessible.name: 'Mute 1'; "
+                                          "Accessible.description: 'of the left side' ; consistent: false }"
+                                       << "Mute 1" << false << false << "of the left side";
+    QTest::newRow("icon") << "RButtonIcon { label: 'Mute'; iconItem.key: 'mute' }"
+                          << "Mute" << false << false << "";
+    QTest::newRow("switch") << "RButtonSwitch { label: 'Power'; selectable: true; selected: true }"
+                            << "Power" << true << true << "";
+}
+
+void tst_ButtonAccessibility::seen()
+{
+    QFETCH(QString, body);
+    const auto button = make(body);
+    QVERIFY(button);
+    QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(button.get());
+    QVERIFY(seen);
+    QCOMPARE(seen->role(), QAccessible::Button);
+    QTEST(seen->text(QAccessible::Name), "name");
+    QTEST(bool(seen->state().checkable), "checkable");
+    QTEST(bool(seen->state().checked), "checked");
+    QTEST(seen->text(QAccessible::Description), "description");
+}
+
+void tst_ButtonAccessibility::followsChanges()
+{
+    const auto button = make(QStringLiteral("RButton { text: 'Mute'; selectable: true }"));
+    QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(button.get());
+    button->setProperty("selected", true);
+    button->setProperty("text", QStringLiteral("&Muted"));
+    button->setProperty("down", true);
+    QVERIFY(seen->state().checked);
+    QCOMPARE(seen->text(QAccessible::Name), QStringLiteral("Muted"));
+    button->setProperty("consistent", false);
+    QVERIFY(!seen->state().checked);
+    QCOMPARE(seen->text(QAccessible::Description), QStringLiteral("mixed"));
+}
+
+void tst_ButtonAccessibility::pressAction()
+{
+    const auto button = make(QStringLiteral("RButton { text: 'Mute' }"));
+    const QSignalSpy clicked(button.get(), SIGNAL(clicked()));
+    QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(button.get());
+    seen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(clicked.count(), 1);
+}
+
+void tst_ButtonAccessibility::missingNameIsReportedOnce()
+{
+    QTest::ignoreMessage(QtWarningMsg, "WARN: RButtonIcon has no accessible name");
+    const auto first = make(QStringLiteral("RButtonIcon { iconItem.key: 'mute' }"));
+    const auto second = make(QStringLiteral("RButtonIcon { iconItem.key: 'solo' }"));
+    QVERIFY(first && second);
+}
+
+QTEST_MAIN(tst_ButtonAccessibility)
+#include "tst_ButtonAccessibility.moc"
