@@ -18,7 +18,7 @@ function(tamble_relax_generated_code target)
 
     # The option -w for single files would keep them apart.
     set(before)
-    foreach(warning IN ITEMS all extra pedantic shadow conversion sign-conversion)
+    foreach(warning IN ITEMS all extra pedantic shadow conversion sign-conversion float-conversion)
         string(APPEND before "#pragma GCC diagnostic ignored \"-W${warning}\"\n")
     endforeach()
     set_target_properties(${target} PROPERTIES

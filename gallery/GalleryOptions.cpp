@@ -11,11 +11,14 @@ GalleryOptions GalleryOptions::parse(const QStringList &arguments)
                                         QStringLiteral("DIR"));
     const QCommandLineOption scale(QStringLiteral("scale"), QStringLiteral("Enlarge the interface, 0.5 to 4."),
                                    QStringLiteral("FACTOR"));
+    const QCommandLineOption audio(QStringLiteral("audio"),
+                                   QStringLiteral("Show the levels of this sound file, not of the built-in signal."),
+                                   QStringLiteral("FILE"));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this text."));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Shows the controls of TambleClient.Control."));
-    parser.addOptions({page, screenshot, scale, help});
+    parser.addOptions({page, screenshot, scale, audio, help});
 
     GalleryOptions options;
     if (!parser.parse(arguments))
@@ -25,11 +28,14 @@ GalleryOptions GalleryOptions::parse(const QStringList &arguments)
     options.page = parser.value(page);
     options.screenshotDir = parser.value(screenshot);
     options.scale = parser.value(scale);
+    options.audioFile = parser.value(audio);
     options.help = parser.isSet(help);
     options.helpText = parser.helpText();
 
     if (parser.isSet(screenshot) && options.screenshotDir.isEmpty())
         options.error = QStringLiteral("the screenshots need a directory");
+    if (parser.isSet(audio) && options.audioFile.isEmpty())
+        options.error = QStringLiteral("the sound file has no name");
     bool isNumber = false;
     const double factor = options.scale.toDouble(&isNumber);
     if (parser.isSet(scale) && (!isNumber || !(factor >= 0.5 && factor <= 4.0)))

@@ -10,6 +10,7 @@ struct GalleryOptions
     QString screenshotDir; ///< where the screenshots go; empty when the gallery runs in a window
     bool help = false;     ///< only the help text is wanted
     QString scale;         ///< factor for the whole interface, 0.5 to 4; empty for the screen's own
+    QString audioFile;     ///< sound file to show; empty for the built-in signal
     QString error;         ///< why the command line cannot be followed; empty when it can
     QString helpText;
 

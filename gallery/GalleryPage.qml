@@ -1,36 +1,44 @@
 import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import TambleClient.Control 1.0
 
-/*! Base of every page: a scrolling column of content below the title. */
+/*! Base of every page: a scrolling column of sections below the description. */
 Flickable {
     id: root
 
     property string description
+    /*! Whether the page shows the signal, which plays while such a page is seen. */
+    property bool listening: false
     default property alias content: column.data
 
     contentWidth: width
-    contentHeight: column.height + 2 * column.y
+    contentHeight: column.height + theme.dp(40)
     boundsBehavior: Flickable.StopAtBounds
     clip: true
-    activeFocusOnTab: contentHeight > height
+    activeFocusOnTab: root.contentHeight > root.height
     Accessible.role: Accessible.Pane
     Accessible.name: root.description
 
-    Keys.onUpPressed: root.contentY = Math.max(0, root.contentY - 40)
-    Keys.onDownPressed: root.contentY = Math.max(0, Math.min(root.contentHeight - root.height, root.contentY + 40))
+    T.ScrollBar.vertical: ScrollHandle {}
 
-    Column {
+    Keys.onUpPressed: root.contentY = Math.max(0, root.contentY - theme.dp(40))
+    Keys.onDownPressed: root.contentY = Math.max(0, Math.min(root.contentHeight - root.height, root.contentY + theme.dp(40)))
+
+    ColumnLayout {
         id: column
-        x: 24
-        y: 20
-        width: root.width - 48
-        spacing: 20
+        x: theme.dp(24)
+        y: theme.dp(8)
+        width: root.width - theme.dp(48)
+        spacing: theme.dp(16)
 
-        GalleryText {
-            width: parent.width
+        RText {
+            Layout.fillWidth: true
+            bottomPadding: theme.dp(8)
             visible: root.description.length > 0
             text: root.description
-            color: GalleryPalette.subtleText
-            wrapMode: Text.WordWrap
+            font.pixelSize: theme.fontSizeL
+            wrapMode: Text.Wrap
             lineHeight: 1.2
         }
     }

@@ -1,103 +1,82 @@
 import QtQuick
+import Gallery
 import TambleClient.Control 1.0
 
-Window {
+/*! The gallery's window: a bar, the list of pages, and the page. */
+RApplicationWindow {
     id: root
 
     /*! Pages as maps with name, title and source. */
     required property var pages
-    property alias currentPage: pageList.currentIndex
+    property alias currentPage: index.currentIndex
     readonly property var page: root.pages[root.currentPage]
+    readonly property GalleryPage shownPage: loader.item as GalleryPage
+    /*! Height of the window in which the whole page is seen without scrolling. */
+    readonly property real wholePageHeight: loader.y + (root.shownPage ? root.shownPage.contentHeight : 0)
+    readonly property bool narrow: root.width < theme.dp(720)
 
-    /*! Shows the theme `word`, "light" or "dark". */
-    function showTheme(word: string) {
-        GalleryPalette.dark = word === "dark"
-    }
-
-    function showPage(index: int) {
-        root.currentPage = (index + root.pages.length) % root.pages.length
-    }
-
-    width: 1280
-    height: 800
-    minimumWidth: 640
-    minimumHeight: 400
     visible: true
     title: qsTr("%1 - TambleClient.Control gallery").arg(root.page.title)
-    color: GalleryPalette.background
+    appStyleSheetDirectory: GalleryFiles.styleDirectory + "/"
+    appStyleSheetKey: ""
+    appStyleSheetTheme: "all"
+    onStyleException: (type, message) => bar.missingKeys.add(message)
 
+    Binding {
+        target: GalleryAudio
+        property: "running"
+        value: root.shownPage !== null && root.shownPage.listening && root.visibility !== Window.Hidden && root.visibility !== Window.Minimized
+    }
     Shortcut {
         sequences: ["Ctrl+PgDown", "Ctrl+Tab"]
-        onActivated: root.showPage(root.currentPage + 1)
+        onActivated: index.show(root.currentPage + 1)
     }
     Shortcut {
         sequences: ["Ctrl+PgUp", "Ctrl+Shift+Tab"]
-        onActivated: root.showPage(root.currentPage - 1)
+        onActivated: index.show(root.currentPage - 1)
     }
     Shortcut {
         sequence: "Ctrl+T"
-        onActivated: GalleryPalette.dark = !GalleryPalette.dark
+        onActivated: root.setTheme(bar.themes.next)
     }
 
-    Rectangle {
-        id: side
-        width: 208
-        height: root.height
-        color: GalleryPalette.panel
-
-        ListView {
-            id: pageList
-            anchors.fill: parent
-            anchors.topMargin: 12
-            anchors.bottomMargin: 64
-            clip: true
-            focus: true
-            activeFocusOnTab: true
-            keyNavigationWraps: true
-            highlightMoveDuration: 0
-            model: root.pages
-            delegate: PageEntry {}
-            Accessible.role: Accessible.List
-            Accessible.name: qsTr("Pages")
-            Keys.onPressed: event => {
-                if (event.key !== Qt.Key_Home && event.key !== Qt.Key_End)
-                    return
-                root.showPage(event.key === Qt.Key_Home ? 0 : -1)
-                event.accepted = true
-            }
-        }
-        ThemeSwitch {
-            anchors.bottom: parent.bottom
-            anchors.bottomMargin: 16
-            x: 20
-            width: parent.width - 40
-        }
-        Rectangle {
-            anchors.right: parent.right
-            width: 1
-            height: parent.height
-            color: GalleryPalette.line
-        }
+    GalleryBar {
+        id: bar
+        width: root.width
+        menuVisible: root.narrow
+        themes.onChosen: word => root.setTheme(word)
+        onMenuRequested: index.open = !index.open
     }
-
-    GalleryText {
+    RText {
         id: heading
-        anchors.left: side.right
-        anchors.right: parent.right
-        anchors.margins: 24
-        y: 20
+        x: loader.x + theme.dp(24)
+        y: bar.height + theme.dp(16)
+        width: root.width - heading.x - theme.dp(24)
         text: root.page.title
         elide: Text.ElideRight
-        font.pixelSize: 24
+        font.pixelSize: theme.fontSizeXXL
         font.bold: true
         Accessible.role: Accessible.Heading
-        Accessible.name: text
+        Accessible.name: heading.text
     }
-
     Loader {
-        anchors.fill: parent
-        anchors.leftMargin: side.width
-        anchors.topMargin: heading.y + heading.height
+        id: loader
+        x: root.narrow ? 0 : index.width
+        y: heading.y + heading.height
+        width: root.width - loader.x
+        height: root.height - loader.y
         source: root.page.source
+    }
+    PageIndex {
+        id: index
+
+        property bool open: false
+
+        y: bar.height
+        height: root.height - bar.height
+        visible: !root.narrow || index.open
+        focus: true
+        pages: root.pages
+        onChosen: index.open = false
     }
 }

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import TambleClient.Control 1.0
 
 /*! A page's entry in the list of pages. */
 T.ItemDelegate {
@@ -9,9 +10,19 @@ T.ItemDelegate {
     required property var modelData
     readonly property bool current: root.ListView.isCurrentItem
 
+    property color ssBackground: root.RStyleSet.props.background
+    property color ssColor: root.RStyleSet.props.foreground
+    property color ssLineColor: root.RStyleSet.props.line
+    property bool ssLineVisible: root.RStyleSet.props.lineVisible
+
+    RStyleSet.typeName: "RAppBarNavButton"
+    RStyleSet.stateHelper.hovered: root.hovered
+    RStyleSet.stateHelper.selected: root.current
+
     width: ListView.view.width
-    height: 36
+    height: theme.dp(40)
     focusPolicy: Qt.NoFocus
+    hoverEnabled: theme.hoverEnabled
     text: root.modelData.title
     Accessible.name: root.text
     Accessible.selected: root.current
@@ -20,24 +31,27 @@ T.ItemDelegate {
         root.ListView.view.forceActiveFocus(Qt.MouseFocusReason)
     }
 
-    contentItem: GalleryText {
-        leftPadding: 20
+    contentItem: RText {
+        leftPadding: theme.dp(24)
+        rightPadding: theme.dp(8)
         verticalAlignment: Text.AlignVCenter
         text: root.text
         elide: Text.ElideRight
-        color: root.current ? GalleryPalette.accent : GalleryPalette.text
+        color: root.ssColor
+        font.pixelSize: theme.fontSizeL
         font.bold: root.current
     }
     background: Rectangle {
-        color: root.current ? GalleryPalette.background : "transparent"
-        border.width: root.current && root.ListView.view.activeFocus ? 1 : 0
-        border.color: GalleryPalette.accent
+        color: root.ssBackground
 
         Rectangle {
-            width: 4
+            width: theme.dp(4)
             height: parent.height
-            color: GalleryPalette.accent
-            visible: root.current
+            color: root.ssLineColor
+            visible: root.ssLineVisible
+        }
+        RFocusRectangle {
+            visible: root.current && root.ListView.view.activeFocus
         }
     }
 }

@@ -1,17 +1,48 @@
 #include "Screenshots.h"
 
+#include "GalleryAudio.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
+#include <QtCore/QEventLoop>
+#include <QtCore/QTextStream>
+#include <QtCore/QTimer>
+#include <QtCore/QtMath>
 #include <QtGui/QImage>
 #include <QtQuick/QQuickWindow>
 
 namespace {
 
-QString writeScreenshot(QQuickWindow &window, const QString &file)
+constexpr int FrameTimeout = 5000; // ms; a frame of the longest page takes less than one second
+/// Just after a beat three seconds into the signal: the meters are up and the averages have settled.
+constexpr int BlocksBeforePicture = 62;
+
+// Deferred deletions and polishes of the page that was just loaded come before its picture.
+void settle()
 {
-    // Deferred deletions and polishes of the page that was just loaded come first.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
+}
+
+// The window system takes its time to change a window's size; what is grabbed before is empty.
+void waitForFrame(QQuickWindow &window)
+{
+    QEventLoop loop;
+    QObject::connect(&window, &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
+    QTimer::singleShot(FrameTimeout, &loop, &QEventLoop::quit);
+    window.update();
+    loop.exec();
+}
+
+QString writeScreenshot(QQuickWindow &window, int shortest, const QString &file)
+{
+    settle();
+    const int height = qMax(shortest, qCeil(window.property("wholePageHeight").toReal()));
+    if (window.height() != height) {
+        window.setHeight(height);
+        waitForFrame(window);
+    }
+    settle();
     if (!window.grabWindow().save(file))
         return QStringLiteral("cannot write \"%1\"").arg(file);
     return {};
@@ -19,19 +50,28 @@ QString writeScreenshot(QQuickWindow &window, const QString &file)
 
 } // namespace
 
-QString writeScreenshots(QQuickWindow &window, const PageList &allPages, const QStringList &pages,
+QString writeScreenshots(QQuickWindow &window, GalleryAudio &audio, const PageList &allPages, const QStringList &pages,
                          const QString &directory)
 {
     if (!QDir().mkpath(directory))
         return QStringLiteral("cannot create the directory \"%1\"").arg(directory);
-    for (const QString &theme : {QStringLiteral("light"), QStringLiteral("dark")}) {
-        QMetaObject::invokeMethod(&window, "showTheme", Q_ARG(QString, theme));
+    const int shortest = window.height();
+    const QStringList themes{QStringLiteral("light"), QStringLiteral("dark"), QStringLiteral("contrast-light"),
+                             QStringLiteral("contrast-dark")};
+    for (const QString &theme : themes) {
+        QMetaObject::invokeMethod(&window, "setTheme", Q_ARG(QString, theme));
         for (const QString &page : pages) {
             window.setProperty("currentPage", int(allPages.indexOf(page)));
+            audio.rewind();
+            audio.advance(BlocksBeforePicture);
             const QString file = QStringLiteral("%1/%2-%3.png").arg(directory, page, theme);
-            if (const QString error = writeScreenshot(window, file); !error.isEmpty())
+            if (const QString error = writeScreenshot(window, shortest, file); !error.isEmpty())
                 return error;
         }
     }
+    QTextStream(stdout) << QStringLiteral("%1 screenshots: %2 pages in %3 themes\n")
+                               .arg(pages.size() * themes.size())
+                               .arg(pages.size())
+                               .arg(themes.size());
     return {};
 }

@@ -2,9 +2,12 @@
 
 #include "PageList.h"
 
+class GalleryAudio;
 class QQuickWindow;
 
-/// Writes `<directory>/<page>-<theme>.png` for `pages` in both themes, from a window that has the property
-/// `currentPage` (index into all pages) and the function `showTheme`. Returns an error text, empty on success.
-QString writeScreenshots(QQuickWindow &window, const PageList &allPages, const QStringList &pages,
+/// Writes `<directory>/<page>-<theme>.png` for `pages` in every theme and prints how many. Each picture shows the whole
+/// page, however long it is. The window has the properties `currentPage` (index into all pages) and `wholePageHeight`,
+/// and the function `setTheme`. Every picture shows the same moment of `audio`, which must be stepped.
+/// Returns an error text, empty on success.
+QString writeScreenshots(QQuickWindow &window, GalleryAudio &audio, const PageList &allPages, const QStringList &pages,
                          const QString &directory);

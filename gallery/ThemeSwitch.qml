@@ -1,42 +1,32 @@
 import QtQuick
-import QtQuick.Templates as T
+import TambleClient.Control 1.0
 
-/*! Chooses between the light and the dark theme. */
-T.Switch {
+/*! Chooses one of the built-in themes. */
+RButtonRow {
     id: root
 
-    height: 32
-    text: qsTr("Dark theme")
-    checked: GalleryPalette.dark
-    Accessible.name: root.text
-    onToggled: {
-        GalleryPalette.dark = root.checked
-        root.checked = Qt.binding(() => GalleryPalette.dark) // the click has broken it
-    }
-    Keys.onReturnPressed: GalleryPalette.dark = !GalleryPalette.dark
-    Keys.onEnterPressed: GalleryPalette.dark = !GalleryPalette.dark
+    readonly property list<string> words: ["light", "dark", "contrast-light", "contrast-dark"]
+    readonly property int currentIndex: root.words.indexOf(theme.stylesheet)
+    readonly property string next: root.words[(root.currentIndex + 1) % root.words.length]
 
-    contentItem: GalleryText {
-        leftPadding: 52
-        verticalAlignment: Text.AlignVCenter
-        text: root.text
-    }
-    indicator: Rectangle {
-        y: (root.height - height) / 2
-        width: 40
-        height: 20
-        radius: 10
-        color: GalleryPalette.dark ? GalleryPalette.accent : GalleryPalette.line
-        border.width: root.visualFocus ? 2 : 1
-        border.color: root.visualFocus ? GalleryPalette.text : GalleryPalette.subtleText
+    signal chosen(string word)
 
-        Rectangle {
-            x: GalleryPalette.dark ? 22 : 4
-            y: 3
-            width: 14
-            height: 14
-            radius: 7
-            color: GalleryPalette.dark ? GalleryPalette.panel : GalleryPalette.subtleText
+    Accessible.role: Accessible.Grouping
+    Accessible.name: qsTr("Theme")
+
+    // qmllint disable unqualified
+    Repeater {
+        model: root.words
+
+        RButton {
+            required property int index
+            required property string modelData
+
+            width: theme.dp(96)
+            text: modelData
+            selected: root.currentIndex === index
+            onClicked: root.chosen(modelData)
         }
     }
+    // qmllint enable unqualified
 }

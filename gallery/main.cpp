@@ -1,3 +1,4 @@
+#include "GalleryAudio.h"
 #include "GalleryOptions.h"
 #include "PageList.h"
 #include "Screenshots.h"
@@ -51,6 +52,11 @@ int main(int argc, char **argv)
     const QGuiApplication application(argc, argv);
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 
+    GalleryAudio audio(nullptr);
+    audio.setStepped(!options.screenshotDir.isEmpty());
+    if (!options.audioFile.isEmpty() && !audio.open(options.audioFile))
+        return fail(audio.errorText(), EXIT_FAILURE);
+
     QQmlApplicationEngine engine;
     // The module in the build tree, and as installed.
     engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../qml"));
@@ -67,6 +73,6 @@ int main(int argc, char **argv)
 
     auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
     const QStringList wanted = options.page.isEmpty() ? pages.names() : QStringList(options.page);
-    const QString error = writeScreenshots(*window, pages, wanted, options.screenshotDir);
+    const QString error = writeScreenshots(*window, audio, pages, wanted, options.screenshotDir);
     return error.isEmpty() ? EXIT_SUCCESS : fail(error, EXIT_FAILURE);
 }

@@ -1,5 +1,7 @@
 #include "fader/RFaderBase.h"
 
+#include "fader/FaderTouchArea.h"
+
 #include <QtCore/QMetaMethod>
 #include <QtCore/QTimerEvent>
 #include <QtGui/QAccessible>
@@ -10,7 +12,6 @@
 #include <QtQml/qqml.h>
 #include <QtQuick/private/qquickaccessibleattached_p.h>
 
-#include <QDebug>
 #include <algorithm>
 #include <cmath>
 
@@ -20,7 +21,8 @@ namespace {
 
 constexpr int stepsEndMs = 400;
 constexpr int longPressMs = 500;
-constexpr int wheelStep = 120; // eighths of a degree
+constexpr double touchSlack = 5.0; // pixels that a resting finger may wander
+constexpr int wheelStep = 120;     // eighths of a degree
 
 // Parts of the range that steps of 0, which stand for "continuous", move by.
 constexpr double normalPart = 0.01;
@@ -31,9 +33,16 @@ constexpr double pagePart = 0.1;
 
 RFaderBase::RFaderBase(QQuickItem *parent)
     : FaderItem(parent)
+    , m_touchArea(new FaderTouchArea(
+          this, [this](QTouchEvent *event) { touched(event); },
+          [this] {
+              if (m_hold == Hold::Touch)
+                  letGo();
+          }))
 {
+    setFiltersChildMouseEvents(true);
     setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
-    setAcceptTouchEvents(true);
+    setAcceptTouchEvents(false);
     setWheelEnabled(true);
     connect(this, &RFaderBase::readOnlyChanged, this, &RFaderBase::letGo);
     connect(this, &RFaderBase::enabledChanged, this, &RFaderBase::letGo);
@@ -295,12 +304,12 @@ void RFaderBase::drag(const QPointF &point, bool fine)
 }
 
 void RFaderBase::letGo()
-{ qWarning() << "letGo" << this;
+{
     m_hold = Hold::None;
     m_touchId = -1;
     m_longPress.stop();
     setKeepMouseGrab(false);
-    setKeepTouchGrab(false);
+    m_touchArea->setKeepTouchGrab(false);
     setPressed(false);
     finish();
 }
@@ -365,8 +374,33 @@ void RFaderBase::mouseUngrabEvent()
 
 // Touch
 
-void RFaderBase::touchEvent(QTouchEvent *event)
-{ qWarning() << "touch" << this << event << int(m_hold);
+void RFaderBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    FaderItem::geometryChange(newGeometry, oldGeometry);
+    m_touchArea->setSize(newGeometry.size());
+}
+
+bool RFaderBase::childMouseEventFilter(QQuickItem *child, QEvent *event)
+{
+    if (child == m_touchArea && event->type() == QEvent::TouchUpdate && m_hold == Hold::Touch) {
+        for (const QEventPoint &point : static_cast<QTouchEvent *>(event)->points()) {
+            if (point.id() == m_touchId && isOwnMove(point))
+                child->setKeepTouchGrab(true);
+        }
+    }
+    return false;
+}
+
+bool RFaderBase::isOwnMove(const QEventPoint &point) const
+{
+    const QPointF way = point.position() - m_pressPoint;
+    const double own = std::abs(isVertical() ? way.y() : way.x());
+    const double across = std::abs(isVertical() ? way.x() : way.y());
+    return own >= touchSlack && own >= across;
+}
+
+void RFaderBase::touched(QTouchEvent *event)
+{
     if (event->type() == QEvent::TouchCancel || !canEdit()) {
         event->ignore();
         letGo();
@@ -384,12 +418,6 @@ void RFaderBase::touchEvent(QTouchEvent *event)
     }
 }
 
-void RFaderBase::touchUngrabEvent()
-{ qWarning() << "ungrab" << this;
-    if (m_hold == Hold::Touch)
-        letGo();
-}
-
 void RFaderBase::touchPressed(const QEventPoint &point)
 {
     m_touchId = point.id();
@@ -399,29 +427,25 @@ void RFaderBase::touchPressed(const QEventPoint &point)
     takeHold(Hold::Touch, point.position());
 }
 
-// A view behind the fader may scroll either way. It takes the finger at the platform's drag distance, so the fader
-// decides at half of that: along its travel it keeps the finger, across it leaves it to the view.
 void RFaderBase::touchMoved(const QEventPoint &point, bool fine)
 {
     if (!m_touchDecided) {
-        const QPointF way = point.position() - m_pressPoint;
-        const double own = isVertical() ? -way.y() : way.x();
-        const double across = isVertical() ? way.x() : way.y();
-        const double threshold = QGuiApplication::styleHints()->startDragDistance() / 2.0;
-        if (std::max(std::abs(own), std::abs(across)) < threshold)
-            return;
-        m_longPress.stop();
-        if (std::abs(across) > std::abs(own)) {
-            letGo();
+        const double across =
+            isVertical() ? point.position().x() - m_pressPoint.x() : point.position().y() - m_pressPoint.y();
+        if (!isOwnMove(point)) {
+            if (std::abs(across) >= touchSlack)
+                letGo(); // for a view behind that scrolls
             return;
         }
         m_touchDecided = true;
-        setKeepTouchGrab(true);
+        m_longPress.stop();
+        m_touchArea->setKeepTouchGrab(true);
         if (focusPolicy() & Qt::ClickFocus)
             forceActiveFocus(Qt::MouseFocusReason);
         jumpTo(m_pressPoint);
         // What it took to decide does not move the handle.
-        m_drag.begin(travelPosition(), m_drag.pointer() + std::copysign(threshold, own));
+        m_drag.begin(travelPosition(),
+                     m_drag.pointer() + std::copysign(touchSlack, along(point.position()) - m_drag.pointer()));
     }
     drag(point.position(), fine);
 }

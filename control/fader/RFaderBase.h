@@ -56,8 +56,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseUngrabEvent() override;
-    void touchEvent(QTouchEvent *event) override;
-    void touchUngrabEvent() override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+    bool childMouseEventFilter(QQuickItem *child, QEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
@@ -87,6 +87,8 @@ private:
     void letGo();
     bool wantsContextMenu() const;
 
+    void touched(QTouchEvent *event);
+    bool isOwnMove(const QEventPoint &point) const;
     void touchPressed(const QEventPoint &point);
     void touchMoved(const QEventPoint &point, bool fine);
     void touchReleased(const QEventPoint &point);
@@ -111,6 +113,7 @@ private:
     int m_touchId = -1;
     bool m_touchDecided = false; // whether a finger's movement is known to be meant for the fader
     QPointF m_pressPoint;
+    QQuickItem *m_touchArea; // a child
     QBasicTimer m_longPress;
     QElapsedTimer m_sinceTap;
     QPointF m_tapPoint;

@@ -1,14 +1,14 @@
 import QtQuick
 import Gallery
+import TambleClient.Control 1.0
 
 GalleryPage {
     id: root
 
     description: qsTr("Pictures that an installation keeps beside the application. A variant that is missing falls back to a less specific one, an unknown name to the placeholder.")
 
-    Flow {
-        width: parent.width
-        spacing: 16
+    TileGrid {
+        minimumTileWidth: theme.dp(304)
 
         PictureCard {
             pictureId: "ui/buttons/add_24x24_hover"

@@ -5,125 +5,45 @@ import TambleClient.Control 1.0
 GalleryPage {
     id: root
 
-    property Item inspected: plain
-    property string report
+    readonly property var window: root.Window.window
 
-    function inspect(sample: Item) {
-        root.inspected = sample
-        info.text = sample.RStyleSet.styleInfo
-    }
+    description: qsTr("Choose a sheet of your own on top of the theme's, or edit one in %1 and save: everything follows.").arg(String(GalleryFiles.styleDirectory).replace("file://", ""))
 
-    description: qsTr("Choose a style file, or edit one in %1 and save: the samples follow. Point at a sample to see the rules that reach it, the strongest first.").arg(String(GalleryFiles.styleDirectory).replace("file://", ""))
+    Connections {
+        target: root.window ? root.window.styleEngine : null
 
-    RStyleEngineSetup {
-        id: setup
-        engine.stylePath: GalleryFiles.styleDirectory
-        engine.defaultStyleSheetSource: GalleryFiles.styleDirectory + "/base.style"
-        engine.onException: (type, message) => root.report += "%1: %2\n".arg(type).arg(message)
-        engine.onStyleChanged: root.inspect(root.inspected)
-    }
-
-    Row {
-        spacing: 24
-
-        Column {
-            width: 220
-            spacing: 4
-
-            GalleryText {
-                text: qsTr("Style files")
-                font.bold: true
-            }
-            StyleFileEntry {
-                text: qsTr("none")
-                checked: true
-                onClicked: {
-                    setup.engine.styleName = ""
-                    setup.engine.styleSheetSource = ""
-                }
-            }
-            Repeater {
-                model: setup.engine.availableStyles
-
-                StyleFileEntry {
-                    required property string modelData
-                    text: modelData
-                    onClicked: setup.engine.styleName = modelData // qmllint disable unqualified
-                }
-            }
-        }
-
-        Rectangle {
-            id: samples
-
-            property color ssBackground: samples.RStyleSet.props.color("background")
-            property color ssLineColor: samples.RStyleSet.props.color("line")
-
-            RStyleSet.typeName: "Samples"
-            width: 352
-            height: 240
-            color: samples.ssBackground
-            border.color: samples.ssLineColor
-
-            Grid {
-                anchors.centerIn: parent
-                columns: 2
-                spacing: 16
-
-                StyleSample {
-                    id: plain
-                    label: qsTr("plain")
-                    onEntered: root.inspect(plain)
-                }
-                StyleSample {
-                    id: selectable
-                    label: qsTr("selectable")
-                    selected: true
-                    onClicked: selected = !selected
-                    onEntered: root.inspect(selectable)
-                }
-                StyleSample {
-                    id: red
-                    label: qsTr("class red")
-                    RStyleSet.name: "red"
-                    onEntered: root.inspect(red)
-                }
-                StyleSample {
-                    id: disabled
-                    label: qsTr("disabled")
-                    enabled: false
-                }
-                StyleSample {
-                    id: asking
-                    label: qsTr("asks for \"glow\"")
-                    onEntered: root.inspect(asking)
-                    onClicked: asking.RStyleSet.props.color("glow")
-                }
-            }
+        function onStyleChanged() {
+            samples.refresh()
         }
     }
 
-    GalleryText {
-        text: qsTr("Rules")
-        font.bold: true
+    TileGrid {
+        Section {
+            title: qsTr("User sheet")
+
+            StyleFileList {
+                key: root.window ? root.window.appStyleSheetKey : ""
+                onChosen: key => root.window.appStyleSheetKey = key
+            }
+        }
+        Section {
+            title: qsTr("Samples")
+            note: qsTr("Point at one to see its rules. The last one asks for a key that no sheet sets: watch the count of missing keys.")
+
+            StyleSamples {
+                id: samples
+            }
+        }
     }
-    GalleryText {
-        id: info
-        width: parent.width
-        color: GalleryPalette.subtleText
-        font.family: "monospace"
-        font.pixelSize: 12
-        wrapMode: Text.WrapAnywhere
-    }
-    GalleryText {
-        text: qsTr("Reports of the style engine")
-        font.bold: true
-    }
-    GalleryText {
-        width: parent.width
-        text: root.report.length > 0 ? root.report : qsTr("none; click the sample that asks for a key no sheet sets")
-        color: GalleryPalette.subtleText
-        font.pixelSize: 12
-        wrapMode: Text.WordWrap
+    Section {
+        title: qsTr("Rules")
+        note: qsTr("The strongest first.")
+
+        RText {
+            width: parent.width
+            text: samples.info
+            font.family: "monospace"
+            wrapMode: Text.WrapAnywhere
+        }
     }
 }

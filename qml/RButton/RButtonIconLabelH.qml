@@ -34,7 +34,8 @@ Shared.RStyledButton {
             text: root.plainText
             color: root.ssColor
             elide: Text.ElideRight
-            horizontalAlignment: !icon.shown ? Text.AlignHCenter : root.mirrored ? Text.AlignRight : Text.AlignLeft
+            horizontalAlignment: icon.shown ? Text.AlignLeft : Text.AlignHCenter
+            LayoutMirroring.enabled: root.mirrored
             verticalAlignment: Text.AlignVCenter
         }
     }

@@ -15,6 +15,8 @@ Shared.RStyledButton {
 
     implicitHeight: 64 * RThemeValues.unit
     backgroundRect.lineInset: backgroundRect.border.width
+    // A border whose width is read is drawn, in black unless it has a colour.
+    backgroundRect.border.color: root.ssBackground
 
     contentItem: Item { // qmllint disable deferred-property-id
         RIcon {

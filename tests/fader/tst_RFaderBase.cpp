@@ -1,11 +1,19 @@
 #include "tst_RFaderBase.h"
 
+#include "TambleClientControlModule.h"
 #include "fader/RFaderBase.h"
 
 #include <QtGui/QAccessible>
+#include <QtGui/private/qguiapplication_p.h>
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickWindow>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
+#include <memory>
 
 using namespace tamble::client;
 
@@ -67,25 +75,41 @@ void tst_RFaderBase::fineDragIgnoresDetents()
 
 void tst_RFaderBase::accessible()
 {
-    QAccessible::setActive(true);
-    Fixture test;
-    test.fader->setProperty("label", QStringLiteral("Main"));
-    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(test.fader);
-    QVERIFY(interface);
-    QCOMPARE(interface->role(), QAccessible::Slider);
-    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Main"));
-    QCOMPARE(interface->text(QAccessible::Description), QStringLiteral("-20.0\u00a0dB"));
-    test.fader->setProperty("consistent", false);
-    test.fader->setProperty("confirmed", false);
-    test.fader->setReadOnly(true);
-    test.fader->setValue(-90);
-    QCOMPARE(interface->text(QAccessible::Description),
-             QStringLiteral("\u2212\u221e, mixed, not confirmed, read only"));
-    test.fader->setReadOnly(false);
+    QQmlEngine engine;
+    TambleClientControlModule module;
+    module.registerTypes("TambleClient.Control");
+    module.initializeEngine(&engine, "TambleClient.Control");
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true); // as when a screen reader runs
+    QQuickWindow window;
+    QQmlComponent component(&engine);
+    component.setData("import QtQuick\nimport TambleClient.Control 1.0\n"
+                      "Item { RThemeSelector { themeComponent: Component { RTheme {} } }\n"
+                      "RStyleEngineSetup { engine.defaultStyleSheetSource: 'qrc:/style/tamble.dark.style' }\n"
+                      "RFader { label: 'Main'; value: -20 } }",
+                      QUrl());
+    const std::unique_ptr<QObject> page(component.create());
+    QVERIFY2(page, qPrintable(component.errorString()));
+    qobject_cast<QQuickItem *>(page.get())->setParentItem(window.contentItem());
+    auto *fader = page->findChild<RFaderBase *>();
 
-    const QSignalSpy edited(test.fader, &RFaderBase::valueEdited);
-    interface->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
-    QCOMPARE(test.fader->value(), -89.5);
+    QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(fader);
+    QVERIFY(seen);
+    QCOMPARE(seen->role(), QAccessible::Slider);
+    QCOMPARE(seen->text(QAccessible::Name), QStringLiteral("Main"));
+    QCOMPARE(seen->text(QAccessible::Description), QStringLiteral("-20.0\u00a0dB"));
+    QCOMPARE(seen->valueInterface()->minimumValue().toDouble(), -80.0);
+    QCOMPARE(seen->valueInterface()->maximumValue().toDouble(), 10.0);
+    fader->setProperty("consistent", false);
+    fader->setProperty("confirmed", false);
+    fader->setReadOnly(true);
+    fader->setValue(-80);
+    QCOMPARE(seen->text(QAccessible::Description), QStringLiteral("\u2212\u221e, mixed, not confirmed, read only"));
+
+    const QSignalSpy edited(fader, &RFaderBase::valueEdited);
+    seen->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+    QCOMPARE(fader->value(), -80.0);
+    fader->setReadOnly(false);
+    seen->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+    QCOMPARE(fader->value(), -79.5);
     QCOMPARE(edited.count(), 1);
-    QAccessible::setActive(false);
 }

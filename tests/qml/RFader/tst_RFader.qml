@@ -300,19 +300,16 @@ ThemedTestCase {
         const first = make({})
         const second = make({ x: 80, value: -40 })
         const touch = touchEvent(first)
-        touch.press(0, first, 28, 150).press(1, second, 28, 150).commit()
-        console.log("P", first.pressed, second.pressed)
+        touch.press(0, first, 28, 150).commit()
+        touch.stationary(0).press(1, second, 28, 150).commit()
+        // A finger may wander by 5 pixels before it counts as dragging.
         touch.move(0, first, 28, 125).move(1, second, 28, 175).commit()
-        console.log("M", first.pressed, second.pressed, first.value, second.value)
-        // Half the drag distance of the platform tells a drag from a rest.
-        const slack = Qt.styleHints.startDragDistance / 2
-        compare(first.value, -20 + (25 - slack) / 2)
-        compare(second.value, -40 - (25 - slack) / 2)
+        tryCompare(first, "value", -10)
+        tryCompare(second, "value", -50)
         touch.move(0, first, 28, 115).stationary(1).commit()
-        compare(first.value, -20 + (35 - slack) / 2)
+        tryCompare(first, "value", -5)
         touch.release(0, first, 28, 115).release(1, second, 28, 175).commit()
-        compare(first.log[2], "committed " + first.value)
-        compare(second.log.length, 2)
+        compare([first.log[2], second.log[1]], ["committed -5", "committed -50"])
         compare(first.pressed || second.pressed, false)
     }
 
@@ -326,8 +323,8 @@ ThemedTestCase {
     }
     function test_fingerInAView_data() {
         return [
-            { tag: "along the fader", dx: 2, dy: -6, scrolls: false },
-            { tag: "across scrolls", dx: -6, dy: -2, scrolls: true },
+            { tag: "along the fader", dx: 0, dy: -6, scrolls: false },
+            { tag: "across scrolls", dx: -6, dy: 0, scrolls: true },
         ]
     }
     function test_fingerInAView(data) {
@@ -338,6 +335,7 @@ ThemedTestCase {
         touch.press(0, view, 28, 150).commit()
         for (let i = 1; i <= 12; ++i)
             touch.move(0, view, 28 + i * data.dx, 150 + i * data.dy).commit()
+        waitForRendering(view) // moves are handed on once a frame
         compare(fader.value > -20, !data.scrolls)
         compare(view.contentX > 0, data.scrolls)
         compare(view.contentY, 0)

@@ -1,0 +1,32 @@
+import QtQuick
+import TambleClient.Control 1.0
+import "ParameterText.js" as ParameterText
+
+/*! A bass drum without what sounds between the beats. */
+DynamicsTile {
+    id: root
+
+    property real threshold: -10
+    property real depth: 30
+
+    title: "RGate"
+    channel: 0
+    points: panel.values
+    parameters: [
+        [qsTr("Threshold"), ParameterText.withUnit(panel.threshold, qsTr("dBu"))],
+        [qsTr("Depth"), ParameterText.withUnit(panel.depth, qsTr("dB"))],
+    ]
+
+    RGate {
+        id: panel
+        anchors.fill: parent
+        calculatorActive: root.active
+        gateBypassed: root.bypassed
+        levelVisible: true
+        inputLevel: root.inputLevel
+        threshold: root.threshold
+        depth: root.depth
+        onThresholdEdited: value => root.threshold = value
+        onDepthEdited: value => root.depth = value
+    }
+}

@@ -1,0 +1,28 @@
+import QtQuick
+import TambleClient.Control 1.0
+
+/*! Names of parameters with their values, two pairs a line. */
+Grid {
+    id: root
+
+    /*! Pairs of a name and a text. */
+    required property var parameters
+
+    columns: 2
+    columnSpacing: theme.dp(16)
+    rowSpacing: theme.dp(4)
+
+    // qmllint disable unqualified
+    Repeater {
+        model: root.parameters
+
+        RText {
+            required property var modelData
+
+            width: (root.width - root.columnSpacing) / 2
+            text: qsTr("%1 %2").arg(modelData[0]).arg(modelData[1])
+            elide: Text.ElideRight
+        }
+    }
+    // qmllint enable unqualified
+}

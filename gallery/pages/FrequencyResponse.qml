@@ -1,0 +1,77 @@
+import QtQuick
+import Gallery
+import TambleClient.Control 1.0
+
+GalleryPage {
+    id: root
+
+    description: qsTr("The filters of a loudspeaker channel and what they do to the signal that plays.")
+    listening: true
+    interactive: !response.hovered
+
+    EqualizerStore {
+        id: channelStore
+    }
+    Shortcut {
+        sequence: "Ctrl+Z"
+        onActivated: channelStore.undo()
+    }
+    Shortcut {
+        sequences: ["Ctrl+Shift+Z", "Ctrl+Y"]
+        onActivated: channelStore.redo()
+    }
+
+    Section {
+        title: qsTr("Response")
+        note: qsTr("Drag a handle for frequency and gain, with the right button for Q. The wheel zooms the levels or, after a middle click, the frequencies. Dashes are measured in the signal.")
+
+        EqualizerBar {
+            width: parent.width
+            store: channelStore
+            plot: response
+        }
+        ResponsePlot {
+            id: response
+            width: parent.width
+            height: theme.dp(320)
+            store: channelStore
+            measured: spectrum.measured
+        }
+        BandEditor {
+            width: parent.width
+            store: channelStore
+        }
+    }
+    Section {
+        title: qsTr("Signal")
+        note: qsTr("The spectrum before the filters (thin) and behind them. The FIR filter is in the response only: the signal does not pass it.")
+
+        SignalSpectrum {
+            id: spectrum
+            width: parent.width
+            height: theme.dp(160)
+            xMinimum: response.xMinimum
+            xMaximum: response.xMaximum
+            store: channelStore
+        }
+    }
+    TileGrid {
+        Section {
+            title: qsTr("Equaliser")
+
+            BandList {
+                store: channelStore
+                count: 8
+            }
+        }
+        Section {
+            title: qsTr("Crossover and FIR")
+
+            BandList {
+                store: channelStore
+                first: 8
+                count: 3
+            }
+        }
+    }
+}
