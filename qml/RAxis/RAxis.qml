@@ -22,8 +22,9 @@ RAxisTemplate {
     Accessible.ignored: true
 
     Repeater {
-        model: root.ticks
+        model: root.ticks // qmllint disable
 
+        // qmllint disable unqualified
         Rectangle {
             id: tick
 
@@ -45,5 +46,6 @@ RAxisTemplate {
                 font.pixelSize: RThemeValues.fontSizeXS
             }
         }
+        // qmllint enable unqualified
     }
 }

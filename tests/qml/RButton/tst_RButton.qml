@@ -19,7 +19,7 @@ ThemedTestCase {
         root.sheet = "dark"
     }
 
-    function make(body: string): Item {
+    function make(body: string): var {
         return createTemporaryQmlObject("import QtQuick\nimport TambleClient.Control 1.0\n" + body, root)
     }
 

@@ -7,7 +7,7 @@ ThemedTestCase {
     id: root
     name: "RAxisNumbering"
 
-    function make(body: string): Item {
+    function make(body: string): var {
         return createTemporaryQmlObject("import QtQuick\nimport TambleClient.Control 1.0\n" + body, root)
     }
 

@@ -8,7 +8,7 @@ ThemedTestCase {
     id: root
     name: "RDragHandler"
 
-    function make(body: string): Item {
+    function make(body: string): var {
         const plot = createTemporaryQmlObject("import QtQuick\nimport TambleClient.Control 1.0\nItem { width: 240; height: 240\nproperty real device: -20; readonly property Item handle: h\nRDragHandler { id: h; " + body + "} }", root)
         return plot.handle
     }

@@ -14,7 +14,7 @@ ThemedTestCase {
         root.sheet = "dark"
     }
 
-    function make(body: string): Item {
+    function make(body: string): var {
         return createTemporaryQmlObject("import QtQuick\nimport TambleClient.Control 1.0\n" + body, root)
     }
 
@@ -379,7 +379,7 @@ ThemedTestCase {
     }
 
     function test_noMissingKeys_data() {
-        return ["dark", "light", "contrast-dark", "contrast-light"].map(sheet => ({ tag: sheet }))
+        return [{ tag: "dark" }, { tag: "light" }, { tag: "contrast-dark" }, { tag: "contrast-light" }]
     }
     function test_noMissingKeys(data) {
         root.sheet = data.tag

@@ -12,7 +12,7 @@ ThemedTestCase {
         RMeter {}
     }
 
-    function partsOf(meter: Item): Item {
+    function partsOf(meter: Item): var {
         return meter.children[1].item
     }
 
