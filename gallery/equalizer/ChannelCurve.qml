@@ -9,7 +9,7 @@ RBodeplotCurve {
     required property EqualizerStore store
     required property int channel
     readonly property bool edited: root.store.channel === root.channel
-    readonly property var handleModels: root.filterPointModels
+    readonly property var handleModels: root.filterPointModels // qmllint disable
     readonly property var bands: root.store.channels[root.channel]
 
     /*! An asymmetric band tells its values one step late; its handle knows them. */

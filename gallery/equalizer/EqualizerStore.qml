@@ -30,12 +30,17 @@ QtObject {
         onTriggered: root.finish()
     }
 
-    // A drag that is taken back is let go first and gives the old values then.
+    // At the next event, since a drag that is taken back is let go first and gives the old values then.
+    readonly property Timer release: Timer {
+        interval: 0
+        onTriggered: root.finish()
+    }
+
     onHeldChanged: {
         if (root.held)
             root.finish()
         else
-            Qt.callLater(root.finish)
+            root.release.start()
     }
     onChannelChanged: root.finish()
 

@@ -24,33 +24,35 @@ Column {
             text: qsTr("%1, channels: %2").arg(GalleryAudio.sourceName).arg(GalleryAudio.channels)
         }
     }
-    Flow {
+    Item {
         width: root.width
-        spacing: theme.dp(8)
+        height: flow.height
 
-        Item {
-            width: theme.dp(28)
-            height: theme.dp(280)
-
-            RAxis {
-                x: theme.dp(24)
-                y: theme.dp(24)
-                width: theme.dp(4)
-                height: theme.dp(248)
-                leftSided: true
-                minValue: -60
-                maxValue: 0
-                tickCount: 13
-            }
+        RAxis {
+            x: theme.dp(24)
+            y: theme.dp(24)
+            width: theme.dp(4)
+            height: theme.dp(248)
+            leftSided: true
+            minValue: -60
+            maxValue: 0
+            tickCount: 13
         }
-        Repeater {
-            id: strips
-            model: GalleryAudio.levels
+        Flow {
+            id: flow
+            x: theme.dp(28)
+            width: parent.width - x
+            spacing: theme.dp(8)
 
-            ChannelStrip {
-                required property var modelData
+            Repeater {
+                id: strips
+                model: GalleryAudio.levels
 
-                level: modelData
+                ChannelStrip {
+                    required property var modelData
+
+                    level: modelData
+                }
             }
         }
     }
