@@ -15,7 +15,7 @@ namespace tamble::client {
 ///
 /// Nothing moves by accident: a press takes hold of the handle where it is, wherever on the fader it lands, the wheel
 /// needs the focus, and no key leads to the loud end. Each finger holds one fader.
-class TAMBLE_CLIENT_CONTROL_EXPORT RFaderBase : public FaderItem
+class TAMBLE_CLIENT_CONTROL_EXPORT RFaderBase : public tamble::client::FaderItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RFaderBase)

@@ -150,9 +150,10 @@ RBodeplotCurveTemplate {
                 case Qt.Key_Escape:
                     if (!pointer.dragging)
                         return
-                    pointer.end()
+                    // First the values, so that a page that closes its undo step with `pressed` has them in it.
                     root.cancelFilterPoint()
                     root.releaseFilterPoint()
+                    pointer.end()
                     break
                 default:
                     return

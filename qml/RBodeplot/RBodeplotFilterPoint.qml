@@ -65,7 +65,7 @@ Item {
         anchors.centerIn: disc
         width: Math.min(implicitWidth, disc.width)
         text: root.label.slice(0, 3) + (root.errorFlag ? "!" : "")
-        color: root.ssColor
+        color: root.visiblePoint ? root.ssColor : root.stateColor
         font.pixelSize: RThemeValues.fontSizeXS
         font.bold: true
     }

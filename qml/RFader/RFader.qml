@@ -1,6 +1,5 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared"
 
 /*! Level fader. A press takes hold of the handle where it is; Shift slows the drag; a double click leads to
     `defaultValue`. Beside a vertical meter of the same height the two share their scale. */
@@ -29,7 +28,7 @@ RFaderBase {
     property color ssHandleInconsistent: root.RStyleSet.props.isSet("handle-inconsistent") ? root.RStyleSet.props.handleInconsistent : root.ssHandle
     property color ssHandleBorder: root.RStyleSet.props.isSet("handle-border") ? root.RStyleSet.props.handleBorder : "transparent"
     property color ssHandleBorderFocus: root.RStyleSet.props.isSet("handle-border-focus") ? root.RStyleSet.props.handleBorderFocus
-                                        : probe.item ? probe.item.RStyleSet.props.color("border") : "transparent"
+                                        : probe.item ? (probe.item as RFocusRectangle).ssBorderColor : "transparent"
     property color ssHandleLine: root.RStyleSet.props.handleLine
     property color ssHandleLineHover: root.RStyleSet.props.isSet("handle-line-hover") ? root.RStyleSet.props.handleLineHover : root.ssHandleLine
     property color ssTick: root.RStyleSet.props.tick
@@ -83,12 +82,13 @@ RFaderBase {
         rotation: root.vertical ? 0 : 90
         transformOrigin: Item.TopLeft
 
+        // qmllint disable unqualified
         Repeater {
             model: root.scaleVisible ? root.marks : []
-            delegate: RFaderTick {
+            RFaderTick {
                 place: rail.placeOf(modelData.position)
                 edge: rail.middle + rail.scaleSide * 22 * RThemeValues.unit
-                onRight: root.scaleOnRight
+                rightSided: root.scaleOnRight
                 upright: root.vertical
                 lineVisible: root.showTicks
                 labelVisible: root.showLabels
@@ -96,6 +96,7 @@ RFaderBase {
                 labelColor: root.ssColor
             }
         }
+        // qmllint enable unqualified
         Rectangle {
             id: track
             x: rail.middle - track.width / 2
@@ -107,11 +108,13 @@ RFaderBase {
             Loader {
                 active: root.trackIndicatorVisible
                 y: rail.placeOf(root.trackIndicatorTop) - track.y
+                // qmllint disable unqualified
                 sourceComponent: Rectangle {
                     width: track.width
                     height: rail.placeOf(root.trackIndicatorBottom) - rail.placeOf(root.trackIndicatorTop)
                     color: root.ssTrackIndicator
                 }
+                // qmllint enable unqualified
             }
             Rectangle {
                 x: 4 * RThemeValues.unit
@@ -146,8 +149,8 @@ RFaderBase {
     Loader {
         id: probe
         active: (root.activeFocus || root.trackIndicatorVisible) && !root.RStyleSet.props.isSet("handle-border-focus")
-        sourceComponent: RStyleProbe {
-            type: "RFocusRectangle"
+        sourceComponent: RFocusRectangle {
+            visible: false
         }
     }
 }

@@ -24,6 +24,7 @@ Rectangle {
         visible: !root.mixed
         color: root.lineColor
     }
+    // qmllint disable unqualified
     Loader {
         active: root.pending && !root.mixed
         x: root.width - line.width
@@ -60,4 +61,5 @@ Rectangle {
             horizontalAlignment: Text.AlignHCenter
         }
     }
+    // qmllint enable unqualified
 }

@@ -9,7 +9,7 @@ Item {
     /*! Where on the rail the tick's middle is, and the edge at which ticks begin. */
     required property real place
     required property real edge
-    required property bool onRight
+    required property bool rightSided
     required property bool upright
     property bool lineVisible: true
     property bool labelVisible: true
@@ -21,7 +21,7 @@ Item {
 
     Rectangle {
         id: line
-        x: root.onRight ? -line.width : 0
+        x: root.rightSided ? -line.width : 0
         y: Math.round(-line.height / 2)
         width: (root.modelData.extra ? 12 : 6) * RThemeValues.unit
         height: RThemeValues.unit
@@ -35,7 +35,7 @@ Item {
         readonly property real depth: root.upright ? label.width : label.height
 
         // Turned back when the fader lies, so that it stays readable; its box then stands across.
-        x: Math.round((root.onRight ? label.gap : -label.gap - label.depth) + (label.depth - label.width) / 2)
+        x: Math.round((root.rightSided ? label.gap : -label.gap - label.depth) + (label.depth - label.width) / 2)
         y: Math.round(-label.height / 2)
         width: (root.upright ? 16 : 22) * RThemeValues.unit
         rotation: root.upright ? 0 : -90
@@ -44,6 +44,6 @@ Item {
         color: root.labelColor
         elide: Text.ElideRight
         font.pixelSize: RThemeValues.fontSizeXS
-        horizontalAlignment: !root.upright ? Text.AlignHCenter : root.onRight ? Text.AlignLeft : Text.AlignRight
+        horizontalAlignment: !root.upright ? Text.AlignHCenter : root.rightSided ? Text.AlignLeft : Text.AlignRight
     }
 }

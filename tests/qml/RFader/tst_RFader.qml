@@ -8,21 +8,24 @@ ThemedTestCase {
     id: root
     name: "RFader"
 
+    component LoggedFader: RFader {
+        id: fader
+
+        property var log: []
+
+        height: 248
+        from: -90
+        to: 10
+        value: -20
+        label: "Level"
+        settleTime: 50
+        onValueEdited: level => fader.log.push("edited " + level)
+        onValueCommitted: level => fader.log.push("committed " + level)
+        onEditCanceled: fader.log.push("canceled")
+    }
     Component {
         id: faderComponent
-        RFader {
-            property var log: []
-
-            height: 248
-            from: -90
-            to: 10
-            value: -20
-            label: "Level"
-            settleTime: 50
-            onValueEdited: level => log.push("edited " + level)
-            onValueCommitted: level => log.push("committed " + level)
-            onEditCanceled: log.push("canceled")
-        }
+        LoggedFader {}
     }
     Component {
         id: deviceComponent
@@ -37,14 +40,14 @@ ThemedTestCase {
         root.sheet = "dark"
     }
 
-    function make(body: var): Item {
+    function make(body: var): LoggedFader {
         const fader = createTemporaryObject(faderComponent, root, body)
         waitForRendering(fader)
         return fader
     }
 
     /*! Pixel of the fader's middle line, for a fader standing upright. */
-    function press(fader: Item, y: real) {
+    function press(fader: RFader, y: real) {
         mousePress(fader, 28, y)
     }
 
@@ -290,7 +293,7 @@ ThemedTestCase {
 
     function test_mixed() {
         const fader = make({ consistent: false, value: 0 })
-        compare(fader.handle.color, "#f9af3c")
+        compare((fader.handle as Rectangle).color, "#f9af3c")
         compare(fader.RStyleSet.state, "inconsistent ")
         mouseDoubleClickSequence(fader, 28, 200)
         compare(fader.log, ["edited 0", "committed 0"], "sets all, though it shows 0 already")
@@ -375,14 +378,19 @@ ThemedTestCase {
         compare(fader.value, -10)
     }
 
-    function labels(fader: Item): list<string> {
-        return fader.marks.map(mark => mark.label).filter(label => label.length > 0)
+    function labels(fader: RFader): list<string> {
+        const texts = []
+        for (const mark of fader.marks) {
+            if (mark.label.length > 0)
+                texts.push(mark.label)
+        }
+        return texts
     }
     function test_scale() {
         const fader = make({ from: -80 })
-        tryVerify(() => fader.marks.length > 0)
+        tryVerify(() => fader.marks.length === 9)
         compare(labels(fader), ["0", "\u2212\u221e", "10", "-10", "-20", "-30", "-40", "-50", "-60"])
-        compare(fader.marks.filter(mark => mark.extra).length, 1)
+        compare([fader.marks[0].extra, fader.marks[1].extra], [true, false])
         fader.ticks = [-80, -30, -29]
         fader.converter = createTemporaryQmlObject("import TambleClient.Control 1.0\nRDoubleValueConverter { unit: 'dB' }", root)
         tryVerify(() => fader.marks.length === 4)
@@ -390,7 +398,7 @@ ThemedTestCase {
     }
 
     function test_everySheet_data() {
-        return ["dark", "light", "contrast-dark", "contrast-light"].map(sheet => ({ tag: sheet }))
+        return [{ tag: "dark" }, { tag: "light" }, { tag: "contrast-dark" }, { tag: "contrast-light" }]
     }
     function test_everySheet(data) {
         root.sheet = data.tag
