@@ -11,7 +11,7 @@ MeterAnnouncer::MeterAnnouncer(RMeterBase &meter)
     : m_meter(meter)
 {
     QAccessible::installActivationObserver(this);
-    accessibilityActiveChanged(QAccessible::isActive());
+    attach(QAccessible::isActive());
 }
 
 MeterAnnouncer::~MeterAnnouncer()
@@ -32,6 +32,11 @@ void MeterAnnouncer::announceLevel()
 }
 
 void MeterAnnouncer::accessibilityActiveChanged(bool active)
+{
+    attach(active);
+}
+
+void MeterAnnouncer::attach(bool active)
 {
     m_attached = active ? qobject_cast<QQuickAccessibleAttached *>(
                               qmlAttachedPropertiesObject<QQuickAccessibleAttached>(&m_meter, true))

@@ -23,6 +23,7 @@ public:
 
 private:
     void accessibilityActiveChanged(bool active) override;
+    void attach(bool active);
 
     RMeterBase &m_meter;
     QString m_unit;
