@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ControlExport.h"
+
 #include <QtCore/QString>
 #include <QtGui/QAccessible>
 
@@ -11,7 +13,7 @@ class RMeterBase;
 
 /// Tells assistive tools of a meter: its role, its name and its level with the unit. While no such tool runs it costs
 /// nothing; a role or name that the page has given stays.
-class MeterAnnouncer : private QAccessible::ActivationObserver
+class TAMBLE_CLIENT_CONTROL_EXPORT MeterAnnouncer : private QAccessible::ActivationObserver
 {
 public:
     explicit MeterAnnouncer(RMeterBase &meter);
