@@ -87,6 +87,9 @@ void RMeterBar::setUnit(const QString &unit)
 // The level or the range has changed.
 void RMeterBar::follow()
 {
+    // Without a window there is nothing to show, and the meter may be half destroyed.
+    if (!window())
+        return;
     if (m_announcer)
         m_announcer->announceLevel();
     if (!m_meter || !isVisible() || width() <= 0.0 || height() <= 0.0)
