@@ -4,13 +4,8 @@
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QTimerEvent>
-#include <QtGui/QAccessible>
 #include <QtGui/QGuiApplication>
-#include <QtGui/QKeyEvent>
 #include <QtGui/QStyleHints>
-#include <QtGui/QWheelEvent>
-#include <QtQml/qqml.h>
-#include <QtQuick/private/qquickaccessibleattached_p.h>
 
 #include <algorithm>
 #include <cmath>
@@ -19,20 +14,13 @@ namespace tamble::client {
 
 namespace {
 
-constexpr int stepsEndMs = 400;
 constexpr int longPressMs = 500;
 constexpr double touchSlack = 5.0; // pixels that a resting finger may wander
-constexpr int wheelStep = 120;     // eighths of a degree
-
-// Parts of the range that steps of 0, which stand for "continuous", move by.
-constexpr double normalPart = 0.01;
-constexpr double finePart = 0.001;
-constexpr double pagePart = 0.1;
 
 } // namespace
 
 RFaderBase::RFaderBase(QQuickItem *parent)
-    : FaderItem(parent)
+    : SteppedFader(parent)
     , m_touchArea(new FaderTouchArea(
           this, [this](QTouchEvent *event) { touched(event); },
           [this] {
@@ -43,215 +31,15 @@ RFaderBase::RFaderBase(QQuickItem *parent)
     setFiltersChildMouseEvents(true);
     setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
     setAcceptTouchEvents(false);
-    setWheelEnabled(true);
     connect(this, &RFaderBase::readOnlyChanged, this, &RFaderBase::letGo);
     connect(this, &RFaderBase::enabledChanged, this, &RFaderBase::letGo);
 }
 
-// Editing
-
-bool RFaderBase::canEdit() const
+// The base would take the touch area out of the window, and so the finger from it, when nothing is left to let go.
+RFaderBase::~RFaderBase()
 {
-    return !isReadOnly() && isEnabled() && travel().isUsable();
+    delete m_touchArea;
 }
-
-void RFaderBase::edit(double level)
-{
-    // The first edit while devices differ sets them all, even to the level that is shown.
-    if (level == value() && (m_editing || isConsistent()))
-        return;
-    if (!m_editing) {
-        m_levelBefore = value();
-        m_editing = true;
-        m_edit.show(level);
-        Q_EMIT editingChanged();
-    } else {
-        m_edit.show(level);
-    }
-    if (live())
-        Q_EMIT valueEdited(value());
-}
-
-void RFaderBase::finish()
-{
-    m_stepsEnd.stop();
-    if (!m_editing)
-        return;
-    m_editing = false;
-    m_edit.settle(m_settleTime);
-    const double level = value();
-    Q_EMIT editingChanged();
-    if (!live())
-        Q_EMIT valueEdited(level);
-    Q_EMIT valueCommitted(level);
-}
-
-void RFaderBase::takeBack()
-{
-    m_stepsEnd.stop();
-    m_editing = false;
-    const double level = m_levelBefore;
-    m_edit.takeBack();
-    Q_EMIT editingChanged();
-    if (live())
-        Q_EMIT valueEdited(level);
-    Q_EMIT editCanceled();
-}
-
-void RFaderBase::reset()
-{
-    const std::optional<double> level = resetLevel();
-    if (!level || !canEdit())
-        return;
-    edit(*level);
-    finish();
-}
-
-void RFaderBase::step(double delta)
-{
-    m_stepsEnd.start(stepsEndMs, this);
-    edit(travel().stepped(value(), delta));
-}
-
-double RFaderBase::pageStep() const
-{
-    const double page = std::abs(pageStepSize());
-    return page > 0.0 ? page : pagePart * std::abs(to() - from());
-}
-
-double RFaderBase::stepFor(Qt::KeyboardModifiers modifiers) const
-{
-    if (modifiers & Qt::ControlModifier)
-        return pageStep();
-    const bool isFine = modifiers & Qt::ShiftModifier;
-    const double step = std::abs(isFine ? fineStepSize() : stepSize());
-    return step > 0.0 ? step : (isFine ? finePart : normalPart) * std::abs(to() - from());
-}
-
-// Keys and wheel
-
-std::optional<double> RFaderBase::keyDelta(const QKeyEvent *event) const
-{
-    switch (event->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Right:
-        return stepFor(event->modifiers());
-    case Qt::Key_Down:
-    case Qt::Key_Left:
-        return -stepFor(event->modifiers());
-    case Qt::Key_PageUp:
-        return pageStep();
-    case Qt::Key_PageDown:
-        return -pageStep();
-    default:
-        return std::nullopt;
-    }
-}
-
-// End leads to the default level and not to the maximum, which would be loud.
-std::optional<double> RFaderBase::keyTarget(const QKeyEvent *event) const
-{
-    switch (event->key()) {
-    case Qt::Key_Home:
-        return from();
-    case Qt::Key_End:
-        return resetLevel();
-    case Qt::Key_0:
-        return event->modifiers() & Qt::ControlModifier ? resetLevel() : std::nullopt;
-    default:
-        return std::nullopt;
-    }
-}
-
-void RFaderBase::keyPressEvent(QKeyEvent *event)
-{
-    event->ignore();
-    if (event->key() == Qt::Key_Escape && m_editing) {
-        event->accept();
-        m_hold = Hold::None;
-        takeBack();
-        return;
-    }
-    const Qt::KeyboardModifiers known = Qt::ShiftModifier | Qt::ControlModifier | Qt::KeypadModifier;
-    if (!canEdit() || (event->modifiers() & ~known))
-        return;
-    if (const std::optional<double> delta = keyDelta(event)) {
-        event->accept();
-        step(*delta);
-    } else if (const std::optional<double> target = keyTarget(event)) {
-        event->accept();
-        m_stepsEnd.start(stepsEndMs, this);
-        edit(*target);
-    }
-}
-
-void RFaderBase::keyReleaseEvent(QKeyEvent *event)
-{
-    event->ignore();
-}
-
-void RFaderBase::wheelEvent(QWheelEvent *event)
-{
-    event->ignore();
-    const QPointingDevice *device = event->pointingDevice();
-    // Two fingers on a pad scroll the page.
-    const bool isMouse = !device || device->type() == QInputDevice::DeviceType::Mouse;
-    if (!isWheelEnabled() || !canEdit() || !isMouse || (m_wheelNeedsFocus && !hasActiveFocus()))
-        return;
-    const QPoint turned = event->angleDelta();
-    // Some platforms turn the wheel sideways while Shift is down.
-    const int delta = turned.y() != 0 || !(event->modifiers() & Qt::ShiftModifier) ? turned.y() : turned.x();
-    if (delta == 0)
-        return;
-    event->accept();
-    if ((delta > 0) != (m_wheelRest > 0))
-        m_wheelRest = 0;
-    m_wheelRest += delta;
-    const int steps = m_wheelRest / wheelStep;
-    m_wheelRest -= steps * wheelStep;
-    if (steps != 0)
-        step(steps * stepFor(event->modifiers()));
-}
-
-void RFaderBase::focusOutEvent(QFocusEvent *event)
-{
-    FaderItem::focusOutEvent(event);
-    m_wheelRest = 0;
-    if (m_hold == Hold::None)
-        finish();
-}
-
-void RFaderBase::timerEvent(QTimerEvent *event)
-{
-    if (event->timerId() == m_stepsEnd.timerId()) {
-        if (m_hold == Hold::None)
-            finish();
-        m_stepsEnd.stop();
-    } else if (event->timerId() == m_longPress.timerId()) {
-        letGo();
-        Q_EMIT contextMenuRequested(m_pressPoint);
-    } else {
-        FaderItem::timerEvent(event);
-    }
-}
-
-void RFaderBase::accessibilityActiveChanged(bool active)
-{
-    FaderItem::accessibilityActiveChanged(active);
-    auto *accessible =
-        qobject_cast<QQuickAccessibleAttached *>(qmlAttachedPropertiesObject<QQuickAccessibleAttached>(this, active));
-    if (!active || !accessible)
-        return;
-    const auto stepBy = [this](int direction) {
-        if (canEdit())
-            step(direction * stepFor(Qt::NoModifier));
-    };
-    accessible->disconnect(this);
-    connect(accessible, &QQuickAccessibleAttached::increaseAction, this, [stepBy] { stepBy(1); });
-    connect(accessible, &QQuickAccessibleAttached::decreaseAction, this, [stepBy] { stepBy(-1); });
-}
-
-// Holding the handle
 
 double RFaderBase::along(const QPointF &point) const
 {
@@ -301,6 +89,21 @@ void RFaderBase::drag(const QPointF &point, bool fine)
     if (!fine && length > 0.0)
         level = travel.held(level, asked, m_detents, m_detentReach / length);
     edit(level);
+}
+
+void RFaderBase::dropHandle()
+{
+    m_hold = Hold::None;
+}
+
+void RFaderBase::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_longPress.timerId()) {
+        SteppedFader::timerEvent(event);
+        return;
+    }
+    letGo();
+    Q_EMIT contextMenuRequested(m_pressPoint);
 }
 
 void RFaderBase::letGo()
@@ -376,7 +179,7 @@ void RFaderBase::mouseUngrabEvent()
 
 void RFaderBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
-    FaderItem::geometryChange(newGeometry, oldGeometry);
+    SteppedFader::geometryChange(newGeometry, oldGeometry);
     m_touchArea->setSize(newGeometry.size());
 }
 

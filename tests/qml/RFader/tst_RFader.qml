@@ -336,14 +336,31 @@ ThemedTestCase {
         const fader = createTemporaryObject(faderComponent, view.contentItem)
         const touch = touchEvent(fader)
         touch.press(0, view, 28, 150).commit()
-        for (let i = 1; i <= 12; ++i)
+        for (let i = 1; i <= 12; ++i) {
             touch.move(0, view, 28 + i * data.dx, 150 + i * data.dy).commit()
-        waitForRendering(view) // moves are handed on once a frame
-        compare(fader.value > -20, !data.scrolls)
-        compare(view.contentX > 0, data.scrolls)
-        compare(view.contentY, 0)
+            waitForRendering(view, 20) // moves are handed on once a frame
+        }
+        tryVerify(() => data.scrolls ? view.contentX > 0 : fader.value > -20)
+        compare([fader.value > -20, view.contentX > 0, view.contentY > 0], [!data.scrolls, data.scrolls, false])
         touch.release(0, view, 28 + 12 * data.dx, 150 + 12 * data.dy).commit()
         compare(fader.pressed, false)
+    }
+
+    function test_goneWhileHeld() {
+        const pressed = make({})
+        press(pressed, 200)
+        mouseMove(pressed, 28, 190)
+        pressed.destroy()
+        wait(0)
+        mouseRelease(root, 28, 190)
+        const touched = make({})
+        const touch = touchEvent(root)
+        touch.press(0, touched, 28, 150).commit()
+        touch.move(0, touched, 28, 120).commit()
+        tryCompare(touched, "editing", true)
+        touched.destroy()
+        wait(0)
+        touch.release(0, root, 28, 120).commit()
     }
 
     function test_doubleTapResets() {

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "ControlExport.h"
+#include "fader/FaderEdit.h"
+#include "fader/FaderItem.h"
+
+#include <QtCore/QBasicTimer>
+
+namespace tamble::client {
+
+/// A fader whose value is edited: the gestures with their signals, and steps by keys, wheel and assistive tools.
+///
+/// Steps that follow each other within 0.4 s are one gesture.
+class TAMBLE_CLIENT_CONTROL_EXPORT SteppedFader : public tamble::client::FaderItem
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    Q_PROPERTY(bool wheelNeedsFocus MEMBER m_wheelNeedsFocus NOTIFY wheelNeedsFocusChanged FINAL)
+    Q_PROPERTY(int settleTime MEMBER m_settleTime NOTIFY settleTimeChanged FINAL)
+    Q_PROPERTY(bool editing READ isEditing NOTIFY editingChanged FINAL)
+
+public:
+    explicit SteppedFader(QQuickItem *parent = nullptr);
+
+    /// Whether a gesture has changed the value and is not over yet.
+    bool isEditing() const { return m_editing; }
+
+Q_SIGNALS:
+    void wheelNeedsFocusChanged();
+    void settleTimeChanged();
+    void editingChanged();
+    /// The user has set `value`: at each change while `live`, else at the end of the gesture.
+    void valueEdited(double value);
+    /// A gesture that changed the value is over.
+    void valueCommitted(double value);
+    /// Esc has taken a gesture back; valueEdited() was sent with the level of before.
+    void editCanceled();
+
+protected:
+    void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+    void accessibilityActiveChanged(bool active) override;
+
+    /// Whether a pointer holds the handle; steps end no gesture then.
+    virtual bool isHeld() const = 0;
+    /// Esc: the pointer that holds the handle moves it no more.
+    virtual void dropHandle() = 0;
+
+    bool canEdit() const;
+    /// Shows `level` as a part of the gesture under way, or begins one.
+    void edit(double level);
+    void finish();
+    /// A gesture of its own that leads to the default level.
+    void reset();
+
+private:
+    void takeBack();
+    void step(double delta);
+    double stepFor(Qt::KeyboardModifiers modifiers) const;
+    double pageStep() const;
+    std::optional<double> keyDelta(const QKeyEvent *event) const;
+    std::optional<double> keyTarget(const QKeyEvent *event) const;
+
+    int m_settleTime = 300;
+    bool m_wheelNeedsFocus = true;
+    bool m_editing = false;
+
+    FaderEdit m_edit{this};
+    double m_levelBefore = 0.0;
+    QBasicTimer m_stepsEnd; // runs since the last step
+    int m_wheelRest = 0;    // eighths of a degree short of a step
+};
+
+} // namespace tamble::client
