@@ -23,12 +23,8 @@ RBodeplotAxis::RBodeplotAxis(QQuickItem *parent)
 
 void RBodeplotAxis::setStyle(QObject *style)
 {
-    if (m_style == style)
+    if (!exchangeStyle(m_style, style, this, "refreshFont()"))
         return;
-    if (m_style)
-        m_style->disconnect(this);
-    m_style = style;
-    followStyle(style, this, "refreshFont()");
     refreshFont();
     Q_EMIT styleChanged();
 }

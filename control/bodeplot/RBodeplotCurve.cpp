@@ -64,12 +64,8 @@ void RBodeplotCurve::connectProperties()
 
 void RBodeplotCurve::setStyle(QObject *style)
 {
-    if (m_style == style)
+    if (!exchangeStyle(m_style, style, this, "refreshColors()"))
         return;
-    if (m_style)
-        m_style->disconnect(this);
-    m_style = style;
-    followStyle(style, this, "refreshColors()");
     refreshColors();
     Q_EMIT styleChanged();
 }

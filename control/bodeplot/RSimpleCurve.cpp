@@ -36,12 +36,8 @@ RSimpleCurve::RSimpleCurve(QQuickItem *parent)
 
 void RSimpleCurve::setStyle(QObject *style)
 {
-    if (m_style == style)
+    if (!exchangeStyle(m_style, style, this, "refreshColors()"))
         return;
-    if (m_style)
-        m_style->disconnect(this);
-    m_style = style;
-    followStyle(style, this, "refreshColors()");
     refreshColors();
     Q_EMIT styleChanged();
 }

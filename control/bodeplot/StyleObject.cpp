@@ -20,10 +20,15 @@ double styleWidth(const QObject *style, const char *name)
     return isNumber && std::isfinite(width) ? width : 1.0;
 }
 
-void followStyle(QObject *style, QObject *item, const char *slot)
+bool exchangeStyle(QPointer<QObject> &stored, QObject *style, QObject *item, const char *slot)
 {
+    if (stored == style)
+        return false;
+    if (stored)
+        stored->disconnect(item);
+    stored = style;
     if (!style)
-        return;
+        return true;
     const QMetaMethod refresh = item->metaObject()->method(item->metaObject()->indexOfSlot(slot));
     const QMetaObject *described = style->metaObject();
     for (int i = QObject::staticMetaObject.propertyCount(); i < described->propertyCount(); ++i) {
@@ -32,6 +37,7 @@ void followStyle(QObject *style, QObject *item, const char *slot)
             QObject::connect(style, property.notifySignal(), item, refresh);
     }
     QObject::connect(style, QMetaMethod::fromSignal(&QObject::destroyed), item, refresh);
+    return true;
 }
 
 } // namespace tamble::client

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QObject>
+#include <QtCore/QPointer>
 #include <QtGui/QColor>
 
 namespace tamble::client {
@@ -17,7 +18,8 @@ inline bool showsColor(const QColor &color)
     return color.isValid() && color.alpha() > 0;
 }
 
-/// Connects every change of a style object's properties, and its end, to `slot` of an item ("refreshColors()").
-void followStyle(QObject *style, QObject *item, const char *slot);
+/// Puts `style` in the place of `stored`; false when it is there already. Every change of its properties, and its end,
+/// is connected to `slot` of the item ("refreshColors()").
+bool exchangeStyle(QPointer<QObject> &stored, QObject *style, QObject *item, const char *slot);
 
 } // namespace tamble::client

@@ -50,6 +50,15 @@ ThemedTestCase {
         theme.setDpZoomFactor(0)
     }
 
+    // Properties that later versions of Qt's own types brought, which a native type in between can hide.
+    function test_takesAllPropertiesOfTheTemplate_data() {
+        return variantRows()
+    }
+    function test_takesAllPropertiesOfTheTemplate(data) {
+        const button = make(data.type + " { activeFocusOnTab: false; horizontalPadding: 2; icon.width: 3 }")
+        compare([button.activeFocusOnTab, button.horizontalPadding, button.icon.width], [false, 2, 3])
+    }
+
     function test_states_data() {
         return [
             { tag: "plain", type: "RButton", body: "", states: "" },
