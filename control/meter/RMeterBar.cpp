@@ -94,12 +94,16 @@ void RMeterBar::follow()
         m_announcer->announceLevel();
     if (!m_meter || !isVisible() || width() <= 0.0 || height() <= 0.0)
         return;
+    const bool fell = m_meter->getCurrentValue() < std::exchange(m_level, m_meter->getCurrentValue());
     const MeterSegments segments = currentSegments();
     if (segments == m_segments)
         return;
     m_segments = segments;
     m_barDirty = true;
-    update();
+    if (fell)
+        FallingBars::instance().fall(*this);
+    else
+        FallingBars::instance().rise(*this);
 }
 
 // Something else than the segments has changed.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ControlExport.h"
+#include "meter/FallingBars.h"
 #include "meter/MeterAnnouncer.h"
 #include "meter/MeterBarNode.h"
 #include "meter/RMeterBase.h"
@@ -17,8 +18,9 @@ namespace tamble::client {
 /// Draws the bar of a meter: its ground and lit zones, as rectangles of one scene-graph node.
 ///
 /// It follows the meter itself rather than by bindings, since walls of hundreds of meters move several times a second.
-/// A hidden or empty bar does nothing and reads no factor; a level that lights the same pixels repaints nothing.
-class TAMBLE_CLIENT_CONTROL_EXPORT RMeterBar : public QQuickItem
+/// A hidden or empty bar does nothing and reads no factor; a level that lights the same pixels repaints nothing; what
+/// falls may wait for others, see FallingBars.
+class TAMBLE_CLIENT_CONTROL_EXPORT RMeterBar : public QQuickItem, private WaitingBar
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RMeterBar)
@@ -75,6 +77,7 @@ protected:
 private:
     QColor color(MeterZone zone) const { return m_colors.at(std::size_t(zone)); }
     void setColor(MeterZone zone, const QColor &color, void (RMeterBar::*changed)());
+    void draw() override { update(); }
     void follow();
     void repaint();
     bool liesDown() const;
@@ -87,6 +90,7 @@ private:
     MeterLayout m_layout;
     MeterColors m_colors;
     MeterSegments m_segments; // as last followed
+    double m_level = 0.0;     // dB, as last followed
     bool m_barDirty = false;  // the node does not show these segments and colours
 };
 

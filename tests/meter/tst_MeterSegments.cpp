@@ -1,13 +1,17 @@
 #include "tst_MeterSegments.h"
 
+#include "meter/FallingBars.h"
 #include "meter/MeterSegments.h"
 #include "meter/RMeterBar.h"
 
+#include <QtCore/QTimer>
 #include <QtQuick/QQuickWindow>
 #include <QtQuick/private/qquickitem_p.h>
 #include <QtTest/QTest>
 
+#include <array>
 #include <limits>
+#include <utility>
 
 using namespace tamble::client;
 
@@ -97,4 +101,44 @@ void tst_MeterSegments::repaintsOnlyWhatIsSeen()
     meter.setVisible(true);
     QVERIFY2(isDirty(), "shown again with the level of now");
     QCOMPARE(textOf(bar.segments()), QStringLiteral("G53-100 -0-53"));
+}
+
+void tst_MeterSegments::fallsWithTheNextRise()
+{
+    QQuickWindow window;
+    std::array<RMeterBase, 2> meters;
+    std::array<RMeterBar, 2> bars;
+    for (std::size_t i = 0; i < bars.size(); ++i) {
+        meters.at(i).setParentItem(window.contentItem());
+        bars.at(i).setParentItem(window.contentItem());
+        bars.at(i).setSize(QSizeF(12, 100));
+        bars.at(i).setMeter(&meters.at(i));
+        meters.at(i).setProperty("currentValueDecreasePerSecond", 0.0);
+    }
+    const auto takeDirty = [](RMeterBar &bar) {
+        auto &dirty = QQuickItemPrivate::get(&bar)->dirtyAttributes;
+        return bool(std::exchange(dirty, 0) & QQuickItemPrivate::Content);
+    };
+    FallingBars::instance();
+    QTimer &timer = RMeterBase::sharedTimer();
+    timer.stop();
+    const auto tick = [&timer] { QMetaObject::invokeMethod(&timer, "timeout", Qt::DirectConnection); };
+    RMeterBar &falling = bars.front();
+
+    meters.front().setCurrentValue(0.0);
+    meters.back().setCurrentValue(-60.0);
+    tick();
+    takeDirty(falling);
+    meters.front().setCurrentValue(-10.0);
+    QVERIFY2(!takeDirty(falling), "waits, as something rose in the last interval");
+    meters.back().setCurrentValue(-50.0);
+    QVERIFY2(takeDirty(falling), "drawn with what rises");
+
+    meters.front().setCurrentValue(-20.0);
+    tick();
+    QVERIFY2(!takeDirty(falling), "waits for the rise that is expected");
+    tick();
+    QVERIFY2(takeDirty(falling), "nothing rose for an interval");
+    meters.front().setCurrentValue(-30.0);
+    QVERIFY2(takeDirty(falling), "nothing to wait for");
 }

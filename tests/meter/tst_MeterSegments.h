@@ -11,4 +11,5 @@ private Q_SLOTS:
     void bar();
     void split();
     void repaintsOnlyWhatIsSeen();
+    void fallsWithTheNextRise();
 };
