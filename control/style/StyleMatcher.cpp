@@ -1,8 +1,11 @@
 #include "style/StyleMatcher.h"
 
+#include <QtCore/QStringEncoder>
+#include <QtCore/QVarLengthArray>
+
 #include <algorithm>
 #include <limits>
-#include <string>
+#include <string_view>
 
 namespace tamble::client {
 
@@ -40,8 +43,13 @@ StyleMatcher::StyleMatcher(const NameTable &names, const SelectorTree &tree)
 std::vector<MatchWord> StyleMatcher::words(const StyleElement &element) const
 {
     std::vector<MatchWord> result;
-    const auto add = [&](const char *mark, const QString &word, const Specificity &weight) {
-        const NameId key = m_names.find(std::string(mark).append(word.toStdString()));
+    QVarLengthArray<char, 256> text;
+    const auto add = [&](std::string_view mark, const QString &word, const Specificity &weight) {
+        QStringEncoder encoder(QStringEncoder::Utf8);
+        text.resize(qsizetype(mark.size()) + encoder.requiredSpace(word.size()));
+        char *const begin = text.data();
+        const char *const end = encoder.appendToBuffer(std::ranges::copy(mark, begin).out, word);
+        const NameId key = m_names.find({begin, end});
         // A word that spells out one of the tree's own keys is none of the sheet's words.
         if (key != NameTable::Unknown && key != m_sameElement && key != m_descendant)
             addWord(result, key, weight);

@@ -17,6 +17,8 @@ struct MatchWord
     NameId key;
     std::uint32_t count; ///< how often the element carries the word, at least 1
     Specificity weight;  ///< what a match of the word adds
+
+    bool operator==(const MatchWord &) const = default;
 };
 
 /// An element of a style path as a sheet sees it: the words that the sheet does not mention are left out.

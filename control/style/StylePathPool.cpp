@@ -51,37 +51,29 @@ StylePathPool &StylePathPool::instance()
     return *pool;
 }
 
-// Both hashes take the same words in the same order. The number of classes sets classes and states apart.
-std::size_t StylePathPool::ElementHash::operator()(const StyleElement &element) const noexcept
+// The number of classes sets classes and states apart.
+StylePathPool::ElementText::ElementText(QStringView type, QStringView classes, QStringView states)
+    : typeName(type)
+    , name(classes)
+    , state(states)
+    , hash(qHash(type))
 {
-    std::size_t hash = qHash(QStringView(element.typeName));
-    for (const QString &word : element.classes)
-        hash = qHash(QStringView(word), hash);
-    hash = qHash(element.classes.size(), hash);
-    for (const QString &word : element.states)
-        hash = qHash(QStringView(word), hash);
-    return hash;
-}
-
-std::size_t StylePathPool::ElementHash::operator()(const ElementText &text) const noexcept
-{
-    std::size_t hash = qHash(text.typeName);
-    qsizetype classes = 0;
-    visitWords(text.name, [&](QStringView word) {
+    qsizetype classCount = 0;
+    visitWords(name, [&](QStringView word) {
         hash = qHash(word, hash);
-        return ++classes > 0;
+        return ++classCount > 0;
     });
-    hash = qHash(classes, hash);
-    visitWords(text.state, [&](QStringView word) {
+    hash = qHash(classCount, hash);
+    visitWords(state, [&](QStringView word) {
         hash = qHash(word, hash);
         return true;
     });
-    return hash;
 }
 
-bool StylePathPool::ElementEqual::operator()(const StyleElement &element, const ElementText &text) const
+bool StylePathPool::ElementEqual::operator()(const PooledElement &pooled, const ElementText &text) const
 {
-    return element.typeName == text.typeName && hasWords(text.name, element.classes) &&
+    const StyleElement &element = pooled.element;
+    return pooled.hash == text.hash && element.typeName == text.typeName && hasWords(text.name, element.classes) &&
            hasWords(text.state, element.states);
 }
 
@@ -92,7 +84,7 @@ std::size_t StylePathPool::PathHash::operator()(const PathKey &key) const noexce
 
 StylePathRef StylePathPool::child(const StylePathRef &parent, QStringView typeName, QStringView name, QStringView state)
 {
-    const StyleElement *innermost = element({typeName, name, state});
+    const StyleElement *innermost = element(ElementText(typeName, name, state));
     auto path = m_paths.find(PathKey(parent.get(), innermost));
     if (path == m_paths.end()) {
         path = m_paths.emplace(parent.get(), innermost).first;
@@ -106,8 +98,8 @@ const StyleElement *StylePathPool::element(const ElementText &text)
 {
     auto element = m_elements.find(text);
     if (element == m_elements.end())
-        element = m_elements.insert({text.typeName.toString(), wordsOf(text.name), wordsOf(text.state)}).first;
-    return &*element;
+        element = m_elements.insert({{text.typeName.toString(), wordsOf(text.name), wordsOf(text.state)}, text.hash}).first;
+    return &element->element;
 }
 
 void StylePathPool::collect()
@@ -131,7 +123,7 @@ void StylePathPool::collect()
     std::unordered_set<const StyleElement *> used;
     for (const StylePath &path : m_paths)
         used.insert(&path.element());
-    std::erase_if(m_elements, [&used](const StyleElement &element) { return !used.contains(&element); });
+    std::erase_if(m_elements, [&used](const PooledElement &pooled) { return !used.contains(&pooled.element); });
 }
 
 } // namespace tamble::client

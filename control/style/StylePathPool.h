@@ -32,25 +32,33 @@ public:
     std::size_t elementCount() const { return m_elements.size(); }
 
 private:
-    /// The texts of an element before they are split; equal to the element that they split into.
+    /// The texts of an element before they are split, with a hash of their words.
     struct ElementText
     {
+        ElementText(QStringView type, QStringView classes, QStringView states);
+
         QStringView typeName;
         QStringView name;
         QStringView state;
+        std::size_t hash;
+    };
+    struct PooledElement
+    {
+        StyleElement element;
+        std::size_t hash;
     };
     struct ElementHash
     {
         using is_transparent = void;
-        std::size_t operator()(const StyleElement &element) const noexcept;
-        std::size_t operator()(const ElementText &text) const noexcept;
+        std::size_t operator()(const PooledElement &pooled) const noexcept { return pooled.hash; }
+        std::size_t operator()(const ElementText &text) const noexcept { return text.hash; }
     };
     struct ElementEqual
     {
         using is_transparent = void;
-        bool operator()(const StyleElement &a, const StyleElement &b) const { return a == b; }
-        bool operator()(const StyleElement &element, const ElementText &text) const;
-        bool operator()(const ElementText &text, const StyleElement &element) const { return (*this)(element, text); }
+        bool operator()(const PooledElement &a, const PooledElement &b) const { return a.element == b.element; }
+        bool operator()(const PooledElement &pooled, const ElementText &text) const;
+        bool operator()(const ElementText &text, const PooledElement &pooled) const { return (*this)(pooled, text); }
     };
 
     struct PathKey
@@ -81,7 +89,7 @@ private:
 
     const StyleElement *element(const ElementText &text);
 
-    std::unordered_set<StyleElement, ElementHash, ElementEqual> m_elements;
+    std::unordered_set<PooledElement, ElementHash, ElementEqual> m_elements;
     std::unordered_set<StylePath, PathHash, PathEqual> m_paths;
 };
 

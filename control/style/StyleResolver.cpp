@@ -15,6 +15,14 @@ std::size_t StyleResolver::MapHash::operator()(const MapKey &key) const noexcept
     return qHashRange(key.own.begin(), key.own.end(), quintptr(key.inherited));
 }
 
+std::size_t StyleResolver::LookHash::operator()(const Look &look) const noexcept
+{
+    std::size_t hash = qHash(quintptr(look.parent));
+    for (const MatchWord &word : look.words)
+        hash = qHashMulti(hash, word.key, word.count);
+    return hash;
+}
+
 StyleResolver::StyleResolver(const StyleSheet &sheet)
     : m_sheet(sheet)
     , m_matcher(m_sheet.names(), m_sheet.tree())
@@ -22,40 +30,52 @@ StyleResolver::StyleResolver(const StyleSheet &sheet)
 
 const ResolvedMap &StyleResolver::resolve(const StylePath &path)
 {
-    if (const auto known = m_entries.find(&path); known != m_entries.end())
-        return *known->second.map;
-    std::vector<const StylePath *> missing; // instead of a recursion: a path may have hundreds of elements
-    for (const StylePath *step = &path; step && !m_entries.contains(step); step = step->parent())
-        missing.push_back(step);
-    for (const StylePath *step : boost::adaptors::reverse(missing))
-        addEntry(*step);
-    return *m_entries.at(&path).map;
+    return *resolution(path).map;
 }
 
 std::vector<StyleMatch> StyleResolver::matches(const StylePath &path)
 {
-    resolve(path);
     std::vector<StyleMatch> result;
-    m_matcher.match(m_entries.at(&path).element, result);
+    m_matcher.match(resolution(path).element, result);
     sortMatches(result, m_sheet.tree());
     return result;
 }
 
-/// Resolves `path`; the path around it has been resolved.
-StyleResolver::Entry &StyleResolver::addEntry(const StylePath &path)
+const StyleResolver::Resolution &StyleResolver::resolution(const StylePath &path)
 {
-    const Entry *parent = path.parent() ? &m_entries.at(path.parent()) : nullptr;
-    Entry &entry = m_entries[&path];
-    entry.path.reset(&path);
-    entry.element.words = words(path.element());
-    if (parent) {
-        entry.element.parent = &parent->element;
-        entry.element.nearestKnown = parent->element.words.empty() ? parent->element.nearestKnown : &parent->element;
+    std::vector<const StylePath *> missing; // instead of a recursion: a path may have hundreds of elements
+    const Resolution *innermost = nullptr;
+    for (const StylePath *step = &path; step && !innermost; step = step->parent()) {
+        const auto known = m_entries.find(step);
+        if (known != m_entries.end())
+            innermost = known->second.resolution;
+        else
+            missing.push_back(step);
     }
-    m_matcher.match(entry.element, m_matches);
+    for (const StylePath *step : boost::adaptors::reverse(missing)) {
+        innermost = &resolveLook({innermost, m_matcher.words(step->element())});
+        m_entries.emplace(step, Entry{step, innermost});
+    }
+    return *innermost;
+}
+
+const StyleResolver::Resolution &StyleResolver::resolveLook(Look look)
+{
+    const auto [entry, isNew] = m_resolutions.try_emplace(std::move(look));
+    Resolution &resolution = entry->second;
+    if (!isNew)
+        return resolution;
+    resolution.element.words = entry->first.words;
+    const Resolution *parent = entry->first.parent;
+    if (parent) {
+        resolution.element.parent = &parent->element;
+        resolution.element.nearestKnown =
+            parent->element.words.empty() ? parent->element.nearestKnown : &parent->element;
+    }
+    m_matcher.match(resolution.element, m_matches);
     sortMatches(m_matches, m_sheet.tree());
-    entry.map = map(mergeMatches(m_matches, m_sheet.tree()), parent ? parent->map : nullptr);
-    return entry;
+    resolution.map = map(mergeMatches(m_matches, m_sheet.tree()), parent ? parent->map : nullptr);
+    return resolution;
 }
 
 const ResolvedMap *StyleResolver::map(DeclarationMap own, const ResolvedMap *parent)
@@ -66,12 +86,6 @@ const ResolvedMap *StyleResolver::map(DeclarationMap own, const ResolvedMap *par
         parent = nullptr;
     const auto known = m_maps.find(MapKey(own, parent ? &parent->all() : nullptr));
     return known != m_maps.end() ? &*known : &*m_maps.emplace(std::move(own), parent).first;
-}
-
-const std::vector<MatchWord> &StyleResolver::words(const StyleElement &element)
-{
-    const auto known = m_words.find(&element);
-    return known != m_words.end() ? known->second : m_words.emplace(&element, m_matcher.words(element)).first->second;
 }
 
 } // namespace tamble::client

@@ -39,11 +39,28 @@ public:
     std::size_t lookUpCount() const { return m_matcher.lookUpCount(); }
 
 private:
+    /// The result for all paths that look the same to the sheet: names and states that it never mentions make no
+    /// difference.
+    struct Resolution
+    {
+        MatchElement element;
+        const ResolvedMap *map = nullptr;
+    };
+    struct Look
+    {
+        bool operator==(const Look &) const = default;
+
+        const Resolution *parent; // null for an outermost element
+        std::vector<MatchWord> words;
+    };
+    struct LookHash
+    {
+        std::size_t operator()(const Look &look) const noexcept;
+    };
     struct Entry
     {
         StylePathRef path; // a pool reuses the address of a path that it dropped
-        MatchElement element;
-        const ResolvedMap *map;
+        const Resolution *resolution;
     };
 
     struct MapKey
@@ -72,14 +89,14 @@ private:
         bool operator()(const MapKey &a, const MapKey &b) const { return a == b; }
     };
 
-    Entry &addEntry(const StylePath &path);
+    const Resolution &resolution(const StylePath &path);
+    const Resolution &resolveLook(Look look);
     const ResolvedMap *map(DeclarationMap own, const ResolvedMap *parent);
-    const std::vector<MatchWord> &words(const StyleElement &element);
 
     const StyleSheet &m_sheet;
     StyleMatcher m_matcher;
-    std::unordered_map<const StyleElement *, std::vector<MatchWord>> m_words;
     std::unordered_set<ResolvedMap, MapHash, MapEqual> m_maps;
+    std::unordered_map<Look, Resolution, LookHash> m_resolutions;
     std::unordered_map<const StylePath *, Entry> m_entries;
     std::vector<StyleMatch> m_matches; // kept for its capacity
 };

@@ -106,24 +106,29 @@ QUrl StyleSetProps::url(const QString &key)
 void StyleSetProps::invalidate()
 {
     m_resolved = nullptr;
-    m_converted.clear();
+    m_inconvertible.clear();
 }
 
 void StyleSetProps::noteMissing(const QString &) {}
 
-const PropertySpec *StyleSetProps::find(const QString &key) const
+const ResolvedMap &StyleSetProps::resolved() const
 {
     if (!m_resolved)
         m_resolved = &StyleEngine::instance()->resolve(m_path.get());
-    return m_resolved->find(key);
+    return *m_resolved;
+}
+
+const PropertySpec *StyleSetProps::find(const QString &key) const
+{
+    return resolved().find(key);
 }
 
 template <typename T>
 T StyleSetProps::converted(const QString &key, const char *typeName, T (*convert)(const PropertySpec &))
 {
     const std::pair<QString, const char *> cacheKey(key, typeName);
-    const auto known = m_converted.constFind(cacheKey);
-    if (known != m_converted.constEnd())
+    ResolvedMap::Values &values = resolved().convertedValues();
+    if (const auto known = values.constFind(cacheKey); known != values.constEnd())
         return known->template value<T>();
 
     const PropertySpec *spec = find(key);
@@ -131,15 +136,18 @@ T StyleSetProps::converted(const QString &key, const char *typeName, T (*convert
         noteMissing(key);
         return T();
     }
-    T value{};
+    if (m_inconvertible.contains(cacheKey))
+        return T();
     try {
-        value = convert(*spec);
+        const T value = convert(*spec);
+        values.insert(cacheKey, QVariant::fromValue(value));
+        return value;
     } catch (const ConvertException &) {
+        m_inconvertible.insert(cacheKey);
         qCWarning(styleLog).noquote().nospace() << "WARN: Property " << key << " is not convertible to a '" << typeName
                                                 << "' (" << (m_path ? m_path->text() : QString()) << ")";
+        return T();
     }
-    m_converted.insert(cacheKey, QVariant::fromValue(value));
-    return value;
 }
 
 } // namespace tamble::client

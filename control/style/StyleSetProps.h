@@ -3,8 +3,8 @@
 #include "ControlExport.h"
 #include "style/StylePath.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QObject>
+#include <QtCore/QSet>
 #include <QtCore/QUrl>
 #include <QtCore/QVariant>
 #include <QtGui/QColor>
@@ -194,13 +194,14 @@ protected:
     virtual void noteMissing(const QString &key);
 
 private:
+    const ResolvedMap &resolved() const;
     const PropertySpec *find(const QString &key) const;
     template <typename T>
     T converted(const QString &key, const char *typeName, T (*convert)(const PropertySpec &));
 
     StylePathRef m_path;
     mutable const ResolvedMap *m_resolved = nullptr; // null until asked for, and again after a style load
-    QHash<std::pair<QString, const char *>, QVariant> m_converted;
+    QSet<std::pair<QString, const char *>> m_inconvertible; // logged already, by key and type
 };
 
 } // namespace tamble::client
