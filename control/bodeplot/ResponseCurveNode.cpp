@@ -2,6 +2,8 @@
 
 #include "bodeplot/StyleObject.h"
 
+#include <initializer_list>
+
 namespace tamble::client {
 
 ResponseCurveNode::ResponseCurveNode()
@@ -11,8 +13,8 @@ ResponseCurveNode::ResponseCurveNode()
     setGeometry(&m_frame);
     setIsRectangular(true);
     showFrame({});
-    for (QSGNode *node : {static_cast<QSGNode *>(&m_area), &m_group, static_cast<QSGNode *>(&m_selected.node),
-                          static_cast<QSGNode *>(&m_aggregated.node)}) {
+    for (QSGNode *node : std::initializer_list<QSGNode *>{&m_area, &m_bypass.node, &m_individual.node,
+                                                         &m_selected.node, &m_aggregated.node}) {
         node->setFlag(OwnedByParent, false);
         appendChildNode(node);
     }
@@ -24,18 +26,23 @@ void ResponseCurveNode::show(const ResponseScene &scene)
     showArea(scene);
 
     const std::vector<ResponseLine> &lines = scene.lines.records();
-    setRecordCount(lines.size());
-    const ResponseLine *selected = nullptr;
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        const bool isSelected = int(i) == scene.selectedRecord;
-        const bool bypass = i < scene.records.size() && recordDisplay(scene.records[i].data()).bypass;
-        const LineStyle &style = bypass ? scene.style.bypass : scene.style.individual;
-        showLine(*m_records[i], isSelected ? nullptr : &lines[i], style, scene.pixelRatio);
-        if (isSelected)
-            selected = &lines[i];
-    }
-    showLine(m_selected, selected, scene.style.selected, scene.pixelRatio);
-    showLine(m_aggregated, &scene.lines.aggregated(), scene.style.aggregated, scene.pixelRatio);
+    const auto show = [&](LineGroup &group, const LineStyle &style, const auto &belongs) {
+        m_lines.clear();
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            if (belongs(i))
+                m_lines.push_back(&lines[i]);
+        }
+        showLines(group, m_lines, style, scene.pixelRatio);
+    };
+    const auto isSelected = [&](std::size_t i) { return int(i) == scene.selectedRecord; };
+    const auto isBypass = [&](std::size_t i) {
+        return i < scene.records.size() && recordDisplay(scene.records[i].data()).bypass;
+    };
+    show(m_bypass, scene.style.bypass, [&](std::size_t i) { return isBypass(i) && !isSelected(i); });
+    show(m_individual, scene.style.individual, [&](std::size_t i) { return !isBypass(i) && !isSelected(i); });
+    show(m_selected, scene.style.selected, isSelected);
+    m_lines.assign(1, &scene.lines.aggregated());
+    showLines(m_aggregated, m_lines, scene.style.aggregated, scene.pixelRatio);
 }
 
 void ResponseCurveNode::showFrame(const QSizeF &size)
@@ -66,36 +73,27 @@ void ResponseCurveNode::showArea(const ResponseScene &scene)
     m_area.end();
 }
 
-void ResponseCurveNode::showLine(LineNode &target, const ResponseLine *line, const LineStyle &style, double pixelRatio)
+void ResponseCurveNode::showLines(LineGroup &group, const Lines &lines, const LineStyle &style, double pixelRatio)
 {
-    const bool shows = line && showsColor(style.color);
-    if (shows)
-        target.node.setColor(style.color);
-    const unsigned revision = shows ? line->revision : 0;
+    m_revisions.clear();
+    if (showsColor(style.color)) {
+        group.node.setColor(style.color);
+        for (const ResponseLine *line : lines)
+            m_revisions.push_back(line->revision);
+    }
     const StrokeWidth width{style.width, pixelRatio};
-    if (target.revision == revision && (revision == 0 || target.width == width))
+    if (group.revisions == m_revisions && (m_revisions.empty() || group.width == width))
         return;
-    target.revision = revision;
-    target.width = width;
+    group.revisions = m_revisions;
+    group.width = width;
     ++m_rewriteCount;
-    target.node.begin(width);
-    for (std::size_t i = 0; shows && i < line->points.count(); ++i)
-        target.node.add(line->points.run(i));
-    target.node.end();
-}
-
-void ResponseCurveNode::setRecordCount(std::size_t count)
-{
-    while (m_records.size() > count) {
-        m_group.removeChildNode(&m_records.back()->node);
-        m_records.pop_back();
+    group.node.begin(width);
+    for (std::size_t i = 0; i < m_revisions.size(); ++i) {
+        const PolylineRuns &points = lines[i]->points;
+        for (std::size_t run = 0; run < points.count(); ++run)
+            group.node.add(points.run(run));
     }
-    while (m_records.size() < count) {
-        auto added = std::make_unique<LineNode>();
-        added->node.setFlag(OwnedByParent, false);
-        m_group.appendChildNode(&added->node);
-        m_records.push_back(std::move(added));
-    }
+    group.node.end();
 }
 
 } // namespace tamble::client

@@ -7,7 +7,6 @@
 
 #include <QtQuick/QSGClipNode>
 
-#include <memory>
 #include <vector>
 
 namespace tamble::client {
@@ -46,7 +45,8 @@ struct ResponseScene
 };
 
 /// Scene-graph node of a whole curve, cut off at the item's edges: the area, the lines of the records, the selected one
-/// and the sum. Its nodes stay, and what did not change touches none of them.
+/// and the sum. Lines that look alike are one strip, since each node more is a call more for the graphics card. Its
+/// nodes stay, and what did not change touches none of them.
 class ResponseCurveNode : public QSGClipNode
 {
 public:
@@ -58,27 +58,30 @@ public:
     int rewriteCount() const { return m_rewriteCount; }
 
 private:
-    /// A node with what it was last given.
-    struct LineNode
+    using Lines = std::vector<const ResponseLine *>;
+
+    /// Lines of one look, with what the node was last given.
+    struct LineGroup
     {
         SmoothStrokeNode node;
-        unsigned revision = 0;
+        std::vector<unsigned> revisions;
         StrokeWidth width;
     };
 
     void showFrame(const QSizeF &size);
     void showArea(const ResponseScene &scene);
-    void showLine(LineNode &target, const ResponseLine *line, const LineStyle &style, double pixelRatio);
-    void setRecordCount(std::size_t count);
+    void showLines(LineGroup &group, const Lines &lines, const LineStyle &style, double pixelRatio);
 
     QSGGeometry m_frame;
     CurveAreaNode m_area;
     unsigned m_areaRevision = 0;
     AreaSaturation m_areaSaturation;
-    QSGNode m_group; ///< Keeps the records' lines below the two others.
-    std::vector<std::unique_ptr<LineNode>> m_records;
-    LineNode m_selected;
-    LineNode m_aggregated;
+    LineGroup m_bypass;
+    LineGroup m_individual;
+    LineGroup m_selected;
+    LineGroup m_aggregated;
+    Lines m_lines;                     ///< Here and below: kept for the capacity.
+    std::vector<unsigned> m_revisions;
     int m_rewriteCount = 0;
 };
 

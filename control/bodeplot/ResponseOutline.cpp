@@ -6,6 +6,8 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <optional>
+#include <utility>
 
 namespace tamble::client {
 
@@ -13,17 +15,21 @@ namespace {
 
 constexpr double halfTurn = 180.0;
 
-/// How far, in pixels, a value may be from the drawn line. Most of a filter's curve is almost straight, and leaving out
-/// the vertices of such stretches takes most of the triangles off a plot; a twentieth of a pixel cannot be seen.
-constexpr double tolerance = 0.05;
+/// How far, in pixels, a value may be from the drawn line and from the edge of the area. Most of a filter's curve is
+/// almost straight, and leaving out the vertices of such stretches takes most of the triangles off a plot. A twentieth
+/// of a pixel cannot be seen; the edge of the area lies below the line.
+constexpr double lineTolerance = 0.05;
+constexpr double areaTolerance = 0.4;
 
-/// Appends the points of a line, from left to right or from right to left, but those that a straight line between
+/// Hands on the points of a line, from left to right or from right to left, but those that a straight line between
 /// others passes within the tolerance.
+template <typename Sink>
 class StraightWriter
 {
 public:
-    explicit StraightWriter(PolylineRuns &runs)
-        : m_runs(runs)
+    StraightWriter(Sink sink, double tolerance)
+        : m_sink(std::move(sink))
+        , m_tolerance(tolerance)
     {}
 
     void add(const QPointF &point)
@@ -35,7 +41,7 @@ public:
             return;
         }
         const double slope = slopeTo(point);
-        const double slack = tolerance / std::abs(point.x() - m_anchor.x());
+        const double slack = m_tolerance / std::abs(point.x() - m_anchor.x());
         m_lowest = std::max(m_lowest, slope - slack);
         m_highest = std::min(m_highest, slope + slack);
         m_waiting = point;
@@ -45,9 +51,9 @@ public:
     void endRun()
     {
         if (m_state == State::Waiting)
-            m_runs.points.push_back(m_waiting);
+            m_sink.point(m_waiting);
         if (m_state != State::Empty)
-            m_runs.ends.push_back(m_runs.points.size());
+            m_sink.endRun();
         m_state = State::Empty;
     }
 
@@ -58,19 +64,28 @@ private:
 
     void anchorAt(const QPointF &point)
     {
-        m_runs.points.push_back(point);
+        m_sink.point(point);
         m_anchor = point;
         m_lowest = -std::numeric_limits<double>::infinity();
         m_highest = std::numeric_limits<double>::infinity();
         m_state = State::Anchored;
     }
 
-    PolylineRuns &m_runs;
+    Sink m_sink;
+    double m_tolerance;
     State m_state = State::Empty;
     QPointF m_anchor;
     QPointF m_waiting; ///< The last point, on which it is not decided yet.
     double m_lowest = 0.0;
     double m_highest = 0.0;
+};
+
+struct RunAppender
+{
+    void point(const QPointF &point) { outline.points.push_back(point); }
+    void endRun() { outline.ends.push_back(outline.points.size()); }
+
+    PolylineRuns &outline;
 };
 
 /// Writes the vertices of one line, from the lowest index upwards.
@@ -79,7 +94,7 @@ class OutlineWriter
 public:
     OutlineWriter(const ResponseCurve &curve, const ResponseView &view, PolylineRuns &outline)
         : m_curve(curve)
-        , m_line(outline)
+        , m_line({outline}, lineTolerance)
         // Rows are whole pixels, the item need not be.
         , m_stretch(view.size.height() / view.rows())
     {
@@ -172,14 +187,14 @@ private:
     }
 
     const ResponseCurve &m_curve;
-    StraightWriter m_line;
+    StraightWriter<RunAppender> m_line;
     double m_stretch;
     double m_first = 0.0;
     double m_step = 0.0;
     int m_last = 0;
 };
 
-/// Appends where a segment crosses the levels, in order; the ends of the segment are not among them.
+/// Appends the points of a line, held within the frame, and where it crosses the frame's edges and the axis.
 class CrossingWriter
 {
 public:
@@ -192,7 +207,23 @@ public:
         , m_outline(outline)
     {}
 
-    void segment(const QPointF &from, const QPointF &to)
+    void point(const QPointF &position)
+    {
+        if (m_last)
+            crossings(*m_last, position);
+        append(position);
+        m_last = position;
+    }
+
+    void endRun()
+    {
+        m_outline.ends.push_back(m_outline.points.size());
+        m_last.reset();
+    }
+
+private:
+    // In the order of the way.
+    void crossings(const QPointF &from, const QPointF &to)
     {
         std::array<double, 5> parts{};
         std::size_t count = 0;
@@ -211,22 +242,22 @@ public:
         cross(from.y(), to.y(), m_bottom);
         cross(from.y(), to.y(), m_axis);
         for (std::size_t i = 0; i < count; ++i)
-            point(from + (to - from) * parts[i]);
+            append(from + (to - from) * parts[i]);
     }
 
-    void point(const QPointF &position)
+    void append(const QPointF &position)
     {
         m_outline.points.emplace_back(std::clamp(position.x(), m_left, m_right),
                                       std::clamp(position.y(), m_top, m_bottom));
     }
 
-private:
     double m_left;
     double m_right;
     double m_top;
     double m_bottom;
     double m_axis;
     PolylineRuns &m_outline;
+    std::optional<QPointF> m_last;
 };
 
 } // namespace
@@ -266,17 +297,11 @@ void responseOutline(const ResponseCurve &curve, const ResponseView &view, Polyl
 void areaOutline(const PolylineRuns &line, const QRectF &frame, double axisY, PolylineRuns &outline)
 {
     outline.clear();
-    CrossingWriter writer(frame, axisY, outline);
+    StraightWriter writer(CrossingWriter(frame, axisY, outline), areaTolerance);
     for (std::size_t i = 0; i < line.count(); ++i) {
-        const auto run = line.run(i);
-        if (run.empty())
-            continue;
-        writer.point(run.front());
-        for (std::size_t k = 1; k < run.size(); ++k) {
-            writer.segment(run[k - 1], run[k]);
-            writer.point(run[k]);
-        }
-        outline.ends.push_back(outline.points.size());
+        for (const QPointF &point : line.run(i))
+            writer.add(point);
+        writer.endRun();
     }
 }
 
