@@ -13,8 +13,8 @@ ResponseCurveNode::ResponseCurveNode()
     setGeometry(&m_frame);
     setIsRectangular(true);
     showFrame({});
-    for (QSGNode *node : std::initializer_list<QSGNode *>{&m_area, &m_bypass.node, &m_individual.node,
-                                                         &m_selected.node, &m_aggregated.node}) {
+    for (QSGNode *node : std::initializer_list<QSGNode *>{&m_area, &m_bypass.node, &m_individual.node, &m_selected.node,
+                                                          &m_aggregated.node}) {
         node->setFlag(OwnedByParent, false);
         appendChildNode(node);
     }

@@ -80,7 +80,7 @@ private:
     LineGroup m_individual;
     LineGroup m_selected;
     LineGroup m_aggregated;
-    Lines m_lines;                     ///< Here and below: kept for the capacity.
+    Lines m_lines; ///< Here and below: kept for the capacity.
     std::vector<unsigned> m_revisions;
     int m_rewriteCount = 0;
 };

@@ -45,8 +45,7 @@ private:
     void drawWaiting();
 
     using Line = boost::intrusive::list<
-        WaitingBar,
-        boost::intrusive::member_hook<WaitingBar, decltype(WaitingBar::m_place), &WaitingBar::m_place>,
+        WaitingBar, boost::intrusive::member_hook<WaitingBar, decltype(WaitingBar::m_place), &WaitingBar::m_place>,
         boost::intrusive::constant_time_size<false>>;
 
     Line m_waiting;

@@ -98,7 +98,8 @@ const StyleElement *StylePathPool::element(const ElementText &text)
 {
     auto element = m_elements.find(text);
     if (element == m_elements.end())
-        element = m_elements.insert({{text.typeName.toString(), wordsOf(text.name), wordsOf(text.state)}, text.hash}).first;
+        element =
+            m_elements.insert({{text.typeName.toString(), wordsOf(text.name), wordsOf(text.state)}, text.hash}).first;
     return &element->element;
 }
 

@@ -200,7 +200,7 @@ private:
     T converted(const QString &key, const char *typeName, T (*convert)(const PropertySpec &));
 
     StylePathRef m_path;
-    mutable const ResolvedMap *m_resolved = nullptr; // null until asked for, and again after a style load
+    mutable const ResolvedMap *m_resolved = nullptr;        // null until asked for, and again after a style load
     QSet<std::pair<QString, const char *>> m_inconvertible; // logged already, by key and type
 };
 
