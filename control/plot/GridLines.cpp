@@ -36,6 +36,19 @@ bool isInside(double position)
     return position >= 0.0 && position <= 1.0;
 }
 
+/// Widths that are not positive stay, and draw nothing.
+double visibleWidth(double width, double pixelRatio)
+{
+    return width > 0.0 ? std::max(width, 1.0 / pixelRatio) : width;
+}
+
+LineFamily withVisibleWidths(LineFamily family, double pixelRatio)
+{
+    family.lineWidth = visibleWidth(family.lineWidth, pixelRatio);
+    family.majorLineWidth = visibleWidth(family.majorLineWidth, pixelRatio);
+    return family;
+}
+
 void addFiner(LineCollector &collector, const LineFamily &family, LineAt lineAt, const QSizeF &size)
 {
     for (const double position : family.positions) {
@@ -84,19 +97,22 @@ QList<ColoredLines> gridLines(const GridDescription &grid, const QSizeF &size)
 {
     if (size.isEmpty())
         return {};
+    const auto family = [&](const std::optional<LineFamily> &given) {
+        return withVisibleWidths(given.value_or(LineFamily()), grid.pixelRatio);
+    };
     LineCollector collector;
-    const bool showVertical = grid.vertical && grid.vertical->visible;
-    const bool showHorizontal = grid.horizontal && grid.horizontal->visible;
-    if (showVertical)
-        addFiner(collector, *grid.vertical, verticalLine, size);
-    if (showHorizontal)
-        addFiner(collector, *grid.horizontal, horizontalLine, size);
-    if (showVertical)
-        addMajor(collector, *grid.vertical, verticalLine, size);
-    if (showHorizontal)
-        addMajor(collector, *grid.horizontal, horizontalLine, size);
+    const LineFamily vertical = family(grid.vertical);
+    const LineFamily horizontal = family(grid.horizontal);
+    if (vertical.visible)
+        addFiner(collector, vertical, verticalLine, size);
+    if (horizontal.visible)
+        addFiner(collector, horizontal, horizontalLine, size);
+    if (vertical.visible)
+        addMajor(collector, vertical, verticalLine, size);
+    if (horizontal.visible)
+        addMajor(collector, horizontal, horizontalLine, size);
     if (grid.frameVisible && (grid.horizontal || grid.vertical))
-        addFrame(collector, grid.horizontal ? *grid.horizontal : *grid.vertical, size);
+        addFrame(collector, grid.horizontal ? horizontal : vertical, size);
     return collector.take();
 }
 

@@ -26,12 +26,13 @@ struct LineFamily
     bool visible = true;
 };
 
-/// A grid's two families, either of which may be absent, and its frame.
+/// A grid's two families, either of which may be absent, its frame, and how many device pixels a pixel has.
 struct GridDescription
 {
     std::optional<LineFamily> horizontal;
     std::optional<LineFamily> vertical;
     bool frameVisible = false;
+    double pixelRatio = 1.0;
 };
 
 /// All lines of one colour, as triangles, so that lines of different widths share a node.
@@ -45,7 +46,8 @@ struct ColoredLines
 ///
 /// Positions outside 0…1 are skipped, and so are finer lines that coincide with a major one. The frame lies inside the
 /// item and takes colour and width of the major lines, those of the horizontal family first; a grid without families
-/// has none. An empty size gives no lines.
+/// has none. An empty size gives no lines. Lines of a positive width are at least one device pixel wide, since
+/// triangles that cover no middle of a pixel are not seen.
 QList<ColoredLines> gridLines(const GridDescription &grid, const QSizeF &size);
 
 } // namespace tamble::client

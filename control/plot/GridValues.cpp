@@ -13,7 +13,7 @@ constexpr double boundTolerance = 1e-9;
 
 std::optional<QList<double>> linearValues(const GridRule &rule)
 {
-    if (!(rule.step > 0.0))
+    if (!(rule.step > 0.0) || std::isinf(rule.step))
         return std::nullopt;
     const double first = std::ceil((rule.range.lowest() - rule.origin) / rule.step - boundTolerance);
     const double last = std::floor((rule.range.highest() - rule.origin) / rule.step + boundTolerance);

@@ -2,6 +2,8 @@
 
 #include "plot/StrokeNode.h"
 
+#include <QtQuick/QQuickWindow>
+
 #include <utility>
 
 namespace tamble::client {
@@ -31,6 +33,13 @@ void RGrid::setFrameVisible(bool frameVisible)
     Q_EMIT frameVisibleChanged();
 }
 
+void RGrid::itemChange(ItemChange change, const ItemChangeData &value)
+{
+    QQuickItem::itemChange(change, value);
+    if (change == ItemDevicePixelRatioHasChanged)
+        invalidateLines();
+}
+
 void RGrid::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
     QQuickItem::geometryChange(newGeometry, oldGeometry);
@@ -46,6 +55,7 @@ QSGNode *RGrid::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
 
     GridDescription grid;
     grid.frameVisible = m_frameVisible;
+    grid.pixelRatio = window() ? window()->effectiveDevicePixelRatio() : 1.0;
     if (m_horizontal)
         grid.horizontal = m_horizontal->lines();
     if (m_vertical)

@@ -36,6 +36,7 @@ Q_SIGNALS:
     void frameVisibleChanged();
 
 protected:
+    void itemChange(ItemChange change, const ItemChangeData &value) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
 

@@ -5,8 +5,24 @@
 #include <QtCore/QDebug>
 
 #include <algorithm>
+#include <cmath>
 
 namespace tamble::client {
+
+namespace {
+
+/// Two bounds that are both no numbers are the same mistake.
+bool isSameBound(double first, double second)
+{
+    return first == second || (std::isnan(first) && std::isnan(second));
+}
+
+bool isSameRange(const AxisRange &first, const AxisRange &second)
+{
+    return isSameBound(first.from, second.from) && isSameBound(first.to, second.to) && first.scale == second.scale;
+}
+
+} // namespace
 
 RScaleHelper::RScaleHelper(QObject *parent)
     : QObject(parent)
@@ -15,6 +31,8 @@ RScaleHelper::RScaleHelper(QObject *parent)
 double RScaleHelper::toPosition(double value)
 {
     if (!checkRange("toPosition"))
+        return 0.0;
+    if (std::isnan(value))
         return 0.0;
     const double position = range().toPosition(value);
     return m_reverse ? 1.0 - position : position;
@@ -51,7 +69,7 @@ bool RScaleHelper::checkRange(const char *function)
     if (current.isUsable())
         return true;
     // Bindings call again and again; one line per unusable range is enough to find the mistake.
-    if (m_reportedRange != current) {
+    if (!m_reportedRange || !isSameRange(*m_reportedRange, current)) {
         m_reportedRange = current;
         qWarning("RScaleHelper::%s() range is empty or not above 0 on a logarithmic scale", function);
     }

@@ -131,6 +131,7 @@ void tst_PlotHelpers::scaleHelper()
     QCOMPARE(scale.toPosition(0.0), 0.25);
     QCOMPARE(scale.toValue(0.25), 0.0);
     QCOMPARE(scale.toPosition(30.0), 0.0);
+    QCOMPARE(scale.toPosition(std::numeric_limits<double>::quiet_NaN()), 0.0);
 
     QCOMPARE(scale.snap(7.4, 5.0), 5.0);
     QCOMPARE(scale.snap(-7.6, -5.0), -10.0);
@@ -155,6 +156,10 @@ void tst_PlotHelpers::scaleHelperReportsOnce()
     QTest::ignoreMessage(QtWarningMsg, "RScaleHelper::toValue() range is empty or not above 0 on a logarithmic scale");
     scale.setProperty("from", 1.0);
     QCOMPARE(scale.toValue(0.5), 1.0);
+    QTest::ignoreMessage(QtWarningMsg, "RScaleHelper::toValue() range is empty or not above 0 on a logarithmic scale");
+    scale.setProperty("to", std::numeric_limits<double>::quiet_NaN());
+    QCOMPARE(scale.toValue(0.5), 1.0);
+    QCOMPARE(scale.toValue(0.6), 1.0);
 }
 
 void tst_PlotHelpers::axis()
