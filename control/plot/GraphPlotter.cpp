@@ -1,6 +1,7 @@
 #include "plot/GraphPlotter.h"
 
-#include "plot/StrokeNode.h"
+#include "plot/SmoothStrokeNode.h"
+#include "plot/StrokeGeometry.h"
 
 namespace tamble::client {
 
@@ -29,7 +30,7 @@ void GraphPlotter::setValues(const QVariantList &points)
     Q_EMIT valuesChanged();
 }
 
-void GraphPlotter::fillNode(StrokeNode &node) const
+QList<QPointF> GraphPlotter::pixels() const
 {
     QList<QPointF> pixels;
     pixels.reserve(m_values.size());
@@ -39,7 +40,19 @@ void GraphPlotter::fillNode(StrokeNode &node) const
         const QPointF point = entry.toPointF();
         pixels.append({width() * point.x(), height() * point.y()});
     }
-    node.setStroke(polylineStroke(pixels, lineWidth()));
+    return pixels;
+}
+
+StrokeGeometry GraphPlotter::thinLines() const
+{
+    return polylineStroke(pixels(), lineWidth());
+}
+
+void GraphPlotter::addWideLines(SmoothStrokeNode &node) const
+{
+    QList<QPointF> points = pixels();
+    points.removeIf([](const QPointF &point) { return !isDrawable(point); });
+    node.add(points);
 }
 
 } // namespace tamble::client

@@ -2,6 +2,7 @@
 
 #include "plot/Plotter.h"
 
+#include <QtCore/QList>
 #include <QtCore/QPointF>
 #include <QtCore/QVariantList>
 
@@ -33,9 +34,12 @@ Q_SIGNALS:
     void lineWidthChanged();
 
 protected:
-    void fillNode(StrokeNode &node) const override;
+    StrokeGeometry thinLines() const override;
+    void addWideLines(SmoothStrokeNode &node) const override;
 
 private:
+    QList<QPointF> pixels() const;
+
     QVariantList m_values;
 };
 

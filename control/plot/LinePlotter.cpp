@@ -1,7 +1,10 @@
 #include "plot/LinePlotter.h"
 
 #include "plot/GridLines.h"
-#include "plot/StrokeNode.h"
+#include "plot/SmoothStrokeNode.h"
+#include "plot/StrokeGeometry.h"
+
+#include <array>
 
 namespace tamble::client {
 
@@ -39,13 +42,26 @@ void LinePlotter::setValues(const QList<qreal> &points)
     Q_EMIT valuesChanged();
 }
 
-void LinePlotter::fillNode(StrokeNode &node) const
+QList<QLineF> LinePlotter::lines() const
 {
     QList<QLineF> lines;
     lines.reserve(m_values.size());
     for (const qreal value : m_values)
         lines.append(m_orientation == Horizontal ? horizontalLine(value, size()) : verticalLine(value, size()));
-    node.setStroke(segmentsStroke(lines, lineWidth()));
+    return lines;
+}
+
+StrokeGeometry LinePlotter::thinLines() const
+{
+    return segmentsStroke(lines(), lineWidth());
+}
+
+void LinePlotter::addWideLines(SmoothStrokeNode &node) const
+{
+    for (const QLineF &line : lines()) {
+        if (isDrawable(line.p1()) && isDrawable(line.p2()))
+            node.add(std::array{line.p1(), line.p2()});
+    }
 }
 
 } // namespace tamble::client

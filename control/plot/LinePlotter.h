@@ -2,6 +2,7 @@
 
 #include "plot/Plotter.h"
 
+#include <QtCore/QLineF>
 #include <QtCore/QList>
 
 namespace tamble::client {
@@ -40,9 +41,12 @@ Q_SIGNALS:
     void lineWidthChanged();
 
 protected:
-    void fillNode(StrokeNode &node) const override;
+    StrokeGeometry thinLines() const override;
+    void addWideLines(SmoothStrokeNode &node) const override;
 
 private:
+    QList<QLineF> lines() const;
+
     QList<qreal> m_values;
     ORIENTATION m_orientation = Horizontal;
 };

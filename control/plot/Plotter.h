@@ -7,9 +7,12 @@
 
 namespace tamble::client {
 
-class StrokeNode;
+class SmoothStrokeNode;
+struct StrokeGeometry;
 
-/// Common base of the line-drawing items: keeps one geometry node and lets the subclass fill it when it is stale.
+/// Common base of the line-drawing items: keeps one geometry node and asks the subclass for its lines when it is stale.
+///
+/// Up to a width of 1 the node draws lines, above it strips of triangles with smooth edges.
 class TAMBLE_CLIENT_CONTROL_EXPORT Plotter : public QQuickItem
 {
     Q_OBJECT
@@ -24,21 +27,28 @@ public:
 protected:
     explicit Plotter(QQuickItem *parent);
 
-    /// Gives the node its lines for the present values, width and size; called with a size that is not empty.
-    virtual void fillNode(StrokeNode &node) const = 0;
+    /// The lines for the present values, width and size; asked for with a width up to 1 and a size that is not empty.
+    virtual StrokeGeometry thinLines() const = 0;
+    /// Adds the lines for the present values and size, which is not empty, to a node of the width above 1.
+    virtual void addWideLines(SmoothStrokeNode &node) const = 0;
     /// To be called when the values change: the node is filled anew in the next frame.
     void invalidateLines();
     /// Store a property, request what it needs, and tell whether it was a change.
     bool assignColor(const QColor &color);
     bool assignLineWidth(double lineWidth);
 
+    void itemChange(ItemChange change, const ItemChangeData &value) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
 
 private:
+    QSGNode *updateThinNode(QSGNode *oldNode);
+    QSGNode *updateWideNode(QSGNode *oldNode);
+
     QColor m_color = Qt::black;
     double m_lineWidth = 1.0;
     bool m_linesStale = true;
+    bool m_nodeIsWide = false;
 };
 
 } // namespace tamble::client

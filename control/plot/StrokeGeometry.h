@@ -7,12 +7,10 @@
 namespace tamble::client {
 
 /// How the vertices of a stroke are joined.
-enum class StrokeMode { LineStrip, Lines, TriangleStrip, Triangles };
+enum class StrokeMode { LineStrip, Lines, Triangles };
 
-/// Vertices, in pixels, that draw lines of some width.
-///
-/// Widths up to 1 are lines. Wider ones are triangles, because graphics APIs need not support wide lines and the scene
-/// graph may draw line strips of one colour with each other's width.
+/// Vertices, in pixels, that draw lines with hard edges: as lines up to a width of 1, which every graphics API
+/// supports, or as triangles.
 struct StrokeGeometry
 {
     StrokeMode mode = StrokeMode::LineStrip;
@@ -22,13 +20,17 @@ struct StrokeGeometry
     bool operator==(const StrokeGeometry &) const = default;
 };
 
-/// One line through the points, with mitred corners where it is wide (bevelled where the mitre would grow too long).
+/// Whether the scene graph, which stores single precision, can hold the point; never when it is not finite.
+bool isDrawable(const QPointF &point);
+
+/// One line through the points, for widths up to 1.
 ///
-/// Points that are not finite are left out. Without two points or with a width that is not positive there are no
+/// Points that are not drawable are left out. Without two points or with a width that is not positive there are no
 /// vertices.
 StrokeGeometry polylineStroke(const QList<QPointF> &points, double width);
 
-/// Separate lines; lines that are not finite are left out, a width that is not positive gives no vertices.
+/// Separate lines, for widths up to 1; those with a point that is not drawable are left out, a width that is not
+/// positive gives no vertices.
 StrokeGeometry segmentsStroke(const QList<QLineF> &segments, double width);
 
 /// Appends the two triangles of one line; nothing for a line without length or with a coordinate that is not finite.

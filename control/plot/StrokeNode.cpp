@@ -11,8 +11,6 @@ QSGGeometry::DrawingMode drawingMode(StrokeMode mode)
         return QSGGeometry::DrawLineStrip;
     case StrokeMode::Lines:
         return QSGGeometry::DrawLines;
-    case StrokeMode::TriangleStrip:
-        return QSGGeometry::DrawTriangleStrip;
     case StrokeMode::Triangles:
         return QSGGeometry::DrawTriangles;
     }

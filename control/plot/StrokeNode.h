@@ -8,7 +8,7 @@
 
 namespace tamble::client {
 
-/// Scene-graph node of lines in one colour; owns geometry and material and updates them in place.
+/// Scene-graph node of lines with hard edges, in one colour; owns geometry and material and updates them in place.
 class StrokeNode : public QSGGeometryNode
 {
 public:

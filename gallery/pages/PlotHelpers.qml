@@ -42,7 +42,7 @@ GalleryPage {
         }
         Section {
             title: qsTr("RLinePlotter and RGraphPlotter")
-            note: qsTr("The curves are smooth at their edges, the straight lines lie on whole pixels.")
+            note: qsTr("Lines wider than a pixel are smooth at their edges.")
 
             LineWidths {
                 width: parent.width

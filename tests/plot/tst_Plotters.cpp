@@ -3,12 +3,15 @@
 #include "plot/GraphPlotter.h"
 #include "plot/LinePlotter.h"
 #include "plot/RGrid.h"
+#include "plot/SmoothStrokeNode.h"
 
 #include <QtQuick/QSGFlatColorMaterial>
 #include <QtQuick/QSGGeometryNode>
 #include <QtTest/QtTest>
 
+#include <algorithm>
 #include <memory>
+#include <span>
 
 using namespace tamble::client;
 
@@ -40,6 +43,13 @@ Points vertices(const QSGGeometryNode *node)
         points.append({double(point.x), double(point.y)});
     }
     return points;
+}
+
+/// The vertices of a wide line without the room behind them, which repeats the last one.
+std::span<StrokeVertex> wideVertices(QSGGeometryNode *node)
+{
+    const auto *stroke = static_cast<SmoothStrokeNode *>(node);
+    return {static_cast<StrokeVertex *>(node->geometry()->vertexData()), std::size_t(stroke->usedVertexCount())};
 }
 
 /// Writes a mark into a node's vertices that the next rebuild would overwrite.
@@ -87,12 +97,6 @@ void tst_Plotters::graphVertices()
     QCOMPARE(graph->node()->geometry()->drawingMode(), QSGGeometry::DrawLineStrip);
     QCOMPARE(graph->node()->geometry()->lineWidth(), 1.0f);
     QCOMPARE(vertices(graph->node()), Points({{0, 100}, {200, 0}}));
-
-    graph->setValues({QPointF(0, 0.5), QPointF(1, 0.5)});
-    graph->setLineWidth(4.0);
-    graph->paint();
-    QCOMPARE(graph->node()->geometry()->drawingMode(), QSGGeometry::DrawTriangleStrip);
-    QCOMPARE(vertices(graph->node()), Points({{0, 52}, {0, 48}, {200, 52}, {200, 48}}));
 }
 
 void tst_Plotters::graphSkipsWhatIsNoPoint()
@@ -116,11 +120,53 @@ void tst_Plotters::lineVertices()
     lines.setValues({0.25});
     lines.paint();
     QCOMPARE(vertices(lines.node()), Points({{50, 0}, {50, 100}}));
+}
 
+void tst_Plotters::wideLinesAreSmooth()
+{
+    const auto graph = paintedGraph();
+    graph->setValues({QPointF(0, 0.5), QPointF(qQNaN(), 0.5), QPointF(1, 0.5)});
+    graph->setLineWidth(4.0);
+    graph->setColor(Qt::red);
+    graph->paint();
+    // Half a pixel of smooth edge on both sides, over which the offset from the middle goes to 2.5.
+    const QSGNode *wide = graph->node();
+    QCOMPARE(graph->node()->geometry()->drawingMode(), QSGGeometry::DrawTriangleStrip);
+    const StrokeVertex expected[] = {{0, 52.5, 2.5}, {0, 47.5, -2.5}, {200, 52.5, 2.5}, {200, 47.5, -2.5}};
+    QVERIFY(std::ranges::equal(wideVertices(graph->node()), expected));
+    auto *material = dynamic_cast<SmoothStrokeMaterial *>(graph->node()->material());
+    QVERIFY(material);
+    QCOMPARE(material->color(), QColor(Qt::red));
+
+    const void *memory = graph->node()->geometry()->vertexData();
+    const StrokeVertex mark{-77, -77, 0};
+    wideVertices(graph->node())[0] = mark;
+    graph->setColor(Qt::blue);
+    graph->paint();
+    QCOMPARE(material->color(), QColor(Qt::blue));
+    QVERIFY(wideVertices(graph->node())[0] == mark);
+    graph->setLineWidth(2.0);
+    graph->setValues(diagonal);
+    graph->paint();
+    QCOMPARE(graph->node(), wide);
+    QCOMPARE(graph->node()->geometry()->vertexData(), memory);
+    QVERIFY(wideVertices(graph->node())[0] != mark);
+    graph->setHeight(0.0);
+    graph->paint();
+    QVERIFY(wideVertices(graph->node()).empty());
+
+    graph->setHeight(100.0);
+    graph->setLineWidth(1.0);
+    graph->paint();
+    QCOMPARE(vertices(graph->node()), Points({{0, 100}, {200, 0}}));
+    QCOMPARE(colorOf(graph->node()), QColor(Qt::blue));
+
+    Painted<LinePlotter> lines;
+    lines.setSize({200, 100});
     lines.setLineWidth(2.0);
+    lines.setValues({0.0, qQNaN(), 1.0});
     lines.paint();
-    QCOMPARE(lines.node()->geometry()->drawingMode(), QSGGeometry::DrawTriangles);
-    QCOMPARE(vertices(lines.node()), Points({{49, 0}, {51, 0}, {49, 100}, {49, 100}, {51, 0}, {51, 100}}));
+    QCOMPARE(wideVertices(lines.node()).size(), 10U); // two lines and what joins them
 }
 
 void tst_Plotters::unchangedInputRebuildsNothing()

@@ -11,6 +11,7 @@ private Q_SLOTS:
     void graphVertices();
     void graphSkipsWhatIsNoPoint();
     void lineVertices();
+    void wideLinesAreSmooth();
     void unchangedInputRebuildsNothing();
     void colorTouchesTheMaterialOnly();
     void verticesAreReallocatedOnlyForAnotherCount();

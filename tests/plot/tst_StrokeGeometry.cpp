@@ -31,27 +31,6 @@ void tst_StrokeGeometry::thinSegments()
     QCOMPARE(stroke.vertices, Points({{0, 5}, {9, 5}, {0, 7}, {9, 7}}));
 }
 
-void tst_StrokeGeometry::straightStrip()
-{
-    const StrokeGeometry stroke = polylineStroke({{0, 10}, {4, 10}, {4, 10}, {8, 10}}, 4.0);
-    QCOMPARE(stroke.mode, StrokeMode::TriangleStrip);
-    QCOMPARE(stroke.vertices, Points({{0, 12}, {0, 8}, {4, 12}, {4, 8}, {8, 12}, {8, 8}}));
-}
-
-void tst_StrokeGeometry::mitredCorner()
-{
-    // Right, then down: the outer corner lies up and right of the bend, the inner one down and left.
-    const StrokeGeometry stroke = polylineStroke({{0, 0}, {10, 0}, {10, 10}}, 2.0);
-    QCOMPARE(stroke.vertices, Points({{0, 1}, {0, -1}, {9, 1}, {11, -1}, {9, 10}, {11, 10}}));
-}
-
-void tst_StrokeGeometry::sharpCornerIsBevelled()
-{
-    // Straight back on itself: a mitre would have no end.
-    const StrokeGeometry stroke = polylineStroke({{0, 0}, {10, 0}, {5, 0}}, 2.0);
-    QCOMPARE(stroke.vertices, Points({{0, 1}, {0, -1}, {10, 1}, {10, -1}, {10, -1}, {10, 1}, {5, -1}, {5, 1}}));
-}
-
 void tst_StrokeGeometry::nothingToDraw_data()
 {
     QTest::addColumn<Points>("points");
@@ -59,7 +38,6 @@ void tst_StrokeGeometry::nothingToDraw_data()
     const Points line{{0, 0}, {9, 9}};
     QTest::newRow("no points") << Points() << 1.0;
     QTest::newRow("one point") << Points{{3, 3}} << 1.0;
-    QTest::newRow("one place, wide") << Points{{3, 3}, {3, 3}, {3, 3}} << 3.0;
     QTest::newRow("width 0") << line << 0.0;
     QTest::newRow("negative width") << line << -2.0;
     QTest::newRow("NaN width") << line << notANumber;
@@ -73,13 +51,6 @@ void tst_StrokeGeometry::nothingToDraw()
     QVERIFY(polylineStroke(points, width).vertices.isEmpty());
     if (points.size() == 2)
         QVERIFY(segmentsStroke({QLineF(points[0], points[1])}, width).vertices.isEmpty());
-}
-
-void tst_StrokeGeometry::wideSegments()
-{
-    const StrokeGeometry stroke = segmentsStroke({{0, 5, 9, 5}, {4, 4, 4, 4}}, 2.0);
-    QCOMPARE(stroke.mode, StrokeMode::Triangles);
-    QCOMPARE(stroke.vertices, Points({{0, 6}, {0, 4}, {9, 6}, {9, 6}, {0, 4}, {9, 4}}));
 }
 
 void tst_StrokeGeometry::gridLines()
@@ -129,4 +100,37 @@ void tst_StrokeGeometry::gridFrame()
     QCOMPARE(vertices.size(), 24);
     for (const QPointF &vertex : vertices)
         QVERIFY(QRectF(0, 0, 100, 40).contains(vertex));
+}
+
+void tst_StrokeGeometry::gridWidths_data()
+{
+    QTest::addColumn<double>("width");
+    QTest::addColumn<double>("pixelRatio");
+    QTest::addColumn<double>("drawn");
+    QTest::newRow("thinner than a pixel") << 0.4 << 1.0 << 1.0;
+    QTest::newRow("thin on a fine screen") << 0.4 << 2.0 << 0.5;
+    QTest::newRow("wide") << 3.0 << 2.0 << 3.0;
+    QTest::newRow("none") << 0.0 << 1.0 << 0.0;
+    QTest::newRow("negative") << -1.0 << 1.0 << 0.0;
+}
+
+void tst_StrokeGeometry::gridWidths()
+{
+    QFETCH(double, width);
+    QFETCH(double, pixelRatio);
+    QFETCH(double, drawn);
+    LineFamily family;
+    family.positions = {0.25};
+    family.lineWidth = width;
+    family.majorPositions = {0.5};
+    family.majorLineWidth = width;
+    const QList<ColoredLines> lines = tamble::client::gridLines({{}, family, true, pixelRatio}, {100, 40});
+    QCOMPARE(lines.isEmpty(), drawn == 0.0);
+    if (lines.isEmpty())
+        return;
+    // Two lines, then the frame's upper edge.
+    const Points &vertices = lines[0].stroke.vertices;
+    QCOMPARE(vertices[1].x() - vertices[0].x(), drawn);
+    QCOMPARE(vertices[7].x() - vertices[6].x(), drawn);
+    QCOMPARE(vertices[12], QPointF(0, drawn));
 }

@@ -9,12 +9,10 @@ class tst_StrokeGeometry : public QObject
 private Q_SLOTS:
     void thinLines();
     void thinSegments();
-    void straightStrip();
-    void mitredCorner();
-    void sharpCornerIsBevelled();
     void nothingToDraw_data();
     void nothingToDraw();
-    void wideSegments();
     void gridLines();
     void gridFrame();
+    void gridWidths_data();
+    void gridWidths();
 };
