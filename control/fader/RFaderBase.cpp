@@ -15,6 +15,7 @@ namespace tamble::client {
 namespace {
 
 constexpr int longPressMs = 500;
+constexpr int noFinger = -1;
 constexpr double touchSlack = 5.0; // pixels that a resting finger may wander
 
 } // namespace
@@ -24,7 +25,7 @@ RFaderBase::RFaderBase(QQuickItem *parent)
     , m_touchArea(new FaderTouchArea(
           this, [this](QTouchEvent *event) { touched(event); },
           [this] {
-              if (m_hold == Hold::Touch)
+              if (m_touchId != noFinger)
                   letGo();
           }))
 {
@@ -91,9 +92,11 @@ void RFaderBase::drag(const QPointF &point, bool fine)
     edit(level);
 }
 
+// The grab of the pointer is kept until its end, lest a view behind the fader begins to scroll.
 void RFaderBase::dropHandle()
 {
     m_hold = Hold::None;
+    setPressed(false);
 }
 
 void RFaderBase::timerEvent(QTimerEvent *event)
@@ -109,7 +112,7 @@ void RFaderBase::timerEvent(QTimerEvent *event)
 void RFaderBase::letGo()
 {
     m_hold = Hold::None;
-    m_touchId = -1;
+    m_touchId = noFinger;
     m_longPress.stop();
     setKeepMouseGrab(false);
     m_touchArea->setKeepTouchGrab(false);
@@ -212,12 +215,14 @@ void RFaderBase::touched(QTouchEvent *event)
     for (const QEventPoint &point : event->points()) {
         if (point.state() == QEventPoint::Pressed && m_hold == Hold::None)
             touchPressed(point);
-        else if (m_hold != Hold::Touch || point.id() != m_touchId)
+        else if (point.id() != m_touchId)
             continue;
-        else if (point.state() == QEventPoint::Updated)
+        else if (m_hold == Hold::Touch && point.state() == QEventPoint::Updated)
             touchMoved(point, event->modifiers() & Qt::ShiftModifier);
-        else if (point.state() == QEventPoint::Released)
+        else if (m_hold == Hold::Touch && point.state() == QEventPoint::Released)
             touchReleased(point);
+        else if (point.state() == QEventPoint::Released)
+            letGo(); // Esc has taken the handle from the finger
     }
 }
 

@@ -121,7 +121,7 @@ ThemedTestCase {
         mouseMove(fader, 28, 180)
         compare(fader.value, -10)
         keyClick(Qt.Key_Escape)
-        compare(fader.value, -20)
+        compare([fader.value, fader.pressed], [-20, false])
         mouseMove(fader, 28, 100)
         mouseRelease(fader, 28, 100)
         compare(fader.value, -20)
@@ -314,6 +314,27 @@ ThemedTestCase {
         touch.release(0, first, 28, 115).release(1, second, 28, 175).commit()
         compare([first.log[2], second.log[1]], ["committed -5", "committed -50"])
         compare(first.pressed || second.pressed, false)
+    }
+
+    function test_escapeTakesTheHandleFromTheFinger() {
+        const fader = make({})
+        fader.forceActiveFocus()
+        const touch = touchEvent(fader)
+        touch.press(0, fader, 28, 150).commit()
+        touch.move(0, fader, 28, 125).commit()
+        tryCompare(fader, "value", -10)
+        keyClick(Qt.Key_Escape)
+        compare([fader.value, fader.pressed, fader.editing], [-20, false, false])
+        touch.move(0, fader, 28, 100).commit()
+        touch.release(0, fader, 28, 100).commit()
+        compare([fader.value, fader.pressed], [-20, false])
+        compare(fader.log, ["edited -10", "edited -20", "canceled"])
+        touch.press(0, fader, 28, 150).commit()
+        touch.move(0, fader, 28, 125).commit()
+        tryCompare(fader, "value", -10, 1000, "the next finger takes hold again")
+        compare(fader.pressed, true)
+        touch.release(0, fader, 28, 125).commit()
+        compare(fader.pressed, false)
     }
 
     Flickable {
