@@ -56,7 +56,7 @@ void NoiseGateCalculator::recompute()
     const std::optional<CurvePoints> points = gateCurve(m_parameters);
     m_values.clear();
     if (!points)
-        return; // parameters out of bounds: the panel keeps its drawing until they are valid again
+        return; // parameters out of bounds: there is no curve, and by convention no signal either
     m_values = QVariantList(points->cbegin(), points->cend());
     Q_EMIT valuesChanged();
 }

@@ -2,13 +2,15 @@
 
 #include "GalleryAudio.h"
 
+#include <cmath>
+
 DynamicsTap::DynamicsTap(QObject *parent)
     : AudioTap(parent)
 {
-    for (const auto changed :
-         {&DynamicsTap::pointsChanged, &DynamicsTap::fromChanged, &DynamicsTap::toChanged,
-          &DynamicsTap::gainCurveChanged, &DynamicsTap::gainFromChanged, &DynamicsTap::gainToChanged,
-          &DynamicsTap::attackChanged, &DynamicsTap::releaseChanged, &DynamicsTap::fullScaleChanged})
+    for (const auto changed : {&DynamicsTap::pointsChanged, &DynamicsTap::fromChanged, &DynamicsTap::toChanged,
+                               &DynamicsTap::gainCurveChanged, &DynamicsTap::gainFromChanged,
+                               &DynamicsTap::gainToChanged, &DynamicsTap::floorGainChanged, &DynamicsTap::attackChanged,
+                               &DynamicsTap::releaseChanged, &DynamicsTap::fullScaleChanged})
         connect(this, changed, this, &DynamicsTap::settingsChanged);
 }
 
@@ -22,6 +24,8 @@ void DynamicsTap::sendSettings(GalleryAudio &audio, int tap)
     settings.curve.outputMinimum = m_gainCurve ? m_gainFrom : m_from;
     settings.curve.outputMaximum = m_gainCurve ? m_gainTo : m_to;
     settings.curve.meaning = m_gainCurve ? StaticCurve::Meaning::Gain : StaticCurve::Meaning::OutputLevel;
+    if (!std::isnan(m_floorGain))
+        settings.curve.floorGain = m_floorGain;
     settings.attackMs = m_attack;
     settings.releaseMs = m_release;
     settings.fullScale = m_fullScale;

@@ -6,6 +6,8 @@
 
 #include <QtCore/QVariantList>
 
+#include <limits>
+
 /// A dynamics processor in the signal path whose static curve is that of a calculator.
 ///
 ///     DynamicsTap { channel: 5; points: panel.values; from: panel.thresholdMin; to: panel.thresholdMax }
@@ -23,6 +25,8 @@ class DynamicsTap : public AudioTap
     Q_PROPERTY(bool gainCurve MEMBER m_gainCurve NOTIFY gainCurveChanged)
     Q_PROPERTY(double gainFrom MEMBER m_gainFrom NOTIFY gainFromChanged)
     Q_PROPERTY(double gainTo MEMBER m_gainTo NOTIFY gainToChanged)
+    /// Gain in dB where the curve lowers the signal to the floor of the plot; NaN, the default, to read it off there.
+    Q_PROPERTY(double floorGain MEMBER m_floorGain NOTIFY floorGainChanged)
     /// Time constants of the level detector in ms: 5 and 150 by default.
     Q_PROPERTY(double attack MEMBER m_attack NOTIFY attackChanged)
     Q_PROPERTY(double release MEMBER m_release NOTIFY releaseChanged)
@@ -47,6 +51,7 @@ Q_SIGNALS:
     void gainCurveChanged();
     void gainFromChanged();
     void gainToChanged();
+    void floorGainChanged();
     void attackChanged();
     void releaseChanged();
     void fullScaleChanged();
@@ -63,6 +68,7 @@ private:
     bool m_gainCurve = false;
     double m_gainFrom = -20.0;
     double m_gainTo = 20.0;
+    double m_floorGain = std::numeric_limits<double>::quiet_NaN();
     double m_attack = 5.0;
     double m_release = 150.0;
     double m_fullScale = 0.0;

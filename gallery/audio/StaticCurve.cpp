@@ -11,8 +11,13 @@ double StaticCurve::gain(double inputLevel) const
     const double first = inputMinimum + points.constFirst().x() * (inputMaximum - inputMinimum);
     const double level = std::max(inputLevel, first);
     const double x = (level - inputMinimum) / (inputMaximum - inputMinimum);
-    const double output = outputMaximum - y(x) * (outputMaximum - outputMinimum);
-    const double result = meaning == Meaning::Gain ? output : output - level;
+    const double height = y(x);
+    const double output = outputMaximum - height * (outputMaximum - outputMinimum);
+    if (meaning == Meaning::Gain)
+        return std::isfinite(output) ? output : 0.0;
+    const double result = output - level;
+    if (floorGain && height >= 1.0 && result < 0.0)
+        return *floorGain;
     return std::isfinite(result) ? result : 0.0;
 }
 

@@ -12,6 +12,8 @@ DynamicsTile {
     title: "RDucker"
     channel: 8
     points: panel.values
+    floorGain: -panel.duckingLevel
+    gainRange: panel.duckingLevelMax
     parameters: [
         [qsTr("Threshold"), ParameterText.withUnit(panel.threshold, qsTr("dBu"))],
         [qsTr("Ducking"), ParameterText.withUnit(panel.duckingLevel, qsTr("dB"))],

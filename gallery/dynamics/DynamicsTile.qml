@@ -10,6 +10,9 @@ Section {
     property alias channel: tap.channel
     property alias points: tap.points
     property alias gainCurve: tap.gainCurve
+    property alias floorGain: tap.floorGain
+    /*! The gain meter reaches this far up and down. */
+    property real gainRange: 20
     property alias attack: tap.attack
     property alias release: tap.release
     property string inputTitle: qsTr("In")
@@ -52,8 +55,8 @@ Section {
                 title: qsTr("Gain")
                 owner: root.title
                 value: tap.gain
-                minimum: -20
-                maximum: 20
+                minimum: -root.gainRange
+                maximum: root.gainRange
                 split: true
             }
         },

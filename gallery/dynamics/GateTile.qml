@@ -11,7 +11,9 @@ DynamicsTile {
 
     title: "RGate"
     channel: 0
-    points: panel.values
+    points: panel.points
+    floorGain: -panel.depth
+    gainRange: panel.depthMax
     parameters: [
         [qsTr("Threshold"), ParameterText.withUnit(panel.threshold, qsTr("dBu"))],
         [qsTr("Depth"), ParameterText.withUnit(panel.depth, qsTr("dB"))],

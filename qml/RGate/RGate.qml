@@ -29,7 +29,8 @@ Shared.RDynamicsPlot {
     xTo: root.thresholdMax
     active: root.calculatorActive
     bypassed: root.gateBypassed
-    points: root.values
+    // A parameter beyond its bounds empties the values without a signal of theirs.
+    points: [root.values, root.threshold, root.thresholdMin, root.thresholdMax, root.depth, root.depthMin, root.depthMax, root.gateBypassed][0]
 
     RNoiseGateCalculator {
         id: calculator
@@ -47,6 +48,7 @@ Shared.RDynamicsPlot {
         label: qsTr("Threshold")
         unit: root.xUnit
         defaultValue: root.defaultThreshold
+        homeIsQuiet: false
         yEnabled: false
         xValue: root.threshold
         yValue: root.threshold

@@ -75,6 +75,12 @@ void tst_Measurements::staticGain_data()
     const StaticCurve ducker =
         levelCurve({{0.0, 1.0}, {2.0 / 3.0, 1.0 / 3.0}, {2.0 / 3.0, 2.0 / 3.0}, {1.0, 1.0 / 3.0}}, -60.0, 0.0);
     const StaticCurve gate = levelCurve({{1.0 / 3.0, 1.0}, {0.5, 5.0 / 6.0}, {0.5, 0.5}, {1.0, 0.0}}, -60.0, 0.0);
+    // The same lowered by 50 instead, which is below the plot for part of the way.
+    StaticCurve deepDucker = levelCurve(
+        {{0.0, 1.0}, {2.0 / 3.0, 1.0 / 3.0}, {2.0 / 3.0, 1.0}, {5.0 / 6.0, 1.0}, {1.0, 5.0 / 6.0}}, -60.0, 0.0);
+    deepDucker.floorGain = -50.0;
+    StaticCurve deepGate = levelCurve({{0.5, 1.0}, {0.5, 0.5}, {1.0, 0.0}}, -60.0, 0.0);
+    deepGate.floorGain = -50.0;
     // Gain −10 up to an ambient level of −40, then 1 dB per dB up to +10.
     const StaticCurve ambience = {
         {{0.0, 0.75}, {0.5, 0.75}, {0.75, 0.25}, {1.0, 0.25}}, -80.0, 0.0, -20.0, 20.0, StaticCurve::Meaning::Gain};
@@ -94,6 +100,12 @@ void tst_Measurements::staticGain_data()
     QTest::newRow("gate closed") << gate << -35.0 << -20.0;
     QTest::newRow("gate closed, not drawn") << gate << -100.0 << -20.0;
     QTest::newRow("gate open") << gate << -10.0 << 0.0;
+    QTest::newRow("deep ducker below") << deepDucker << -90.0 << 0.0;
+    QTest::newRow("deep ducker on the floor") << deepDucker << -15.0 << -50.0;
+    QTest::newRow("deep ducker above the floor") << deepDucker << -5.0 << -50.0;
+    QTest::newRow("deep gate closed") << deepGate << -30.0 << -50.0;
+    QTest::newRow("deep gate closed, not drawn") << deepGate << -100.0 << -50.0;
+    QTest::newRow("deep gate open") << deepGate << -29.0 << 0.0;
     QTest::newRow("gain curve, low") << ambience << -120.0 << -10.0;
     QTest::newRow("gain curve, rise") << ambience << -30.0 << 0.0;
     QTest::newRow("gain curve, beyond the plot") << ambience << 30.0 << 10.0;
