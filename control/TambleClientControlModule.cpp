@@ -3,6 +3,7 @@
 #include "ControlImageProvider.h"
 #include "InterfaceFont.h"
 #include "TypeCatalogue.h"
+#include "ValueRequests.h"
 #include "workspace/RMouseEventSpy.h"
 
 #include <QtGui/QPointingDevice>
@@ -42,6 +43,7 @@ void TambleClientControlModule::initializeEngine(QQmlEngine *engine, const char 
         engine->addImportPath(QString::fromLatin1(path));
     engine->rootContext()->setContextProperty(QStringLiteral("maximumTouchPoints"), maximumTouchPoints());
     registerInterfaceFont();
+    installValueRequests();
 }
 
 } // namespace tamble::client

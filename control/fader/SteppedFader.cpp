@@ -85,6 +85,17 @@ void SteppedFader::reset()
     finish();
 }
 
+void SteppedFader::requestValue(const QVariant &value)
+{
+    bool isNumber = false;
+    const double level = value.toDouble(&isNumber);
+    if (!isNumber || std::isnan(level) || !canEdit() || isHeld())
+        return;
+    finish();
+    edit(travel().rounded(level, 0.0));
+    finish();
+}
+
 void SteppedFader::step(double delta)
 {
     m_stepsEnd.start(stepsEndMs, this);

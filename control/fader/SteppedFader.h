@@ -25,6 +25,9 @@ public:
     /// Whether a gesture has changed the value and is not over yet.
     bool isEditing() const { return m_editing; }
 
+    /// For assistive tools: a gesture of its own that leads to the level, limited to the range.
+    Q_INVOKABLE void requestValue(const QVariant &value);
+
 Q_SIGNALS:
     void wheelNeedsFocusChanged();
     void settleTimeChanged();

@@ -18,16 +18,33 @@ RPlotHandle {
     signal dragCanceled()
 
     function moveTo(x: real, y: real) {
-        const nextX = root.xEnabled ? RPlotRules.limitedValue(x, root.xFrom, root.xTo, 0) : root.xValue
-        const nextY = root.yEnabled ? RPlotRules.limitedValue(y, root.yFrom, root.yTo, 0) : root.yValue
-        if (isNaN(nextX) || isNaN(nextY) || nextX === root.xValue && nextY === root.yValue)
-            return
-        xEdit.update(nextX)
-        yEdit.update(nextY)
-        root.dragged(nextX, nextY)
+        root.edit(root.xEnabled ? RPlotRules.limitedValue(x, root.xFrom, root.xTo, 0) : root.xValue,
+            root.yEnabled ? RPlotRules.limitedValue(y, root.yFrom, root.yTo, 0) : root.yValue)
     }
 
-    valueText: root.xEnabled && root.yEnabled ? qsTr("%1 / %2").arg(root.xValue.toFixed(1)).arg(root.yValue.toFixed(1)) : root.value.toFixed(1)
+    function edit(x: real, y: real) {
+        if (isNaN(x) || isNaN(y) || x === root.xValue && y === root.yValue)
+            return
+        xEdit.update(x)
+        yEdit.update(y)
+        root.dragged(x, y)
+    }
+
+    /*! A change that is complete in itself. */
+    function moveAtOnce(x: real, y: real) {
+        root.open()
+        root.moveTo(x, y)
+        root.close()
+    }
+
+    /*! A coordinate this many steps further. */
+    function steppedValue(value: real, count: real, fine: bool, from: real, to: real): real {
+        const step = Math.abs(root.stepSize) || Math.abs(to - from) / 100
+        const size = fine ? step / 10 : step
+        return RPlotRules.steppedValue(value, count * size, from, to, Math.abs(root.stepSize) > 0 ? size : 0)
+    }
+
+    valueText: root.xEnabled && root.yEnabled ? qsTr("%1 / %2").arg(root.numberText(root.xValue)).arg(root.numberText(root.yValue)) : root.numberText(root.value)
     bubbleText: root.label !== "" ? root.label : root.valueText
 
     onBegun: {
@@ -36,10 +53,9 @@ RPlotHandle {
     }
     onMovedTo: (x, y) => root.moveTo(x, y)
     onStepped: (right, up, fine) => {
-        const size = fine ? root.stepSize / 10 : root.stepSize
         const x = root.yEnabled ? right : right + up
         const y = root.xEnabled ? up : right + up
-        root.moveTo(RPlotRules.steppedValue(root.xValue, x * size, root.xFrom, root.xTo, size), RPlotRules.steppedValue(root.yValue, y * size, root.yFrom, root.yTo, size))
+        root.moveTo(root.steppedValue(root.xValue, x, fine, root.xFrom, root.xTo), root.steppedValue(root.yValue, y, fine, root.yFrom, root.yTo))
     }
     onEnded: {
         xEdit.commit()
@@ -48,7 +64,7 @@ RPlotHandle {
             root.dragFinished(root.xValue, root.yValue)
     }
     onCanceled: {
-        root.moveTo(xEdit.valueAtBegin, yEdit.valueAtBegin)
+        root.edit(xEdit.valueAtBegin, yEdit.valueAtBegin)
         xEdit.cancel()
         yEdit.cancel()
         root.dragCanceled()
@@ -56,10 +72,9 @@ RPlotHandle {
     onResetRequested: {
         if (root.defaultX === undefined && root.defaultY === undefined)
             return
-        root.open()
-        root.moveTo(root.defaultX ?? root.xValue, root.defaultY ?? root.yValue)
-        root.close()
+        root.moveAtOnce(root.defaultX ?? root.xValue, root.defaultY ?? root.yValue)
     }
+    onValueRequested: value => root.moveAtOnce(root.xEnabled ? value : root.xValue, root.xEnabled ? root.yValue : value)
 
     Shared.RValueEdit {
         id: xEdit

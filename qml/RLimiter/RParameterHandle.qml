@@ -14,14 +14,13 @@ RPlotHandle {
     property string unit: "dB"
     /*! Whether the Home key may lead to the lower bound: not where that is the louder one. */
     property bool homeIsQuiet: true
-    /*! Rounding while dragging, and with Shift. */
+    /*! Rounding while dragging, and with Shift; 0 for none. */
     property real step: root.plot.dragStep
     property real fineStep: root.step / 5
 
     readonly property real minimum: root.bound("Min")
     readonly property real maximum: root.bound("Max")
-    /*! The number of the parameter, or a dash where it has none. */
-    readonly property string shown: isNaN(root.value) ? "–" : root.value.toFixed(1)
+    readonly property string shown: root.numberText(root.value)
 
     signal edited(real value)
     signal committed(real value)
@@ -61,15 +60,15 @@ RPlotHandle {
     value: root.target[root.name]
     minimumValue: Math.min(root.minimum, root.maximum)
     maximumValue: Math.max(root.minimum, root.maximum)
-    stepSize: root.step > 0 ? root.step : Math.abs(root.maximum - root.minimum) / 100
+    stepSize: Math.abs(root.step) || Math.abs(root.maximum - root.minimum) / 100
     valueText: qsTr("%1 %2").arg(root.shown).arg(root.unit)
     bubbleText: qsTr("%1 %2").arg(root.label).arg(root.valueText)
 
     onBegun: valueEdit.begin(root.value)
     onMovedTo: (x, y, fine) => root.edit(RPlotRules.limitedValue(root.valueAt(x, y), root.minimum, root.maximum, fine ? root.fineStep : root.step))
     onStepped: (right, up, fine) => {
-        const rounding = fine ? root.fineStep : root.step
-        const size = rounding > 0 ? rounding : fine ? root.stepSize / 5 : root.stepSize
+        const rounding = Math.abs(fine ? root.fineStep : root.step)
+        const size = rounding || (fine ? root.stepSize / 5 : root.stepSize)
         root.edit(RPlotRules.steppedValue(root.value, (right + up) * size, root.minimum, root.maximum, rounding))
     }
     onEnded: {
@@ -90,6 +89,7 @@ RPlotHandle {
         if (root.defaultValue !== undefined)
             root.editAtOnce(root.defaultValue)
     }
+    onValueRequested: value => root.editAtOnce(value)
 
     Shared.RValueEdit {
         id: valueEdit

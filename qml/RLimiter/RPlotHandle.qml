@@ -54,6 +54,14 @@ FocusScope {
     signal canceled()
     signal homeRequested()
     signal resetRequested()
+    /*! An assistive tool asks for this value. */
+    signal valueRequested(real value)
+
+    /*! For assistive tools, which would else write the property. */
+    function requestValue(value: var) {
+        if (!root.readOnly && !root.dragging)
+            root.valueRequested(value)
+    }
 
     function open() {
         if (root.changing)
@@ -83,6 +91,11 @@ FocusScope {
         root.open()
         root.stepped(right, up, fine)
         keyPause.restart()
+    }
+
+    /*! A coordinate or parameter, or a dash where it is no number. */
+    function numberText(value: real): string {
+        return isNaN(value) ? "–" : value.toFixed(1)
     }
 
     function distanceTo(spot: point): real {
@@ -130,7 +143,8 @@ FocusScope {
             root.close()
     }
     Keys.onPressed: event => {
-        if (root.readOnly || root.dragging && event.key !== Qt.Key_Escape)
+        const known = Qt.ShiftModifier | Qt.ControlModifier | Qt.KeypadModifier
+        if (root.readOnly || event.modifiers & ~known || root.dragging && event.key !== Qt.Key_Escape)
             return
         const fine = Boolean(event.modifiers & Qt.ShiftModifier)
         const size = event.modifiers & Qt.ControlModifier ? 10 : 1

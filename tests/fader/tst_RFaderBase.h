@@ -10,4 +10,6 @@ private Q_SLOTS:
     void fineDrag();
     void fineDragIgnoresDetents();
     void accessible();
+    void toolsEditValues_data();
+    void toolsEditValues();
 };

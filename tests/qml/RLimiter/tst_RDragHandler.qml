@@ -84,6 +84,42 @@ ThemedTestCase {
         compare(handle.Accessible.description, "5.0 / 0.0")
     }
 
+    function test_step_data() {
+        return [
+            { tag: "negative", body: "stepSize: -0.5", x: 0.5 },
+            { tag: "continuous", body: "stepSize: 0; xFrom: -61.3", x: 0.813 },
+            { tag: "continuous, fine", body: "stepSize: 0; xFrom: -61.3", modifiers: Qt.ShiftModifier, x: 0.0813 },
+            { tag: "no number", body: "stepSize: NaN", x: 0.8 },
+            { tag: "on the key pad", body: "", modifiers: Qt.KeypadModifier, x: 0.5 },
+            { tag: "of the window", body: "", modifiers: Qt.AltModifier, x: 0 },
+            { tag: "of the system", body: "", modifiers: Qt.MetaModifier, x: 0 },
+        ]
+    }
+    function test_step(data) {
+        const handle = make(data.body)
+        handle.forceActiveFocus()
+        keyClick(Qt.Key_Right, data.modifiers ?? Qt.NoModifier)
+        fuzzyCompare(handle.xValue, data.x, 1e-9)
+        compare(handle.yValue, 0)
+    }
+
+    function test_escapeRestoresAStartOutside() {
+        const handle = make("xValue: 50; yValue: -90")
+        const log = logOf(handle)
+        handle.forceActiveFocus()
+        keyClick(Qt.Key_Left)
+        keyClick(Qt.Key_Escape)
+        compare([handle.xValue, handle.yValue], [50, -90])
+        compare(log.slice(-2), ["dragged 50 -90", "canceled"])
+    }
+
+    function test_noNumber() {
+        const handle = make("xValue: NaN")
+        compare([handle.Accessible.description, handle.bubbleText], ["– / 0.0", "– / 0.0"])
+        handle.yEnabled = false
+        compare(handle.Accessible.description, "–")
+    }
+
     function test_deviceAnswersLate() {
         const handle = make("settleTime: 50; yEnabled: false; xValue: parent.device")
         handle.forceActiveFocus()
