@@ -37,10 +37,9 @@ RAxisTemplate {
 
             RText {
                 id: number
-                x: root.leftSided ? -number.width - 4 * RThemeValues.unit : tick.width
+                // Not by alignment, which a page could mirror.
+                x: (root.leftSided ? -4 * RThemeValues.unit : tick.width + 16 * RThemeValues.unit) - number.width
                 y: (tick.height - number.height) / 2
-                width: 16 * RThemeValues.unit
-                horizontalAlignment: Text.AlignRight
                 text: tick.modelData.label
                 color: root.ssColor
                 font.pixelSize: RThemeValues.fontSizeXS

@@ -81,6 +81,8 @@ RFaderBase {
         height: root.vertical ? root.height : root.width
         rotation: root.vertical ? 0 : 90
         transformOrigin: Item.TopLeft
+        LayoutMirroring.enabled: false
+        LayoutMirroring.childrenInherit: true
 
         // qmllint disable unqualified
         Repeater {

@@ -28,10 +28,9 @@ Item {
     }
     RAxisNumbering {
         id: numbers
-        anchors.left: meter.right
-        anchors.leftMargin: 4 * RThemeValues.unit
-        anchors.top: meter.top
-        anchors.bottom: meter.bottom
+        // Without anchors, which a page could mirror.
+        x: meter.width + 4 * RThemeValues.unit
+        height: meter.height
         width: 24 * RThemeValues.unit
         orientation: Qt.Vertical
         rightSided: true

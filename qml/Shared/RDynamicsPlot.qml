@@ -80,10 +80,10 @@ FocusScope {
     }
     RAxisNumbering {
         id: yNumbers
-        anchors.right: grid.left
-        anchors.rightMargin: root.gap
-        anchors.top: grid.top
-        anchors.bottom: grid.bottom
+        // Without anchors, which a page could mirror: the plot stays as it is, only its place in the page may follow.
+        x: grid.x - width - root.gap
+        y: grid.y
+        height: grid.height
         visible: root.showNumbering
         orientation: Qt.Vertical
         from: root.yFrom
@@ -116,6 +116,7 @@ FocusScope {
         anchors.margins: root.gap
         spacing: root.gap
         visible: root.active
+        LayoutMirroring.enabled: false
 
         RIcon {
             visible: root.frozen
@@ -153,5 +154,7 @@ FocusScope {
     Item {
         id: layer
         anchors.fill: grid
+        LayoutMirroring.enabled: false
+        LayoutMirroring.childrenInherit: true
     }
 }

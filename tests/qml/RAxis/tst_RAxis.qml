@@ -17,9 +17,9 @@ ThemedTestCase {
 
     function test_layout_data() {
         return [
-            { tag: "numbers at the right", body: {}, tick: 280, x: 4 },
-            { tag: "numbers at the left", body: { leftSided: true }, tick: 280, x: -20 },
-            { tag: "reversed", body: { reverse: true }, tick: 0, x: 4 },
+            { tag: "numbers at the right", body: {}, tick: 280, right: 20 },
+            { tag: "numbers at the left", body: { leftSided: true }, tick: 280, right: -4 },
+            { tag: "reversed", body: { reverse: true }, tick: 0, right: 20 },
         ]
     }
     function test_layout(data) {
@@ -29,7 +29,7 @@ ThemedTestCase {
         compare([first.x, first.y, first.width, first.height], [0, data.tick, 4, 1])
         compare(first.color, "#a0a0a0")
         const number = first.children[0]
-        compare([number.text, number.x, number.width], ["0", data.x, 16])
+        compare([number.text, number.x + number.width], ["0", data.right])
         compare(number.y + number.height / 2, 0.5, "centred on its tick")
     }
 

@@ -63,7 +63,7 @@ ThemedTestCase {
             { tag: "ANC ratio", panel: "RANC", parameter: "ratio", dx: -30, dy: 0, value: 2, first: 1.3, up: 1.1, page: 0.1, home: 0.1 },
             { tag: "ducker threshold", panel: "RDucker", parameter: "threshold", dx: -30, dy: 0, value: -10, first: -5, up: 0.5, page: -5, home: -60 },
             { tag: "ducking", panel: "RDucker", parameter: "duckingLevel", dx: 0, dy: 30, value: 30, first: 25, up: 20.5, page: 15, home: 20 },
-            { tag: "gate threshold", panel: "RGate", parameter: "threshold", dx: -30, dy: 0, value: -10, first: -5, up: 0.5, page: -5, home: -60 },
+            { tag: "gate threshold", panel: "RGate", parameter: "threshold", dx: -30, dy: 0, value: -10, first: -5, up: 0.5, page: -5, home: 0 },
             { tag: "gate depth", panel: "RGate", parameter: "depth", dx: 0, dy: -30, value: 30, first: 35, up: 40.5, page: 35, home: 40 },
         ]
     }
@@ -133,6 +133,24 @@ ThemedTestCase {
         compare(panel[data.parameter], start, "the end key leads to the default, never to the loudest")
         keyClick(Qt.Key_Home)
         compare(panel[data.parameter], data.home)
+    }
+
+    function test_dragStep_data() {
+        return [
+            { tag: "negative", panel: "RLimiter { dragStep: -0.5 }", up: 0.5, fine: 0.1 },
+            { tag: "continuous", panel: "RLimiter { dragStep: 0 }", up: 0.8, fine: 0.16 },
+            { tag: "no number", panel: "RLimiter { dragStep: NaN }", up: 0.8, fine: 0.16 },
+        ]
+    }
+    function test_dragStep(data) {
+        const panel = make(data.panel)
+        const handle = findChild(panel, "threshold")
+        handle.forceActiveFocus()
+        keyClick(Qt.Key_Up)
+        fuzzyCompare(panel.threshold, data.up, 1e-9)
+        compare(handle.stepSize, data.up)
+        keyClick(Qt.Key_Down, Qt.ShiftModifier)
+        fuzzyCompare(panel.threshold, data.up - data.fine, 1e-9)
     }
 
     function test_keysOfOneGesture() {
@@ -307,6 +325,67 @@ ThemedTestCase {
         const centre = dot.mapToItem(findChild(panel, "curve"), dot.width / 2, dot.height / 2)
         fuzzyCompare(centre.x, data.x, 0.01)
         fuzzyCompare(centre.y, data.y, 0.01)
+    }
+
+    // The gate's calculator says nothing when its curve ends to hold.
+    function test_gateBeyondItsBounds_data() {
+        return [
+            { tag: "threshold", bad: 30 },
+            { tag: "thresholdMin", bad: 5 },
+            { tag: "thresholdMax", bad: -10 },
+            { tag: "depth", bad: 70 },
+            { tag: "depthMin", bad: 50 },
+            { tag: "depthMax", bad: 10 },
+            { tag: "gateBypassed", bad: false },
+        ]
+    }
+    function test_gateBeyondItsBounds(data) {
+        const panel = make(data.tag === "gateBypassed" ? "RGate { threshold: 30; gateBypassed: true }" : "RGate {}")
+        const curve = findChild(panel, "curve")
+        const before = panel[data.tag]
+        const count = curve.values.length
+        verify(count > 0)
+        panel[data.tag] = data.bad
+        compare(curve.values.length, 0)
+        panel[data.tag] = before
+        compare(curve.values.length, count)
+    }
+
+    function placesIn(item: Item, origin: Item): var {
+        const places = []
+        for (let i = 0; i < item.children.length; ++i) {
+            const child = item.children[i]
+            const place = child.mapToItem(origin, 0, 0)
+            const isText = child.text !== undefined && child.effectiveHorizontalAlignment !== undefined
+            // A text no wider than itself stands the same however it is aligned.
+            const alignment = isText && child.width > child.implicitWidth ? child.effectiveHorizontalAlignment : 0
+            places.push([child.toString().split("(")[0], place.x, place.y, child.width, alignment].join(" "))
+            places.push(...placesIn(child, origin))
+        }
+        return places
+    }
+    function test_neverMirrored_data() {
+        return [
+            { tag: "panel", body: "RANC { ancBypassed: true; ambientMeterVisible: true; levelVisible: true }" },
+            { tag: "panel with a meter", body: "RAGC { gainMeterVisible: true }" },
+            { tag: "numbers", body: "RAxisNumbering { orientation: Qt.Vertical; height: 200; rightSided: true }" },
+            { tag: "axis", body: "RAxis { maxValue: 10; tickCount: 10 }" },
+            { tag: "meter", body: "RMeter { clipIndicatorSupported: true; faderIndicatorActive: true }" },
+            { tag: "lying meter", body: "RMeter { horizontal: true; faderIndicatorActive: true }" },
+            { tag: "fader", body: "RFader {}" },
+            { tag: "fader, scale on the right", body: "RFader { scaleOnRight: true }" },
+            { tag: "lying fader", body: "RFader { orientation: Qt.Horizontal }" },
+        ]
+    }
+    function test_neverMirrored(data) {
+        const page = make("Item { width: 400; height: 400; LayoutMirroring.childrenInherit: true; " + data.body + "}")
+        const item = page.children[0]
+        waitForRendering(item)
+        const before = placesIn(item, item)
+        verify(before.length > 1)
+        page.LayoutMirroring.enabled = true
+        waitForRendering(item, 50)
+        compare(placesIn(item, item).join("\n"), before.join("\n"))
     }
 
     function test_levelDotNeedsACurve() {
