@@ -16,7 +16,21 @@ struct TAMBLE_COMMON_MATH_EXPORT CalculationItem
     virtual ~CalculationItem() = default;
 };
 
-/// One band of an equaliser.
+/// One band of an equaliser. Its type chooses the analogue prototype H(s), with s normalised to `freq`, Q for `quality`
+/// and A for 10^(gain/40); types that are not listed are flat.
+///
+///     0   peaking, cuts mirror boosts   (s^2 + s A/P + 1) / (s^2 + s/(A P) + 1) with P = Q
+///     6   proportional Q                as 0, with P = Q max(A, 1/A)
+///     7   constant Q                    as 0, with P = Q/A: the poles keep Q
+///     1   low shelf                     (A + s) / (1/A + s); with slope 2 as 10, Q 0.707
+///     2   high shelf                    (1 + A s) / (1 + s/A); with slope 2 as 11, Q 0.707
+///     10  low shelf with Q              A (s^2 + s sqrt(A)/Q + A) / (A s^2 + s sqrt(A)/Q + 1)
+///     11  high shelf with Q             A (A s^2 + s sqrt(A)/Q + 1) / (s^2 + s sqrt(A)/Q + A)
+///     3   high pass                     s / (s + 1); with slope 2 s^2 / (s^2 + s/Q + 1)
+///     4   low pass                      1 / (s + 1); with slope 2 1 / (s^2 + s/Q + 1)
+///     5   all pass                      (s^2 - s/Q + 1) / (s^2 + s/Q + 1); with slope 1 (1 - s) / (1 + s)
+///     8   band pass                     (s/Q) / (s^2 + s/Q + 1)
+///     9   notch                         (s^2 + 1) / (s^2 + s/Q + 1)
 struct TAMBLE_COMMON_MATH_EXPORT EqFilter : CalculationItem
 {
     bool bypass = false;
@@ -27,7 +41,9 @@ struct TAMBLE_COMMON_MATH_EXPORT EqFilter : CalculationItem
     int slope = 0;        ///< 1 for 6 dB per octave, 2 for 12 dB per octave.
 };
 
-/// A band with different flanks: `freq` and `quality` describe the lower one, `freq2` and `quality2` the upper one.
+/// A band with different flanks: between its two frequencies it has `gain`, beyond them 0 dB. They come in either
+/// order; the lower frequency is the lower flank, and each flank keeps its own Q. The prototype is a high shelf with Q
+/// (EqFilter type 11) of +gain at the lower frequency, times one of -gain at the upper one, whatever `type` says.
 struct TAMBLE_COMMON_MATH_EXPORT AsymmetricEqFilter : CalculationItem
 {
     bool bypass = false;
@@ -40,7 +56,16 @@ struct TAMBLE_COMMON_MATH_EXPORT AsymmetricEqFilter : CalculationItem
     double quality2 = 1.0;
 };
 
-/// One side of a crossover; `category` 0 is the low pass, 1 the high pass.
+/// One side of a crossover, by type; `category` 1 is the high pass, any other the low pass. Types but these are flat.
+///
+///     0       through
+///     1       6 dB per octave, first order
+///     2 to 9  12 dB per octave with Q 0.5, 0.6, 0.7, 0.8, 1.0, 1.2, 1.5 and 2.0
+///     10, 13, 15  Bessel with 12, 18 and 24 dB per octave, -3 dB at the corner
+///     11, 14, 16  Butterworth with 12, 18 and 24 dB per octave, -3 dB at the corner
+///     12, 17      Linkwitz-Riley with 12 and 24 dB per octave, -6 dB at the corner
+///
+/// The low pass is a product of 1 / (s^2/w^2 + s/(w Q) + 1), s normalised to `freq`; the high pass has 1/s for s.
 struct TAMBLE_COMMON_MATH_EXPORT XOverFilter : CalculationItem
 {
     bool bypass = false;

@@ -14,15 +14,18 @@
 ///   finite itself is handed back as it is.
 namespace tamble::common {
 
-/// Position of x on the linear scale inMin..inMax, mapped to the linear scale outMin..outMax.
+/// Position of x on the linear scale inMin..inMax, mapped to the linear scale outMin..outMax:
+/// outMin + (x - inMin) (outMax - outMin) / (inMax - inMin).
 TAMBLE_COMMON_MATH_EXPORT double lin2lin(double x, double inMin, double inMax, double outMin, double outMax) noexcept;
 
-/// Position of x on the logarithmic scale inMin..inMax, mapped to the linear scale outMin..outMax.
+/// Position of x on the logarithmic scale inMin..inMax, mapped to the linear scale outMin..outMax:
+/// outMin + (outMax - outMin) ln(x / inMin) / ln(inMax / inMin).
 ///
 /// x, inMin and inMax must be greater than 0.
 TAMBLE_COMMON_MATH_EXPORT double log2lin(double x, double inMin, double inMax, double outMin, double outMax) noexcept;
 
-/// Position of x on the linear scale inMin..inMax, mapped to the logarithmic scale outMin..outMax.
+/// Position of x on the linear scale inMin..inMax, mapped to the logarithmic scale outMin..outMax:
+/// outMin (outMax / outMin)^((x - inMin) / (inMax - inMin)).
 ///
 /// The inverse of log2lin with the two ranges exchanged. outMin and outMax must be greater than 0.
 TAMBLE_COMMON_MATH_EXPORT double lin2log(double x, double inMin, double inMax, double outMin, double outMax) noexcept;
