@@ -128,6 +128,7 @@ RBodeplotTemplate {
 
                 anchors.fill: parent
                 acceptedButtons: Qt.LeftButton | Qt.MiddleButton
+                preventStealing: true
                 onPressed: mouse => {
                     zoomArea.forceActiveFocus(Qt.MouseFocusReason)
                     if (mouse.button === Qt.MiddleButton)
@@ -151,7 +152,7 @@ RBodeplotTemplate {
                     } else if (zooms) {
                         root.zoom(RBodeplotZoomEnum.ZOOM_OUT)
                     }
-                    wheel.accepted = zooms || wheel.angleDelta.y !== 0
+                    wheel.accepted = root.wheelZooms ? zooms && wheel.angleDelta.y !== 0 : zooms || wheel.angleDelta.y !== 0
                 }
             }
         }

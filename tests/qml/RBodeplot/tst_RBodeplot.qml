@@ -29,6 +29,20 @@ ThemedTestCase {
             }
         }
     }
+    MouseArea {
+        id: behind
+
+        property int turns: 0
+
+        anchors.fill: parent
+        onWheel: behind.turns += 1
+    }
+    Flickable {
+        id: flickable
+        anchors.fill: parent
+        contentHeight: 1000
+        enabled: false
+    }
     SignalSpy {
         id: fingers
         signalName: "twoFingerHorizontalChange"
@@ -79,16 +93,19 @@ ThemedTestCase {
         return [
             { tag: "turns are the page's", properties: {}, x: 0, y: 120, fingers: [0.12], maximum: 25 },
             { tag: "a turn to the side zooms out", properties: {}, x: 120, y: 0, fingers: [], maximum: 27.5 },
-            { tag: "no zooming", properties: { allowZoom: false }, x: 120, y: 0, fingers: [], maximum: 25 },
+            { tag: "no zooming", properties: { allowZoom: false }, x: 120, y: 0, fingers: [], maximum: 25, passed: true },
             { tag: "notch towards the user", properties: { wheelZooms: true }, x: 0, y: -120, fingers: [], maximum: 22.5 },
             { tag: "three notches away", properties: { wheelZooms: true }, x: 0, y: 360, fingers: [], maximum: 32.5 },
             { tag: "part of a notch", properties: { wheelZooms: true }, x: 0, y: 60, fingers: [], maximum: 25 },
-            { tag: "to the side in that mode", properties: { wheelZooms: true }, x: 120, y: 0, fingers: [], maximum: 25 }
+            { tag: "to the side in that mode", properties: { wheelZooms: true }, x: 120, y: 0, fingers: [], maximum: 25, passed: true },
+            { tag: "no zooming in that mode", properties: { wheelZooms: true, allowZoom: false }, x: 0, y: 120, fingers: [], maximum: 25, passed: true }
         ]
     }
     function test_wheel(row) {
         const frame = make(row.properties)
+        behind.turns = 0
         mouseWheel(frame, 200, 100, row.x, row.y)
+        compare(behind.turns, row.passed ? 1 : 0)
         compare(fingers.signalArguments.map(args => args[0]), row.fingers)
         compare(frame.yMaximum, row.maximum)
     }
@@ -111,6 +128,18 @@ ThemedTestCase {
         mouseDrag(frame, 300, 100, -100, 0)
         verify(frame.xMinimum > 200 && frame.xMaximum > 2000)
         fuzzyCompare(frame.xMaximum / frame.xMinimum, 10, 1e-9)
+    }
+
+    function test_dragStaysWithThePlotOnAScrollingPage() {
+        const frame = make({ xMinimum: 200, parent: flickable.contentItem })
+        flickable.enabled = true
+        frame.setDefaultXMinimum(20)
+        mousePress(frame, 300, 200)
+        for (let i = 1; i < 10; ++i)
+            mouseMove(frame, 300 - 5 * i, 200 - 15 * i)
+        mouseRelease(frame, 250, 50)
+        flickable.enabled = false
+        compare(flickable.contentY, 0)
     }
 
     function test_keys() {
