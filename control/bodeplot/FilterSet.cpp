@@ -56,6 +56,12 @@ QString problemText(HandleProblem problem, std::size_t position)
     return {};
 }
 
+HandleProblem problemOf(const FilterRecord &record)
+{
+    std::vector<FilterHandle> handles;
+    return appendHandles(record.data(), 0, handles);
+}
+
 } // namespace
 
 QStringList FilterSet::setRecords(FilterRecords records)
@@ -68,12 +74,16 @@ QStringList FilterSet::setRecords(FilterRecords records)
     return makeHandles();
 }
 
-void FilterSet::setRecord(int position, FilterRecord record)
+QString FilterSet::setRecord(int position, FilterRecord record)
 {
+    const auto index = std::size_t(position);
     if (record)
         settleRecord(*record);
-    m_records.at(std::size_t(position)) = std::move(record);
+    const HandleProblem before = problemOf(m_records.at(index));
+    const HandleProblem now = problemOf(record);
+    m_records[index] = std::move(record);
     makeHandles();
+    return now != before ? problemText(now, index) : QString();
 }
 
 void FilterSet::setFrame(const HandleFrame &frame)
@@ -235,6 +245,25 @@ HandleEdit FilterSet::moveAsymmetric(int index, AsymmetricEqFilter &record, cons
         other.gainDb = record.gain;
     }
     return edit;
+}
+
+HandleEdit FilterSet::level(int handle)
+{
+    const int position = recordOf(handle);
+    if (position < 0 || m_handles[std::size_t(handle)].motion == HandleMotion::Horizontal)
+        return refused();
+    CalculationItem *record = m_records[std::size_t(position)].data();
+    if (auto *eq = dynamic_cast<EqFilter *>(record))
+        eq->gain = 0.0;
+    else if (auto *asymmetric = dynamic_cast<AsymmetricEqFilter *>(record))
+        asymmetric->gain = 0.0;
+    for (FilterHandle &levelled : m_handles) {
+        if (levelled.record != position)
+            continue;
+        levelled.gainDb = 0.0;
+        levelled.point.setY(handlePoint(levelled, m_frame).y());
+    }
+    return current(handle);
 }
 
 HandleEdit FilterSet::changeQuality(int handle, double baseQuality, double change)

@@ -34,8 +34,8 @@ public:
 
     /// Takes new records and makes their handles anew; returns a log line for each record without one.
     QStringList setRecords(FilterRecords records);
-    /// Exchanges one record. The handles are made anew where its kind differs and updated otherwise.
-    void setRecord(int position, FilterRecord record);
+    /// Exchanges one record; returns a log line when it has no handle, unless the old one had none for that reason.
+    QString setRecord(int position, FilterRecord record);
     /// Moves all handles to where their filters are in another frame.
     void setFrame(const HandleFrame &frame);
 
@@ -48,6 +48,8 @@ public:
 
     /// Drags a handle to a normalised point and stores what follows in its record.
     HandleEdit move(int handle, const QPointF &wanted);
+    /// Sets the gain of a handle's band to 0 dB, wherever that is in the frame; nothing for one without gain.
+    HandleEdit level(int handle);
     /// Drags the Q of a handle's band; see draggedQuality().
     HandleEdit changeQuality(int handle, double baseQuality, double change);
     /// What the record of a handle says now, as an edit; nothing for an index without handle.

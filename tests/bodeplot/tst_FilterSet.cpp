@@ -213,6 +213,31 @@ void FilterSetTest::asymmetricBandLagsOneStep()
     QCOMPARE(recordIn<AsymmetricEqFilterExtended>(set).gain, 0.0);
 }
 
+void FilterSetTest::levelling_data()
+{
+    QTest::addColumn<FilterRecord>("record");
+    QTest::addColumn<double>("frequency"); // 0: nothing is told
+
+    QTest::newRow("peaking, outside in both directions") << eq(0, 50.0) << 50.0;
+    QTest::newRow("asymmetric") << asymmetric() << 200.0;
+    QTest::newRow("notch") << eq(9) << 0.0;
+}
+
+void FilterSetTest::levelling()
+{
+    QFETCH(FilterRecord, record);
+    QFETCH(double, frequency);
+
+    FilterSet set = setOf({record});
+    set.setFrame({100.0, 20000.0, 2.0, 20.0});
+    const HandleEdit edit = set.level(0);
+    QCOMPARE(bool(edit), frequency > 0.0);
+    QCOMPARE(edit.frequencyHz, frequency);
+    QCOMPARE(edit.gainDb, 0.0);
+    for (const FilterHandle &handle : set.handles())
+        QCOMPARE(handle.gainDb, 0.0);
+}
+
 void FilterSetTest::firHandlesKeepTheirDistance()
 {
     FilterSet set = setOf({fir(5)});

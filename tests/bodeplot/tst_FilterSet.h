@@ -17,6 +17,8 @@ private Q_SLOTS:
     void dragging();
     void draggedFrequencySurvivesAnotherRange();
     void asymmetricBandLagsOneStep();
+    void levelling_data();
+    void levelling();
     void firHandlesKeepTheirDistance();
     void quality_data();
     void quality();
