@@ -8,6 +8,8 @@
 #include <QtCore/QList>
 #include <QtCore/QObject>
 
+#include <optional>
+
 namespace tamble::client {
 
 /// The filters of a curve with the objects they come from, their handles as models for QML, and the selection.
@@ -30,16 +32,18 @@ public:
     int selectedRecord() const { return m_selectedRecord; }
     int previouslySelectedRecord() const { return m_previouslySelectedRecord; }
 
-    void setFilters(const ConvertedFilters &filters);
+    void setFilters(ConvertedFilters filters);
     void setFrame(const HandleFrame &frame);
-    /// Tells the FIR filters' objects what their records' headers have become.
-    void returnHeaders();
+    /// Tells the objects of evaluated FIR filters what the headers of their records have become; see allRecords.
+    void returnHeaders(int evaluatedRecord);
 
     HandleEdit move(int handle, const QPointF &wanted);
+    HandleEdit level(int handle);
     HandleEdit changeQuality(int handle, double baseQuality, double change);
 
     void hold(int handle);
-    void release(int settleTimeMs);
+    /// Ends a hold after the settling time. Tells what an asymmetric band, which lags one step, still has to tell.
+    HandleEdit release(int settleTimeMs);
     /// Ends a hold with the record as it was at its beginning; nothing when no handle is held.
     HandleEdit cancel();
 
@@ -64,16 +68,21 @@ private:
         FilterRecord record;
         FilterRecord before;
         bool missedChange = false;
+        std::optional<QPointF> untoldPoint; ///< Of the handle's last move, when it was told the state before that.
 
         bool isActive() const { return !record.isNull(); }
     };
 
+    QStringList take(ConvertedFilters filters);
     void refresh(QObject *source);
     void refreshRecord(std::size_t position);
+    void followHeader(QObject *source);
     void followSelection(QObject *source);
     void drop(QObject *source);
     int heldRecord() const;
-    void keepHeldRecord(FilterRecords &records, const std::vector<QObject *> &sources);
+    int heldHandle() const;
+    void keepHeldRecord(FilterRecords &records);
+    Hold takeHold();
     void endHold();
     int findSelected() const;
     void markSelected();
@@ -89,7 +98,7 @@ private:
     int m_selectedRecord = -1;
     int m_selectedHandle = -1; ///< -1: every handle of the selected record is.
     int m_previouslySelectedRecord = -1;
-    bool m_writesToSources = false; ///< What is written to the objects comes from here and is not news.
+    const QObject *m_markedSource = nullptr; ///< Its `selected` is being written, which is no news.
 };
 
 } // namespace tamble::client

@@ -148,12 +148,12 @@ FilterRecord recordOfItem(const QObject &item)
     return {};
 }
 
-/// Any object as a band; `position` counts from 0.
-FilterRecord recordOfObject(const QObject &object, qsizetype position)
+/// Any object as a band; `place` counts from 0.
+FilterRecord recordOfObject(const QObject &object, qsizetype place)
 {
     constexpr int asymmetricType = RBodeplotEqTypeEnum::ASYMMETRIC;
     const PropertyReader reader(object, Precision::Single);
-    const QString label = QString::number(position + 1);
+    const QString label = QString::number(place + 1);
     int type = 0;
     reader.read("type", type);
     return type == asymmetricType ? asymmetricRecord(reader, label) : eqRecord(reader, label);
@@ -174,6 +174,7 @@ ConvertedFilters calculationItemsQListToStdVector(const QList<RBodeplotCalculati
         }
         converted.records.push_back(record);
         converted.sources.push_back(items[i]);
+        converted.places.push_back(i);
     }
     return converted;
 }
@@ -192,6 +193,7 @@ ConvertedFilters calculationItemsQmlListReferenceToStdVector(const QQmlListRefer
             continue;
         converted.records.push_back(recordOfObject(*object, i));
         converted.sources.push_back(object);
+        converted.places.push_back(i);
     }
     return converted;
 }
@@ -199,7 +201,7 @@ ConvertedFilters calculationItemsQmlListReferenceToStdVector(const QQmlListRefer
 FilterRecord convertedAgain(const ConvertedFilters &filters, std::size_t position)
 {
     const QObject &source = *filters.sources.at(position);
-    return filters.fromReference ? recordOfObject(source, qsizetype(position)) : recordOfItem(source);
+    return filters.fromReference ? recordOfObject(source, filters.places.at(position)) : recordOfItem(source);
 }
 
 } // namespace tamble::client

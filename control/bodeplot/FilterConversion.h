@@ -17,6 +17,7 @@ struct ConvertedFilters
 {
     FilterRecords records;
     std::vector<QObject *> sources;
+    std::vector<qsizetype> places; ///< Of the objects in the list that they were taken from.
     bool fromReference = false;
 };
 

@@ -128,9 +128,7 @@ QPointF handlePoint(const FilterHandle &handle, const HandleFrame &frame)
 
 bool sameHandleKinds(const std::vector<FilterHandle> &a, const std::vector<FilterHandle> &b)
 {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const FilterHandle &x, const FilterHandle &y) {
-        return x.record == y.record && x.relation == y.relation;
-    });
+    return std::ranges::equal(a, b, {}, &FilterHandle::relation, &FilterHandle::relation);
 }
 
 int neighbourHandle(const std::vector<FilterHandle> &handles, int current, bool forward)

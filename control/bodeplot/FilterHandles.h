@@ -56,7 +56,7 @@ HandleProblem appendHandles(const tamble::common::CalculationItem *record, int p
 /// Point of a handle in the frame: a handle that is not visible is outside it in both directions.
 QPointF handlePoint(const FilterHandle &handle, const HandleFrame &frame);
 
-/// Whether both lists have the same number and kinds of handles for the same records.
+/// Whether both lists have the same number and kinds of handles.
 bool sameHandleKinds(const std::vector<FilterHandle> &a, const std::vector<FilterHandle> &b);
 
 /// The handle next in order of frequency; `current` -1 stands outside, before the first and behind the last. Handles

@@ -11,10 +11,9 @@ namespace tamble::client {
 namespace {
 
 constexpr std::array filterProperties{
-    "bypass",      "type",        "freq",    "freq2",  "gain",         "quality",
-    "quality2",    "slope",       "visible", "label",  "errorFlag",    "category",
-    "order",       "freqHP",      "freqLP",  "header", "coefficients", "generateCoefficients",
-    "errorFlagHP", "errorFlagLP", "labelHP", "labelLP"};
+    "bypass", "type",        "freq",        "freq2",     "gain",     "quality",      "quality2",
+    "slope",  "visible",     "label",       "errorFlag", "category", "order",        "freqHP",
+    "freqLP", "errorFlagHP", "errorFlagLP", "labelHP",   "labelLP",  "coefficients", "generateCoefficients"};
 
 QMetaMethod notifierOf(const QObject &object, const char *property)
 {
@@ -43,20 +42,28 @@ void FilterWatch::setFilters(const std::vector<QObject *> &filters)
 void FilterWatch::watch(QObject *filter)
 {
     static const QMetaMethod change = staticMetaObject.method(staticMetaObject.indexOfSlot("reportChange()"));
+    static const QMetaMethod header = staticMetaObject.method(staticMetaObject.indexOfSlot("reportHeader()"));
     static const QMetaMethod selection = staticMetaObject.method(staticMetaObject.indexOfSlot("reportSelection()"));
-    // A filter may be listed twice.
-    for (const char *property : filterProperties) {
+    const auto watchProperty = [&](const char *property, const QMetaMethod &slot) {
+        // A filter may be listed twice.
         if (const QMetaMethod notifier = notifierOf(*filter, property); notifier.isValid())
-            connect(filter, notifier, this, change, Qt::UniqueConnection);
-    }
-    if (const QMetaMethod notifier = notifierOf(*filter, "selected"); notifier.isValid())
-        connect(filter, notifier, this, selection, Qt::UniqueConnection);
+            connect(filter, notifier, this, slot, Qt::UniqueConnection);
+    };
+    for (const char *property : filterProperties)
+        watchProperty(property, change);
+    watchProperty("header", header);
+    watchProperty("selected", selection);
     connect(filter, &QObject::destroyed, this, &FilterWatch::reportEnd, Qt::UniqueConnection);
 }
 
 void FilterWatch::reportChange()
 {
     Q_EMIT filterChanged(sender());
+}
+
+void FilterWatch::reportHeader()
+{
+    Q_EMIT filterHeaderChanged(sender());
 }
 
 void FilterWatch::reportSelection()

@@ -17,13 +17,17 @@ public:
     void setFilters(const std::vector<QObject *> &filters);
 
 Q_SIGNALS:
+    /// A property other than `header` and `selected` changed.
     void filterChanged(QObject *filter);
+    /// The filter's `header` changed.
+    void filterHeaderChanged(QObject *filter);
     /// The filter's `selected` changed.
     void filterSelectionChanged(QObject *filter);
     void filterDestroyed(QObject *filter);
 
 private Q_SLOTS:
     void reportChange();
+    void reportHeader();
     void reportSelection();
     void reportEnd(QObject *filter);
 

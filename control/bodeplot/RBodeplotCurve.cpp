@@ -5,6 +5,7 @@
 #include <tamblecommon-math/FilterAlgorithm.h>
 
 #include <QtCore/QDebug>
+#include <QtCore/QScopedValueRollback>
 #include <QtQuick/QQuickWindow>
 
 #include <algorithm>
@@ -31,7 +32,7 @@ RBodeplotCurve::RBodeplotCurve(QQuickItem *parent)
 {
     setFlag(ItemHasContents);
     connectProperties();
-    connect(&m_filters, &CurveFilters::pointModelsChanged, this, &RBodeplotCurve::filterPointModelsChanged);
+    connect(&m_filters, &CurveFilters::pointModelsChanged, this, &RBodeplotCurve::tellPointModels);
     connect(&m_filters, &CurveFilters::recordChanged, this, &RBodeplotCurve::requestEvaluation);
     connect(&m_filters, &CurveFilters::displayChanged, this, &RBodeplotCurve::requestLines);
 }
@@ -58,8 +59,8 @@ void RBodeplotCurve::connectProperties()
     const auto evaluateAll = [this] { requestEvaluation(CurveFilters::allRecords); };
     connect(this, &RBodeplotCurve::samplerateChanged, this, evaluateAll);
     connect(this, &RBodeplotCurve::resolutionChanged, this, evaluateAll);
-    connect(this, &RBodeplotCurve::calculationItemsChanged, this, &RBodeplotCurve::convertFilters);
-    connect(this, &RBodeplotCurve::calculationItemsReferenceChanged, this, &RBodeplotCurve::convertFilters);
+    connect(this, &RBodeplotCurve::calculationItemsChanged, this, &RBodeplotCurve::requestConversion);
+    connect(this, &RBodeplotCurve::calculationItemsReferenceChanged, this, &RBodeplotCurve::requestConversion);
 }
 
 void RBodeplotCurve::setStyle(QObject *style)
@@ -121,8 +122,42 @@ void RBodeplotCurve::forgetItem(QObject *item)
         Q_EMIT calculationItemsChanged();
 }
 
+void RBodeplotCurve::requestConversion()
+{
+    if (!isComponentComplete() || std::exchange(m_listIsStale, true))
+        return;
+    if (window())
+        polish();
+    else
+        QMetaObject::invokeMethod(this, &RBodeplotCurve::updatePolish, Qt::QueuedConnection);
+}
+
+CurveFilters &RBodeplotCurve::presentFilters()
+{
+    // What asks may be a binding, or a gesture on a handle that goes with the old list: it must be through before other
+    // handles are told of.
+    const QScopedValueRollback asked(m_tellsHandlesLater, true);
+    if (m_listIsStale)
+        convertFilters();
+    return m_filters;
+}
+
+QList<QObject *> RBodeplotCurve::filterPointModels()
+{
+    return presentFilters().pointModels();
+}
+
+void RBodeplotCurve::tellPointModels()
+{
+    if (m_tellsHandlesLater)
+        QMetaObject::invokeMethod(this, &RBodeplotCurve::filterPointModelsChanged, Qt::QueuedConnection);
+    else
+        Q_EMIT filterPointModelsChanged();
+}
+
 void RBodeplotCurve::convertFilters()
 {
+    m_listIsStale = false;
     if (!isComponentComplete())
         return;
     if (!m_calculationItems.isEmpty())
@@ -143,7 +178,8 @@ void RBodeplotCurve::refresh(const QList<QSharedPointer<tamble::common::Calculat
 {
     ConvertedFilters filters;
     filters.records.assign(data.begin(), data.end());
-    m_filters.setFilters(filters);
+    m_listIsStale = false;
+    m_filters.setFilters(std::move(filters));
     evaluate();
 }
 
@@ -166,63 +202,53 @@ void RBodeplotCurve::refreshColors()
 
 void RBodeplotCurve::selectFilterPoint(int index)
 {
-    m_filters.select(index);
+    presentFilters().select(index);
 }
 
 void RBodeplotCurve::selectFilterPointBySystem(int item)
 {
-    m_filters.select(m_filters.set().firstHandleOf(item));
+    m_filters.select(presentFilters().set().firstHandleOf(item));
 }
 
 void RBodeplotCurve::onUserSelectFilterPoint(int index)
 {
-    m_filters.select(index);
+    selectFilterPoint(index);
     Q_EMIT userSelectedFilterPoint(index, m_filters.selectedRecord());
 }
 
 void RBodeplotCurve::onUserMoveFilterPoint(int index, const QPointF &pt)
 {
-    tellEdit(m_filters.move(index, pt));
+    tellEdit(presentFilters().move(index, pt));
 }
 
 void RBodeplotCurve::onUserChangeFilterPointQuality(int index, qreal baseQuality, qreal change)
 {
-    tellEdit(m_filters.changeQuality(index, baseQuality, change));
+    tellEdit(presentFilters().changeQuality(index, baseQuality, change));
 }
 
 void RBodeplotCurve::holdFilterPoint(int index)
 {
-    m_filters.hold(index);
+    presentFilters().hold(index);
 }
 
 void RBodeplotCurve::releaseFilterPoint()
 {
-    m_filters.release(m_settleTime);
+    tellEdit(presentFilters().release(m_settleTime));
 }
 
 void RBodeplotCurve::cancelFilterPoint()
 {
-    tellEdit(m_filters.cancel());
+    tellEdit(presentFilters().cancel());
 }
 
 void RBodeplotCurve::levelFilterPoint(int index)
 {
-    const auto relation = m_filters.set().relationOf(index);
-    if (!relation)
-        return;
-    const auto moveToAxis = [&] {
-        const FilterHandle &handle = m_filters.set().handles()[std::size_t(index)];
-        onUserMoveFilterPoint(index, {handle.point.x(), handleY(0.0, m_filters.set().frame())});
-    };
-    moveToAxis();
-    // An asymmetric band tells its gain one step late.
-    if (isAsymmetric(*relation) && m_filters.set().relationOf(index) == relation)
-        moveToAxis();
+    tellEdit(presentFilters().level(index));
 }
 
-int RBodeplotCurve::nextFilterPoint(int index, bool forward) const
+int RBodeplotCurve::nextFilterPoint(int index, bool forward)
 {
-    return neighbourHandle(m_filters.set().handles(), index, forward);
+    return neighbourHandle(presentFilters().set().handles(), index, forward);
 }
 
 void RBodeplotCurve::tellEdit(const HandleEdit &edit)
@@ -284,7 +310,7 @@ void RBodeplotCurve::requestLines()
         return;
     if (window())
         polish();
-    else
+    else if (!m_listIsStale)
         updatePolish();
 }
 
@@ -305,7 +331,7 @@ void RBodeplotCurve::evaluate()
         m_lines.recordChanged(m_evaluatedRecord);
     else
         m_lines.allChanged();
-    m_filters.returnHeaders();
+    m_filters.returnHeaders(one ? m_evaluatedRecord : CurveFilters::allRecords);
 }
 
 void RBodeplotCurve::updateScaledCurve()
@@ -321,7 +347,7 @@ void RBodeplotCurve::updateScaledCurve()
                      m_yMinimum,
                      m_yMaximum,
                      size(),
-                     m_resolution,
+                     int(m_calculation.results.aggregated.magnitude.size()),
                      m_calculation.lowestFrequency,
                      m_calculation.highestFrequency};
     settings.phase = m_spectrum == RBodeplotSpectrumEnum::PHASE;
@@ -352,6 +378,8 @@ void RBodeplotCurve::itemChange(ItemChange change, const ItemChangeData &value)
 
 void RBodeplotCurve::updatePolish()
 {
+    if (m_listIsStale)
+        convertFilters();
     evaluate();
     updateScaledCurve();
 }

@@ -21,7 +21,9 @@ namespace tamble::client {
 ///
 /// Frequencies are in Hz, levels in dB. The filters are declared in `calculationItems` or, when that is empty, given as
 /// a list of arbitrary objects with filter-named properties (`calculationItemsReference`). Changed filters are
-/// evaluated and drawn with the next frame; without a window, which has no frames, at once.
+/// evaluated and drawn with the next frame; without a window, which has no frames, at once. A list that is assigned
+/// comes item by item, so it is taken over as a whole with the next frame (without a window: the next event), or before
+/// something asks for its handles.
 class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotCurve : public QQuickItem
 {
     Q_OBJECT
@@ -57,7 +59,7 @@ public:
     QQmlListReference calculationItemsReference() const { return m_calculationItemsReference; }
     void setCalculationItemsReference(const QQmlListReference &reference);
 
-    QList<QObject *> filterPointModels() const { return m_filters.pointModels(); }
+    QList<QObject *> filterPointModels();
 
     /// While a handle is held, values that a page writes to its filter wait until the handle is released and
     /// `settleTime` (ms, default 300) has passed.
@@ -65,10 +67,10 @@ public:
     Q_INVOKABLE void releaseFilterPoint();
     /// Puts the filter of the held handle back to what it was when the hold began.
     Q_INVOKABLE void cancelFilterPoint();
-    /// Sets the gain of a handle's filter to 0 dB, if it can be dragged.
+    /// Sets the gain of a handle's filter to 0 dB, if it has one.
     Q_INVOKABLE void levelFilterPoint(int index);
     /// The handle that follows in order of frequency, see neighbourHandle().
-    Q_INVOKABLE int nextFilterPoint(int index, bool forward) const;
+    Q_INVOKABLE int nextFilterPoint(int index, bool forward);
 
 public Q_SLOTS:
     /// Takes ready-made records in place of the present ones, until the lists change.
@@ -137,7 +139,11 @@ private:
     void forgetItem(QObject *item);
 
     void connectProperties();
+    void requestConversion();
     void convertFilters();
+    /// With the list taken over.
+    CurveFilters &presentFilters();
+    void tellPointModels();
     void requestEvaluation(int record);
     void requestLines();
     void evaluate();
@@ -160,6 +166,8 @@ private:
     QQmlListReference m_calculationItemsReference;
 
     CurveFilters m_filters;
+    bool m_listIsStale = false; ///< m_filters is still that of an earlier list.
+    bool m_tellsHandlesLater = false;
     tamble::common::BodePlotCalculation m_calculation;
     Evaluation m_evaluation = Evaluation::All;
     int m_evaluatedRecord = CurveFilters::allRecords;

@@ -122,6 +122,10 @@ RBodeplotCurveTemplate {
             Component.onDestruction: {
                 if (root.focusedPoint === handle.index)
                     root.focusedPoint = -1
+                if (pointer.dragging) {
+                    root.releaseFilterPoint()
+                    pointer.end()
+                }
             }
 
             Keys.onTabPressed: event => event.accepted = root.focusPoint(root.nextFilterPoint(handle.index, true))
@@ -175,11 +179,16 @@ RBodeplotCurveTemplate {
                     root.pressed = false
                 }
 
-                // The hit circle, around the disc.
+                // Around the disc.
                 x: (parent.width - width) / 2
                 y: (parent.width - height) / 2
                 width: 44 * RThemeValues.unit
                 height: width
+                containmentMask: QtObject {
+                    function contains(place: point): bool {
+                        return Math.hypot(place.x - pointer.width / 2, place.y - pointer.height / 2) <= pointer.width / 2
+                    }
+                }
                 acceptedButtons: Qt.LeftButton | Qt.RightButton
                 preventStealing: true
                 onPressed: mouse => {
@@ -214,8 +223,11 @@ RBodeplotCurveTemplate {
                     end()
                 }
                 onDoubleClicked: mouse => {
-                    if (mouse.button === Qt.LeftButton && handle.hasGain)
-                        root.levelFilterPoint(handle.index)
+                    if (mouse.button !== Qt.LeftButton || !handle.hasGain)
+                        return
+                    root.levelFilterPoint(handle.index)
+                    root.releaseFilterPoint()
+                    end()
                 }
                 onWheel: wheel => {
                     wheel.accepted = handle.selected && (wheel.modifiers & Qt.ControlModifier) !== 0

@@ -13,6 +13,7 @@
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
+#include <cmath>
 #include <memory>
 
 using namespace tamble::client;
@@ -28,11 +29,11 @@ public:
     int rewriteCount() const { return m_node ? m_node->rewriteCount() : 0; }
     int updateCount() const { return m_updateCount; }
 
-    RBodeplotPointModel *handle(int index) const
+    RBodeplotPointModel *handle(int index)
     {
         return qobject_cast<RBodeplotPointModel *>(filterPointModels().value(index));
     }
-    QPointF point(int index) const { return handle(index)->property("point").toPointF(); }
+    QPointF point(int index) { return handle(index)->property("point").toPointF(); }
     double column(int index) const { return lines().aggregated().columns.at(std::size_t(index)); }
 
 protected:
@@ -123,10 +124,11 @@ void CurveItemTest::listOfPlainObjects()
 {
     const Page page("calculationItemsReference: root.bands\n",
                     "id: root; property list<QtObject> bands: [ QtObject { property real freq: 1000.1 },\n"
-                    "QtObject { objectName: 'odd'; property int type: 12; property var gain: 'loud'\n"
-                    "property real freq: 200; property string label: 'asym' } ]");
+                    "QtObject { property int type: 12; property var gain: 'loud'\n"
+                    "property real freq: 200; property string label: 'asym' },\n"
+                    "QtObject { property real freq: 300; property bool selected: true } ]");
     Curve *curve = page.curve;
-    QCOMPARE(curve->filterPointModels().size(), 3);
+    QCOMPARE(curve->filterPointModels().size(), 4);
     QCOMPARE(curve->handle(0)->property("label"), "1");
     QCOMPARE(curve->handle(0)->frequency(), 1000.0999755859375);
     QCOMPARE(curve->handle(1)->property("label"), "asym");
@@ -137,7 +139,11 @@ void CurveItemTest::listOfPlainObjects()
     odd->setProperty("freq", 2000.0);
     QCOMPARE(curve->handle(1)->frequency(), 2000.0);
     delete odd;
-    QCOMPARE(curve->filterPointModels().size(), 1);
+    QCOMPARE(curve->filterPointModels().size(), 2);
+    QVERIFY(curve->handle(1)->property("selected").toBool());
+    curve->calculationItemsReference().at(2)->setProperty("freq", 400.0);
+    QCOMPARE(curve->handle(1)->property("label"), "3"); // where it is in the list still
+    QCOMPARE(curve->handle(1)->frequency(), 400.0);
 }
 
 void CurveItemTest::badInput_data()
@@ -172,6 +178,32 @@ void CurveItemTest::badInput()
         QVERIFY(std::abs(page.curve->column(150) - y) < 0.5);
 }
 
+void CurveItemTest::assignedListKeepsItsHandles()
+{
+    const Page page("RBodeplotEqFilter { id: a; freq: 200; gain: 10 } RBodeplotEqFilter { id: b }\n"
+                    "calculationItems: [a, b]\n"
+                    "function assign(text) { calculationItems = text === 'ab' ? [a, b] : [b] }\n");
+    Curve *curve = page.curve;
+    const auto assign = [&](const char *list) {
+        QMetaObject::invokeMethod(curve, "assign", Q_ARG(QVariant, QString::fromLatin1(list)));
+    };
+    QSignalSpy modelsChanged(curve, &RBodeplotCurve::filterPointModelsChanged);
+    const QList<QObject *> models = curve->filterPointModels();
+    assign("ab");
+    curve->onUserMoveFilterPoint(0, {0.5, 0.4});
+    QCOMPARE(curve->filterPointModels(), models);
+    assign("b");
+    assign("ab");
+    QCOMPARE(curve->filterPointModels(), models);
+    QCOMPARE(modelsChanged.count(), 0);
+    assign("b");
+    QTRY_COMPARE(modelsChanged.count(), 1);
+    QCOMPARE(curve->lines().records().size(), std::size_t(1));
+    assign("ab");
+    QCOMPARE(curve->filterPointModels().size(), 2);
+    QTRY_COMPARE(modelsChanged.count(), 2);
+}
+
 void CurveItemTest::filterChangesFollowInPlace()
 {
     const Page page("calculationItems: [ RBodeplotEqFilter { freq: 200; gain: 10 }, RBodeplotEqFilter {} ]");
@@ -190,6 +222,10 @@ void CurveItemTest::filterChangesFollowInPlace()
     QCOMPARE(curve->filterPointModels(), models);
     QCOMPARE(listChanged.count(), 0);
 
+    QTest::ignoreMessage(QtDebugMsg, "RBodeplotCurve::onCalculationItemsChanged() filterPoint at index 1 is of EQType "
+                                     "asymmetric but class type is not AsymmetricEqFilterExtended");
+    page.filter(1)->setProperty("type", 12);
+    page.filter(1)->setProperty("type", 0);
     page.filter(1)->setProperty("visible", false);
     QVERIFY(curve->lines().records()[1].columns.empty());
     QVERIFY(curve->point(1).x() < 0.0);
@@ -211,17 +247,19 @@ void CurveItemTest::destroyedFilters()
 
 void CurveItemTest::firHeaderComesBack()
 {
-    const Page page("calculationItems: RBodeplotFIRFilter { type: 1; freqHP: 200 }");
+    const Page page("calculationItems: RBodeplotFIRFilter { type: 1; freqHP: 200; labelHP: header.slice(-9) }");
     QObject *fir = page.filter(0);
     QCOMPARE(fir->property("header"), "VELA-Net FIR-Filter=HiPass 200 Hz, 512 taps");
     page.curve->onUserMoveFilterPoint(0, {2.0 / 3.0, 0.5});
     QCOMPARE(fir->property("header"), "VELA-Net FIR-Filter=HiPass 2000 Hz, 512 taps");
     QCOMPARE(fir->property("freqHP"), 200.0);
+    QCOMPARE(page.curve->handle(0)->property("label"), " 512 taps");
 }
 
 void CurveItemTest::selection()
 {
-    const Page page("calculationItems: [ RBodeplotEqFilter {}, RBodeplotAsymmetricEqFilter {} ]");
+    const Page page("calculationItems: [ RBodeplotEqFilter {},\n"
+                    "RBodeplotAsymmetricEqFilter { label: selected ? 'chosen' : 'plain' } ]");
     Curve *curve = page.curve;
     const auto selected = [&] {
         QByteArray flags;
@@ -235,6 +273,7 @@ void CurveItemTest::selection()
     curve->onUserSelectFilterPoint(2);
     QCOMPARE(pressed, (QList<QVariantList>{{2, 1}}));
     QCOMPARE(selected(), "001-S");
+    QCOMPARE(curve->handle(2)->property("label"), "chosen"); // the filter's answer
     curve->onUserMoveFilterPoint(2, {0.5, 0.5});
     QCOMPARE(selected(), "001-S");
     page.filter(0)->setProperty("selected", true);
@@ -279,11 +318,33 @@ void CurveItemTest::heldValuesWait()
     page.filter(0)->setProperty("gain", 5.0);
     QCOMPARE(curve->handle(0)->gain(), 5.0);
 
+    // Another type, missed during the first hold, leaves the handles alone while the next begins.
+    curve->setProperty("settleTime", 10000);
+    curve->holdFilterPoint(0);
+    page.filter(0)->setProperty("type", 3);
+    page.filter(0)->setProperty("freq", 300.0);
+    curve->releaseFilterPoint();
+    curve->holdFilterPoint(-1);
+    QCOMPARE(curve->handle(0)->moveMode(), HandleMotion::Both);
+    QTRY_COMPARE(curve->handle(0)->moveMode(), HandleMotion::Horizontal);
+
     // A filter that goes while its handle is held takes the hold with it.
     curve->holdFilterPoint(0);
     delete page.filter(0);
     curve->releaseFilterPoint();
     QCOMPARE(curve->filterPointModels().size(), 0);
+}
+
+void CurveItemTest::asymmetricBandTellsItsLastStep()
+{
+    const Page page("calculationItems: RBodeplotAsymmetricEqFilter { freq: 20; freq2: 200 }");
+    QSignalSpy told(page.curve, &RBodeplotCurve::userChangedFilterPoint);
+    page.curve->holdFilterPoint(1);
+    page.curve->onUserMoveFilterPoint(1, {2.0 / 3.0, 0.25});
+    QCOMPARE(told.takeLast().value(2).toDouble(), 200.0);
+    page.curve->releaseFilterPoint();
+    page.curve->releaseFilterPoint();
+    QCOMPARE(told, (QList<QVariantList>{{0, "ASYMEQ2", 2000.0f, 10.0f, 1.0f}}));
 }
 
 void CurveItemTest::cancelledDrag()
@@ -325,6 +386,9 @@ void CurveItemTest::outOfRangeIsLoggedOnce()
     QTest::ignoreMessage(QtDebugMsg,
                          "RBodeplotCurve::updateScaledCurve() index out of range value: 4096 not between 0 and 4095");
     page.curve->setProperty("xMaximum", 200000.0);
+    page.curve->setProperty("xMaximum", 20000.0);
+    page.curve->setProperty("resolution", 3000000); // more than are computed
+    QVERIFY(std::isfinite(page.curve->column(299)));
     QTest::ignoreMessage(QtDebugMsg,
                          "RBodeplotCurve::updateScaledCurve() index out of range value: 0 not between 0 and -1");
     page.curve->setProperty("resolution", 0);

@@ -13,12 +13,14 @@ private Q_SLOTS:
     void listOfPlainObjects();
     void badInput_data();
     void badInput();
+    void assignedListKeepsItsHandles();
     void filterChangesFollowInPlace();
     void destroyedFilters();
     void firHeaderComesBack();
     void selection();
     void dragTellsThePage();
     void heldValuesWait();
+    void asymmetricBandTellsItsLastStep();
     void cancelledDrag();
     void nativeRecords();
     void outOfRangeIsLoggedOnce();

@@ -35,9 +35,14 @@ ThemedTestCase {
                         type: RBodeplotXOverTypeEnum.XOVER_LINKWITZ_TWELVE_DB
                     }
                 ]
+                // Not in the list at first.
+                readonly property RBodeplotAsymmetricEqFilter asymmetric: RBodeplotAsymmetricEqFilter {
+                    freq: 200
+                    freq2: 2000
+                }
                 // As pages do: what the user drags is written to the device, which the filter shows.
                 onUserChangedFilterPoint: (index, type, frequency, gain, quality) => {
-                    calculationItems[index].freq = frequency
+                    calculationItems[index][type === "ASYMEQ2" ? "freq2" : "freq"] = frequency
                     if (index === 0) {
                         calculationItems[0].gain = gain
                         calculationItems[0].quality = quality
@@ -105,6 +110,43 @@ ThemedTestCase {
         compare(selected.count, 1)
     }
 
+    function test_listAssignedDuringADrag() {
+        const curve = make()
+        const filters = Array.from(curve.calculationItems)
+        const band = handles(curve)[0]
+        changed.target = null
+        curve.userChangedFilterPoint.connect(() => curve.calculationItems = filters)
+        mousePress(curve, 200, 195)
+        mouseMove(curve, 150, 150)
+        waitForRendering(curve)
+        mouseMove(curve, 100, 100)
+        compare(handles(curve)[0], band)
+        fuzzyCompare(filters[0].freq, 200, 0.01)
+        mouseRelease(curve, 100, 100)
+    }
+
+    function test_handleGoesWhilePressed_data() {
+        return [
+            { tag: "points hidden", property: "hidePoints", value: true },
+            { tag: "disabled", property: "enabled", value: false },
+            { tag: "another list", property: "calculationItems", value: [] }
+        ]
+    }
+
+    function test_handleGoesWhilePressed(data: var) {
+        const curve = make()
+        const filters = Array.from(curve.calculationItems)
+        mousePress(curve, 200, 195)
+        mouseMove(curve, 150, 150)
+        const before = curve[data.property]
+        curve[data.property] = data.value
+        tryCompare(curve, "pressed", false)
+        mouseRelease(curve, 150, 150)
+        curve[data.property] = data.property === "calculationItems" ? filters : before
+        filters[0].gain = -5
+        tryVerify(() => handles(curve).length === 2 && Math.abs(handles(curve)[0].gain + 5) < 1e-6)
+    }
+
     function test_draggingTheQuality() {
         const curve = make()
         mousePress(curve, 200, 195, Qt.RightButton)
@@ -130,8 +172,24 @@ ThemedTestCase {
     function test_doubleClickSetsNoGain() {
         const curve = make()
         curve.calculationItems[0].gain = 10
-        mouseDoubleClickSequence(curve, 200, 95)
-        fuzzyCompare(curve.calculationItems[0].gain, 0, 1e-6)
+        // A finger, as the test's mouse cannot move within a double click.
+        const touch = touchEvent(curve)
+        touch.press(0, curve, 200, 95).commit()
+        touch.release(0, curve, 200, 95).commit()
+        touch.press(0, curve, 200, 95).commit()
+        compare(curve.calculationItems[0].gain, 0)
+        compare(curve.pressed, false)
+        touch.move(0, curve, 204, 99).commit()
+        touch.release(0, curve, 204, 99).commit()
+        compare(curve.calculationItems[0].gain, 0, "the tremor of a click moves nothing")
+    }
+
+    function test_roundHandles() {
+        const curve = make()
+        mouseClick(curve, 200 + 18, 188 + 18)
+        compare(selected.count, 0, "in a corner of the square around the circle")
+        mouseClick(curve, 200 + 15, 188 + 15)
+        compare(selected.count, 1)
     }
 
     function test_keys_data() {
@@ -151,6 +209,20 @@ ThemedTestCase {
         fuzzyCompare(band.x + band.width / 2, data.x, 1e-3)
         fuzzyCompare(band.y + band.height * 0.75, data.y, 1e-3)
         compare(changed.count, 1)
+    }
+
+    function test_asymmetricBandFollowsEveryKey() {
+        const curve = make()
+        curve.calculationItems = [curve.asymmetric]
+        waitForRendering(curve)
+        const upper = handles(curve)[1]
+        upper.forceActiveFocus()
+        for (let i = 1; i <= 3; ++i) {
+            keyClick(Qt.Key_Right)
+            wait(1) // settled
+            fuzzyCompare(upper.x + upper.width / 2, 200 + 1.5 * i, 1e-3)
+            fuzzyCompare(curve.asymmetric.freq2, 2000 * Math.pow(10, 1.5 * i / 100), 0.01)
+        }
     }
 
     function test_qualityKeys() {
