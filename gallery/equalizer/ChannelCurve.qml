@@ -9,18 +9,7 @@ RBodeplotCurve {
     required property EqualizerStore store
     required property int channel
     readonly property bool edited: root.store.channel === root.channel
-    readonly property var handleModels: root.filterPointModels // qmllint disable
     readonly property var bands: root.store.channels[root.channel]
-
-    /*! An asymmetric band tells its values one step late; its handle knows them. */
-    function followAsymmetric() {
-        const handle = root.handleModels[root.focusedPoint]
-        const band = root.store.band
-        if (!root.edited || !handle || band.kind !== "asym")
-            return
-        const relation = root.focusedPoint === root.store.selected ? "ASYMEQ1" : "ASYMEQ2"
-        root.store.edit(root.store.selected, "drag", Edits.dragged(band, relation, handle.frequency, handle.gain, handle.quality))
-    }
 
     function showSelection() {
         root.selectFilterPointBySystem(root.edited ? root.store.selected : -1)
@@ -44,17 +33,11 @@ RBodeplotCurve {
         readonly property real areaSaturationNearAggregatedCurve: root.edited ? 0.35 : 0
         readonly property real areaSaturationNearxAchsis: root.edited ? 0.05 : 0
     }
-    onPressedChanged: {
-        if (!root.pressed)
-            root.followAsymmetric()
-        root.store.held = root.pressed
-    }
+    onPressedChanged: root.store.held = root.pressed
     onUserSelectedFilterPoint: (index, selectedIndex) => root.store.selected = selectedIndex
     onUserChangedFilterPoint: (index, type, frequency, gain, quality) => {
         root.store.selected = index
         root.store.edit(index, "drag", Edits.dragged(root.bands[index], type, frequency, gain, quality))
-        if (!root.pressed)
-            Qt.callLater(root.followAsymmetric)
     }
     onEditedChanged: root.showSelection()
     Component.onCompleted: root.showSelection()

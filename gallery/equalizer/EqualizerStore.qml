@@ -30,18 +30,7 @@ QtObject {
         onTriggered: root.finish()
     }
 
-    // At the next event, since a drag that is taken back is let go first and gives the old values then.
-    readonly property Timer release: Timer {
-        interval: 0
-        onTriggered: root.finish()
-    }
-
-    onHeldChanged: {
-        if (root.held)
-            root.finish()
-        else
-            root.release.start()
-    }
+    onHeldChanged: root.finish()
     onChannelChanged: root.finish()
 
     /*! Gives a filter new values; edits of one filter with the same `gesture` belong together. */

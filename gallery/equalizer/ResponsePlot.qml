@@ -14,8 +14,6 @@ RBodeplot {
     property bool showsFilters: false
 
     property real levelBound: 20
-    /*! Dragging belongs to the plot, not to a page that scrolls. */
-    readonly property alias hovered: hover.hovered
 
     /*! The whole range of frequencies and the usual one of levels. */
     function fit() {
@@ -49,9 +47,6 @@ RBodeplot {
     // Its first step inwards only measures.
     Component.onCompleted: root.zoomXAxis(RBodeplotZoomEnum.ZOOM_OUT)
 
-    HoverHandler {
-        id: hover
-    }
     RSimpleCurve {
         z: 2
         points: root.measured

@@ -7,7 +7,6 @@ GalleryPage {
 
     description: qsTr("The filters of a loudspeaker channel and what they do to the signal that plays.")
     listening: true
-    interactive: !response.hovered
 
     EqualizerStore {
         id: channelStore
@@ -71,6 +70,24 @@ GalleryPage {
                 store: channelStore
                 first: 8
                 count: 3
+            }
+        }
+        Section {
+            title: qsTr("Limiter")
+            note: qsTr("Linear axes. The handle follows the diagonal; a double click sets −20 dB.")
+
+            LimiterPlot {
+                width: parent.width
+                height: theme.dp(240)
+                ratio: 4
+            }
+        }
+        Section {
+            title: qsTr("Handles")
+            note: qsTr("The handle of a filter in its states.")
+
+            HandleStates {
+                width: parent.width
             }
         }
     }
