@@ -91,6 +91,8 @@ RBodeplotTemplate {
     }
     RBodeplotGrid {
         id: grid
+        LayoutMirroring.enabled: false
+        LayoutMirroring.childrenInherit: true
         anchors.fill: parent
         anchors.margins: root.spacingAxis
         anchors.leftMargin: root.spacingAxis + (root.showAxis ? yAxis.width : 0)
@@ -192,6 +194,7 @@ RBodeplotTemplate {
     }
     RBodeplotAxis {
         id: yAxis
+        LayoutMirroring.enabled: false
         anchors.left: parent.left
         anchors.top: grid.top
         anchors.bottom: grid.bottom

@@ -374,6 +374,7 @@ ThemedTestCase {
             { tag: "lying meter", body: "RMeter { horizontal: true; faderIndicatorActive: true }" },
             { tag: "fader", body: "RFader {}" },
             { tag: "fader, scale on the right", body: "RFader { scaleOnRight: true }" },
+            { tag: "frequency plot", body: "RBodeplot { RBodeplotCurve { calculationItems: [RBodeplotEqFilter { gain: 6 }] } RLimiterCurve {} }" },
             { tag: "lying fader", body: "RFader { orientation: Qt.Horizontal }" },
         ]
     }
