@@ -15,6 +15,7 @@
 #include "button/RButtonBase.h"
 #include "decoration/RControlBackground.h"
 #include "decoration/RTintedImage.h"
+#include "decoration/RUnderlay.h"
 #include "dynamics/AGCCalculator.h"
 #include "dynamics/ANCCalculator.h"
 #include "dynamics/CompressorCalculator.h"
@@ -320,6 +321,7 @@ void registerInternals(const Registrar &registrar)
     registrar.singleton<RPlotRules>("RPlotRules");
     registrar.creatable<RTintedImage>("RTintedImage");
     registrar.singleton<RTransferTable>("RTransferTable");
+    registrar.creatable<RUnderlay>("RUnderlay");
     registrar.singletons("Shared", {"RThemeValues"});
 }
 

@@ -2,12 +2,11 @@ import QtQuick
 import TambleClient.Control 1.0
 
 /*! Soft shadow below a rectangular item: its parent, or the sibling that is its `target`. */
-Item {
+RUnderlay {
     id: root
 
     RStyleSet.typeName: "RFlyoutToolbar"
 
-    property Item target: root.parent
     /*! How far the shadow reaches beyond the target. */
     property real spread: 8 * RThemeValues.unit
     /*! From 0, no shadow, to 1, black at the edge of the target. */
@@ -21,9 +20,10 @@ Item {
     readonly property bool belowParent: root.target === root.parent
     readonly property bool shown: root.active && root.spread > 0 && root.darkness > 0 && root.width > 0 && root.height > 0
 
+    target: root.parent
     x: root.belowParent || !root.target ? root.offsetX : root.target.x + root.offsetX
     y: root.belowParent || !root.target ? root.offsetY : root.target.y + root.offsetY
-    z: root.belowParent || !root.target ? -1 : root.target.z - 1
+    z: root.belowParent || !root.target ? -1 : root.target.z
     width: root.target ? root.target.width : 0
     height: root.target ? root.target.height : 0
 

@@ -43,7 +43,7 @@ ThemedTestCase {
                 id: target
                 x: 20
                 y: 30
-                z: 3
+                color: "#ff0000"
                 width: 60
                 height: 40
             }
@@ -84,10 +84,17 @@ ThemedTestCase {
         compare([scene.shadow.x, scene.shadow.y, scene.shadow.z, scene.shadow.width], [0, 0, -1, 70])
         const siblings = createTemporaryObject(siblingComponent, root)
         const shadow = siblings.shadow
-        compare([shadow.x, shadow.y, shadow.z, shadow.width, shadow.height], [25, 32, 2, 60, 40])
+        compare([shadow.x, shadow.y, shadow.z, shadow.width, shadow.height], [25, 32, 0, 60, 40])
         compare(shadow.darkness, 32 / 255, "as the style's colour says")
         shadow.target = null
         compare([shadow.width, shadow.shown], [0, false])
+    }
+
+    function test_siblingIsBetweenParentAndTarget() {
+        const siblings = createTemporaryObject(siblingComponent, root)
+        const image = grabImage(siblings)
+        verify(image.red(80, 50) < 255, "above what the parent paints")
+        compare(image.pixel(79, 50), "#ff0000", "below the target")
     }
 
     function test_borderWithoutShaders() {
