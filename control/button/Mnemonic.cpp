@@ -18,4 +18,14 @@ QString withoutMnemonic(const QString &text)
     return shown;
 }
 
+qsizetype mnemonicPosition(const QString &text)
+{
+    for (qsizetype i = text.indexOf(u'&'); i >= 0 && i + 1 < text.size(); i = text.indexOf(u'&', i)) {
+        if (text[i + 1].isLetterOrNumber())
+            return i;
+        i += text[i + 1] == u'&' ? 2 : 1;
+    }
+    return -1;
+}
+
 } // namespace tamble::client

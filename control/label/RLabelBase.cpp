@@ -16,21 +16,18 @@ namespace tamble::client {
 
 namespace {
 
-// Position of the "&" that marks a key, or -1.
-qsizetype mnemonicPosition(const QString &text)
-{
-    for (qsizetype i = text.indexOf(u'&'); i >= 0 && i + 1 < text.size(); i = text.indexOf(u'&', i)) {
-        if (text[i + 1].isLetterOrNumber())
-            return i;
-        i += text[i + 1] == u'&' ? 2 : 1;
-    }
-    return -1;
-}
-
 QString withUnderlinedKey(const QString &text, qsizetype mark)
 {
     return withoutMnemonic(text.left(mark)).toHtmlEscaped() + QStringLiteral("<u>") + text[mark + 1] +
            QStringLiteral("</u>") + withoutMnemonic(text.mid(mark + 2)).toHtmlEscaped();
+}
+
+// What is typed into an item that can be read only is no name.
+bool namesItself(const QObject &item)
+{
+    const bool edits = item.metaObject()->indexOfProperty("readOnly") >= 0;
+    return !item.property("label").toString().isEmpty() || !item.property("title").toString().isEmpty() ||
+           (!edits && !item.property("text").toString().isEmpty());
 }
 
 QQuickAccessibleAttached *accessibleOf(QQuickItem *item)
@@ -148,6 +145,7 @@ void RLabelBase::showCaption()
     takeShortcut(mark < 0 ? QChar() : m_caption[mark + 1]);
     setTextFormat(mark < 0 ? PlainText : StyledText);
     setText((mark < 0 ? plainCaption() : withUnderlinedKey(m_caption, mark)) + star);
+    setAcceptHoverEvents(truncated()); // Text decides anew with each text
     if (isComponentComplete())
         nameItems();
 }
@@ -158,7 +156,7 @@ void RLabelBase::nameItems()
     const QString name = plainCaption();
     if (textFormat() == StyledText)
         accessibleOf(this)->setName(name);
-    if (!m_buddy || name.isEmpty())
+    if (!m_buddy || name.isEmpty() || namesItself(*m_buddy))
         return;
     QQuickAccessibleAttached *accessible = accessibleOf(m_buddy);
     if (accessible->name() != std::exchange(m_givenName, name) && !accessible->name().isEmpty())

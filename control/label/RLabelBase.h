@@ -35,7 +35,8 @@ public:
     void setCaption(const QString &caption);
     /// The caption as it is read out.
     QString plainCaption() const;
-    /// The item that the caption stands for; null by default. A buddy with a name of its own keeps that.
+    /// The item that the caption stands for; null by default. A buddy with a name, label, title or text of
+    /// its own keeps that.
     QQuickItem *buddy() const { return m_buddy; }
     void setBuddy(QQuickItem *buddy);
     /// Whether a star marks the buddy as one that must be filled in; false by default.

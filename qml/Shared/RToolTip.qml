@@ -6,9 +6,12 @@ import TambleClient.Control 1.0
 T.ToolTip {
     id: root
 
+    readonly property real widest: Math.min(320 * RThemeValues.unit, root.roomInWindow)
+    readonly property real roomInWindow: root.parent && root.parent.Window.width > 0 ? root.parent.Window.width - 2 * root.margins : Infinity
+
     x: root.parent ? (root.parent.width - root.width) / 2 : 0
     y: root.parent ? root.parent.height + 4 * RThemeValues.unit : 0
-    implicitWidth: root.contentItem.implicitWidth
+    implicitWidth: Math.min(root.contentItem.implicitWidth, root.widest)
     implicitHeight: root.contentItem.implicitHeight
     margins: 8 * RThemeValues.unit
     delay: 700
@@ -21,7 +24,9 @@ T.ToolTip {
 
         RText {
             id: words
+            width: Math.min(words.implicitWidth, root.widest)
             padding: 6 * RThemeValues.unit
+            wrapMode: Text.Wrap
             text: root.text
             color: frame.ssForegroundItem
             font.pixelSize: RThemeValues.fontSizeS

@@ -100,6 +100,37 @@ ThemedTestCase {
     }
 
     Component {
+        id: namedComponent
+        Column {
+            id: row
+            property alias caption: caption
+            property Item buddy: button
+            RLabel {
+                id: caption
+                text: "Channel 1"
+                buddy: row.buddy
+            }
+            RButton {
+                id: button
+                text: "Mute"
+            }
+        }
+    }
+    Component {
+        id: inputComponent
+        TextInput {
+            text: "typed"
+        }
+    }
+
+    function test_ownTextIsTheName() {
+        const row = createTemporaryObject(namedComponent, root)
+        compare(row.buddy.Accessible.name, "")
+        row.buddy = createTemporaryObject(inputComponent, row)
+        compare(row.buddy.Accessible.name, "Channel 1")
+    }
+
+    Component {
         id: labelComponent
         RLabel {
             text: "12345678901234567890"
@@ -133,6 +164,13 @@ ThemedTestCase {
         mouseMove(label, 6, 6)
         const overlay = label.T.Overlay.overlay
         tryVerify(() => overlay.visible && overlay.children.length > 0, 2000)
+        const height = overlay.children[0].height
+        mouseMove(root, 300, 250)
+        tryVerify(() => !overlay.visible)
+        label.text = "a long caption ".repeat(10)
+        mouseMove(label, 6, 6)
+        tryVerify(() => overlay.visible && overlay.children[0].height > height, 2000, "in several lines")
+        compare(overlay.children[0].width, 320)
         mouseMove(root, 300, 250)
         tryVerify(() => !overlay.visible)
     }
