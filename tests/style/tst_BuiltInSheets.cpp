@@ -173,7 +173,29 @@ void tst_BuiltInSheets::contrastSheetsCoverBothThemes_data()
 void tst_BuiltInSheets::contrastSheetsCoverBothThemes()
 {
     QFETCH(QString, theme);
-    QCOMPARE(difference(declared({theme}), declared({"light", "dark"})), QStringList());
+    QCOMPARE((declared({"light", "dark"}) - declared({theme})).values(), QStringList());
+}
+
+void tst_BuiltInSheets::pointerShows_data()
+{
+    addThemes({"light", "dark", "contrast-light", "contrast-dark"});
+}
+
+void tst_BuiltInSheets::pointerShows()
+{
+    QFETCH(QString, theme);
+    SheetAudit sheet(sheetText(theme));
+    const auto background = [&sheet](const QString &name, const QString &states) {
+        return sheet.colour("RButton" + name + "::" + states, "background");
+    };
+    for (const QString name : {"", ".red", ".green", ".ghost", ".crossPoint"}) {
+        for (const QString states : {"", "active", "selected", "selected active", "inconsistent"}) {
+            const QColor plain = background(name, states);
+            QVERIFY2(background(name, states + " pressed") != plain, qPrintable(name + ' ' + states));
+            if (states.isEmpty() || states == "active")
+                QVERIFY2(background(name, states + " hovered") != plain, qPrintable(name + ' ' + states));
+        }
+    }
 }
 
 void tst_BuiltInSheets::contrast_data()

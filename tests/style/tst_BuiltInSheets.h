@@ -22,6 +22,8 @@ private Q_SLOTS:
     void contrastSheetsCoverBothThemes_data();
     void contrastSheetsCoverBothThemes();
 
+    void pointerShows_data();
+    void pointerShows();
     void contrast_data();
     void contrast();
     void contrastPairsNameEveryColour();
