@@ -17,7 +17,6 @@ Loader {
         root.button.selected = root.states.includes("selected")
         root.button.consistent = !root.states.includes("inconsistent")
         root.button.enabled = !root.states.includes("disabled")
-        root.button.backgroundRect.focusVisible = root.states.includes("focus")
     }
 
     // qmllint disable unqualified

@@ -31,6 +31,7 @@ Shared.RStyledButton {
             width: parent.width
             leftPadding: 4 * RThemeValues.unit
             rightPadding: 4 * RThemeValues.unit
+            bottomPadding: 2 * RThemeValues.unit // above the line
             text: root.plainText
             color: root.ssColor
             elide: Text.ElideRight

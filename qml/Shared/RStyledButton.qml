@@ -36,6 +36,6 @@ RButtonBase {
         // A button that stands on its side has its line at its outer edge, one at any other angle has none.
         lineVisible: root.ssLineVisible && (root.rotation === 0 || root.rotation === 90 || root.rotation === -90)
         lineEdge: root.rotation === 0 ? Qt.BottomEdge : Qt.LeftEdge
-        focusVisible: root.activeFocus
+        focusVisible: root.RStyleSet.stateHelper.focus
     }
 }
