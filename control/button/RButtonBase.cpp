@@ -6,16 +6,55 @@
 
 #include <QtCore/QSet>
 #include <QtGui/QAccessible>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QStyleHints>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 #include <QtQml/qqml.h>
 #include <QtQuick/private/qquickaccessibleattached_p.h>
+#include <QtQuickTemplates2/private/qquickabstractbutton_p_p.h>
 
 namespace tamble::client {
 
+/// Knows which releases click: the template calls nextCheckState() for the others as well.
+class RButtonBasePrivate : public QQuickAbstractButtonPrivate
+{
+    Q_DECLARE_PUBLIC(RButtonBase)
+
+public:
+    bool handleRelease(const QPointF &point, ulong timestamp) override
+    {
+        Q_Q(RButtonBase);
+        q->m_clickFollows = pressed && !wasDoubleClick && !isSecondTap(timestamp);
+        const bool handled = QQuickAbstractButtonPrivate::handleRelease(point, timestamp);
+        q->m_clickFollows = true;
+        return handled;
+    }
+
+private:
+    // As the template judges.
+    bool isSecondTap(ulong timestamp)
+    {
+        return touchId != -1 && lastTouchReleaseTimestamp != 0 &&
+               qreal(timestamp) - lastTouchReleaseTimestamp <
+                   QGuiApplication::styleHints()->mouseDoubleClickInterval() &&
+               isDoubleClickConnected();
+    }
+};
+
+namespace {
+
+// Sent again and again while Space is held. A button answers once, when it is let go: what it does may get loud.
+bool repeatsSpace(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Space && event.isAutoRepeat();
+}
+
+} // namespace
+
 RButtonBase::RButtonBase(QQuickItem *parent)
-    : QQuickAbstractButton(parent)
+    : QQuickAbstractButton(*new RButtonBasePrivate, parent)
 {}
 
 void RButtonBase::setSelectable(bool selectable)
@@ -45,13 +84,45 @@ void RButtonBase::setConsistent(bool consistent)
     Q_EMIT consistentChanged();
 }
 
+void RButtonBase::setLiteralText(bool literal)
+{
+    if (m_literalText == literal)
+        return;
+    m_literalText = literal;
+    useText();
+    Q_EMIT literalTextChanged();
+}
+
 QString RButtonBase::plainText() const
 {
-    return withoutMnemonic(text());
+    return m_literalText ? text() : withoutMnemonic(text());
+}
+
+// The template answers its key without the selection.
+bool RButtonBase::event(QEvent *event)
+{
+    Q_D(const RButtonBase);
+    if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent *>(event)->shortcutId() != d->shortcutId)
+        return QQuickAbstractButton::event(event);
+    click();
+    return true;
+}
+
+void RButtonBase::keyPressEvent(QKeyEvent *event)
+{
+    if (repeatsSpace(*event)) {
+        event->accept();
+    } else {
+        QQuickAbstractButton::keyPressEvent(event);
+    }
 }
 
 void RButtonBase::keyReleaseEvent(QKeyEvent *event)
 {
+    if (repeatsSpace(*event)) {
+        event->accept();
+        return;
+    }
     const bool isEnter = event->key() == Qt::Key_Enter || event->key() == Qt::Key_Return;
     if (!m_enterClicks || !isEnter || event->isAutoRepeat()) {
         QQuickAbstractButton::keyReleaseEvent(event);
@@ -67,23 +138,32 @@ void RButtonBase::keyReleaseEvent(QKeyEvent *event)
 
 void RButtonBase::click()
 {
+    if (!isEnabled())
+        return;
     nextCheckState();
     Q_EMIT clicked();
 }
 
 void RButtonBase::nextCheckState()
 {
-    if (m_selectable)
-        editSelection();
+    if (m_clickFollows && (m_consistent || !m_asksWhenMixed))
+        editSelection(!m_consistent || !m_selected);
     QQuickAbstractButton::nextCheckState();
 }
 
 void RButtonBase::buttonChange(ButtonChange change)
 {
     QQuickAbstractButton::buttonChange(change);
-    if (change != ButtonTextChange)
-        return;
+    if (change == ButtonTextChange)
+        useText();
+}
+
+// The template takes a key for any "&", and reads it out.
+void RButtonBase::useText()
+{
     maybeSetAccessibleName(plainText());
+    const qsizetype mark = m_literalText ? -1 : mnemonicPosition(text());
+    setShortcut(mark < 0 ? QKeySequence() : QKeySequence(Qt::ALT | Qt::Key(text()[mark + 1].toUpper().unicode())));
     Q_EMIT plainTextChanged();
 }
 
@@ -123,9 +203,10 @@ void RButtonBase::tellAssistiveTools()
 }
 
 // A page may bind the selection to a device, which answers late; the edit steps in front of the binding meanwhile.
-void RButtonBase::editSelection()
+void RButtonBase::editSelection(bool selected)
 {
-    const bool selected = !m_consistent || !m_selected;
+    if (!m_selectable)
+        return;
     QQmlEngine *engine = qmlEngine(this);
     if (!m_selectionEdit && engine) {
         QQmlComponent &component = PartComponents::of(engine).component(QStringLiteral("Shared/RValueEdit.qml"));

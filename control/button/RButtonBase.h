@@ -7,6 +7,8 @@
 
 namespace tamble::client {
 
+class RButtonBasePrivate;
+
 /// The behaviour of all buttons: selection, which is not the template's check state, "mixed", Enter, mnemonics, and
 /// what assistive tools are told.
 class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton
@@ -17,7 +19,9 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton
     Q_PROPERTY(bool selected READ isSelected WRITE setSelected NOTIFY selectedChanged FINAL)
     Q_PROPERTY(bool consistent READ isConsistent WRITE setConsistent NOTIFY consistentChanged FINAL)
     Q_PROPERTY(bool useCustomEvent MEMBER m_useCustomEvent NOTIFY useCustomEventChanged FINAL)
+    Q_PROPERTY(bool asksWhenMixed MEMBER m_asksWhenMixed NOTIFY asksWhenMixedChanged FINAL)
     Q_PROPERTY(bool enterClicks MEMBER m_enterClicks NOTIFY enterClicksChanged FINAL)
+    Q_PROPERTY(bool literalText READ literalText WRITE setLiteralText NOTIFY literalTextChanged FINAL)
     Q_PROPERTY(QString plainText READ plainText NOTIFY plainTextChanged FINAL)
 
 public:
@@ -32,15 +36,23 @@ public:
     /// False while several devices differ in what the button stands for ("mixed"); true by default.
     bool isConsistent() const { return m_consistent; }
     void setConsistent(bool consistent);
-    /// `text` without the mark of its mnemonic.
+    /// Whether "&" marks no key in `text`, as in a text that comes from a device; false by default.
+    bool literalText() const { return m_literalText; }
+    void setLiteralText(bool literal);
+    /// `text` as it is shown: without the mark of its mnemonic.
     QString plainText() const;
+
+    /// What a click does to the selection. A button that is not selectable keeps it.
+    Q_INVOKABLE void editSelection(bool selected);
 
 Q_SIGNALS:
     void selectableChanged();
     void selectedChanged();
     void consistentChanged();
     void useCustomEventChanged();
+    void asksWhenMixedChanged();
     void enterClicksChanged();
+    void literalTextChanged();
     void plainTextChanged();
     /// A click has edited the selection; sent before clicked().
     void selectionEdited(bool selected);
@@ -48,23 +60,30 @@ Q_SIGNALS:
     void customEventActivated();
 
 protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void nextCheckState() override;
     void buttonChange(ButtonChange change) override;
     void accessibilityActiveChanged(bool active) override;
 
 private:
+    Q_DECLARE_PRIVATE(RButtonBase)
+
     void click();
+    void useText();
     void tellAssistiveTools();
     void warnAboutMissingName() const;
-    void editSelection();
 
     QObject *m_selectionEdit = nullptr; // a child, made at the first click that edits
     bool m_selectable = false;
     bool m_selected = false;
     bool m_consistent = true;
     bool m_useCustomEvent = false;
-    bool m_enterClicks = true; // whether releasing Enter clicks
+    bool m_asksWhenMixed = false; // whether a click on "mixed" leaves the selection to a question that follows
+    bool m_enterClicks = true;    // whether releasing Enter clicks
+    bool m_literalText = false;
+    bool m_clickFollows = true; // false while a release is handled that clicks nothing
 };
 
 } // namespace tamble::client

@@ -23,13 +23,16 @@ Shared.RStyledButton {
     RStyleSet.stateHelper.active: root.active
 
     enterClicks: false
-    onValueChanged: root.text = root.value
+    onValueChanged: {
+        root.literalText = root.converter !== null
+        root.text = root.value
+    }
 
     contentItem: RText { // qmllint disable deferred-property-id
         id: textItem
         leftPadding: 4 * RThemeValues.unit
         rightPadding: 4 * RThemeValues.unit
-        text: root.converter ? root.text : root.plainText
+        text: root.plainText
         color: root.ssColor
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignHCenter

@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
 /*! Switch that, while several devices differ, asks whether to set all on or off. It sets nothing
-    itself: the page answers clickedOn and clickedOff. */
+    itself, unless it is selectable: the page answers clickedOn and clickedOff. */
 RButtonSwitch {
     id: root
 
@@ -20,21 +20,17 @@ RButtonSwitch {
     signal clickedOn()
     signal clickedOff()
 
+    asksWhenMixed: true
     onClicked: {
         if (!root.consistent) {
             if (!root.popup)
                 root.popup = popupComponent.createObject(root) as T.Popup
             root.popup.visible = !root.popup.visible
-        } else if (root.selected) {
-            root.clickedOff()
-        } else {
+        } else if (root.selected === root.selectable) { // a selectable button has been turned over by the click
             root.clickedOn()
+        } else {
+            root.clickedOff()
         }
-    }
-    // The devices may come to agree while the question stands.
-    onConsistentChanged: {
-        if (root.popup)
-            root.popup.close()
     }
 
     // qmllint disable unqualified

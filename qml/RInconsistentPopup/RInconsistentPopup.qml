@@ -14,6 +14,10 @@ T.Popup {
     property bool openAbove: false
     property bool openLeft: false
 
+    readonly property RButtonBase button: root.parent as RButtonBase
+    /*! Whether there is still something to ask: the devices may come to agree, or the page may lock or hide the button,
+        while the question stands. */
+    readonly property bool asking: root.button === null || (root.button.visible && root.button.enabled && !root.button.consistent)
     readonly property bool parentMirrored: root.parent !== null && root.parent.LayoutMirroring.enabled
     property bool roomBelow: true
     /*! Gets the focus back. */
@@ -33,6 +37,10 @@ T.Popup {
     // A press on the parent is the parent's to answer.
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
+    onAskingChanged: {
+        if (!root.asking)
+            root.close()
+    }
     onAboutToShow: {
         const top = root.parent.mapToItem(null, 0, root.openLeft ? 0 : root.parent.height).y
         root.roomBelow = top + root.height + root.margins <= root.parent.Window.height
@@ -43,6 +51,16 @@ T.Popup {
         const focused = root.parent.Window.activeFocusItem
         if (root.formerFocus && (!focused || focused === root.parent.Window.contentItem))
             root.formerFocus.forceActiveFocus(Qt.PopupFocusReason)
+    }
+
+    function choose(selected: bool) {
+        root.close()
+        if (root.button)
+            root.button.editSelection(selected)
+        if (selected)
+            root.clickedOn()
+        else
+            root.clickedOff()
     }
 
     contentItem: RPopupFrame { // qmllint disable deferred-property-id
@@ -70,10 +88,7 @@ T.Popup {
                 KeyNavigation.down: off
                 KeyNavigation.left: off
                 KeyNavigation.right: off
-                onClicked: {
-                    root.close()
-                    root.clickedOn()
-                }
+                onClicked: root.choose(true)
             }
             RButton {
                 id: off
@@ -84,10 +99,7 @@ T.Popup {
                 KeyNavigation.down: on
                 KeyNavigation.left: on
                 KeyNavigation.right: on
-                onClicked: {
-                    root.close()
-                    root.clickedOff()
-                }
+                onClicked: root.choose(false)
             }
         }
     }

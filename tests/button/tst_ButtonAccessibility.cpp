@@ -17,7 +17,7 @@
 
 using namespace tamble::client;
 
-/// What assistive tools see of buttons.
+/// What assistive tools see of buttons, and keys as no test in QML can send them.
 class tst_ButtonAccessibility : public QObject
 {
     Q_OBJECT
@@ -31,6 +31,8 @@ private Q_SLOTS:
     void seen();
     void followsChanges();
     void pressAction();
+    void heldKeys_data();
+    void heldKeys();
     void missingNameIsReportedOnce();
 
 private:
@@ -119,6 +121,8 @@ void tst_ButtonAccessibility::seen_data()
     QTest::newRow("named by the page") << "RButton { text: '1'; Accessible.name: 'Mute 1'; "
                                           "Accessible.description: 'of the left side' ; consistent: false }"
                                        << "Mute 1" << false << false << "of the left side";
+    QTest::newRow("device's text") << "RButton { converter: RValueConverter { value: '&R&D' } }"
+                                   << "&R&D" << false << false << "";
     QTest::newRow("icon") << "RButtonIcon { label: 'Mute'; iconItem.key: 'mute' }"
                           << "Mute" << false << false << "";
     QTest::newRow("switch") << "RButtonSwitch { label: 'Power'; selectable: true; selected: true }"
@@ -160,6 +164,38 @@ void tst_ButtonAccessibility::pressAction()
     QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(button.get());
     seen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QCOMPARE(clicked.count(), 1);
+    button->setEnabled(false);
+    seen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(clicked.count(), 1);
+}
+
+void tst_ButtonAccessibility::heldKeys_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Space") << Qt::Key_Space;
+    QTest::newRow("Enter") << Qt::Key_Enter;
+}
+
+void tst_ButtonAccessibility::heldKeys()
+{
+    QFETCH(Qt::Key, key);
+    const auto button = make(QStringLiteral("RButtonIconLabel { text: 'Mute'; selectable: true }"));
+    const QSignalSpy clicked(button.get(), SIGNAL(clicked()));
+    const QSignalSpy edited(button.get(), SIGNAL(selectionEdited(bool)));
+    button->forceActiveFocus();
+    for (const bool repeated : {false, true, true}) {
+        // As the window system sends them: a repetition is a release and a press.
+        for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+            QKeyEvent event(type, key, Qt::NoModifier, QString(), repeated);
+            if (repeated || type == QEvent::KeyPress)
+                QCoreApplication::sendEvent(&m_window, &event);
+        }
+    }
+    QCOMPARE(clicked.count(), 0);
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(&m_window, &release);
+    QCOMPARE(clicked.count(), 1);
+    QCOMPARE(edited.count(), 1);
 }
 
 void tst_ButtonAccessibility::missingNameIsReportedOnce()

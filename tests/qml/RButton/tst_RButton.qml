@@ -74,6 +74,14 @@ ThemedTestCase {
         compare(make(data.type + " {" + data.body + "}").RStyleSet.state, data.states)
     }
 
+    function test_focusFrameFollowsTheState() {
+        const button = make("RButton { RStyleSet.stateHelper.focus: false }")
+        button.forceActiveFocus()
+        compare(button.background.focusVisible, false)
+        button.RStyleSet.stateHelper.focus = true
+        compare(button.background.focusVisible, true)
+    }
+
     function test_coloursFollowSheetAndState() {
         const button = make("RButton { text: 'Level' }")
         compare(button.background.color, "#505050")
@@ -141,7 +149,7 @@ ThemedTestCase {
         compare(button.background.focusVisible, true)
         keyClick(Qt.Key_Space)
         compare(clicked.count, 3, "space")
-        const takesEnter = data.type !== "RButton" && data.type !== "RInconsistentButton"
+        const takesEnter = data.type !== "RButton"
         keyClick(Qt.Key_Return)
         keyClick(Qt.Key_Enter)
         compare(clicked.count, takesEnter ? 5 : 3, "enter")
@@ -175,12 +183,31 @@ ThemedTestCase {
         compare(button.selected, true)
     }
 
+    function test_onlyClicksEdit_data() {
+        return [
+            { tag: "mnemonic", act: () => keyClick(Qt.Key_M, Qt.AltModifier), log: ["edited", "clicked"] },
+            { tag: "double click", act: button => mouseDoubleClickSequence(button), log: ["edited", "clicked", "double"] },
+            { tag: "Space pressed elsewhere", act: () => keyRelease(Qt.Key_Space), log: [] },
+        ]
+    }
+    function test_onlyClicksEdit(data) {
+        const button = make("RButton { text: '&Mute'; selectable: true }")
+        const log = []
+        button.selectionEdited.connect(() => log.push("edited"))
+        button.clicked.connect(() => log.push("clicked"))
+        button.doubleClicked.connect(() => log.push("double"))
+        button.forceActiveFocus()
+        data.act(button)
+        compare(log, data.log)
+    }
+
     function test_mnemonics_data() {
         return [
             { tag: "marked", text: "&Mute", shown: "Mute", key: Qt.Key_M, clicks: 1 },
             { tag: "inside", text: "E&xit", shown: "Exit", key: Qt.Key_X, clicks: 1 },
             { tag: "escaped", text: "R&&D", shown: "R&D", key: Qt.Key_D, clicks: 0 },
-            { tag: "a word of its own", text: "Drums & Bass", shown: "Drums & Bass", key: Qt.Key_B, clicks: 0 },
+            { tag: "a word of its own", text: "Drums & Bass", shown: "Drums & Bass", key: Qt.Key_Space, clicks: 0 },
+            { tag: "before a sign", text: "A&-B", shown: "A&-B", key: Qt.Key_Minus, clicks: 0 },
             { tag: "at the end", text: "Keys &", shown: "Keys &", key: Qt.Key_K, clicks: 0 },
         ]
     }
@@ -188,7 +215,6 @@ ThemedTestCase {
         const button = make("RButton { text: '" + data.text + "' }")
         const clicked = spyOn(button, "clicked")
         compare(button.textControl.text, data.shown)
-        button.forceActiveFocus()
         keyClick(data.key, Qt.AltModifier)
         compare(clicked.count, data.clicks)
     }
@@ -199,6 +225,9 @@ ThemedTestCase {
         compare(button.text, "R&D <b>1</b>")
         compare(button.textControl.text, "R&D <b>1</b>")
         compare(button.textControl.textFormat, Text.PlainText)
+        const clicked = spyOn(button, "clicked")
+        keyClick(Qt.Key_D, Qt.AltModifier)
+        compare(clicked.count, 0, "nor as a key")
     }
 
     function test_mirrored() {

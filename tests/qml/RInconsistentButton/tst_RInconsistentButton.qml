@@ -110,9 +110,39 @@ ThemedTestCase {
         const button = makeMixed(switchComponent, {})
         mouseClick(button)
         compare(openedPopup(button).width, 72)
+    }
+
+    function test_questionsEnd_data() {
+        return [
+            { tag: "the devices agree", property: "consistent", value: true },
+            { tag: "locked", property: "enabled", value: false },
+            { tag: "hidden", property: "visible", value: false }
+        ]
+    }
+    function test_questionsEnd(row) {
+        for (const component of [buttonComponent, switchComponent]) {
+            const button = makeMixed(component, {})
+            mouseClick(button)
+            const popup = openedPopup(button)
+            button[row.property] = row.value
+            tryVerify(() => !popup.visible)
+            compare(root.log, [])
+        }
+    }
+
+    function test_selectable() {
+        const button = makeMixed(buttonComponent, { selectable: true })
+        button.selectionEdited.connect(selected => root.log.push("edited " + selected))
+        mouseClick(button)
+        const popup = openedPopup(button)
+        compare(root.log, [], "asking edits nothing")
+        keyClick(Qt.Key_Enter)
+        compare(root.log, ["edited true", "on"])
+        tryVerify(() => !popup.visible)
         button.consistent = true
-        tryVerify(() => !button.popup.visible, 1000, "there is nothing left to ask")
-        compare(root.log, [])
+        keyClick(Qt.Key_Enter)
+        keyClick(Qt.Key_Space)
+        compare(root.log.slice(2), ["edited false", "off", "edited true", "on"])
     }
 
     function test_choosingByPointer() {
