@@ -9,6 +9,7 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QStyleHints>
+#include <QtGui/private/qguiapplication_p.h>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 #include <QtQml/qqml.h>
@@ -164,7 +165,23 @@ void RButtonBase::useText()
     maybeSetAccessibleName(plainText());
     const qsizetype mark = m_literalText ? -1 : mnemonicPosition(text());
     setShortcut(mark < 0 ? QKeySequence() : QKeySequence(Qt::ALT | Qt::Key(text()[mark + 1].toUpper().unicode())));
+    clickOncePerKey();
     Q_EMIT plainTextChanged();
+}
+
+void RButtonBase::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    QQuickAbstractButton::itemChange(change, data);
+    if (change == ItemVisibleHasChanged)
+        clickOncePerKey();
+}
+
+// The template takes its key anew whenever it is shown; held, that key would click again and again.
+void RButtonBase::clickOncePerKey()
+{
+    Q_D(RButtonBase);
+    if (d->shortcutId != 0)
+        QGuiApplicationPrivate::instance()->shortcutMap.setShortcutAutoRepeat(false, d->shortcutId, this);
 }
 
 void RButtonBase::accessibilityActiveChanged(bool active)

@@ -64,6 +64,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void nextCheckState() override;
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
     void buttonChange(ButtonChange change) override;
     void accessibilityActiveChanged(bool active) override;
 
@@ -72,6 +73,7 @@ private:
 
     void click();
     void useText();
+    void clickOncePerKey();
     void tellAssistiveTools();
     void warnAboutMissingName() const;
 

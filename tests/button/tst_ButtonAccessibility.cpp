@@ -172,28 +172,35 @@ void tst_ButtonAccessibility::pressAction()
 void tst_ButtonAccessibility::heldKeys_data()
 {
     QTest::addColumn<Qt::Key>("key");
-    QTest::newRow("Space") << Qt::Key_Space;
-    QTest::newRow("Enter") << Qt::Key_Enter;
+    QTest::addColumn<Qt::KeyboardModifier>("modifier");
+    QTest::addColumn<int>("clicksWhileHeld");
+    QTest::newRow("Space") << Qt::Key_Space << Qt::NoModifier << 0;
+    QTest::newRow("Enter") << Qt::Key_Enter << Qt::NoModifier << 0;
+    QTest::newRow("mnemonic") << Qt::Key_M << Qt::AltModifier << 1;
 }
 
 void tst_ButtonAccessibility::heldKeys()
 {
     QFETCH(Qt::Key, key);
-    const auto button = make(QStringLiteral("RButtonIconLabel { text: 'Mute'; selectable: true }"));
+    QFETCH(Qt::KeyboardModifier, modifier);
+    const auto button = make(QStringLiteral("RButtonIconLabel { text: '&Mute'; selectable: true }"));
     const QSignalSpy clicked(button.get(), SIGNAL(clicked()));
     const QSignalSpy edited(button.get(), SIGNAL(selectionEdited(bool)));
+    m_window.show();
+    m_window.requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(&m_window));
     button->forceActiveFocus();
-    for (const bool repeated : {false, true, true}) {
-        // As the window system sends them: a repetition is a release and a press.
-        for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
-            QKeyEvent event(type, key, Qt::NoModifier, QString(), repeated);
-            if (repeated || type == QEvent::KeyPress)
-                QCoreApplication::sendEvent(&m_window, &event);
-        }
+    // As the window system sends them: a repetition is a release and a press.
+    const auto send = [&](bool press, bool repeated) {
+        QTest::simulateEvent(&m_window, press, key, modifier, QString(), repeated);
+    };
+    send(true, false);
+    for (int i = 0; i < 2; ++i) {
+        send(false, true);
+        send(true, true);
     }
-    QCOMPARE(clicked.count(), 0);
-    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
-    QCoreApplication::sendEvent(&m_window, &release);
+    QTEST(int(clicked.count()), "clicksWhileHeld");
+    send(false, false);
     QCOMPARE(clicked.count(), 1);
     QCOMPARE(edited.count(), 1);
 }
