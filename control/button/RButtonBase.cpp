@@ -46,10 +46,18 @@ private:
 
 namespace {
 
+quint64 spaceReleasedAt = 0; // ms of the window system's clock
+
 // Sent again and again while Space is held. A button answers once, when it is let go: what it does may get loud.
 bool repeatsSpace(const QKeyEvent &event)
 {
-    return event.key() == Qt::Key_Space && event.isAutoRepeat();
+    if (event.key() != Qt::Key_Space || event.isAutoRepeat())
+        return event.key() == Qt::Key_Space;
+    if (event.type() == QEvent::KeyRelease)
+        spaceReleasedAt = event.timestamp();
+    // X11 under load passes repetitions off as releases and new presses, but both then have the same time. The press
+    // may reach another button, such as a question that the release has opened.
+    return event.type() == QEvent::KeyPress && event.timestamp() != 0 && event.timestamp() == spaceReleasedAt;
 }
 
 } // namespace

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void pressAction();
     void heldKeys_data();
     void heldKeys();
+    void repetitionsPassedOffAsKeys();
     void missingNameIsReportedOnce();
 
 private:
@@ -203,6 +204,25 @@ void tst_ButtonAccessibility::heldKeys()
     send(false, false);
     QCOMPARE(clicked.count(), 1);
     QCOMPARE(edited.count(), 1);
+}
+
+void tst_ButtonAccessibility::repetitionsPassedOffAsKeys()
+{
+    const auto button = make(QStringLiteral("RButton { text: 'Mute' }"));
+    const QSignalSpy clicked(button.get(), SIGNAL(clicked()));
+    button->forceActiveFocus();
+    const auto send = [this](QEvent::Type type, quint64 time) {
+        QKeyEvent event(type, Qt::Key_Space, Qt::NoModifier);
+        event.setTimestamp(time);
+        QCoreApplication::sendEvent(&m_window, &event);
+    };
+    send(QEvent::KeyPress, 1000);
+    for (const quint64 time : {1660ull, 1700ull, 1740ull}) {
+        send(QEvent::KeyRelease, time);
+        send(QEvent::KeyPress, time);
+    }
+    send(QEvent::KeyRelease, 1750);
+    QCOMPARE(clicked.count(), 1);
 }
 
 void tst_ButtonAccessibility::missingNameIsReportedOnce()
