@@ -59,6 +59,11 @@ ThemedTestCase {
         compare(button.popup, null, "no popup is made before it is needed")
     }
 
+    function pressKey(key: int) {
+        wait(2) // a press in the millisecond of a release is a repetition
+        keyClick(key)
+    }
+
     /*! Keys after the click that opens the question; what the button then signals. */
     function test_keys_data() {
         return [
@@ -75,11 +80,9 @@ ThemedTestCase {
     function test_keys(row) {
         for (const component of [buttonComponent, switchComponent]) {
             const button = makeMixed(component, { horizontalText: row.horizontal ?? false })
-            keyClick(Qt.Key_Space)
+            pressKey(Qt.Key_Space)
             const popup = openedPopup(button)
-            wait(2) // a press in the millisecond of a release is a repetition
-            for (const key of row.keys)
-                keyClick(key)
+            row.keys.forEach(pressKey)
             tryVerify(() => !popup.visible)
             compare(root.log, row.log)
             tryVerify(() => button.activeFocus)
