@@ -162,12 +162,13 @@ void RButtonBase::nextCheckState()
 
 void RButtonBase::buttonChange(ButtonChange change)
 {
-    QQuickAbstractButton::buttonChange(change);
     if (change == ButtonTextChange)
         useText();
+    else
+        QQuickAbstractButton::buttonChange(change);
 }
 
-// The template takes a key for any "&", and reads it out.
+// In place of the template, which takes a key for any "&", and reads it out.
 void RButtonBase::useText()
 {
     maybeSetAccessibleName(plainText());
