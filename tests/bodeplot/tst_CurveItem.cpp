@@ -1,5 +1,6 @@
 #include "bodeplot/tst_CurveItem.h"
 
+#include "bodeplot/AllocationCount.h"
 #include "bodeplot/RBodeplotAsymmetricEqFilter.h"
 #include "bodeplot/RBodeplotCurve.h"
 #include "bodeplot/RBodeplotEqFilter.h"
@@ -28,6 +29,13 @@ public:
 
     int rewriteCount() const { return m_node ? m_node->rewriteCount() : 0; }
     int updateCount() const { return m_updateCount; }
+    /// Does what a frame would do; the node is the caller's.
+    ResponseCurveNode *draw()
+    {
+        updatePolish();
+        updatePaintNode(m_node, nullptr);
+        return m_node;
+    }
 
     RBodeplotPointModel *handle(int index)
     {
@@ -393,6 +401,30 @@ void CurveItemTest::outOfRangeIsLoggedOnce()
                          "RBodeplotCurve::updateScaledCurve() index out of range value: 0 not between 0 and -1");
     page.curve->setProperty("resolution", 0);
     QCOMPARE(page.curve->lines().aggregated().points.count(), std::size_t(0));
+}
+
+void CurveItemTest::draggingAllocatesNothing()
+{
+    if (!countsAllocations())
+        QSKIP("Allocations are the sanitizer's.");
+    const Page page(colours + "calculationItems: [ RBodeplotEqFilter { freq: 200; gain: 10; quality: 2 },\n"
+                              "RBodeplotXOverFilter { type: 12; freq: 2000 },\n"
+                              "RBodeplotFIRFilter { type: 1; freqHP: 200 },\n"
+                              "RBodeplotEqFilter { freq: 1000; gain: -6 } ]");
+    QQuickWindow window;
+    qobject_cast<QQuickItem *>(page.root.get())->setParentItem(window.contentItem());
+    const std::unique_ptr<QSGNode> node(page.curve->draw());
+    const auto drag = [&](int step) {
+        page.curve->onUserMoveFilterPoint(0, QPointF(0.2 + 0.006 * step, 0.2 + 0.005 * step));
+        page.curve->draw();
+    };
+    page.curve->holdFilterPoint(0);
+    for (int step = 0; step < 100; ++step)
+        drag(step);
+    QVERIFY2(takeAllocationCount() > 0, "warming up does");
+    for (int step = 99; step >= 0; --step)
+        drag(step);
+    QCOMPARE(takeAllocationCount(), std::size_t(0));
 }
 
 void CurveItemTest::nothingIsRewrittenWithoutChange()

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void cancelledDrag();
     void nativeRecords();
     void outOfRangeIsLoggedOnce();
+    void draggingAllocatesNothing();
     void nothingIsRewrittenWithoutChange();
     void drawnPixels_data();
     void drawnPixels();

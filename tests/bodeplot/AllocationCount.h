@@ -1,0 +1,9 @@
+#pragma once
+
+#include <cstddef>
+
+/// Number of allocations that this thread has made on the heap since the last call.
+std::size_t takeAllocationCount();
+
+/// False under the sanitizers, which bring an allocator of their own.
+bool countsAllocations();
