@@ -1,0 +1,133 @@
+#include "bodeplot/RBodeplotCurve.h"
+
+#include <QtCore/QScopedValueRollback>
+#include <QtQuick/QQuickWindow>
+
+#include <utility>
+
+// Where the filters of a curve come from.
+
+namespace tamble::client {
+
+namespace {
+
+RBodeplotCurve *curveOf(const QQmlListProperty<RBodeplotCalculationItem> *list)
+{
+    return static_cast<RBodeplotCurve *>(list->object);
+}
+
+} // namespace
+
+QQmlListProperty<RBodeplotCalculationItem> RBodeplotCurve::calculationItems()
+{
+    return {this, nullptr, &appendItem, &itemCount, &itemAt, &clearItems};
+}
+
+void RBodeplotCurve::setCalculationItemsReference(const QQmlListReference &reference)
+{
+    // An equal reference names the same list, but that list may have new contents: that is when a binding comes here.
+    m_calculationItemsReference = reference;
+    Q_EMIT calculationItemsReferenceChanged();
+}
+
+// The filters get no visual parent: their `visible` must tell what the page wrote, not whether the plot is on screen.
+void RBodeplotCurve::appendItem(ItemList *list, RBodeplotCalculationItem *item)
+{
+    if (!item)
+        return;
+    auto *curve = curveOf(list);
+    curve->m_calculationItems.append(item);
+    connect(item, &QObject::destroyed, curve, &RBodeplotCurve::forgetItem, Qt::UniqueConnection);
+    Q_EMIT curve->calculationItemsChanged();
+}
+
+qsizetype RBodeplotCurve::itemCount(ItemList *list)
+{
+    return curveOf(list)->m_calculationItems.size();
+}
+
+RBodeplotCalculationItem *RBodeplotCurve::itemAt(ItemList *list, qsizetype index)
+{
+    return curveOf(list)->m_calculationItems.value(index);
+}
+
+void RBodeplotCurve::clearItems(ItemList *list)
+{
+    auto *curve = curveOf(list);
+    if (curve->m_calculationItems.isEmpty())
+        return;
+    for (RBodeplotCalculationItem *item : std::as_const(curve->m_calculationItems))
+        item->disconnect(curve);
+    curve->m_calculationItems.clear();
+    Q_EMIT curve->calculationItemsChanged();
+}
+
+void RBodeplotCurve::forgetItem(QObject *item)
+{
+    const auto isItem = [item](const QObject *candidate) { return candidate == item; };
+    if (erase_if(m_calculationItems, isItem) > 0)
+        Q_EMIT calculationItemsChanged();
+}
+
+void RBodeplotCurve::requestConversion()
+{
+    if (!isComponentComplete() || std::exchange(m_listIsStale, true))
+        return;
+    if (window())
+        polish();
+    else
+        QMetaObject::invokeMethod(this, &RBodeplotCurve::updatePolish, Qt::QueuedConnection);
+}
+
+CurveFilters &RBodeplotCurve::presentFilters()
+{
+    // What asks may be a binding, or a gesture on a handle that goes with the old list: it must be through before other
+    // handles are told of.
+    const QScopedValueRollback asked(m_tellsHandlesLater, true);
+    if (m_listIsStale)
+        convertFilters();
+    return m_filters;
+}
+
+QList<QObject *> RBodeplotCurve::filterPointModels()
+{
+    return presentFilters().pointModels();
+}
+
+void RBodeplotCurve::tellPointModels()
+{
+    if (m_tellsHandlesLater)
+        QMetaObject::invokeMethod(this, &RBodeplotCurve::filterPointModelsChanged, Qt::QueuedConnection);
+    else
+        Q_EMIT filterPointModelsChanged();
+}
+
+void RBodeplotCurve::convertFilters()
+{
+    m_listIsStale = false;
+    if (!isComponentComplete())
+        return;
+    if (!m_calculationItems.isEmpty())
+        m_filters.setFilters(calculationItemsQListToStdVector(m_calculationItems));
+    else if (m_calculationItemsReference.isValid())
+        m_filters.setFilters(calculationItemsQmlListReferenceToStdVector(m_calculationItemsReference));
+    else
+        m_filters.setFilters({});
+}
+
+void RBodeplotCurve::onCalculationItemsChanged()
+{
+    convertFilters();
+    evaluate();
+}
+
+void RBodeplotCurve::refresh(const QList<QSharedPointer<tamble::common::CalculationItem>> &data)
+{
+    ConvertedFilters filters;
+    filters.records.assign(data.begin(), data.end());
+    m_listIsStale = false;
+    m_filters.setFilters(std::move(filters));
+    evaluate();
+}
+
+} // namespace tamble::client
