@@ -43,6 +43,7 @@ StyleMatcher::StyleMatcher(const NameTable &names, const SelectorTree &tree)
 std::vector<MatchWord> StyleMatcher::words(const StyleElement &element) const
 {
     std::vector<MatchWord> result;
+    result.reserve(std::size_t(1 + element.classes.size() + element.states.size()));
     QVarLengthArray<char, 256> text;
     const auto add = [&](std::string_view mark, const QString &word, const Specificity &weight) {
         QStringEncoder encoder(QStringEncoder::Utf8);

@@ -58,7 +58,8 @@ void collectNearestStyleSets(const QObject *object, QList<QPointer<StyleSet>> &f
             collectNearestStyleSets(child, found);
     };
     if (const auto *item = qobject_cast<const QQuickItem *>(object)) {
-        for (const QQuickItem *child : item->childItems())
+        const QList<QQuickItem *> children = item->childItems(); // constant, or the loop would copy them
+        for (const QQuickItem *child : children)
             visit(child);
     }
     // Items are children of their visual parent only; a window starts a scene of its own.

@@ -1,12 +1,18 @@
 #include "style/StyleTypeName.h"
 
+#include <string_view>
+
 namespace tamble::client {
 
 QString styleTypeName(QByteArrayView className)
 {
-    for (const QByteArrayView mark : {QByteArrayView("_QMLTYPE_"), QByteArrayView("_QML_")}) {
-        if (const qsizetype end = className.indexOf(mark); end >= 0)
-            return QString::fromUtf8(className.first(end));
+    // Names of native types have no mark, and searching for a short one is quick.
+    const std::string_view name(className.data(), std::size_t(className.size()));
+    if (name.find("_QML") != std::string_view::npos) {
+        for (const std::string_view mark : {"_QMLTYPE_", "_QML_"}) {
+            if (const std::size_t end = name.find(mark); end != std::string_view::npos)
+                return QString::fromUtf8(className.first(qsizetype(end)));
+        }
     }
     return QString::fromUtf8(className);
 }
