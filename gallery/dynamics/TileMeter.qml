@@ -37,13 +37,8 @@ Column {
         valueMinRed: root.split ? root.minimum : root.maximum - 3
         valueMaxYellow: root.maximum / 2
         valueMaxRed: root.maximum
-        // A gain moves as the processor does, both ways; the meter's own fall is for levels.
-        onValueChanged: {
-            if (meter.split) {
-                meter.reset()
-                meter.refresh()
-            }
-        }
+        // A gain moves as the processor does, both ways; the slow fall is for levels.
+        currentValueDecreasePerSecond: meter.split ? 1e6 : 60
         Accessible.name: qsTr("%1, %2").arg(root.owner).arg(root.title)
     }
     RText {

@@ -24,6 +24,8 @@ Item {
         height: root.height
         paddingTop: 0
         paddingBottom: 0
+        // A gain moves as the processor does, both ways; the slow fall is for levels.
+        currentValueDecreasePerSecond: meter.split ? 1e6 : 60
         Accessible.name: root.label
     }
     RAxisNumbering {

@@ -483,6 +483,11 @@ ThemedTestCase {
         compare([ambient.horizontal, ambient.value, ambient.valueMin, ambient.valueMax], [true, -20, -60, 20])
         compare(ambient.width, findChild(anc, "curve").width)
         compare(reduction.height, findChild(compressor, "curve").height)
+        agc.gain = 10
+        compare(gain.currentValue, 10)
+        agc.gain = -10
+        tryVerify(() => gain.currentValue < 10)
+        compare(gain.currentValue, -10, "a gain falls at once")
     }
 
     function test_frozenGain() {
