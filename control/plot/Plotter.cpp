@@ -62,26 +62,25 @@ QSGNode *Plotter::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
         oldNode = nullptr;
     }
     m_nodeIsWide = isWide;
-    return isWide ? updateWideNode(oldNode) : updateThinNode(oldNode);
+    // A fresh node is empty: in the first frame, for another kind of line, or after the window lost its scene graph.
+    const bool linesStale = std::exchange(m_linesStale, false) || !oldNode;
+    return isWide ? updateWideNode(oldNode, linesStale) : updateThinNode(oldNode, linesStale);
 }
 
-// A fresh node (first frame, another kind of line, or the window lost its scene graph) is filled whatever the flag
-// says.
-
-QSGNode *Plotter::updateThinNode(QSGNode *oldNode)
+QSGNode *Plotter::updateThinNode(QSGNode *oldNode, bool linesStale) const
 {
     auto *node = oldNode ? static_cast<StrokeNode *>(oldNode) : new StrokeNode;
     node->setColor(m_color);
-    if (std::exchange(m_linesStale, false) || !oldNode)
+    if (linesStale)
         node->setStroke(size().isEmpty() ? StrokeGeometry() : thinLines());
     return node;
 }
 
-QSGNode *Plotter::updateWideNode(QSGNode *oldNode)
+QSGNode *Plotter::updateWideNode(QSGNode *oldNode, bool linesStale) const
 {
     auto *node = oldNode ? static_cast<SmoothStrokeNode *>(oldNode) : new SmoothStrokeNode;
     node->setColor(m_color);
-    if (std::exchange(m_linesStale, false) || !oldNode) {
+    if (linesStale) {
         node->begin({m_lineWidth, window() ? window()->effectiveDevicePixelRatio() : 1.0});
         if (!size().isEmpty())
             addWideLines(*node);

@@ -42,8 +42,8 @@ protected:
     QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
 
 private:
-    QSGNode *updateThinNode(QSGNode *oldNode);
-    QSGNode *updateWideNode(QSGNode *oldNode);
+    QSGNode *updateThinNode(QSGNode *oldNode, bool linesStale) const;
+    QSGNode *updateWideNode(QSGNode *oldNode, bool linesStale) const;
 
     QColor m_color = Qt::black;
     double m_lineWidth = 1.0;

@@ -30,9 +30,7 @@ RScaleHelper::RScaleHelper(QObject *parent)
 
 double RScaleHelper::toPosition(double value)
 {
-    if (!checkRange("toPosition"))
-        return 0.0;
-    if (std::isnan(value))
+    if (!checkRange("toPosition") || std::isnan(value))
         return 0.0;
     const double position = range().toPosition(value);
     return m_reverse ? 1.0 - position : position;

@@ -45,6 +45,7 @@ public:
     /// inherit the same when these are the same object.
     const DeclarationMap *inherited() const { return m_inherited; }
 
+    /// Room for what readers have converted; it changes nothing of what is declared.
     Values &convertedValues() const { return m_convertedValues; }
 
 private:

@@ -1,5 +1,6 @@
 import QtQuick
 import TambleClient.Control 1.0
+import "../Shared" as Shared
 
 /*! Frequency response of a set of filters in a plot frame, with handles to edit them: the left button drags frequency
     and gain, the right button Q. */
@@ -184,10 +185,8 @@ RBodeplotCurveTemplate {
                 y: (parent.width - height) / 2
                 width: 44 * RThemeValues.unit
                 height: width
-                containmentMask: QtObject {
-                    function contains(place: point): bool {
-                        return Math.hypot(place.x - pointer.width / 2, place.y - pointer.height / 2) <= pointer.width / 2
-                    }
+                containmentMask: Shared.RCircleMask {
+                    area: pointer
                 }
                 acceptedButtons: Qt.LeftButton | Qt.RightButton
                 preventStealing: true

@@ -144,10 +144,8 @@ RLimiterCurveTemplate {
             anchors.centerIn: parent
             width: 44 * RThemeValues.unit
             height: 44 * RThemeValues.unit
-            containmentMask: QtObject {
-                function contains(place: point): bool {
-                    return Math.hypot(place.x - pointer.width / 2, place.y - pointer.height / 2) <= pointer.width / 2
-                }
+            containmentMask: Shared.RCircleMask {
+                area: pointer
             }
             preventStealing: true
             onPressed: mouse => {
