@@ -1,4 +1,5 @@
 #include "bodeplot/tst_BodeplotFrame.h"
+#include "bodeplot/tst_CurveDrawing.h"
 #include "bodeplot/tst_CurveItem.h"
 #include "bodeplot/tst_FilterItems.h"
 #include "bodeplot/tst_FilterSet.h"
@@ -25,6 +26,7 @@ int main(int argc, char **argv)
     const QGuiApplication application(argc, argv);
     int failures = 0;
     failures += runTest<BodeplotFrameTest>(argc, argv);
+    failures += runTest<CurveDrawingTest>(argc, argv);
     failures += runTest<CurveItemTest>(argc, argv);
     failures += runTest<FilterItemsTest>(argc, argv);
     failures += runTest<FilterSetTest>(argc, argv);

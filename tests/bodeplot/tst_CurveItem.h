@@ -2,7 +2,7 @@
 
 #include <QtCore/QObject>
 
-/// The curve as pages use it: lists of filters, handle models, gestures, drawing.
+/// The curve as pages use it: lists of filters, handle models, gestures.
 class CurveItemTest : public QObject
 {
     Q_OBJECT
@@ -24,8 +24,4 @@ private Q_SLOTS:
     void cancelledDrag();
     void nativeRecords();
     void outOfRangeIsLoggedOnce();
-    void draggingAllocatesNothing();
-    void nothingIsRewrittenWithoutChange();
-    void drawnPixels_data();
-    void drawnPixels();
 };

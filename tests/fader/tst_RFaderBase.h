@@ -10,6 +10,4 @@ private Q_SLOTS:
     void fineDrag();
     void fineDragIgnoresDetents();
     void accessible();
-    void toolsEditValues_data();
-    void toolsEditValues();
 };

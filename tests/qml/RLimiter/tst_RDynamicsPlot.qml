@@ -351,44 +351,6 @@ ThemedTestCase {
         compare(curve.values.length, count)
     }
 
-    function placesIn(item: Item, origin: Item): var {
-        const places = []
-        for (let i = 0; i < item.children.length; ++i) {
-            const child = item.children[i]
-            const place = child.mapToItem(origin, 0, 0)
-            const isText = child.text !== undefined && child.effectiveHorizontalAlignment !== undefined
-            // A text no wider than itself stands the same however it is aligned.
-            const alignment = isText && child.width > child.implicitWidth ? child.effectiveHorizontalAlignment : 0
-            places.push([child.toString().split("(")[0], place.x, place.y, child.width, alignment].join(" "))
-            places.push(...placesIn(child, origin))
-        }
-        return places
-    }
-    function test_neverMirrored_data() {
-        return [
-            { tag: "panel", body: "RANC { ancBypassed: true; ambientMeterVisible: true; levelVisible: true }" },
-            { tag: "panel with a meter", body: "RAGC { gainMeterVisible: true }" },
-            { tag: "numbers", body: "RAxisNumbering { orientation: Qt.Vertical; height: 200; rightSided: true }" },
-            { tag: "axis", body: "RAxis { maxValue: 10; tickCount: 10 }" },
-            { tag: "meter", body: "RMeter { clipIndicatorSupported: true; faderIndicatorActive: true }" },
-            { tag: "lying meter", body: "RMeter { horizontal: true; faderIndicatorActive: true }" },
-            { tag: "fader", body: "RFader {}" },
-            { tag: "fader, scale on the right", body: "RFader { scaleOnRight: true }" },
-            { tag: "frequency plot", body: "RBodeplot { RBodeplotCurve { calculationItems: [RBodeplotEqFilter { gain: 6 }] } RLimiterCurve {} }" },
-            { tag: "lying fader", body: "RFader { orientation: Qt.Horizontal }" },
-        ]
-    }
-    function test_neverMirrored(data) {
-        const page = make("Item { width: 400; height: 400; LayoutMirroring.childrenInherit: true; " + data.body + "}")
-        const item = page.children[0]
-        waitForRendering(item)
-        const before = placesIn(item, item)
-        verify(before.length > 1)
-        page.LayoutMirroring.enabled = true
-        waitForRendering(item, 50)
-        compare(placesIn(item, item).join("\n"), before.join("\n"))
-    }
-
     function test_levelDotNeedsACurve() {
         const panel = make("RLimiter { levelVisible: true }")
         const isShown = () => findChild(panel, "level") !== null

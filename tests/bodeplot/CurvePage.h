@@ -1,0 +1,90 @@
+#pragma once
+
+#include "bodeplot/RBodeplotAsymmetricEqFilter.h"
+#include "bodeplot/RBodeplotCurve.h"
+#include "bodeplot/RBodeplotEqFilter.h"
+#include "bodeplot/RBodeplotFIRFilter.h"
+#include "bodeplot/RBodeplotXOverFilter.h"
+
+#include <QtCore/QDebug>
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlEngine>
+
+#include <memory>
+
+namespace tamble::client {
+
+/// Lets a test see what is drawn.
+class Curve : public RBodeplotCurve
+{
+public:
+    using RBodeplotCurve::lines;
+
+    int rewriteCount() const { return m_node ? m_node->rewriteCount() : 0; }
+    int updateCount() const { return m_updateCount; }
+    /// Does what a frame would do; the node is the caller's.
+    ResponseCurveNode *draw()
+    {
+        updatePolish();
+        updatePaintNode(m_node, nullptr);
+        return m_node;
+    }
+
+    RBodeplotPointModel *handle(int index)
+    {
+        return qobject_cast<RBodeplotPointModel *>(filterPointModels().value(index));
+    }
+    QPointF point(int index) { return handle(index)->property("point").toPointF(); }
+    double column(int index) const { return lines().aggregated().columns.at(std::size_t(index)); }
+
+protected:
+    QSGNode *updatePaintNode(QSGNode *old, UpdatePaintNodeData *data) override
+    {
+        ++m_updateCount;
+        m_node = static_cast<ResponseCurveNode *>(RBodeplotCurve::updatePaintNode(old, data));
+        return m_node;
+    }
+
+private:
+    ResponseCurveNode *m_node = nullptr;
+    int m_updateCount = 0;
+};
+
+/// A curve of 300 x 400 pixels and what else is declared with it as children of one item.
+struct Page
+{
+    explicit Page(const QByteArray &curveBody, const QByteArray &siblings = {})
+    {
+        static const bool registered = [] {
+            qmlRegisterType<RBodeplotCalculationItem>("CurveItems", 1, 0, "RBodeplotCalculationItem");
+            qmlRegisterType<RBodeplotEqFilter>("CurveItems", 1, 0, "RBodeplotEqFilter");
+            qmlRegisterType<RBodeplotAsymmetricEqFilter>("CurveItems", 1, 0, "RBodeplotAsymmetricEqFilter");
+            qmlRegisterType<RBodeplotXOverFilter>("CurveItems", 1, 0, "RBodeplotXOverFilter");
+            qmlRegisterType<RBodeplotFIRFilter>("CurveItems", 1, 0, "RBodeplotFIRFilter");
+            qmlRegisterType<Curve>("CurveItems", 1, 0, "Curve");
+            return true;
+        }();
+        Q_UNUSED(registered)
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick\nimport CurveItems 1.0\nItem { width: 300; height: 400\n"
+                          "Curve { id: curve; objectName: 'curve'; width: 300; height: 400\n" +
+                              curveBody + "}\n" + siblings + "}",
+                          QUrl());
+        root.reset(component.create());
+        if (!root)
+            qWarning().noquote() << component.errorString();
+        curve = root ? root->findChild<Curve *>(QStringLiteral("curve")) : nullptr;
+    }
+
+    QObject *filter(int index) const
+    {
+        const QQmlListReference list(curve, "calculationItems");
+        return list.at(index);
+    }
+
+    QQmlEngine engine;
+    std::unique_ptr<QObject> root;
+    Curve *curve = nullptr;
+};
+
+} // namespace tamble::client

@@ -1,0 +1,127 @@
+#include "bodeplot/tst_CurveDrawing.h"
+
+#include "bodeplot/AllocationCount.h"
+#include "bodeplot/CurvePage.h"
+
+#include <QtCore/QRegularExpression>
+#include <QtQuick/QQuickWindow>
+#include <QtTest/QTest>
+
+#include <memory>
+#include <utility>
+
+using namespace tamble::client;
+
+namespace {
+
+const QByteArray colours = "style: QtObject { property color aggregatedCurveColor: '#ff0000'\n"
+                           "property color aggregatedAreaColor: '#0000ff'; property real aggregatedCurveLineWidth: 4\n"
+                           "property color individualCurveColor: '#00ff00'; property real individualCurveLineWidth: 3\n"
+                           "property color selectedCurveColor: 'transparent'\n"
+                           "property real areaSaturationNearAggregatedCurve: 1\n"
+                           "property real areaSaturationNearxAchsis: 1 }\n";
+
+} // namespace
+
+void CurveDrawingTest::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+}
+
+void CurveDrawingTest::draggingAllocatesNothing()
+{
+    if (!countsAllocations())
+        QSKIP("Allocations are the sanitizer's.");
+    const Page page(colours + "calculationItems: [ RBodeplotEqFilter { freq: 200; gain: 10; quality: 2 },\n"
+                              "RBodeplotXOverFilter { type: 12; freq: 2000 },\n"
+                              "RBodeplotFIRFilter { type: 1; freqHP: 200 },\n"
+                              "RBodeplotEqFilter { freq: 1000; gain: -6 } ]");
+    QQuickWindow window;
+    qobject_cast<QQuickItem *>(page.root.get())->setParentItem(window.contentItem());
+    const std::unique_ptr<QSGNode> node(page.curve->draw());
+    const auto drag = [&](int step) {
+        page.curve->onUserMoveFilterPoint(0, QPointF(0.2 + 0.006 * step, 0.2 + 0.005 * step));
+        page.curve->draw();
+    };
+    page.curve->holdFilterPoint(0);
+    for (int step = 0; step < 100; ++step)
+        drag(step);
+    QVERIFY2(takeAllocationCount() > 0, "warming up does");
+    for (int step = 99; step >= 0; --step)
+        drag(step);
+    QCOMPARE(takeAllocationCount(), std::size_t(0));
+}
+
+void CurveDrawingTest::nothingIsRewrittenWithoutChange()
+{
+    if (!QGuiApplication::platformName().contains(QLatin1String("xcb")))
+        QSKIP("Needs a display.");
+    const Page page(colours + "calculationItems: [ RBodeplotEqFilter { freq: 200; gain: 10 }, RBodeplotEqFilter {} ]");
+    QQuickWindow window;
+    window.resize(300, 400);
+    static_cast<QQuickItem *>(page.root.get())->setParentItem(window.contentItem());
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    auto rewritten = [&, count = 0]() mutable {
+        window.grabWindow();
+        return page.curve->rewriteCount() - std::exchange(count, page.curve->rewriteCount());
+    };
+    rewritten();
+    page.curve->update();
+    QCOMPARE(rewritten(), 0);
+    page.curve->style()->setProperty("aggregatedCurveColor", QColor(Qt::yellow));
+    QCOMPARE(rewritten(), 0);
+    page.curve->onUserMoveFilterPoint(0, {0.4, 0.4});
+    QCOMPARE(rewritten(), 3); // its line, the sum and the area
+    page.curve->onUserMoveFilterPoint(0, {0.45, 0.4});
+    QCOMPARE(rewritten(), 3);
+    const int updates = page.curve->updateCount();
+    page.filter(0)->setProperty("gain", page.filter(0)->property("gain"));
+    page.curve->refreshColors();
+    QTest::qWait(50);
+    QCOMPARE(page.curve->updateCount(), updates);
+}
+
+void CurveDrawingTest::drawnPixels_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QPoint>("place");
+    QTest::addColumn<QColor>("color");
+
+    const QByteArray filter = "calculationItems: RBodeplotEqFilter { freq: 632.4555; gain: 10; quality: 0.5; ";
+    QTest::newRow("curve") << filter + "}" << QPoint(150, 100) << QColor(Qt::red);
+    QTest::newRow("area between curve and axis") << filter + "}" << QPoint(150, 150) << QColor(Qt::blue);
+    QTest::newRow("nothing above") << filter + "}" << QPoint(150, 90) << QColor(Qt::white);
+    QTest::newRow("nothing below the axis") << filter + "}" << QPoint(150, 210) << QColor(Qt::white);
+    QTest::newRow("trimmed") << filter + "} trim: 5" << QPoint(150, 50) << QColor(Qt::red);
+    QTest::newRow("cut off above, not drawn along the edge")
+        << filter + "} yMaximum: 5; yMinimum: -5" << QPoint(150, 0) << QColor(Qt::blue);
+    QTest::newRow("own curve without the sum's trim") << filter + "} trim: -9" << QPoint(150, 100) << QColor(Qt::green);
+    QTest::newRow("hidden own curve") << filter + "} trim: -9; hideIndividualCurves: true" << QPoint(150, 100)
+                                      << QColor(Qt::white);
+    QTest::newRow("bypassed is flat") << filter + "bypass: true } trim: 5" << QPoint(150, 200) << QColor(Qt::green);
+    QTest::newRow("phase") << filter + "} spectrum: 1; yMinimum: -180; yMaximum: 180" << QPoint(150, 200)
+                           << QColor(Qt::red);
+}
+
+void CurveDrawingTest::drawnPixels()
+{
+    if (!QGuiApplication::platformName().contains(QLatin1String("xcb")))
+        QSKIP("Needs a display.");
+    QFETCH(QByteArray, body);
+    QFETCH(QPoint, place);
+    QFETCH(QColor, color);
+
+    const Page page(colours + body);
+    QQuickWindow window;
+    window.resize(300, 400);
+    static_cast<QQuickItem *>(page.root.get())->setParentItem(window.contentItem());
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QImage image = window.grabWindow();
+    const double ratio = window.effectiveDevicePixelRatio();
+    const QColor drawn = image.pixelColor(place * ratio);
+    const int distance = std::abs(drawn.red() - color.red()) + std::abs(drawn.green() - color.green()) +
+                         std::abs(drawn.blue() - color.blue());
+    QVERIFY2(distance < 60, qPrintable(drawn.name()));
+}
