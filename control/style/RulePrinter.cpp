@@ -29,7 +29,7 @@ bool isColour(std::string_view text)
 }
 
 // Values never hold both kinds of quotes, because the language knows no way to write that.
-std::string quoted(std::string_view text)
+std::string inQuotes(std::string_view text)
 {
     const char quote = text.find('"') == std::string_view::npos ? '"' : '\'';
     std::string result(1, quote);
@@ -41,7 +41,7 @@ struct ValuePrinter : boost::static_visitor<std::string>
 {
     std::string operator()(const std::string &text) const
     {
-        return isName(text) || isColour(text) ? text : quoted(text);
+        return isName(text) || isColour(text) ? text : inQuotes(text);
     }
 
     std::string operator()(const Expression &call) const
@@ -53,7 +53,7 @@ struct ValuePrinter : boost::static_visitor<std::string>
             const bool plain = !argument.empty() && std::all_of(argument.begin(), argument.end(), [](char character) {
                 return isNameCharacter(character) || character == '.' || character == '%';
             });
-            result += plain ? argument : quoted(argument);
+            result += plain ? argument : inQuotes(argument);
         }
         return result + ')';
     }

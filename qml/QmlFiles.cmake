@@ -1,5 +1,6 @@
 # The module's QML files, compiled ahead of time and placed under qrc:/qml/. A file appears in the qmldir, where tools
-# look names up, exactly when a registered name loads it.
+# look names up, exactly when a registered name loads it. Included where the library is made: Qt 6.8 makes a second
+# target of QML files that another directory adds, which then waits for itself.
 
 set(registered
     RAGC/RAGC.qml
@@ -67,23 +68,15 @@ set(unregistered
     Shared/RValueEdit.qml
 )
 
-list(TRANSFORM registered PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
-list(TRANSFORM singletons PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
-list(TRANSFORM unregistered PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
-foreach(file IN LISTS registered singletons unregistered)
-    cmake_path(RELATIVE_PATH file BASE_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR} OUTPUT_VARIABLE alias)
-    # Read here and where the target was made.
-    set_source_files_properties(${file} DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR} TARGET_DIRECTORY tambleclient-control
-        PROPERTIES QT_RESOURCE_ALIAS qml/${alias}
-    )
+foreach(list IN ITEMS registered singletons unregistered)
+    list(TRANSFORM ${list} PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
 endforeach()
-
-set_source_files_properties(${singletons} DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR} TARGET_DIRECTORY tambleclient-control
-    PROPERTIES QT_QML_SINGLETON_TYPE ON
-)
-set_source_files_properties(${unregistered} DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR} TARGET_DIRECTORY tambleclient-control
-    PROPERTIES QT_QML_SKIP_QMLDIR_ENTRY ON
-)
+foreach(file IN LISTS registered singletons unregistered)
+    cmake_path(RELATIVE_PATH file BASE_DIRECTORY ${CMAKE_CURRENT_LIST_DIR} OUTPUT_VARIABLE alias)
+    set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS qml/${alias})
+endforeach()
+set_source_files_properties(${singletons} PROPERTIES QT_QML_SINGLETON_TYPE ON)
+set_source_files_properties(${unregistered} PROPERTIES QT_QML_SKIP_QMLDIR_ENTRY ON)
 
 qt_target_qml_sources(tambleclient-control PREFIX / QML_FILES ${registered} ${singletons} ${unregistered})
 
