@@ -1,41 +1,86 @@
-# Installation: the module as one file in Qt's QML folder layout, which a host links from there too; the sibling
-# libraries beside it; headers; a CMake package.
+# Installation in three components:
+#   runtime       the libraries where a linker finds them, the QML folder with a link to the module library
+#   development   headers, packages for CMake and pkg-config
+#   gallery       the sample client
 
-set(TAMBLE_INSTALL_QML_DIRECTORY ${CMAKE_INSTALL_LIBDIR}/qt6/qml/TambleClient/Control)
-set(TAMBLE_INSTALL_PACKAGE_DIRECTORY ${CMAKE_INSTALL_LIBDIR}/cmake/TambleClientControl)
+set(qml_directory ${TAMBLE_INSTALL_QML_ROOT}/TambleClient/Control)
+set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/TambleClientControl)
+set(header_directory ${CMAKE_INSTALL_INCLUDEDIR}/tambleclient-control)
 
-file(RELATIVE_PATH to_libraries /${TAMBLE_INSTALL_QML_DIRECTORY} /${CMAKE_INSTALL_LIBDIR})
+# The library finds its siblings from its own place and through the link in the QML folder.
+file(RELATIVE_PATH to_libraries /${qml_directory} /${CMAKE_INSTALL_LIBDIR})
 set_target_properties(tambleclient-control PROPERTIES
     EXPORT_NAME Control
-    INSTALL_RPATH "$ORIGIN/${to_libraries}"
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR}
+    INSTALL_RPATH "$ORIGIN;$ORIGIN/${to_libraries}"
 )
 
-install(TARGETS tambleclient-control
+set(libraries tambleclient-control tambleclient-common tamblecommon-common tamblecommon-math)
+install(TARGETS ${libraries}
     EXPORT TambleClientControlTargets
-    LIBRARY DESTINATION ${TAMBLE_INSTALL_QML_DIRECTORY}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
 )
+set(library_name ${CMAKE_SHARED_LIBRARY_PREFIX}tambleclient-control${CMAKE_SHARED_LIBRARY_SUFFIX})
+install(CODE "
+    set(folder \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${qml_directory}\")
+    file(MAKE_DIRECTORY \"\${folder}\")
+    file(CREATE_LINK ${to_libraries}/${library_name}.${PROJECT_VERSION_MAJOR} \"\${folder}/${library_name}\" SYMBOLIC)
+" COMPONENT runtime)
 install(DIRECTORY ${TAMBLE_QML_MODULE_DIRECTORY}/
-    DESTINATION ${TAMBLE_INSTALL_QML_DIRECTORY}
+    DESTINATION ${qml_directory}
+    COMPONENT runtime
     FILES_MATCHING PATTERN qmldir PATTERN *.qmltypes PATTERN *.qml
 )
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/control/
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tambleclient-control
-    FILES_MATCHING PATTERN *.h
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/NOTICE
+    DESTINATION ${CMAKE_INSTALL_DOCDIR}
+    COMPONENT runtime
 )
+install(FILES /usr/share/doc/fonts-lato/copyright
+    DESTINATION ${CMAKE_INSTALL_DOCDIR}
+    COMPONENT runtime
+    RENAME OFL-Lato.txt
+)
+
+include(cmake/PublicHeaders.cmake)
+foreach(header IN LISTS TAMBLE_PUBLIC_HEADERS)
+    cmake_path(GET header PARENT_PATH folder)
+    install(FILES ${PROJECT_SOURCE_DIR}/control/${header}
+        DESTINATION ${header_directory}/${folder}
+        COMPONENT development
+    )
+endforeach()
+foreach(library IN ITEMS tambleclient-common tamblecommon-common tamblecommon-math)
+    get_target_property(headers ${library} TAMBLE_HEADERS)
+    install(FILES ${headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${library} COMPONENT development)
+endforeach()
 
 install(EXPORT TambleClientControlTargets
     NAMESPACE Tamble::
-    DESTINATION ${TAMBLE_INSTALL_PACKAGE_DIRECTORY}
+    DESTINATION ${package_directory}
+    COMPONENT development
 )
 include(CMakePackageConfigHelpers)
+configure_package_config_file(cmake/TambleClientControlConfig.cmake.in
+    ${PROJECT_BINARY_DIR}/TambleClientControlConfig.cmake
+    INSTALL_DESTINATION ${package_directory}
+    PATH_VARS TAMBLE_INSTALL_QML_ROOT
+)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/TambleClientControlConfigVersion.cmake
     COMPATIBILITY SameMajorVersion
 )
 install(FILES
-    ${PROJECT_SOURCE_DIR}/cmake/TambleClientControlConfig.cmake
+    ${PROJECT_BINARY_DIR}/TambleClientControlConfig.cmake
     ${PROJECT_BINARY_DIR}/TambleClientControlConfigVersion.cmake
-    DESTINATION ${TAMBLE_INSTALL_PACKAGE_DIRECTORY}
+    DESTINATION ${package_directory}
+    COMPONENT development
 )
 
-install(FILES /usr/share/doc/fonts-lato/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME OFL-Lato.txt)
-install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/NOTICE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+# Relative to the file itself, so that the tree can be moved.
+set(pkgconfig_directory ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH to_prefix /${pkgconfig_directory} /)
+configure_file(cmake/tambleclient-control.pc.in ${PROJECT_BINARY_DIR}/tambleclient-control.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/tambleclient-control.pc
+    DESTINATION ${pkgconfig_directory}
+    COMPONENT development
+)

@@ -1,0 +1,43 @@
+# The headers that clients may include, below control/; everything else stays inside. A public header includes public ones
+# only: none of Qt's private ones and of no library that the package does not ask for.
+set(TAMBLE_PUBLIC_HEADERS
+    ControlExport.h
+    TambleClientControlModule.h
+
+    # Filters of a frequency-response plot, as models of a page keep them.
+    bodeplot/BodeplotEnums.h
+    bodeplot/RBodeplotAsymmetricEqFilter.h
+    bodeplot/RBodeplotCalculationItem.h
+    bodeplot/RBodeplotEqFilter.h
+    bodeplot/RBodeplotFIRFilter.h
+    bodeplot/RBodeplotXOverFilter.h
+
+    # Transfer curves of dynamics processors, and what draws them.
+    dynamics/AGCCalculator.h
+    dynamics/ANCCalculator.h
+    dynamics/CompressorCalculator.h
+    dynamics/CompressorCurve.h
+    dynamics/DuckerCalculator.h
+    dynamics/LimiterCalculator.h
+    dynamics/NoiseGateCalculator.h
+    dynamics/TransferCurves.h
+    plot/GraphPlotter.h
+    plot/LinePlotter.h
+    plot/Plotter.h
+
+    # Fields and lists.
+    input/RMessageBox.h
+    input/RSortFilterProxyModel.h
+    input/RStringRuleValidator.h
+    input/RStringRuleValidatorRule.h
+    input/RTextFieldDoubleValidator.h
+    input/RTextFieldIntValidator.h
+    input/RTextFieldIpAddressValidator.h
+    input/RTextFieldPinValidator.h
+
+    # A meter that is fed without QML.
+    meter/MeterFractions.h
+    meter/RMeterBase.h
+
+    style/ThemeSelector.h
+)

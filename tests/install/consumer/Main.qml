@@ -1,0 +1,12 @@
+import QtQuick
+import TambleClient.Control 1.0
+
+Item {
+    width: 320
+    height: 200
+
+    RButton {
+        objectName: "button"
+        text: "Mute"
+    }
+}
