@@ -6,8 +6,8 @@ namespace tamble::client {
 
 namespace {
 
-/// Far beyond what a screen can show; keeps a mistyped count from filling the memory.
-constexpr double maximumTicks = 10000.0;
+/// Far beyond what a screen can show; each tick is an object and, in QML, a line and a text.
+constexpr double maximumTicks = 2000.0;
 
 } // namespace
 

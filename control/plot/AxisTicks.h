@@ -19,7 +19,8 @@ struct AxisTick
 /// The result follows floating-point rules for empty and reversed ranges and counts of 0; it is then no usable number.
 double axisStep(double minimum, double maximum, double count);
 
-/// Ticks at the multiples of the step within `minimum`…`maximum`, lowest value first, at most `count` of them.
+/// Ticks at the multiples of the step within `minimum`…`maximum`, lowest value first, at most `count` and 2000 of them;
+/// the step is that of `count` even where it is more.
 ///
 /// `height` is in pixels: `minimum` sits at the bottom edge (y = height), `maximum` at the top (y = 0). A count that is
 /// not positive and an empty, reversed or non-finite range give no ticks.

@@ -1,6 +1,8 @@
 #include "plot/GridValues.h"
 
+#include <algorithm>
 #include <cmath>
+#include <functional>
 #include <initializer_list>
 
 namespace tamble::client {
@@ -10,6 +12,8 @@ namespace {
 constexpr int maximumLines = 1000;
 /// In steps: keeps the line at a bound that rounding puts just outside, such as 7 · 0.1 in a range up to 0.7.
 constexpr double boundTolerance = 1e-9;
+/// 2⁵³: up to here every whole number is one of its own.
+constexpr double exactSteps = 9007199254740992.0;
 
 std::optional<QList<double>> linearValues(const GridRule &rule)
 {
@@ -19,10 +23,16 @@ std::optional<QList<double>> linearValues(const GridRule &rule)
     const double last = std::floor((rule.range.highest() - rule.origin) / rule.step + boundTolerance);
     if (!(last - first < maximumLines))
         return std::nullopt;
+    // Far from the origin, numbers are further apart than steps: no place is right then.
+    if (std::max(std::abs(first), std::abs(last)) > exactSteps)
+        return std::nullopt;
 
     QList<double> values;
-    for (int i = 0; first + i <= last; ++i)
+    const int count = int(std::max(last - first + 1.0, 0.0));
+    for (int i = 0; i < count; ++i)
         values.append(rule.origin + (first + i) * rule.step);
+    if (std::adjacent_find(values.cbegin(), values.cend(), std::greater_equal<>()) != values.cend())
+        return std::nullopt;
     return values;
 }
 

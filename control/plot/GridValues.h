@@ -20,8 +20,9 @@ struct GridRule
 
 /// Values of the lines, lowest first.
 ///
-/// None for a range that is not usable. Nothing at all when the step is not positive or infinite, or there would be
-/// more than 1000 lines, which is a mistake of the page and worth a message.
+/// None for a range that is not usable. Nothing at all when the step is not positive or infinite, there would be more
+/// than 1000 lines, or they are nearer to each other than numbers of their size can be: mistakes of the page, which are
+/// worth a message.
 std::optional<QList<double>> gridValues(const GridRule &rule);
 
 /// The values of `rule` thinned to at most `maximumCount` (0 or less: all).

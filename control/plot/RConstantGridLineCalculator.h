@@ -14,8 +14,8 @@ namespace tamble::client {
 ///
 /// The lines are the multiples of `step` (default 0.1), counted from `origin`, within `from`…`to` (defaults 0 and 1).
 /// With `scale` 1 (logarithmic; default 0, linear) they are 1…9 times each power of ten. `includeEnds` adds the bounds.
-/// A step that is not positive or gives more than 1000 lines yields none and one log line. A component's properties
-/// take effect together when it is complete.
+/// A step that is not positive, gives more than 1000 lines, or is too small for numbers so large to differ by it yields
+/// none and one log line. A component's properties take effect together when it is complete.
 class TAMBLE_CLIENT_CONTROL_EXPORT RConstantGridLineCalculator : public QObject, public QQmlParserStatus
 {
     Q_OBJECT

@@ -96,21 +96,33 @@ void tst_GridValues::gridValues()
 
 void tst_GridValues::outOfRange_data()
 {
+    QTest::addColumn<AxisRange>("range");
     QTest::addColumn<double>("step");
+    QTest::addColumn<double>("origin");
     QTest::addColumn<bool>("valid");
-    QTest::newRow("0") << 0.0 << false;
-    QTest::newRow("negative") << -1.0 << false;
-    QTest::newRow("NaN") << notANumber << false;
-    QTest::newRow("1001 lines") << 0.1 << false;
-    QTest::newRow("1000 lines") << 0.10005 << true;
-    QTest::newRow("denormal") << 5e-324 << false;
-    QTest::newRow("infinite") << infinity << false;
+    const AxisRange hundred{0, 100, linear};
+    QTest::newRow("0") << hundred << 0.0 << 0.0 << false;
+    QTest::newRow("negative") << hundred << -1.0 << 0.0 << false;
+    QTest::newRow("NaN") << hundred << notANumber << 0.0 << false;
+    QTest::newRow("1001 lines") << hundred << 0.1 << 0.0 << false;
+    QTest::newRow("1000 lines") << hundred << 0.10005 << 0.0 << true;
+    QTest::newRow("denormal") << hundred << 5e-324 << 0.0 << false;
+    QTest::newRow("infinite") << hundred << infinity << 0.0 << false;
+    QTest::newRow("origin without steps in between") << hundred << 1.0 << 1e30 << false;
+    QTest::newRow("origin with half of the steps") << hundred << 1.0 << 1e16 << false;
+    QTest::newRow("origin far away") << hundred << 1.0 << 1e15 << true;
+    QTest::newRow("infinite origin") << hundred << 1.0 << infinity << false;
+    QTest::newRow("NaN origin") << hundred << 1.0 << notANumber << false;
+    QTest::newRow("range of large numbers") << AxisRange{1e17, 1e17 + 64, linear} << 1.0 << 1e17 << false;
+    QTest::newRow("range of large numbers, wide steps") << AxisRange{1e17, 1e17 + 64, linear} << 32.0 << 1e17 << true;
 }
 
 void tst_GridValues::outOfRange()
 {
+    QFETCH(AxisRange, range);
     QFETCH(double, step);
-    QTEST(tamble::client::gridValues({{0, 100, linear}, step}).has_value(), "valid");
+    QFETCH(double, origin);
+    QTEST(tamble::client::gridValues({range, step, origin}).has_value(), "valid");
 }
 
 void tst_GridValues::thinned_data()
