@@ -1,23 +1,40 @@
 #include "ControlImageProviderRules.h"
 
+#include <QtCore/QFile>
+
 namespace tamble::client {
 
 namespace {
 
-QImage variantOrLessSpecific(const QString &folder, const QString &name)
+constexpr QLatin1String suffix(".png");
+
+/// Whether a file may have this name, which the suffix follows. No file system of ours has names of more than 255
+/// bytes.
+bool canBeFileName(const QString &name)
 {
-    for (QStringList pieces = name.split(u'_'); !pieces.isEmpty(); pieces.removeLast()) {
-        const QImage image(folder + pieces.join(u'_') + QStringLiteral(".png"));
+    constexpr qsizetype maximumBytes = 255 - suffix.size();
+    // A character has at least a byte, so the conversion is needed for short names only.
+    return name.size() <= maximumBytes && QFile::encodeName(name).size() <= maximumBytes;
+}
+
+QImage variantOrLessSpecific(const QString &folder, QString name)
+{
+    for (qsizetype end = name.size(); end >= 0; end = end == 0 ? -1 : name.lastIndexOf(u'_', end - 1)) {
+        name.truncate(end);
+        if (!canBeFileName(name))
+            continue;
+        const QImage image(folder + name + suffix);
         if (!image.isNull())
             return image;
     }
     return {};
 }
 
-// Backslashes separate segments on some systems.
-bool leavesDirectory(const QStringList &segments)
+// Out of the directory, where backslashes separate segments on some systems, or to a name that no file can have.
+bool leadsNowhere(const QStringList &segments)
 {
-    return segments.contains(QStringLiteral("..")) || segments.join(u'/').contains(u'\\');
+    const QString path = segments.join(u'/');
+    return segments.contains(QStringLiteral("..")) || path.contains(u'\\') || path.contains(QChar::Null);
 }
 
 } // namespace
@@ -35,7 +52,7 @@ QImage ThemeControlImageProviderRule::image(const QString &id, const QSize &) co
     if (!id.startsWith(QStringLiteral("ui/")))
         return {};
     QStringList folders = id.split(u'/').mid(1);
-    if (leavesDirectory(folders))
+    if (leadsNowhere(folders))
         return {};
     const QString name = folders.takeLast();
     for (const QString &directory : assetDirectories()) {
@@ -55,10 +72,10 @@ QImage ProductsControlImageProviderRule::image(const QString &id, const QSize &)
     if (!id.startsWith(QStringLiteral("products/")))
         return {};
     const QString product = id.section(u'/', 1, 1);
-    if (leavesDirectory({product}))
+    if (leadsNowhere({product}))
         return {};
     for (const QString &directory : assetDirectories()) {
-        const QImage image(directory + QStringLiteral("/products/") + product + QStringLiteral(".png"));
+        const QImage image(directory + QStringLiteral("/products/") + product + suffix);
         if (!image.isNull())
             return image;
     }

@@ -4,6 +4,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
@@ -91,7 +92,14 @@ void tst_ControlImageProvider::lookup_data()
         << QStringList{"../a.png", "x/b.png", "Placeholder.png"} << none << "ui/x/../../a" << 3;
     QTest::newRow("backslash") << QStringList{"products/a\\b.png", "Placeholder.png"} << none << "products/a\\b" << 2;
     QTest::newRow("zero byte") << placeholder << none << QString("ui/a") + QChar(u'\0') << 1;
+    QTest::newRow("zero byte in a folder") << placeholder << none << QString("ui/x") + QChar(u'\0') + "/a" << 1;
     QTest::newRow("very long id") << placeholder << none << "ui/" + QString(5000, u'a') << 1;
+    const QString longest(251, u'a');
+    QTest::newRow("longest file name") << QStringList{longest + ".png"} << none << "ui/" + longest << 1;
+    QTest::newRow("too long for a file name but for the first piece")
+        << QStringList{"a.png"} << none << "ui/a_" + longest + u'_' + QString(200, u'\u00e4') << 1;
+    QTest::newRow("many folders") << placeholder << none << "ui/" + QString("a/").repeated(2000) + QString(300, u'_')
+                                  << 1;
 }
 
 void tst_ControlImageProvider::lookup()
@@ -111,6 +119,19 @@ void tst_ControlImageProvider::lookup()
 
     ControlImageProvider provider(QUrl::fromLocalFile(base.path()));
     QCOMPARE(requestedSizeOf(provider, id), width == 0 ? QSize(0, 0) : QSize(width, 1));
+}
+
+void tst_ControlImageProvider::manyVariants()
+{
+    const QTemporaryDir base;
+    QVERIFY(writePicture(base.path() + QStringLiteral("/asset/a.png"), 5));
+    ControlImageProvider provider(QUrl::fromLocalFile(base.path()));
+    const QString id = QStringLiteral("ui/a") + QString(200'000, u'_');
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(requestedSizeOf(provider, id), QSize(5, 1));
+    // Trying each of them takes minutes.
+    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void tst_ControlImageProvider::noAssetDirectory()

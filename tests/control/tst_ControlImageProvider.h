@@ -11,6 +11,7 @@ private Q_SLOTS:
     void cleanup();
     void lookup_data();
     void lookup();
+    void manyVariants();
     void noAssetDirectory();
     void baseUrlThatIsNoLocalFile();
     void bundleStandsInForTheFirstDirectory();
