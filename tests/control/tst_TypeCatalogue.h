@@ -16,6 +16,8 @@ private Q_SLOTS:
     void absentListIsTrue();
     void creatableNatives_data();
     void creatableNatives();
+    void othersCanBeRead_data();
+    void othersCanBeRead();
     void uncreatable_data();
     void uncreatable();
     void enumValues();
