@@ -6,7 +6,7 @@
 #include <QtCore/QVariantMap>
 #include <QtGui/QFontMetricsF>
 
-#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace tamble::client {
@@ -114,8 +114,8 @@ QList<bool> RBodeplotAxis::readableOf(const QList<FrameLabel> &labels) const
     const QString family = m_style ? m_style->property("fontFamily").toString() : QString();
     if (!family.isEmpty())
         font.setFamily(family);
-    const int pixelSize = int(m_style ? m_style->property("fontSize").toDouble() : m_fontSizeAxis);
-    font.setPixelSize(std::clamp(pixelSize, 1, 1000));
+    const double pixelSize = m_style ? m_style->property("fontSize").toDouble() : m_fontSizeAxis;
+    font.setPixelSize(int(std::fmin(std::fmax(pixelSize, 1.0), 1000.0)));
     const QFontMetricsF metrics(font);
     const double space = metrics.horizontalAdvance(u' ');
     QList<double> extents;

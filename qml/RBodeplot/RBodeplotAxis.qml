@@ -35,7 +35,7 @@ RBodeplotAxisTemplate {
             text: modelData.text
             color: root.ssColor
             font.family: looks.fontFamily
-            font.pixelSize: looks.fontSize
+            font.pixelSize: RThemeValues.fontPixels(looks.fontSize)
         }
     }
     // qmllint enable unqualified

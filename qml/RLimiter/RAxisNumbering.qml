@@ -22,7 +22,7 @@ Item {
     property color ssColor: root.RStyleSet.props.foreground
 
     readonly property bool horizontal: root.orientation === Qt.Horizontal
-    readonly property font numberFont: Qt.font({ family: RThemeValues.fontFamily, pixelSize: root.fontSize })
+    readonly property font numberFont: Qt.font({ family: RThemeValues.fontFamily, pixelSize: RThemeValues.fontPixels(root.fontSize) })
 
     implicitWidth: (root.horizontal ? 80 : 28) * RThemeValues.unit
     implicitHeight: (root.horizontal ? 16 : 80) * RThemeValues.unit

@@ -17,4 +17,9 @@ QtObject {
     readonly property int fontSizeL: theme.fontSizeL
     readonly property int fontSizeXL: theme.fontSizeXL
     readonly property int fontSizeXXL: theme.fontSizeXXL
+
+    /*! The size of a font that a page asks for, within what can be drawn without filling the memory. */
+    function fontPixels(size: real): int {
+        return Math.max(1, Math.min(1000, size || 1))
+    }
 }

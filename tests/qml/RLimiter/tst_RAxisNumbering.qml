@@ -40,6 +40,23 @@ ThemedTestCase {
         }
     }
 
+    function test_fontSize_data() {
+        return [
+            { tag: "given", size: 9.0, pixels: 9 },
+            { tag: "gigantic", size: 1e9, pixels: 1000 },
+            { tag: "none", size: 0, pixels: 1 },
+            { tag: "no number", size: NaN, pixels: 1 },
+        ]
+    }
+    function test_fontSize(data) {
+        const axis = make("RAxisNumbering { width: 400 }")
+        axis.fontSize = data.size
+        compare(numbersOf(axis)[0].font.pixelSize, data.pixels)
+        const frame = make("RBodeplotAxis { width: 400 }")
+        frame.fontSizeAxis = data.size
+        compare(numbersOf(frame)[0].font.pixelSize, data.pixels)
+    }
+
     function test_gridLines_data() {
         return [
             { tag: "default", body: "", columns: 9, rows: 9, zero: 1 },
