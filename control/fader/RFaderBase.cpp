@@ -37,8 +37,10 @@ RFaderBase::RFaderBase(QQuickItem *parent)
 }
 
 // The base would take the touch area out of the window, and so the finger from it, when nothing is left to let go.
+// Nor must the fader answer that it leaves a disabled panel, which enables it once more.
 RFaderBase::~RFaderBase()
 {
+    disconnect(this, nullptr, this, nullptr);
     delete m_touchArea;
 }
 

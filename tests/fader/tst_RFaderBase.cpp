@@ -54,6 +54,13 @@ void tst_RFaderBase::fineDrag()
     QCOMPARE(committed.count(), 1);
 }
 
+void tst_RFaderBase::goesFromADisabledPanel()
+{
+    Fixture test;
+    test.window.contentItem()->setEnabled(false);
+    delete test.fader; // its end is no change of its state, for which it would let go of a touch area that is gone
+}
+
 void tst_RFaderBase::fineDragIgnoresDetents()
 {
     Fixture test;

@@ -8,6 +8,7 @@ class tst_RFaderBase : public QObject
 
 private Q_SLOTS:
     void fineDrag();
+    void goesFromADisabledPanel();
     void fineDragIgnoresDetents();
     void accessible();
 };
