@@ -3,8 +3,6 @@
 #include "DecimalText.h"
 #include "PlainValue.h"
 
-#include <QStringList>
-
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -14,6 +12,8 @@ namespace tamble::client {
 namespace {
 
 constexpr QChar noBreakSpace(0x00A0);
+constexpr QChar ellipsis(0x2026);
+constexpr qsizetype maximumListText = 100'000; // characters behind which no element begins
 
 bool isSameText(QStringView left, QStringView right)
 {
@@ -93,10 +93,21 @@ QString RValueConverter::toText(const QVariant &value) const
     if (const QString *text = std::get_if<QString>(&plain))
         return *text;
 
-    QStringList elements;
-    for (const QVariant &element : std::get<QVariantList>(plain))
-        elements += toText(element);
-    return elements.join(QStringLiteral(", "));
+    return listText(std::get<QVariantList>(plain));
+}
+
+// Thousands of elements, each with a unit of thousands of characters, are nothing to read.
+QString RValueConverter::listText(const QVariantList &list) const
+{
+    QString text;
+    for (const QVariant &element : list) {
+        if (text.size() > maximumListText)
+            return text + QStringLiteral(", ") + ellipsis;
+        if (&element != &list.front())
+            text += QStringLiteral(", ");
+        text += toText(element);
+    }
+    return text;
 }
 
 QVariant RValueConverter::fromText(const QString &text) const

@@ -54,7 +54,7 @@ public:
 
     /// Text of `value`. The first that applies: nullText; the entry of texts; "On" or "Off" for a bool; a number with 6
     /// significant digits between prefix and unit, infinities as a sign alone; a text as it is; the texts of a list's
-    /// elements joined with ", ".
+    /// elements joined with ", ", those behind 100,000 characters as "…".
     Q_INVOKABLE virtual QString toText(const QVariant &value) const;
 
     /// Value meant by `text`, undefined when there is none. Blanks around the text do not count, nor does the case of
@@ -94,6 +94,8 @@ protected:
     QStringView withoutPrefixAndUnit(QStringView text) const;
 
 private:
+    QString listText(const QVariantList &list) const;
+
     QVariant m_value;
     QString m_displayText;
     QString m_unit;

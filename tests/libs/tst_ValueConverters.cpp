@@ -99,6 +99,8 @@ void tst_ValueConverters::baseText_data()
     add("list", {}, QVariantList{1, true, u"x"_s, QVariant()}, u"1, On, x, \u2013"_s);
     add("empty list", {}, QVariantList(), u"\u2013"_s);
     add("string list", {}, QStringList{u"a"_s, u"b"_s}, u"a, b"_s);
+    const QString longText(60'000, u'x');
+    add("list of long texts", {}, QStringList{longText, longText, u"a"_s}, u"%1, %1, \u2026"_s.arg(longText));
     add("type with a text", {}, QUrl(u"http://amp/"_s), u"http://amp/"_s);
     add("type without a text", {}, QVariant::fromValue<QObject *>(this), u"\u2013"_s);
     add("entry for an int", texts, 0, u"Off"_s);
