@@ -8,6 +8,7 @@ file(GLOB_RECURSE cpp_files CONFIGURE_DEPENDS
     ${PROJECT_SOURCE_DIR}/asset/*.cpp
     ${PROJECT_SOURCE_DIR}/benchmarks/*.cpp ${PROJECT_SOURCE_DIR}/benchmarks/*.h
     ${PROJECT_SOURCE_DIR}/control/*.cpp ${PROJECT_SOURCE_DIR}/control/*.h
+    ${PROJECT_SOURCE_DIR}/fuzzers/*.cpp ${PROJECT_SOURCE_DIR}/fuzzers/*.h
     ${PROJECT_SOURCE_DIR}/gallery/*.cpp ${PROJECT_SOURCE_DIR}/gallery/*.h
     ${PROJECT_SOURCE_DIR}/libs/*.cpp ${PROJECT_SOURCE_DIR}/libs/*.h
     ${PROJECT_SOURCE_DIR}/tests/*.cpp ${PROJECT_SOURCE_DIR}/tests/*.h
