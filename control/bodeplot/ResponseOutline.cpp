@@ -17,19 +17,20 @@ constexpr double halfTurn = 180.0;
 
 /// How far, in pixels, a value may be from the drawn line and from the edge of the area. Most of a filter's curve is
 /// almost straight, and leaving out the vertices of such stretches takes most of the triangles off a plot. A twentieth
-/// of a pixel cannot be seen; the edge of the area lies below the line.
+/// of a pixel cannot be seen; the edge of the area lies below the line, so that only its shade counts, which depends on
+/// the ratio to its height.
 constexpr double lineTolerance = 0.05;
 constexpr double areaTolerance = 0.4;
+constexpr double shadeTolerance = 0.01;
 
 /// Hands on the points of a line, from left to right or from right to left, but those that a straight line between
-/// others passes within the tolerance.
+/// others passes within the sink's tolerance.
 template <typename Sink>
 class StraightWriter
 {
 public:
-    StraightWriter(Sink sink, double tolerance)
+    explicit StraightWriter(Sink sink)
         : m_sink(std::move(sink))
-        , m_tolerance(tolerance)
     {}
 
     void add(const QPointF &point)
@@ -41,7 +42,7 @@ public:
             return;
         }
         const double slope = slopeTo(point);
-        const double slack = m_tolerance / std::abs(point.x() - m_anchor.x());
+        const double slack = m_sink.toleranceAt(point) / std::abs(point.x() - m_anchor.x());
         m_lowest = std::max(m_lowest, slope - slack);
         m_highest = std::min(m_highest, slope + slack);
         m_waiting = point;
@@ -72,7 +73,6 @@ private:
     }
 
     Sink m_sink;
-    double m_tolerance;
     State m_state = State::Empty;
     QPointF m_anchor;
     QPointF m_waiting; ///< The last point, on which it is not decided yet.
@@ -84,6 +84,7 @@ struct RunAppender
 {
     void point(const QPointF &point) { outline.points.push_back(point); }
     void endRun() { outline.ends.push_back(outline.points.size()); }
+    double toleranceAt(const QPointF &) const { return lineTolerance; }
 
     PolylineRuns &outline;
 };
@@ -94,7 +95,7 @@ class OutlineWriter
 public:
     OutlineWriter(const ResponseCurve &curve, const ResponseView &view, PolylineRuns &outline)
         : m_curve(curve)
-        , m_line({outline}, lineTolerance)
+        , m_line({outline})
         // Rows are whole pixels, the item need not be.
         , m_stretch(view.size.height() / view.rows())
     {
@@ -221,6 +222,11 @@ public:
         m_last.reset();
     }
 
+    double toleranceAt(const QPointF &position) const
+    {
+        return std::clamp(std::abs(position.y() - m_axis) * shadeTolerance, lineTolerance, areaTolerance);
+    }
+
 private:
     // In the order of the way.
     void crossings(const QPointF &from, const QPointF &to)
@@ -297,7 +303,7 @@ void responseOutline(const ResponseCurve &curve, const ResponseView &view, Polyl
 void areaOutline(const PolylineRuns &line, const QRectF &frame, double axisY, PolylineRuns &outline)
 {
     outline.clear();
-    StraightWriter writer(CrossingWriter(frame, axisY, outline), areaTolerance);
+    StraightWriter writer(CrossingWriter(frame, axisY, outline));
     for (std::size_t i = 0; i < line.count(); ++i) {
         for (const QPointF &point : line.run(i))
             writer.add(point);

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "plot/AreaStrip.h"
 #include "plot/CustomMaterial.h"
 
-#include <QtCore/QPointF>
 #include <QtQuick/QSGGeometry>
 #include <QtQuick/QSGGeometryNode>
 
@@ -10,15 +10,6 @@
 #include <vector>
 
 namespace tamble::client {
-
-/// Strength of an area's colour, 0 to 1, where it meets the curve and where it meets the axis.
-struct AreaSaturation
-{
-    double nearCurve = 1.0;
-    double nearAxis = 1.0;
-
-    bool operator==(const AreaSaturation &) const = default;
-};
 
 /// Scene-graph node of the area between a curve and a horizontal axis, fading from one to the other; owns geometry and
 /// material and updates them in place.
@@ -41,10 +32,9 @@ public:
 private:
     QSGGeometry m_geometry;
     CustomMaterial m_material;
-    std::vector<QSGGeometry::TexturedPoint2D> m_vertices;
-    float m_axisY = 0.0f;
-    float m_nearCurve = 1.0f;
-    float m_nearAxis = 1.0f;
+    std::vector<AreaVertex> m_vertices;
+    double m_axisY = 0.0;
+    AreaSaturation m_saturation;
 };
 
 } // namespace tamble::client

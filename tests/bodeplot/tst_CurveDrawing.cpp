@@ -7,6 +7,7 @@
 #include <QtQuick/QQuickWindow>
 #include <QtTest/QTest>
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -20,6 +21,14 @@ const QByteArray colours = "style: QtObject { property color aggregatedCurveColo
                            "property color selectedCurveColor: 'transparent'\n"
                            "property real areaSaturationNearAggregatedCurve: 1\n"
                            "property real areaSaturationNearxAchsis: 1 }\n";
+
+/// Pixel y of a line at a place between two of its points.
+double lineAt(const PolylineRuns &line, double x)
+{
+    const auto right = std::ranges::lower_bound(line.points, x, {}, &QPointF::x);
+    const QPointF left = *(right - 1);
+    return left.y() + (right->y() - left.y()) * (x - left.x()) / (right->x() - left.x());
+}
 
 } // namespace
 
@@ -124,4 +133,55 @@ void CurveDrawingTest::drawnPixels()
     const int distance = std::abs(drawn.red() - color.red()) + std::abs(drawn.green() - color.green()) +
                          std::abs(drawn.blue() - color.blue());
     QVERIFY2(distance < 60, qPrintable(drawn.name()));
+}
+
+void CurveDrawingTest::areaFadesAlongEachColumn_data()
+{
+    QTest::addColumn<QByteArray>("filters");
+    QTest::addColumn<QPoint>("flank");
+
+    QTest::newRow("gentle") << QByteArray("{ freq: 632.4555; gain: 10; quality: 0.5 }") << QPoint(20, 280);
+    QTest::newRow("steep") << QByteArray("{ freq: 632.4555; gain: 18; quality: 4 }") << QPoint(20, 280);
+    QTest::newRow("a pixel wide") << QByteArray("{ freq: 632.4555; gain: 18; quality: 40 }") << QPoint(130, 170);
+    QTest::newRow("below the axis") << QByteArray("{ freq: 632.4555; gain: -18; quality: 6 }") << QPoint(20, 280);
+}
+
+void CurveDrawingTest::areaFadesAlongEachColumn()
+{
+    if (!QGuiApplication::platformName().contains(QLatin1String("xcb")))
+        QSKIP("Needs a display.");
+    QFETCH(QByteArray, filters);
+    QFETCH(QPoint, flank);
+    const Page page("style: QtObject { property color aggregatedAreaColor: '#0000ff'\n"
+                    "property real areaSaturationNearAggregatedCurve: 0.8\n"
+                    "property real areaSaturationNearxAchsis: 0.1 }\n"
+                    "calculationItems: RBodeplotEqFilter " +
+                    filters);
+    QQuickWindow window;
+    window.resize(300, 400);
+    static_cast<QQuickItem *>(page.root.get())->setParentItem(window.contentItem());
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QImage image = window.grabWindow();
+    const int ratio = qRound(window.effectiveDevicePixelRatio());
+    constexpr double axis = 200.0;
+    double worst = 0.0;
+    QPoint place;
+    for (int column = flank.x() * ratio; column < flank.y() * ratio; ++column) {
+        const double x = (column + 0.5) / ratio;
+        const double lineY = lineAt(page.curve->lines().aggregated().points, x);
+        for (int row = 0; row < image.height(); ++row) {
+            const double y = (row + 0.5) / ratio;
+            const double share = (axis - y) / (axis - lineY);
+            if (std::abs(lineY - y) < 1.0 || std::abs(axis - y) < 1.0 || share < 0.0 || share > 1.0)
+                continue;
+            const double expected = 0.1 + 0.7 * share;
+            const double error = std::abs(1.0 - image.pixelColor(column, row).redF() - expected);
+            if (error > worst) {
+                worst = error;
+                place = {column, row};
+            }
+        }
+    }
+    QVERIFY2(worst < 0.02, qPrintable(QStringLiteral("%1 at %2, %3").arg(worst).arg(place.x()).arg(place.y())));
 }

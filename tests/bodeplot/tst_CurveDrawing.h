@@ -13,4 +13,6 @@ private Q_SLOTS:
     void nothingIsRewrittenWithoutChange();
     void drawnPixels_data();
     void drawnPixels();
+    void areaFadesAlongEachColumn_data();
+    void areaFadesAlongEachColumn();
 };
