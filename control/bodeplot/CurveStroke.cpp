@@ -2,6 +2,7 @@
 
 #include "bodeplot/StyleObject.h"
 #include "plot/SmoothStrokeNode.h"
+#include "scenegraph/SoftwarePicture.h"
 
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
@@ -27,7 +28,12 @@ void CurveStroke::setLines(const QList<QList<QPointF>> &lines)
     m_lines = lines;
 }
 
-QSGNode *CurveStroke::handOver(QSGNode *oldNode)
+QSGNode *CurveStroke::handOver(const QQuickItem &item, QSGNode *oldNode)
+{
+    return SoftwarePicture::updated(item, oldNode, [this](QSGNode *old) { return updateStroke(old); });
+}
+
+QSGNode *CurveStroke::updateStroke(QSGNode *oldNode)
 {
     auto *node = oldNode ? static_cast<SmoothStrokeNode *>(oldNode) : new SmoothStrokeNode;
     m_colorStale = false;

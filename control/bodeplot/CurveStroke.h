@@ -25,9 +25,11 @@ public:
     bool isStale() const { return m_colorStale || m_geometryStale; }
     /// For the item's paint-node update: hands over what changed, to a new node everything. A new colour touches the
     /// material only.
-    QSGNode *handOver(QSGNode *oldNode);
+    QSGNode *handOver(const QQuickItem &item, QSGNode *oldNode);
 
 private:
+    QSGNode *updateStroke(QSGNode *oldNode);
+
     QList<QList<QPointF>> m_lines;
     QColor m_color;
     StrokeWidth m_width;

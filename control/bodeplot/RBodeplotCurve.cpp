@@ -1,6 +1,7 @@
 #include "bodeplot/RBodeplotCurve.h"
 
 #include "bodeplot/StyleObject.h"
+#include "scenegraph/SoftwarePicture.h"
 
 #include <tamblecommon-math/FilterAlgorithm.h>
 
@@ -268,14 +269,16 @@ void RBodeplotCurve::updatePolish()
 
 QSGNode *RBodeplotCurve::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
 {
-    auto *node = oldNode ? static_cast<ResponseCurveNode *>(oldNode) : new ResponseCurveNode;
-    node->show({.lines = m_lines,
-                .records = m_filters.set().records(),
-                .selectedRecord = m_filters.selectedRecord(),
-                .style = m_curveStyle,
-                .size = size(),
-                .pixelRatio = window()->effectiveDevicePixelRatio()});
-    return node;
+    return SoftwarePicture::updated(*this, oldNode, [this](QSGNode *old) {
+        auto *node = old ? static_cast<ResponseCurveNode *>(old) : new ResponseCurveNode;
+        node->show({.lines = m_lines,
+                    .records = m_filters.set().records(),
+                    .selectedRecord = m_filters.selectedRecord(),
+                    .style = m_curveStyle,
+                    .size = size(),
+                    .pixelRatio = window()->effectiveDevicePixelRatio()});
+        return node;
+    });
 }
 
 } // namespace tamble::client

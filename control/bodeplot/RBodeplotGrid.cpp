@@ -4,6 +4,7 @@
 #include "bodeplot/FrameGridLines.h"
 #include "bodeplot/StyleObject.h"
 #include "plot/StrokeNode.h"
+#include "scenegraph/SoftwarePicture.h"
 
 #include <QtCore/QDebug>
 #include <QtQuick/QQuickWindow>
@@ -85,6 +86,11 @@ void RBodeplotGrid::updatePolish()
 }
 
 QSGNode *RBodeplotGrid::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
+{
+    return SoftwarePicture::updated(*this, oldNode, [this](QSGNode *old) { return updateLines(old); });
+}
+
+QSGNode *RBodeplotGrid::updateLines(QSGNode *oldNode) const
 {
     QSGNode *root = oldNode ? oldNode : new QSGNode;
     while (root->childCount() < KindCount)

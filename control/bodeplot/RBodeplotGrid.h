@@ -90,6 +90,7 @@ private:
         bool operator==(const LineWidths &) const = default;
     };
 
+    QSGNode *updateLines(QSGNode *oldNode) const;
     void invalidateLines();
     void warnWithoutZero() const;
     bool showsZero() const;

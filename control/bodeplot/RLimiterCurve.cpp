@@ -76,7 +76,7 @@ void RLimiterCurve::updatePolish()
 
 QSGNode *RLimiterCurve::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
 {
-    return m_stroke.handOver(oldNode);
+    return m_stroke.handOver(*this, oldNode);
 }
 
 void RLimiterCurve::updateLine()

@@ -74,7 +74,7 @@ void RSimpleCurve::updatePolish()
 
 QSGNode *RSimpleCurve::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
 {
-    return m_stroke.handOver(oldNode);
+    return m_stroke.handOver(*this, oldNode);
 }
 
 void RSimpleCurve::collectPoints()

@@ -1,6 +1,7 @@
 #include "decoration/RTintedImage.h"
 
 #include "decoration/TintMaterial.h"
+#include "scenegraph/SoftwarePicture.h"
 
 #include <QtGui/QPainter>
 #include <QtQml/QQmlContext>
@@ -76,8 +77,7 @@ QSGNode *RTintedImage::updatePaintNode(QSGNode *old, UpdatePaintNodeData *data)
     }
     if (!m_tinted)
         return QQuickImage::updatePaintNode(old, data);
-    const bool shaders = window()->rendererInterface()->graphicsApi() != QSGRendererInterface::Software;
-    return shaders ? updateTintedNode(old, data) : updatePaintedNode(old);
+    return isDrawnInSoftware(*this) ? updatePaintedNode(old) : updateTintedNode(old, data);
 }
 
 // The image's own node, which knows about fill modes, mirroring and atlas textures, with another material.

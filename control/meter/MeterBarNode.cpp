@@ -1,6 +1,9 @@
 #include "meter/MeterBarNode.h"
 
+#include "scenegraph/PictureCanvas.h"
+
 #include <algorithm>
+#include <span>
 
 namespace tamble::client {
 
@@ -45,6 +48,17 @@ void MeterBarNode::setBar(const MeterSegments &segments, float breadth, bool hor
         markDirty(DirtyMaterial);
     }
     markDirty(DirtyGeometry);
+}
+
+void MeterBarNode::paint(PictureCanvas &canvas) const
+{
+    const QSGGeometry::ColoredPoint2D *vertex = m_geometry.vertexDataAsColoredPoint2D();
+    for (int segment = 0; segment < SegmentCount; ++segment, vertex += VerticesPerSegment) {
+        canvas.setColor(QColor::fromRgba(qUnpremultiply(qRgba(vertex->r, vertex->g, vertex->b, vertex->a))));
+        canvas.fillStrip(std::span(vertex, VerticesPerSegment), [](const QSGGeometry::ColoredPoint2D &corner) {
+            return CanvasVertex{.x = corner.x, .y = corner.y};
+        });
+    }
 }
 
 } // namespace tamble::client

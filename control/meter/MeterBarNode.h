@@ -1,6 +1,7 @@
 #pragma once
 
 #include "meter/MeterSegments.h"
+#include "scenegraph/PictureShape.h"
 
 #include <QtGui/QColor>
 #include <QtQuick/QSGGeometryNode>
@@ -12,13 +13,15 @@ using MeterColors = std::array<QColor, MeterZoneCount>;
 
 /// A meter's bar as coloured rectangles. Its own node each, but one material, so that walls of meters are drawn at
 /// once.
-class MeterBarNode : public QSGGeometryNode
+class MeterBarNode : public QSGGeometryNode, public PictureShape
 {
 public:
     MeterBarNode();
 
     /// Draws `segments` across `breadth` pixels, side by side when `horizontal`.
     void setBar(const MeterSegments &segments, float breadth, bool horizontal, const MeterColors &colors);
+
+    void paint(PictureCanvas &canvas) const override;
 
 private:
     QSGGeometry m_geometry;

@@ -1,5 +1,7 @@
 #include "meter/RMeterBar.h"
 
+#include "scenegraph/SoftwarePicture.h"
+
 #include <QtQuick/QQuickWindow>
 
 #include <utility>
@@ -140,6 +142,11 @@ MeterSegments RMeterBar::currentSegments() const
 }
 
 QSGNode *RMeterBar::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
+{
+    return SoftwarePicture::updated(*this, oldNode, [this](QSGNode *old) { return updateBar(old); });
+}
+
+QSGNode *RMeterBar::updateBar(QSGNode *oldNode)
 {
     if (!m_meter || width() <= 0.0 || height() <= 0.0) {
         delete oldNode;

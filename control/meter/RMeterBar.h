@@ -80,6 +80,7 @@ private:
     void draw() override { update(); }
     void follow();
     void repaint();
+    QSGNode *updateBar(QSGNode *oldNode);
     bool liesDown() const;
     double pixelRatio() const;
     MeterSegments currentSegments() const;

@@ -1,6 +1,7 @@
 #include "plot/CurveAreaNode.h"
 
 #include "plot/VertexStore.h"
+#include "scenegraph/PictureCanvas.h"
 
 namespace tamble::client {
 
@@ -37,6 +38,15 @@ void CurveAreaNode::end()
 {
     storeStrip<AreaVertex>(m_geometry, m_vertices);
     markDirty(DirtyGeometry);
+}
+
+void CurveAreaNode::paint(PictureCanvas &canvas) const
+{
+    const CustomMaterialFields &fields = m_material.fields();
+    canvas.setColor(QColor::fromRgbF(fields.red, fields.green, fields.blue, fields.alpha), CanvasStrength::Product);
+    canvas.fillStrip<AreaVertex>(m_vertices, [](const AreaVertex &vertex) {
+        return CanvasVertex{vertex.x, vertex.y, vertex.weightedHeight, vertex.inverseHeight};
+    });
 }
 
 } // namespace tamble::client

@@ -2,6 +2,7 @@
 
 #include "plot/AreaStrip.h"
 #include "plot/CustomMaterial.h"
+#include "scenegraph/PictureShape.h"
 
 #include <QtQuick/QSGGeometry>
 #include <QtQuick/QSGGeometryNode>
@@ -13,7 +14,7 @@ namespace tamble::client {
 
 /// Scene-graph node of the area between a curve and a horizontal axis, fading from one to the other; owns geometry and
 /// material and updates them in place.
-class CurveAreaNode : public QSGGeometryNode
+class CurveAreaNode : public QSGGeometryNode, public PictureShape
 {
 public:
     CurveAreaNode();
@@ -25,6 +26,8 @@ public:
     void begin(double axisY, const AreaSaturation &saturation);
     void add(std::span<const QPointF> curve);
     void end();
+
+    void paint(PictureCanvas &canvas) const override;
 
     /// Number of vertices that draw something.
     int usedVertexCount() const { return int(m_vertices.size()); }

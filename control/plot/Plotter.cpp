@@ -2,6 +2,7 @@
 
 #include "plot/SmoothStrokeNode.h"
 #include "plot/StrokeNode.h"
+#include "scenegraph/SoftwarePicture.h"
 
 #include <QtQuick/QQuickWindow>
 
@@ -55,6 +56,11 @@ void Plotter::itemChange(ItemChange change, const ItemChangeData &value)
 }
 
 QSGNode *Plotter::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
+{
+    return SoftwarePicture::updated(*this, oldNode, [this](QSGNode *old) { return updateLines(old); });
+}
+
+QSGNode *Plotter::updateLines(QSGNode *oldNode)
 {
     const bool isWide = m_lineWidth > 1.0;
     if (oldNode && m_nodeIsWide != isWide) {

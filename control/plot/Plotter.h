@@ -42,6 +42,7 @@ protected:
     QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
 
 private:
+    QSGNode *updateLines(QSGNode *oldNode);
     QSGNode *updateThinNode(QSGNode *oldNode, bool linesStale) const;
     QSGNode *updateWideNode(QSGNode *oldNode, bool linesStale) const;
 

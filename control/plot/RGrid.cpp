@@ -1,6 +1,7 @@
 #include "plot/RGrid.h"
 
 #include "plot/StrokeNode.h"
+#include "scenegraph/SoftwarePicture.h"
 
 #include <QtQuick/QQuickWindow>
 
@@ -48,6 +49,11 @@ void RGrid::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 }
 
 QSGNode *RGrid::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
+{
+    return SoftwarePicture::updated(*this, oldNode, [this](QSGNode *old) { return updateLines(old); });
+}
+
+QSGNode *RGrid::updateLines(QSGNode *oldNode)
 {
     QSGNode *root = oldNode ? oldNode : new QSGNode;
     if (!std::exchange(m_linesStale, false) && oldNode)

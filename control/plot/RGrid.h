@@ -42,6 +42,7 @@ protected:
 
 private:
     void assignLayout(QPointer<RGridLayout> &stored, RGridLayout *layout, void (RGrid::*changed)());
+    QSGNode *updateLines(QSGNode *oldNode);
     void invalidateLines();
 
     QPointer<RGridLayout> m_horizontal;

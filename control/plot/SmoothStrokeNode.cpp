@@ -1,6 +1,7 @@
 #include "plot/SmoothStrokeNode.h"
 
 #include "plot/VertexStore.h"
+#include "scenegraph/PictureCanvas.h"
 
 #include <array>
 
@@ -51,6 +52,14 @@ void SmoothStrokeNode::end()
     markDirty(DirtyGeometry);
     if (m_material.setReach(float(m_width.reach())))
         markDirty(DirtyMaterial);
+}
+
+void SmoothStrokeNode::paint(PictureCanvas &canvas) const
+{
+    canvas.setColor(m_material.color(), CanvasStrength::Coverage);
+    canvas.fillStrip<StrokeVertex>(m_vertices, [reach = double(m_material.reach())](const StrokeVertex &vertex) {
+        return CanvasVertex{vertex.x, vertex.y, vertex.offset, reach};
+    });
 }
 
 } // namespace tamble::client

@@ -2,6 +2,7 @@
 
 #include "plot/SmoothStroke.h"
 #include "plot/SmoothStrokeMaterial.h"
+#include "scenegraph/PictureShape.h"
 
 #include <QtQuick/QSGGeometry>
 #include <QtQuick/QSGGeometryNode>
@@ -12,7 +13,7 @@
 namespace tamble::client {
 
 /// Scene-graph node of a line with smooth edges, in one colour; owns geometry and material and updates them in place.
-class SmoothStrokeNode : public QSGGeometryNode
+class SmoothStrokeNode : public QSGGeometryNode, public PictureShape
 {
 public:
     SmoothStrokeNode();
@@ -24,6 +25,8 @@ public:
     void begin(const StrokeWidth &width);
     void add(std::span<const QPointF> points);
     void end();
+
+    void paint(PictureCanvas &canvas) const override;
 
     /// Number of vertices that draw something. The geometry may hold more, so that it need not be allocated for
     /// every change.

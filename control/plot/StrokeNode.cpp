@@ -1,5 +1,7 @@
 #include "plot/StrokeNode.h"
 
+#include "scenegraph/PictureCanvas.h"
+
 namespace tamble::client {
 
 namespace {
@@ -48,6 +50,20 @@ void StrokeNode::setStroke(const StrokeGeometry &stroke)
     for (const QPointF &point : stroke.vertices)
         (vertex++)->set(float(point.x()), float(point.y()));
     markDirty(DirtyGeometry);
+}
+
+void StrokeNode::paint(PictureCanvas &canvas) const
+{
+    canvas.setColor(m_material.color());
+    if (m_stroke.mode != StrokeMode::Triangles) {
+        canvas.drawThinLines(m_stroke.vertices, m_stroke.mode == StrokeMode::LineStrip);
+        return;
+    }
+    const auto corner = [&](qsizetype i) {
+        return CanvasVertex{.x = m_stroke.vertices[i].x(), .y = m_stroke.vertices[i].y()};
+    };
+    for (qsizetype i = 2; i < m_stroke.vertices.size(); i += 3)
+        canvas.fillTriangle({corner(i - 2), corner(i - 1), corner(i)});
 }
 
 } // namespace tamble::client

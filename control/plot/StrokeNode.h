@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plot/StrokeGeometry.h"
+#include "scenegraph/PictureShape.h"
 
 #include <QtQuick/QSGFlatColorMaterial>
 #include <QtQuick/QSGGeometry>
@@ -9,7 +10,7 @@
 namespace tamble::client {
 
 /// Scene-graph node of lines with hard edges, in one colour; owns geometry and material and updates them in place.
-class StrokeNode : public QSGGeometryNode
+class StrokeNode : public QSGGeometryNode, public PictureShape
 {
 public:
     StrokeNode();
@@ -18,6 +19,8 @@ public:
     void setColor(const QColor &color);
     /// Rewrites the vertices only when the stroke differs, and reallocates them only when their number does.
     void setStroke(const StrokeGeometry &stroke);
+
+    void paint(PictureCanvas &canvas) const override;
 
 private:
     QSGGeometry m_geometry;

@@ -1,3 +1,5 @@
+#include "scenegraph/tst_PictureCanvas.h"
+#include "tst_AreaStrip.h"
 #include "tst_AxisTicks.h"
 #include "tst_CustomMaterial.h"
 #include "tst_GridValues.h"
@@ -11,6 +13,8 @@
 int main(int argc, char **argv)
 {
     const QGuiApplication application(argc, argv);
+    tst_AreaStrip areaStrip;
+    tst_PictureCanvas pictureCanvas;
     tst_AxisTicks axisTicks;
     tst_GridValues gridValues;
     tst_StrokeGeometry strokeGeometry;
@@ -18,8 +22,8 @@ int main(int argc, char **argv)
     tst_Plotters plotters;
     tst_CustomMaterial customMaterial;
     int failures = 0;
-    for (QObject *test : std::initializer_list<QObject *>{&axisTicks, &gridValues, &strokeGeometry, &plotHelpers,
-                                                          &plotters, &customMaterial})
+    for (QObject *test : std::initializer_list<QObject *>{&areaStrip, &pictureCanvas, &axisTicks, &gridValues,
+                                                          &strokeGeometry, &plotHelpers, &plotters, &customMaterial})
         failures += QTest::qExec(test, argc, argv);
     return failures;
 }
