@@ -1,25 +1,41 @@
 pragma Singleton
 
 import QtQuick
+import "../RTheme"
 
 /*! What controls read of the theme object, as typed properties: bindings to these are compiled, those to a context
-    property are not. */
+    property are not. Before a page installs a theme, and for what the page's own lacks, the defaults of RTheme count. */
 QtObject {
+    id: root
+
+    readonly property RTheme defaults: RTheme {}
+    /*! Asked for its type first: a name that nobody has set yet cannot be read. */
+    readonly property var source: typeof theme === "undefined" ? root.defaults : theme ?? root.defaults
+
     /*! Pixels per density-independent unit. */
-    readonly property real unit: theme.dp(1)
-    readonly property bool hoverEnabled: theme.hoverEnabled
-    readonly property int renderType: theme.nativeRendering ? Text.NativeRendering : Text.QtRendering
-    readonly property string fontFamily: theme.fontFamily
-    readonly property int fontSizeXXS: theme.fontSizeXXS
-    readonly property int fontSizeXS: theme.fontSizeXS
-    readonly property int fontSizeS: theme.fontSizeS
-    readonly property int fontSizeM: theme.fontSizeM
-    readonly property int fontSizeL: theme.fontSizeL
-    readonly property int fontSizeXL: theme.fontSizeXL
-    readonly property int fontSizeXXL: theme.fontSizeXXL
+    readonly property real unit: typeof root.source.dp === "function" ? root.source.dp(1) : root.defaults.dp(1)
+    readonly property bool hoverEnabled: root.source.hoverEnabled ?? root.defaults.hoverEnabled
+    readonly property int renderType: root.source.nativeRendering ?? root.defaults.nativeRendering ? Text.NativeRendering : Text.QtRendering
+    readonly property string fontFamily: root.source.fontFamily ?? root.defaults.fontFamily
+    readonly property int fontSizeXXS: root.source.fontSizeXXS ?? root.defaults.fontSizeXXS
+    readonly property int fontSizeXS: root.source.fontSizeXS ?? root.defaults.fontSizeXS
+    readonly property int fontSizeS: root.source.fontSizeS ?? root.defaults.fontSizeS
+    readonly property int fontSizeM: root.source.fontSizeM ?? root.defaults.fontSizeM
+    readonly property int fontSizeL: root.source.fontSizeL ?? root.defaults.fontSizeL
+    readonly property int fontSizeXL: root.source.fontSizeXL ?? root.defaults.fontSizeXL
+    readonly property int fontSizeXXL: root.source.fontSizeXXL ?? root.defaults.fontSizeXXL
 
     /*! The size of a font that a page asks for, within what can be drawn without filling the memory. */
     function fontPixels(size: real): int {
         return Math.max(1, Math.min(1000, size || 1))
     }
+
+    function tellWhatIsMissing() {
+        const read = ["dp", "hoverEnabled", "nativeRendering", "fontFamily", "fontSizeXXS", "fontSizeXS", "fontSizeS", "fontSizeM", "fontSizeL", "fontSizeXL", "fontSizeXXL"]
+        const missing = read.filter(name => root.source[name] === undefined)
+        if (missing.length > 0)
+            console.warn(`The context property "theme" lacks ${missing.join(", ")}; controls take the defaults of RTheme. Make it an RTheme, or give it another name.`)
+    }
+
+    onSourceChanged: root.tellWhatIsMissing()
 }
