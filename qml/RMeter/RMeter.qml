@@ -27,7 +27,9 @@ RMeterBase {
     property color ssBackgroundYellow: root.RStyleSet.props.backgroundYellow
     property color ssBackgroundRed: root.RStyleSet.props.backgroundRed
     property color ssClipIndicatorColor: root.RStyleSet.props.clipIndicatorColor
-    property color ssIndicatorColor: root.RStyleSet.props.indicatorColor
+    property color ssIndicatorColor: root.RStyleSet.props.isSet("indicator-color") ? root.RStyleSet.props.indicatorColor : root.noColor
+    /*! The colour of what a sheet leaves unset: never assigned, so it is not valid. */
+    property color noColor
 
     width: (root.horizontal ? 80 : 12) * RThemeValues.unit
     height: (root.horizontal ? 12 : 80) * RThemeValues.unit

@@ -7,7 +7,7 @@ Item {
 
     property string type
 
-    RStyleSet.typeName: root.type
-
     visible: false
+    // Not by a binding: others may read a key before that is evaluated, which no rule sets for a probe without a type.
+    onTypeChanged: root.RStyleSet.typeName = root.type
 }

@@ -67,6 +67,16 @@ ThemedTestCase {
             fuzzyCompare(marker.x, data.x, 1e-6)
     }
 
+    // Light leaves it unset on purpose.
+    function test_markerWithoutColour() {
+        const meter = make({})
+        compare([meter.ssIndicatorColor.valid, meter.ssIndicatorColor], [true, "#005691"])
+        root.sheet = "light"
+        compare(meter.ssIndicatorColor.valid, false)
+        root.sheet = "dark"
+        compare(meter.ssIndicatorColor, "#005691")
+    }
+
     function test_startsFromTheBottomWhenShown() {
         const meter = make({ value: 0 })
         compare(meter.currentValue, 0)

@@ -1,0 +1,121 @@
+import QtQuick
+import QtTest
+import TambleClient.Control 1.0
+
+/*! Under the sheets of the module none of its controls asks for a key in vain: a report that counts nothing but a
+    page's own mistakes can be read. */
+TestCase {
+    id: root
+    name: "MissingKeys"
+    when: windowShown
+    visible: true
+    width: 400
+    height: 400
+
+    property string sheet: "dark"
+    property var reports: []
+
+    RThemeSelector {
+        themeComponent: Component {
+            RTheme {
+                hoverEnabled: true
+            }
+        }
+    }
+    RStyleEngineSetup {
+        id: setup
+        engine.defaultStyleSheetSource: "qrc:/style/tamble." + root.sheet + ".style"
+        engine.onException: (type, message) => root.reports.push(message)
+    }
+    // A page's mistake. Whatever is missed leads to a report of all that is missing, so this tells of keys, too, that
+    // were missed by an item which then got another path.
+    Item {
+        id: mistake
+
+        property color ssNone: mistake.RStyleSet.props.color("none")
+    }
+
+    readonly property var controls: [
+        "RAGC { gainMeterVisible: true; levelVisible: true }",
+        "RANC { ambientMeterVisible: true; freezeGain: true }",
+        "RAxis { width: 40; height: 200 }",
+        "RBodeplot { width: 300; height: 200; RBodeplotCurve { calculationItems: [RBodeplotEqFilter { freq: 1000 }] } }",
+        "RBodeplot { width: 300; height: 200; RLimiterCurve {} RSimpleCurve { points: [Qt.point(100, 0), Qt.point(1000, 6)] } }",
+        "RBoxShadow { width: 40; height: 40 }",
+        "RButton { text: 'Mute' }",
+        "RButton { text: 'Mute'; RStyleSet.name: 'red' }",
+        "RButton { text: 'Mute'; RStyleSet.name: 'green'; selected: true }",
+        "RButton { text: 'Mute'; RStyleSet.name: 'ghost' }",
+        "RButton { text: 'Mute'; RStyleSet.name: 'crossPoint'; active: true; selected: true }",
+        "RButton { text: 'Mute'; consistent: false; enabled: false }",
+        "RButtonIcon { iconItem.key: 'mute' }",
+        "RButtonIconLabel { text: 'Mute' }",
+        "RButtonIconLabelH { text: 'Mute'; iconItem.key: 'mute' }",
+        "RButtonIconLabelV { text: 'Mute'; iconItem.key: 'mute' }",
+        "RButtonLabelText { text: 'Mute'; textSub: 'on' }",
+        "RButtonSwitch { selectable: true }",
+        "RButtonSwitch { consistent: false; enabled: false }",
+        "RCompressor { gainReductionVisible: true }",
+        "RDragHandler {}",
+        "RDucker {}",
+        "RFader { height: 200; trackIndicatorVisible: true }",
+        "RFader { height: 200; consistent: false; RStyleSet.name: 'red' }",
+        "RGate {}",
+        "RIcon { key: 'mute' }",
+        "RInconsistentButton { text: 'Mute'; consistent: false }",
+        "RInconsistentButtonSwitch { consistent: false }",
+        "RLabel { text: 'Mute'; lineVisible: true }",
+        "RLabel { text: 'A caption that is too long'; width: 40 }",
+        "RLimiter { limiterBypassed: true }",
+        "RLimiter { levelVisible: true }",
+        "RMeter { faderIndicatorActive: true; clipIndicatorSupported: true }",
+        "RMeter { split: true }",
+        "RText { text: 'Mute' }",
+    ]
+
+    /*! All items below `item` that can be dragged. */
+    function handlesOf(item: Item): var {
+        let handles = item.dragging === undefined ? [] : [item]
+        for (let i = 0; i < item.children.length; ++i)
+            handles = handles.concat(handlesOf(item.children[i]))
+        return handles
+    }
+
+    /*! The reports since the last call. */
+    function missed(): var {
+        grabImage(root)
+        wait(0)
+        grabImage(root)
+        return root.reports.splice(0)
+    }
+
+    function touch(item: Item) {
+        mouseMove(item, item.width / 2, item.height / 2)
+        mousePress(item, item.width / 2, item.height / 2)
+        wait(0)
+        mouseMove(item, item.width / 2 + 8, item.height / 2 + 8)
+        keyClick(Qt.Key_Tab)
+        mouseRelease(item, item.width / 2 + 8, item.height / 2 + 8)
+        item.enabled = false
+        wait(0)
+    }
+
+    function test_missing_data() {
+        return root.controls.map(control => ({ tag: control, body: control }))
+    }
+    function test_missing(data) {
+        const sheets = ["light", "dark", "contrast-light", "contrast-dark"]
+        for (const sheet of sheets) {
+            root.sheet = sheet
+            missed()
+            const control = createTemporaryQmlObject("import QtQuick\nimport TambleClient.Control 1.0\n" + data.body, root)
+            compare(missed(), [], sheet + ", made")
+            for (const item of [...handlesOf(control), control])
+                touch(item)
+            compare(missed(), [], sheet + ", touched")
+            root.sheet = sheet === "dark" ? "light" : "dark"
+            compare(missed().filter(report => !report.includes("none")), [], "from " + sheet + " to " + root.sheet)
+            control.destroy()
+        }
+    }
+}
