@@ -50,6 +50,9 @@ set(singletons
 )
 # Reached by relative imports.
 set(unregistered
+    RApplicationWindow/RBusyDots.qml
+    RApplicationWindow/RBusyVeil.qml
+    RApplicationWindow/RBusyVeilLoader.qml
     RFader/RFaderHandle.qml
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml

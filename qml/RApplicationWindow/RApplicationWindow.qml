@@ -24,6 +24,7 @@ T.ApplicationWindow {
     property bool zoomShortcuts: true
     /*! Refuses to close: the page decides when closeRequested is emitted. */
     property bool confirmClose: false
+    /*! Covers the window with a veil that takes mouse, touch and keys. */
     property bool busy: false
 
     readonly property url tambleStyleSheet: root.sheet(root.tambleStyleSheetDirectory, root.tambleStyleSheetKey, root.tambleStyleSheetTheme)
@@ -113,5 +114,8 @@ T.ApplicationWindow {
         enabled: root.zoomShortcuts
         sequence: "Ctrl+0"
         onActivated: theme.setDpZoomFactor(0)
+    }
+    RBusyVeilLoader {
+        busy: root.busy
     }
 }

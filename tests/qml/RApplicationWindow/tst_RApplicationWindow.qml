@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Templates as T
 import QtTest
 import TambleClient.Control 1.0
 
@@ -16,6 +17,8 @@ TestCase {
             property alias button: button
             property alias requests: requests
             property alias loads: loads
+            property alias refresh: refreshShortcut
+            property alias wheel: wheelHandler
             appStyleSheetKey: ""
             visible: true
             onStyleException: (type, message) => root.exceptions.push(type)
@@ -35,6 +38,13 @@ TestCase {
             }
             RInconsistentButton {
                 y: 120
+            }
+            WheelHandler {
+                id: wheelHandler
+            }
+            Shortcut {
+                id: refreshShortcut
+                sequence: "F5"
             }
             SignalSpy {
                 id: requests
@@ -121,6 +131,72 @@ TestCase {
             keyClick(key, Qt.ControlModifier)
         compare(theme.dpZoomFactor, row.factor)
         compare(window.button.height, 32 * theme.dp(1))
+    }
+
+    Component {
+        id: menuComponent
+        T.Popup {
+            width: 100
+            height: 100
+            focus: true
+            modal: true
+        }
+    }
+
+    function test_busyTakesEverything_data() {
+        const centre = button => [button.width / 2, button.height / 2]
+        return [
+            { tag: "mouse", act: button => mouseClick(button) },
+            { tag: "hover", act: button => mouseMove(button, ...centre(button)) },
+            { tag: "touch", act: button => touchEvent(button).press(0, button).commit().release(0, button).commit() },
+            { tag: "wheel", act: button => mouseWheel(button, ...centre(button), 0, 120) },
+            { tag: "focused key", act: () => keyClick(Qt.Key_Space) },
+            { tag: "mnemonic", act: () => keyClick(Qt.Key_M, Qt.AltModifier) },
+            { tag: "Tab", act: () => { keyClick(Qt.Key_Tab); keyClick(Qt.Key_Space) } },
+            { tag: "Esc", act: () => { keyClick(Qt.Key_Escape); keyClick(Qt.Key_Space) } },
+            { tag: "page's shortcut", act: () => keyClick(Qt.Key_F5) },
+            { tag: "beside a popup", act: (button, window) => {
+                createTemporaryObject(menuComponent, window.contentItem).open()
+                keyClick(Qt.Key_Space)
+                mouseClick(button)
+            } }
+        ]
+    }
+    function test_busyTakesEverything(row) {
+        const window = shownWindow()
+        const log = []
+        window.button.clicked.connect(() => log.push("clicked"))
+        window.button.hoveredChanged.connect(() => log.push("hovered"))
+        window.refresh.activated.connect(() => log.push("shortcut"))
+        window.wheel.wheel.connect(() => log.push("wheel"))
+        window.button.forceActiveFocus()
+        window.busy = true
+        row.act(window.button, window)
+        wait(0)
+        compare(log, [])
+        compare(window.button.activeFocus, false)
+
+        window.busy = false
+        tryVerify(() => !window.T.Overlay.overlay.visible || row.tag === "beside a popup")
+        if (row.tag === "beside a popup")
+            return
+        compare(window.button.activeFocus, true, "the focus comes back")
+        keyClick(Qt.Key_Space)
+        verify(log.includes("clicked"))
+    }
+
+    function test_busyShowsAfterAWhile() {
+        const window = shownWindow({ busy: true })
+        const overlay = window.T.Overlay.overlay
+        const veil = overlay.children[overlay.children.length - 1]
+        compare([veil.width, veil.height], [window.width, window.height])
+        compare(veil.opacity, 0, "short waits do not flicker")
+        tryCompare(veil, "opacity", 1)
+        window.width += 100
+        tryCompare(veil, "width", window.width)
+        window.busy = false
+        tryCompare(veil, "visible", false)
+        compare(root.exceptions, [])
     }
 
     function test_closing_data() {
