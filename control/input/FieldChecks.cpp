@@ -11,14 +11,21 @@ namespace {
 
 using State = QValidator::State;
 
+constexpr QChar minusSign(0x2212); // as typeset texts have it
+
 bool isDigit(QChar character)
 {
     return character >= u'0' && character <= u'9';
 }
 
+bool isMinus(QChar character)
+{
+    return character == u'-' || character == minusSign;
+}
+
 bool isSign(QChar character)
 {
-    return character == u'-' || character == u'+';
+    return isMinus(character) || character == u'+';
 }
 
 /// A number's text taken apart: sign, digits, and the fraction when there is a separator.
@@ -38,7 +45,7 @@ bool readNumber(const QString &text, NumberText &number)
         if (isDigit(character))
             ++(number.separated ? number.fractionDigits : number.wholeDigits);
         else if (i == 0 && isSign(character))
-            number.negative = character == u'-';
+            number.negative = isMinus(character);
         else if (!number.separated && (character == u'.' || character == u','))
             number.separated = true;
         else
@@ -85,7 +92,7 @@ State checkDecimal(const QString &text, double bottom, double top, int decimals)
     const bool complete = number.separated ? number.fractionDigits > 0 : number.wholeDigits > 0;
     if (!complete || trimmed.size() != text.size())
         return State::Intermediate;
-    const double value = QString(trimmed).replace(u',', u'.').toDouble();
+    const double value = tidyDecimal(trimmed).toDouble();
     return isWithin(value, bottom, top) ? State::Acceptable : State::Intermediate;
 }
 
@@ -100,7 +107,7 @@ State checkInteger(const QString &text, int bottom, int top)
 
     if (number.wholeDigits == 0 || trimmed.size() != text.size())
         return State::Intermediate;
-    const qlonglong value = trimmed.toLongLong();
+    const qlonglong value = tidyInteger(trimmed).toLongLong();
     return value >= bottom && value <= top ? State::Acceptable : State::Intermediate;
 }
 
@@ -134,7 +141,7 @@ bool isTrivialPin(const QString &digits)
 
 QString tidyDecimal(const QString &text)
 {
-    QString number = text.trimmed().replace(u',', u'.');
+    QString number = text.trimmed().replace(u',', u'.').replace(minusSign, u'-');
     if (number.endsWith(u'.'))
         number.chop(1);
     return withoutLeadingZeros(number);
@@ -142,7 +149,7 @@ QString tidyDecimal(const QString &text)
 
 QString tidyInteger(const QString &text)
 {
-    return withoutLeadingZeros(text.trimmed());
+    return withoutLeadingZeros(text.trimmed().replace(minusSign, u'-'));
 }
 
 } // namespace tamble::client

@@ -6,7 +6,8 @@
 namespace tamble::client {
 
 // What may be typed into a field. A check is Invalid only when no further typing can make the text right; blanks around
-// a text, and numbers out of range, are Intermediate. Only ASCII digits count, whatever the locale.
+// a text, and numbers out of range, are Intermediate. Only ASCII digits count, whatever the locale; the minus may be
+// "-" or U+2212.
 
 /// A decimal number with at most `decimals` fraction digits (any number when negative) and 15 digits in all.
 ///
@@ -25,10 +26,10 @@ QValidator::State checkDigits(const QString &text, int minimumLength, int maximu
 /// Whether all digits are the same, or each is one more, or each one less, than the one before.
 bool isTrivialPin(const QString &digits);
 
-/// The same decimal number without outer blanks, trailing separator and leading zeros, and with a point.
+/// The same decimal number without outer blanks, trailing separator and leading zeros, with a point and with "-".
 QString tidyDecimal(const QString &text);
 
-/// The same whole number without outer blanks and leading zeros.
+/// The same whole number without outer blanks and leading zeros, and with "-".
 QString tidyInteger(const QString &text);
 
 } // namespace tamble::client

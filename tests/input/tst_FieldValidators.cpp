@@ -40,6 +40,9 @@ void FieldValidatorsTest::decimals_data()
     QTest::newRow("comma separates") << "3,5" << -10.0 << 10.0 << 1 << Acceptable;
     QTest::newRow("no digit before the separator") << ".5" << -10.0 << 10.0 << 1 << Acceptable;
     QTest::newRow("on the bound") << "-10" << -10.0 << 10.0 << 1 << Acceptable;
+    QTest::newRow("true minus") << QStringLiteral("\u22123,5") << -10.0 << 10.0 << 1 << Acceptable;
+    QTest::newRow("true minus, below") << QStringLiteral("\u221211") << -10.0 << 10.0 << 1 << Intermediate;
+    QTest::newRow("true minus, only positive") << QStringLiteral("\u2212") << 0.0 << 10.0 << 1 << Invalid;
     QTest::newRow("empty") << "" << -10.0 << 10.0 << 1 << Intermediate;
     QTest::newRow("sign alone") << "-" << -10.0 << 10.0 << 1 << Intermediate;
     QTest::newRow("separator alone") << "," << -10.0 << 10.0 << 1 << Intermediate;
@@ -88,6 +91,7 @@ void FieldValidatorsTest::integers_data()
     QTest::newRow("11 digits") << "99999999999" << 1 << Invalid;
     QTest::newRow("minus, only positive") << "-" << 0 << Invalid;
     QTest::newRow("minus, negative too") << "-" << -1 << Intermediate;
+    QTest::newRow("true minus") << QStringLiteral("\u22123") << -5 << Acceptable;
     QTest::newRow("separator") << "4.0" << 1 << Invalid;
     QTest::newRow("blank in front") << " 4" << 1 << Intermediate;
     QTest::newRow("hexadecimal") << "0x1" << 1 << Invalid;
@@ -182,6 +186,8 @@ void FieldValidatorsTest::fixup_data()
     QTest::newRow("leading zeros") << "-007"
                                    << "-7"
                                    << "-7";
+    QTest::newRow("true minus") << QStringLiteral("\u221207") << "-7"
+                                << "-7";
     QTest::newRow("zeros before a fraction") << "00.5"
                                              << "0.5"
                                              << "0.5";
