@@ -1,6 +1,6 @@
 .pragma library
 
-/*! A number with one decimal, a true minus sign and its unit. */
+/*! A number with one decimal and its unit. */
 function withUnit(value, unit) {
-    return value.toFixed(1).replace("-", "\u2212") + " " + unit
+    return value.toFixed(1) + " " + unit
 }

@@ -74,7 +74,7 @@ GalleryPage {
         }
         Section {
             title: qsTr("Limiter")
-            note: qsTr("Linear axes. The handle follows the diagonal; a double click sets −20 dB.")
+            note: qsTr("Linear axes. The handle follows the diagonal; a double click sets -20 dB.")
 
             LimiterPlot {
                 width: parent.width

@@ -28,7 +28,7 @@ GalleryPage {
     }
     Section {
         title: qsTr("All channels")
-        note: qsTr("Wide: peak. Thin and in figures: RMS. The square lights at −0.5 dBFS and stays lit.")
+        note: qsTr("Wide: peak. Thin and in figures: RMS. The square lights at -0.5 dBFS and stays lit.")
 
         MeterBridge {
             width: parent.width

@@ -7,12 +7,12 @@ Flow {
 
     readonly property var axes: [
         { title: "0 … 1", from: 0, to: 1 },
-        { title: "−80 … 10", from: -80, to: 10, count: 10 },
-        { title: "−12 … 12", from: -12, to: 12, count: 9, leftSided: true },
+        { title: "-80 … 10", from: -80, to: 10, count: 10 },
+        { title: "-12 … 12", from: -12, to: 12, count: 9, leftSided: true },
         { title: "0 … 20", from: 0, to: 20, count: 5, reverse: true },
         { title: "0 … 100", from: 0, to: 100 },
-        { title: "−5 … 995", from: -5, to: 995, count: 12 },
-        { title: "−1 … 3", from: -1, to: 3, count: 5, leftSided: true, reverse: true },
+        { title: "-5 … 995", from: -5, to: 995, count: 12 },
+        { title: "-1 … 3", from: -1, to: 3, count: 5, leftSided: true, reverse: true },
     ]
 
     spacing: theme.dp(8)

@@ -95,7 +95,9 @@ FocusScope {
 
     /*! A coordinate or parameter, or a dash where it is no number. */
     function numberText(value: real): string {
-        return isNaN(value) ? "–" : value.toFixed(1)
+        if (!isFinite(value))
+            return isNaN(value) ? "–" : value < 0 ? "−∞" : "∞"
+        return value.toFixed(1).replace(/^-0\.0$/, "0.0")
     }
 
     function distanceTo(spot: point): real {

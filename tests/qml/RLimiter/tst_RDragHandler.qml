@@ -113,11 +113,21 @@ ThemedTestCase {
         compare(log.slice(-2), ["dragged 50 -90", "canceled"])
     }
 
-    function test_noNumber() {
-        const handle = make("xValue: NaN")
-        compare([handle.Accessible.description, handle.bubbleText], ["– / 0.0", "– / 0.0"])
+    function test_texts_data() {
+        return [
+            { tag: "number", x: "-20.04", text: "-20.0" },
+            { tag: "nearly 0", x: "-0.04", text: "0.0" },
+            { tag: "no number", x: "NaN", text: "–" },
+            { tag: "infinite", x: "Infinity", text: "∞" },
+            { tag: "infinite, negative", x: "-Infinity", text: "−∞" },
+        ]
+    }
+    function test_texts(data) {
+        const handle = make("xValue: " + data.x)
+        const both = data.text + " / 0.0"
+        compare([handle.Accessible.description, handle.bubbleText], [both, both])
         handle.yEnabled = false
-        compare(handle.Accessible.description, "–")
+        compare(handle.Accessible.description, data.text)
     }
 
     function test_deviceAnswersLate() {
