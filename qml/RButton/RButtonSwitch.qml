@@ -24,6 +24,9 @@ Shared.RStyledButton {
     implicitWidth: 36 * RThemeValues.unit
 
     contentItem: Item { // qmllint disable deferred-property-id
+        // The sheets have no rule for disabled switches.
+        opacity: root.RStyleSet.stateHelper.disabled ? 0.5 : 1
+
         Rectangle {
             id: bar
 

@@ -244,6 +244,8 @@ ThemedTestCase {
             { tag: "mixed", body: "consistent: false", handle: 10, text: "OFF", shown: false },
             { tag: "without text", body: "showHandleText: false", handle: 1, text: "OFF", shown: false },
             { tag: "mirrored", body: "LayoutMirroring.enabled: true", handle: 19, text: "OFF", shown: true },
+            { tag: "disabled", body: "enabled: false", handle: 1, text: "OFF", shown: true, opacity: 0.5 },
+            { tag: "mixed and disabled", body: "consistent: false; enabled: false", handle: 10, text: "OFF", shown: false, opacity: 0.5 },
         ]
     }
     function test_switch(data) {
@@ -253,5 +255,6 @@ ThemedTestCase {
         compare([bar.height, handle.width, handle.height], [16, 16, 14])
         compare(handle.x, data.handle)
         compare([text.text, text.visible], [data.text, data.shown])
+        compare(bar.parent.opacity, data.opacity ?? 1)
     }
 }
