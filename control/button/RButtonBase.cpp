@@ -107,19 +107,42 @@ QString RButtonBase::plainText() const
     return m_literalText ? text() : withoutMnemonic(text());
 }
 
-// The template answers its key without the selection.
 bool RButtonBase::event(QEvent *event)
 {
     Q_D(const RButtonBase);
-    if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent *>(event)->shortcutId() != d->shortcutId)
-        return QQuickAbstractButton::event(event);
-    click();
-    return true;
+    switch (event->type()) {
+    case QEvent::Shortcut:
+        // The template answers its key without the selection.
+        if (static_cast<QShortcutEvent *>(event)->shortcutId() != d->shortcutId)
+            break;
+        click();
+        return true;
+    case QEvent::ShortcutOverride:
+        // Before whatever Esc closes around the button.
+        if (!takesBack(*static_cast<QKeyEvent *>(event)))
+            break;
+        event->accept();
+        return true;
+    default:
+        break;
+    }
+    return QQuickAbstractButton::event(event);
+}
+
+bool RButtonBase::takesBack(const QKeyEvent &event) const
+{
+    Q_D(const RButtonBase);
+    const bool isHeldByKey = d->pressed && d->pressButtons == Qt::NoButton && d->touchId == -1;
+    return event.key() == Qt::Key_Escape && isHeldByKey;
 }
 
 void RButtonBase::keyPressEvent(QKeyEvent *event)
 {
+    Q_D(RButtonBase);
     if (repeatsSpace(*event)) {
+        event->accept();
+    } else if (takesBack(*event)) {
+        d->handleUngrab();
         event->accept();
     } else {
         QQuickAbstractButton::keyPressEvent(event);
@@ -128,7 +151,8 @@ void RButtonBase::keyPressEvent(QKeyEvent *event)
 
 void RButtonBase::keyReleaseEvent(QKeyEvent *event)
 {
-    if (repeatsSpace(*event)) {
+    // Without a press there is nothing to let go: it was taken back, or was another item's.
+    if (repeatsSpace(*event) || (event->key() == Qt::Key_Space && !isPressed())) {
         event->accept();
         return;
     }

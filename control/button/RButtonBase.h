@@ -71,6 +71,7 @@ protected:
 private:
     Q_DECLARE_PRIVATE(RButtonBase)
 
+    bool takesBack(const QKeyEvent &event) const;
     void click();
     void useText();
     void clickOncePerKey();

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void pressAction();
     void heldKeys_data();
     void heldKeys();
+    void escapeTakesBackSpace();
     void repetitionsPassedOffAsKeys();
     void missingNameIsReportedOnce();
 
@@ -204,6 +205,35 @@ void tst_ButtonAccessibility::heldKeys()
     send(false, false);
     QCOMPARE(clicked.count(), 1);
     QCOMPARE(edited.count(), 1);
+}
+
+void tst_ButtonAccessibility::escapeTakesBackSpace()
+{
+    const auto button = make(QStringLiteral("RButtonIconLabel { text: '&Mute'; selectable: true }"));
+    const auto page = make(QStringLiteral("Item { id: page; property int escapes: 0\n"
+                                          "Shortcut { sequence: 'Esc'; onActivated: page.escapes += 1 } }"));
+    const QSignalSpy clicked(button.get(), SIGNAL(clicked()));
+    const QSignalSpy edited(button.get(), SIGNAL(selectionEdited(bool)));
+    const QSignalSpy canceled(button.get(), SIGNAL(canceled()));
+    m_window.show();
+    m_window.requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(&m_window));
+    button->forceActiveFocus();
+    const auto send = [&](bool press, Qt::Key key, bool repeated = false) {
+        QTest::simulateEvent(&m_window, press, key, Qt::NoModifier, QString(), repeated);
+    };
+    send(true, Qt::Key_Space);
+    QVERIFY(button->property("pressed").toBool());
+    QTest::keyClick(&m_window, Qt::Key_Escape);
+    QVERIFY(!button->property("pressed").toBool());
+    send(false, Qt::Key_Space, true);
+    send(true, Qt::Key_Space, true);
+    send(false, Qt::Key_Space);
+    QCOMPARE(clicked.count() + edited.count(), 0);
+    QCOMPARE(canceled.count(), 1);
+    QCOMPARE(page->property("escapes").toInt(), 0);
+    QTest::keyClick(&m_window, Qt::Key_Escape);
+    QCOMPARE(page->property("escapes").toInt(), 1);
 }
 
 void tst_ButtonAccessibility::repetitionsPassedOffAsKeys()
