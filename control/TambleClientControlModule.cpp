@@ -4,6 +4,7 @@
 #include "InterfaceFont.h"
 #include "TypeCatalogue.h"
 #include "ValueRequests.h"
+#include "button/ButtonInterface.h"
 #include "workspace/RMouseEventSpy.h"
 
 #include <QtGui/QPointingDevice>
@@ -44,6 +45,7 @@ void TambleClientControlModule::initializeEngine(QQmlEngine *engine, const char 
     engine->rootContext()->setContextProperty(QStringLiteral("maximumTouchPoints"), maximumTouchPoints());
     registerInterfaceFont();
     installValueRequests();
+    installButtonInterfaces();
 }
 
 } // namespace tamble::client

@@ -1,11 +1,11 @@
 #include "button/RButtonBase.h"
 
+#include "button/ButtonInterface.h"
 #include "button/Mnemonic.h"
 #include "decoration/PartComponents.h"
 #include "style/StyleTypeName.h"
 
 #include <QtCore/QSet>
-#include <QtGui/QAccessible>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QStyleHints>
@@ -13,7 +13,6 @@
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 #include <QtQml/qqml.h>
-#include <QtQuick/private/qquickaccessibleattached_p.h>
 #include <QtQuickTemplates2/private/qquickabstractbutton_p_p.h>
 
 namespace tamble::client {
@@ -64,14 +63,18 @@ bool repeatsSpace(const QKeyEvent &event)
 
 RButtonBase::RButtonBase(QQuickItem *parent)
     : QQuickAbstractButton(*new RButtonBasePrivate, parent)
-{}
+{
+    // Says that there is an interface to ask for; what it tells is read from the button.
+    Q_D(RButtonBase);
+    d->setAccessible();
+}
 
 void RButtonBase::setSelectable(bool selectable)
 {
     if (m_selectable == selectable)
         return;
     m_selectable = selectable;
-    tellAssistiveTools();
+    announceState();
     Q_EMIT selectableChanged();
 }
 
@@ -80,7 +83,7 @@ void RButtonBase::setSelected(bool selected)
     if (m_selected == selected)
         return;
     m_selected = selected;
-    tellAssistiveTools();
+    announceState();
     Q_EMIT selectedChanged();
 }
 
@@ -89,7 +92,8 @@ void RButtonBase::setConsistent(bool consistent)
     if (m_consistent == consistent)
         return;
     m_consistent = consistent;
-    tellAssistiveTools();
+    announceState();
+    announce(QAccessible::DescriptionChanged);
     Q_EMIT consistentChanged();
 }
 
@@ -186,19 +190,22 @@ void RButtonBase::nextCheckState()
 
 void RButtonBase::buttonChange(ButtonChange change)
 {
-    if (change == ButtonTextChange)
+    if (change == ButtonTextChange) {
         useText();
-    else
-        QQuickAbstractButton::buttonChange(change);
+        return;
+    }
+    if (change == ButtonPressedChanged)
+        announceState();
+    QQuickAbstractButton::buttonChange(change);
 }
 
 // In place of the template, which takes a key for any "&", and reads it out.
 void RButtonBase::useText()
 {
-    maybeSetAccessibleName(plainText());
     const qsizetype mark = m_literalText ? -1 : mnemonicPosition(text());
     setShortcut(mark < 0 ? QKeySequence() : QKeySequence(Qt::ALT | Qt::Key(text()[mark + 1].toUpper().unicode())));
     clickOncePerKey();
+    announce(QAccessible::NameChanged);
     Q_EMIT plainTextChanged();
 }
 
@@ -217,15 +224,12 @@ void RButtonBase::clickOncePerKey()
         QGuiApplicationPrivate::instance()->shortcutMap.setShortcutAutoRepeat(false, d->shortcutId, this);
 }
 
+// In place of the template, which makes an attached object to tell what the button's own interface tells.
 void RButtonBase::accessibilityActiveChanged(bool active)
 {
-    QQuickAbstractButton::accessibilityActiveChanged(active);
     if (!active)
         return;
-    maybeSetAccessibleName(plainText());
-    if (auto *tools = QQuickAccessibleAttached::attachedProperties(this))
-        connect(tools, &QQuickAccessibleAttached::pressAction, this, &RButtonBase::click, Qt::UniqueConnection);
-    tellAssistiveTools();
+    announce(QAccessible::ObjectCreated);
     warnAboutMissingName();
 }
 
@@ -233,23 +237,24 @@ void RButtonBase::warnAboutMissingName() const
 {
     static QSet<QString> warnedTypes;
     const QString type = styleTypeName(metaObject()->className());
-    if (accessibleName().isEmpty() && !warnedTypes.contains(type)) {
+    if (accessibleNameOf(*this).isEmpty() && !warnedTypes.contains(type)) {
         warnedTypes.insert(type);
         qWarning("WARN: %s has no accessible name", qPrintable(type));
     }
 }
 
-void RButtonBase::tellAssistiveTools()
+void RButtonBase::announce(QAccessible::Event change)
 {
-    if (!QAccessible::isActive())
-        return;
-    setAccessibleProperty("checkable", m_selectable || m_selected);
-    setAccessibleProperty("checked", m_consistent && m_selected);
-    // No state says "mixed"; a description that the page gave stays.
-    const QString mixed = tr("mixed");
-    const QString description = accessibleProperty("description").toString();
-    if (description.isEmpty() || description == mixed)
-        setAccessibleProperty("description", m_consistent ? QString() : mixed);
+    QAccessibleEvent event(this, change);
+    QAccessible::updateAccessibility(&event);
+}
+
+void RButtonBase::announceState()
+{
+    QAccessible::State changed;
+    changed.checkable = changed.checked = changed.checkStateMixed = changed.pressed = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 // A page may bind the selection to a device, which answers late; the edit steps in front of the binding meanwhile.

@@ -2,6 +2,7 @@
 
 #include "ControlExport.h"
 
+#include <QtGui/QAccessible>
 #include <QtQml/qqmlregistration.h>
 #include <QtQuickTemplates2/private/qquickabstractbutton_p.h>
 
@@ -9,8 +10,8 @@ namespace tamble::client {
 
 class RButtonBasePrivate;
 
-/// The behaviour of all buttons: selection, which is not the template's check state, "mixed", Enter, mnemonics, and
-/// what assistive tools are told.
+/// The behaviour of all buttons: selection, which is not the template's check state, "mixed", Enter, and mnemonics.
+/// ButtonInterface tells assistive tools about it.
 class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton
 {
     Q_OBJECT
@@ -42,6 +43,8 @@ public:
     /// `text` as it is shown: without the mark of its mnemonic.
     QString plainText() const;
 
+    /// Clicks, as letting the pointer go does; a disabled button does nothing.
+    void click();
     /// What a click does to the selection. A button that is not selectable keeps it.
     Q_INVOKABLE void editSelection(bool selected);
 
@@ -72,10 +75,10 @@ private:
     Q_DECLARE_PRIVATE(RButtonBase)
 
     bool takesBack(const QKeyEvent &event) const;
-    void click();
     void useText();
     void clickOncePerKey();
-    void tellAssistiveTools();
+    void announce(QAccessible::Event change);
+    void announceState();
     void warnAboutMissingName() const;
 
     QObject *m_selectionEdit = nullptr; // a child, made at the first click that edits

@@ -2,12 +2,14 @@
 #include "button/Mnemonic.h"
 
 #include <QtCore/QRegularExpression>
+#include <QtCore/QStringList>
 #include <QtGui/QAccessible>
 #include <QtGui/private/qguiapplication_p.h>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
+#include <QtQuick/private/qquickaccessibleattached_p.h>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <qpa/qplatformaccessibility.h>
@@ -24,12 +26,16 @@ class tst_ButtonAccessibility : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
+    void init();
     void mnemonics_data();
     void mnemonics();
     void seen_data();
     void seen();
+    void nothingIsMadePerButton();
     void followsChanges();
+    void tellsChanges_data();
+    void tellsChanges();
+    void askedWhileItGoes();
     void pressAction();
     void heldKeys_data();
     void heldKeys();
@@ -38,12 +44,46 @@ private Q_SLOTS:
     void missingNameIsReportedOnce();
 
 private:
+    static void listen(bool listening);
     std::unique_ptr<QQuickItem> make(const QString &body);
 
     QQmlEngine m_engine;
     std::unique_ptr<QObject> m_styles;
     QQuickWindow m_window;
 };
+
+namespace {
+
+QString statesOf(const QAccessibleInterface &seen)
+{
+    const QAccessible::State state = seen.state();
+    QStringList names;
+    const auto add = [&names](bool isSet, const char *name) {
+        if (isSet)
+            names.append(QLatin1String(name));
+    };
+    add(state.focusable, "focusable");
+    add(state.checkable, "checkable");
+    add(state.checked, "checked");
+    add(state.checkStateMixed, "mixed");
+    add(state.disabled, "disabled");
+    add(state.pressed, "pressed");
+    return names.join(u' ');
+}
+
+} // namespace
+
+void tst_ButtonAccessibility::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    listen(true);
+}
+
+/// As when a screen reader comes or goes.
+void tst_ButtonAccessibility::listen(bool listening)
+{
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(listening);
+}
 
 std::unique_ptr<QQuickItem> tst_ButtonAccessibility::make(const QString &body)
 {
@@ -63,8 +103,6 @@ void tst_ButtonAccessibility::initTestCase()
     TambleClientControlModule module;
     module.registerTypes("TambleClient.Control");
     module.initializeEngine(&m_engine, "TambleClient.Control");
-    // As when a screen reader runs.
-    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
     m_styles = make(QStringLiteral("Item { RThemeSelector { themeComponent: Component { RTheme {} } }\n"
                                    "RStyleEngineSetup { engine.defaultStyleSheetSource: "
                                    "'qrc:/style/tamble.dark.style' } }"));
@@ -106,43 +144,88 @@ void tst_ButtonAccessibility::seen_data()
 {
     QTest::addColumn<QString>("body");
     QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("checkable");
-    QTest::addColumn<bool>("checked");
+    QTest::addColumn<QString>("states");
     QTest::addColumn<QString>("description");
 
     QTest::newRow("plain") << "RButton { text: 'Drums & Bass' }"
-                           << "Drums & Bass" << false << false << "";
+                           << "Drums & Bass"
+                           << "focusable"
+                           << "";
     QTest::newRow("mnemonic") << "RButton { text: '&Mute' }"
-                              << "Mute" << false << false << "";
+                              << "Mute"
+                              << "focusable"
+                              << "";
     QTest::newRow("selectable") << "RButton { text: 'Mute'; selectable: true }"
-                                << "Mute" << true << false << "";
-    QTest::newRow("selected") << "RButton { text: 'Mute'; selected: true }"
-                              << "Mute" << true << true << "";
-    QTest::newRow("mixed") << "RButton { text: 'Mute'; selected: true; consistent: false }"
-                           << "Mute" << true << false << "mixed";
+                                << "Mute"
+                                << "focusable checkable"
+                                << "";
+    QTest::newRow("selected") << "RButton { text: 'Mute'; selected: true; down: true }"
+                              << "Mute"
+                              << "focusable checkable checked pressed"
+                              << "";
+    QTest::newRow("mixed") << "RButton { text: 'Mute'; selected: true; consistent: false; enabled: false }"
+                           << "Mute"
+                           << "focusable checkable mixed disabled"
+                           << "mixed";
     QTest::newRow("named by the page") << "RButton { text: '1'; Accessible.name: 'Mute 1'; "
                                           "Accessible.description: 'of the left side' ; consistent: false }"
-                                       << "Mute 1" << false << false << "of the left side";
+                                       << "Mute 1"
+                                       << "focusable mixed"
+                                       << "of the left side";
     QTest::newRow("device's text") << "RButton { converter: RValueConverter { value: '&R&D' } }"
-                                   << "&R&D" << false << false << "";
-    QTest::newRow("icon") << "RButtonIcon { label: 'Mute'; iconItem.key: 'mute' }"
-                          << "Mute" << false << false << "";
+                                   << "&R&D"
+                                   << "focusable"
+                                   << "";
+    QTest::newRow("icon") << "RButtonIcon { label: 'Mute'; iconItem.key: 'mute'; activeFocusOnTab: false }"
+                          << "Mute"
+                          << ""
+                          << "";
     QTest::newRow("switch") << "RButtonSwitch { label: 'Power'; selectable: true; selected: true }"
-                            << "Power" << true << true << "";
+                            << "Power"
+                            << "focusable checkable checked"
+                            << "";
+    QTest::newRow("named by a label") << "RButtonSwitch { id: power; RLabel { text: '&Power'; buddy: power } }"
+                                      << "Power"
+                                      << "focusable"
+                                      << "";
+    QTest::newRow("asking") << "RInconsistentButton { text: 'Mute'; consistent: false }"
+                            << "Mute"
+                            << "focusable mixed"
+                            << "mixed";
+    QTest::newRow("asking switch") << "RInconsistentButtonSwitch { label: 'Power'; consistent: false }"
+                                   << "Power"
+                                   << "focusable mixed"
+                                   << "mixed";
 }
 
 void tst_ButtonAccessibility::seen()
 {
     QFETCH(QString, body);
-    const auto button = make(body);
-    QVERIFY(button);
-    QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(button.get());
-    QVERIFY(seen);
-    QCOMPARE(seen->role(), QAccessible::Button);
-    QTEST(seen->text(QAccessible::Name), "name");
-    QTEST(bool(seen->state().checkable), "checkable");
-    QTEST(bool(seen->state().checked), "checked");
-    QTEST(seen->text(QAccessible::Description), "description");
+    for (const bool listening : {false, true}) {
+        listen(listening);
+        const auto button = make(body);
+        QVERIFY(button);
+        QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(button.get());
+        QVERIFY(seen);
+        QCOMPARE(seen->role(), QAccessible::Button);
+        QTEST(seen->text(QAccessible::Name), "name");
+        QTEST(statesOf(*seen), "states");
+        QTEST(seen->text(QAccessible::Description), "description");
+        QCOMPARE(seen->rect().size(), QSize(int(button->width()), int(button->height())));
+        QCOMPARE(seen->parent(), QAccessible::queryAccessibleInterface(&m_window));
+    }
+}
+
+void tst_ButtonAccessibility::nothingIsMadePerButton()
+{
+    for (const bool listening : {false, true}) {
+        listen(listening);
+        const auto button = make(QStringLiteral("RButton { text: 'Mute'; selectable: true; consistent: false }"));
+        QVERIFY(QAccessible::queryAccessibleInterface(button.get()));
+        QVERIFY(!qmlAttachedPropertiesObject<QQuickAccessibleAttached>(button.get(), false));
+        const auto hidden = make(QStringLiteral("RButton { text: 'Mute'; Accessible.ignored: true }"));
+        QCOMPARE(QAccessible::queryAccessibleInterface(&m_window)->childCount(), 1);
+    }
 }
 
 void tst_ButtonAccessibility::followsChanges()
@@ -157,6 +240,54 @@ void tst_ButtonAccessibility::followsChanges()
     button->setProperty("consistent", false);
     QVERIFY(!seen->state().checked);
     QCOMPARE(seen->text(QAccessible::Description), QStringLiteral("mixed"));
+}
+
+void tst_ButtonAccessibility::tellsChanges_data()
+{
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QList<int>>("events");
+    const auto row = [](const char *property, const QVariant &value, const QList<int> &events) {
+        QTest::newRow(property) << QByteArray(property) << value << events;
+    };
+    row("selected", true, {QAccessible::StateChanged});
+    row("selectable", true, {QAccessible::StateChanged});
+    row("consistent", false, {QAccessible::StateChanged, QAccessible::DescriptionChanged});
+    row("text", QStringLiteral("Muted"), {QAccessible::NameChanged});
+    row("literalText", true, {QAccessible::NameChanged});
+}
+
+void tst_ButtonAccessibility::tellsChanges()
+{
+    QFETCH(QByteArray, property);
+    QFETCH(QVariant, value);
+    static QList<int> events;
+    static QObject *teller = nullptr;
+    const auto button = make(QStringLiteral("RButton { text: '&Mute' }"));
+    teller = button.get();
+    events.clear();
+    QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
+        if (event->object() == teller)
+            events.append(event->type());
+    });
+    button->setProperty(property.constData(), value);
+    QAccessible::installUpdateHandler(nullptr);
+    QTEST(events, "events");
+}
+
+void tst_ButtonAccessibility::askedWhileItGoes()
+{
+    auto button = make(QStringLiteral("RButton { text: 'Mute'; consistent: false }"));
+    static QAccessibleInterface *seen = nullptr;
+    static QStringList answers;
+    seen = QAccessible::queryAccessibleInterface(button.get());
+    QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
+        if (event->type() == QAccessible::ObjectHide)
+            answers.append(statesOf(*seen) + seen->text(QAccessible::Name) + seen->text(QAccessible::Description));
+    });
+    button.reset();
+    QAccessible::installUpdateHandler(nullptr);
+    QCOMPARE(answers, QStringList());
 }
 
 void tst_ButtonAccessibility::pressAction()
