@@ -17,20 +17,34 @@ void sortMatches(std::vector<StyleMatch> &matches, const SelectorTree &tree)
 
 DeclarationMap mergeMatches(std::span<const StyleMatch> matches, const SelectorTree &tree)
 {
-    DeclarationMap result;
+    // Gathered first and sorted by name once: keeping the result sorted would take quadratic time over many names.
+    struct Claim
+    {
+        const PropertySpec *declaration;
+        std::size_t rank; // of the match, then of the declaration
+        bool positionCounts;
+    };
+    std::vector<Claim> claims;
     Specificity previous;
     for (const StyleMatch &match : matches) {
-        // Positions count against whatever the map holds, even when a less specific match put it there: only the
+        // Positions count against whatever declared the name before, even in a less specific match: only the
         // specificity of the match right before is looked at. This is wanted.
-        const bool positionsCount = match.specificity == previous;
-        for (const PropertySpec *declaration : tree.declarations(match.node)) {
-            const auto place = std::ranges::lower_bound(result, declaration->name, {}, &PropertySpec::name);
-            if (place == result.end() || (*place)->name != declaration->name)
-                result.insert(place, declaration);
-            else if (!positionsCount || (*place)->position < declaration->position)
-                *place = declaration;
-        }
+        const bool positionCounts = match.specificity == previous;
+        for (const PropertySpec *declaration : tree.declarations(match.node))
+            claims.push_back({declaration, claims.size(), positionCounts});
         previous = match.specificity;
+    }
+    std::ranges::sort(claims, [](const Claim &a, const Claim &b) {
+        const int order = a.declaration->name.compare(b.declaration->name);
+        return order != 0 ? order < 0 : a.rank < b.rank;
+    });
+
+    DeclarationMap result;
+    for (const Claim &claim : claims) {
+        if (result.empty() || result.back()->name != claim.declaration->name)
+            result.push_back(claim.declaration);
+        else if (!claim.positionCounts || result.back()->position < claim.declaration->position)
+            result.back() = claim.declaration;
     }
     return result;
 }

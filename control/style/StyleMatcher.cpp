@@ -4,6 +4,7 @@
 #include <QtCore/QVarLengthArray>
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <string_view>
 
@@ -11,13 +12,21 @@ namespace tamble::client {
 
 namespace {
 
-void addWord(std::vector<MatchWord> &words, NameId key, const Specificity &weight)
+/// Up to here looking them all up is as quick as anything.
+constexpr std::size_t FewWords = 32;
+
+/// Sorts by key and counts repetitions.
+void makeDistinct(std::vector<MatchWord> &words)
 {
-    const auto known = std::ranges::find(words, key, &MatchWord::key);
-    if (known != words.end())
-        ++known->count;
-    else
-        words.push_back({key, 1, weight});
+    std::ranges::sort(words, {}, &MatchWord::key);
+    auto end = words.begin();
+    for (const MatchWord &word : words) {
+        if (end != words.begin() && std::prev(end)->key == word.key)
+            ++std::prev(end)->count;
+        else
+            *end++ = word;
+    }
+    words.erase(end, words.end());
 }
 
 std::uint32_t saturatedProduct(std::uint32_t a, std::uint32_t b)
@@ -53,7 +62,7 @@ std::vector<MatchWord> StyleMatcher::words(const StyleElement &element) const
         const NameId key = m_names.find({begin, end});
         // A word that spells out one of the tree's own keys is none of the sheet's words.
         if (key != NameTable::Unknown && key != m_sameElement && key != m_descendant)
-            addWord(result, key, weight);
+            result.push_back({key, 1, weight});
     };
     if (isTypeName(element.typeName))
         add("", element.typeName, {.types = 1});
@@ -61,6 +70,7 @@ std::vector<MatchWord> StyleMatcher::words(const StyleElement &element) const
         add(".", word, {.classes = 1});
     for (const QString &word : element.states)
         add("::", word, {.states = 1});
+    makeDistinct(result);
     return result;
 }
 
@@ -98,16 +108,25 @@ void StyleMatcher::continueFrom(const Candidate &candidate, std::vector<StyleMat
 /// Adds the children of `node` that fit `element` to the candidates; false when there is none.
 bool StyleMatcher::matchWords(const Candidate &from, SelectorTree::Node node, const MatchElement &element)
 {
-    bool found = false;
-    for (const MatchWord &word : element.words) {
-        const SelectorTree::Node next = child(node, word.key);
-        if (next == SelectorTree::None)
-            continue;
-        found = true;
+    const std::size_t before = m_candidates.size();
+    const auto add = [&](SelectorTree::Node next, const MatchWord &word) {
         m_candidates.push_back(
             {next, &element, from.specificity + word.weight, saturatedProduct(from.routes, word.count)});
+    };
+    // An element may have as many words as the sheet has nodes, so the fewer of the two are gone through.
+    if (element.words.size() > FewWords && m_tree.childCount(node) < element.words.size()) {
+        for (auto next = m_tree.newestChild(node); next != SelectorTree::None; next = m_tree.olderSibling(next)) {
+            const auto word = std::ranges::lower_bound(element.words, m_tree.key(next), {}, &MatchWord::key);
+            if (word != element.words.end() && word->key == m_tree.key(next))
+                add(next, *word);
+        }
+    } else {
+        for (const MatchWord &word : element.words) {
+            if (const auto next = child(node, word.key); next != SelectorTree::None)
+                add(next, word);
+        }
     }
-    return found;
+    return m_candidates.size() > before;
 }
 
 void StyleMatcher::record(const Candidate &candidate, SelectorTree::Node node, std::vector<StyleMatch> &matches) const

@@ -24,7 +24,7 @@ struct MatchWord
 /// An element of a style path as a sheet sees it: the words that the sheet does not mention are left out.
 struct MatchElement
 {
-    std::span<const MatchWord> words;
+    std::span<const MatchWord> words;           ///< in the order of their keys
     const MatchElement *parent = nullptr;       ///< the next outer element
     const MatchElement *nearestKnown = nullptr; ///< the nearest outer element that has words
 };
@@ -45,14 +45,14 @@ struct StyleMatch
 ///
 /// A node of the tree is reached on one element of the path at most, since a descendant step stops at the nearest
 /// ancestor that it fits. So the cost is bounded by the nodes that match, times depth and words for each descendant
-/// step, whatever else the sheet holds.
+/// step, whatever else the sheet holds; and by the nodes of the sheet, however many words an element has.
 class StyleMatcher
 {
 public:
     /// Both must outlive the matcher and stay as they are.
     StyleMatcher(const NameTable &names, const SelectorTree &tree);
 
-    /// The words of `element` that the sheet mentions: the type, then classes, then states in written order.
+    /// The words of `element` that the sheet mentions, each once, in the order of their keys.
     std::vector<MatchWord> words(const StyleElement &element) const;
 
     /// Replaces `matches` with those of the path that ends in `innermost`, in the order they are found.

@@ -6,6 +6,7 @@
 #include "style/StyleResolver.h"
 #include "style/StyleSheetParser.h"
 
+#include <QtCore/QElapsedTimer>
 #include <QtTest/QTest>
 
 #include <limits>
@@ -428,6 +429,30 @@ void tst_StyleResolver::costOfRepeatedWords()
     QCOMPARE(StyleResolver(sheet).matches(*pathFrom(pool, path)).front().routes,
              std::numeric_limits<std::uint32_t>::max());
     QVERIFY(styleInfoText(sheet, *pathFrom(pool, path)).size() < 10'000);
+}
+
+void tst_StyleResolver::costOfManyNamesAndWords()
+{
+    // Distinct ones in an order that is not the alphabet's.
+    constexpr int count = 100'000;
+    QString declarations;
+    QString selectors;
+    QString name;
+    for (int i = count; i > 0; --i) {
+        declarations += QStringLiteral("k%1: v; ").arg(i);
+        selectors += QStringLiteral(".c%1,").arg(i);
+        name += QStringLiteral("c%1 ").arg(i);
+    }
+    QElapsedTimer timer;
+    timer.start();
+    const StyleSheet names = sheetFrom("A { " + declarations + "}");
+    StylePathPool pool;
+    QCOMPARE(StyleResolver(names).resolve(*pathFrom(pool, "A")).all().size(), std::size_t(count));
+    const StyleSheet words = sheetFrom(selectors + "A { k: v }");
+    QCOMPARE(StyleResolver(words).matches(*pathFrom(pool, "A." + name)).size(), std::size_t(count) + 1);
+    QCOMPARE(StyleResolver(words).matches(*pathFrom(pool, "A." + name + "/A." + name)).size(), std::size_t(count) + 1);
+    // Half a second in fact; what takes more than linear time takes many.
+    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void tst_StyleResolver::knownPathsAndElementsCostNothing()

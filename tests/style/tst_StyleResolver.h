@@ -34,6 +34,7 @@ private Q_SLOTS:
     void costDoesNotDependOnOtherRules();
     void costOfDescendantChains();
     void costOfRepeatedWords();
+    void costOfManyNamesAndWords();
     void knownPathsAndElementsCostNothing();
 
     void styleInfo();
