@@ -1,5 +1,7 @@
 #include "style/LineTable.h"
 
+#include "style/TextExcerpt.h"
+
 #include <algorithm>
 
 namespace tamble::client {
@@ -37,10 +39,11 @@ SourcePosition LineTable::position(std::size_t offset)
     return {std::uint32_t(m_last + 1), std::uint32_t(offset - m_starts[m_last] + 1)};
 }
 
-std::string_view LineTable::line(std::uint32_t number) const
+std::string LineTable::excerpt(const SourcePosition &position) const
 {
-    const std::string_view rest = m_text.substr(m_starts[number - 1]);
-    return rest.substr(0, rest.find_first_of("\r\n"));
+    std::string_view line = m_text.substr(m_starts[position.line - 1]);
+    line = line.substr(0, line.find_first_of("\r\n"));
+    return cutAround(line, position.column - 1);
 }
 
 } // namespace tamble::client

@@ -3,6 +3,7 @@
 #include "style/PropertySpec.h"
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -18,8 +19,9 @@ public:
     /// Line and column of the byte at `offset`; the end of the text is a place as well. Takes constant time when
     /// `offset` stands in the same line as the one before or in the next, else logarithmic time.
     SourcePosition position(std::size_t offset);
-    /// The line `number`, counted from 1, without its line end.
-    std::string_view line(std::uint32_t number) const;
+    /// The line around `position` without its line end; of a long one the 200 bytes around the column, with "..." where
+    /// it goes on.
+    std::string excerpt(const SourcePosition &position) const;
 
 private:
     std::string_view m_text;

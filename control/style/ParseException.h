@@ -23,7 +23,7 @@ public:
     std::uint32_t line() const { return m_position.line; }
     /// From 1, in bytes.
     std::uint32_t column() const { return m_position.column; }
-    /// The whole line the fault stands in, without its line end.
+    /// The line the fault stands in, without its line end; of a long one what is around the fault.
     const std::string &lineText() const { return m_lineText; }
 
 private:

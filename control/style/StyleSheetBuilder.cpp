@@ -1,7 +1,10 @@
 #include "style/StyleSheetBuilder.h"
 
+#include "style/TextExcerpt.h"
+
 #include <boost/variant/get.hpp>
 
+#include <algorithm>
 #include <string>
 
 namespace tamble::client {
@@ -14,6 +17,8 @@ constexpr std::size_t MaximumExpandedBytes = std::size_t(64) << 20;
 
 // A block of declarations is attached to each selector before it, so that the two lengths multiply.
 constexpr std::size_t MaximumAttachments = std::size_t(16) << 20;
+
+constexpr std::string_view NameCharacters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-";
 
 std::size_t bytesOf(const StyleValue &value)
 {
@@ -89,6 +94,7 @@ void StyleSheetBuilder::beginDeclaration(std::string_view name)
         throw ruleError("Too many declarations for too many selectors", name);
     PropertySpec &declaration = m_sheet.m_declarations.emplace_back();
     declaration.name = name;
+    m_lastName = name;
     m_values = &declaration.values;
     m_declarationOffsets.push_back(offsetOf(name.data()));
     for (const SelectorTree::Node node : m_nodes)
@@ -104,6 +110,7 @@ void StyleSheetBuilder::endRule()
 void StyleSheetBuilder::addText(std::string_view text)
 {
     m_values->emplace_back(std::string(text));
+    m_lastText = text;
 }
 
 void StyleSheetBuilder::addReference(std::string_view name)
@@ -142,11 +149,30 @@ StyleSheet StyleSheetBuilder::finish()
 
 ParseException StyleSheetBuilder::syntaxError(const char *place, std::string_view expected) const
 {
+    const std::string_view rest = m_text.substr(offsetOf(place));
+    if (rest.starts_with('#')) {
+        const std::size_t end = std::min(rest.find_first_not_of(NameCharacters, 1), rest.size());
+        if (end > 1)
+            return faultAt(place, cutAround(rest.substr(0, end), 0) + " is no colour");
+    }
+    return faultAt(place, "expected " + std::string(expected));
+}
+
+ParseException StyleSheetBuilder::missingColon(const char *place, std::string_view expected) const
+{
+    const char *const begin = m_lastText.data();
+    if (!begin || begin + m_lastText.size() != m_lastName.data())
+        return syntaxError(place, expected);
+    const std::string_view whole(begin, m_lastText.size() + m_lastName.size());
+    return faultAt(begin, cutAround(whole, 0) + (whole.starts_with('#') ? " is no colour" : " is no number"));
+}
+
+ParseException StyleSheetBuilder::faultAt(const char *place, const std::string &description) const
+{
     LineTable lines(m_text);
     const SourcePosition position = lines.position(offsetOf(place));
-    std::string message = std::to_string(position.line) + ':' + std::to_string(position.column) + ": syntax error";
-    message.append(", expected ").append(expected);
-    return {message, position, std::string(lines.line(position.line))};
+    const std::string prefix = std::to_string(position.line) + ':' + std::to_string(position.column);
+    return {prefix + ": syntax error, " + description, position, lines.excerpt(position)};
 }
 
 ParseException StyleSheetBuilder::ruleError(std::string_view description, std::string_view name) const
@@ -154,8 +180,8 @@ ParseException StyleSheetBuilder::ruleError(std::string_view description, std::s
     LineTable lines(m_text);
     const SourcePosition position = lines.position(offsetOf(name.data()));
     std::string message(description);
-    message.append(" ").append(name).append(" line ").append(std::to_string(position.line));
-    return {message, position, std::string(lines.line(position.line))};
+    message.append(" ").append(cutAround(name, 0)).append(" line ").append(std::to_string(position.line));
+    return {message, position, lines.excerpt(position)};
 }
 
 } // namespace tamble::client

@@ -41,8 +41,11 @@ public:
 
     /// The exception for a text that does not go on with `expected` at `place`.
     ParseException syntaxError(const char *place, std::string_view expected) const;
+    /// The exception for a declaration whose name is not followed by `expected`, which `place` shows instead.
+    ParseException missingColon(const char *place, std::string_view expected) const;
 
 private:
+    ParseException faultAt(const char *place, const std::string &description) const;
     ParseException ruleError(std::string_view description, std::string_view name) const;
 
     enum class Join { SameElement, Descendant, Child };
@@ -66,6 +69,8 @@ private:
     std::size_t m_attachments = 0;
 
     std::vector<StyleValue> *m_values = nullptr; // what the next value is added to
+    std::string_view m_lastText;                 // a value
+    std::string_view m_lastName;                 // of a declaration
     std::string_view m_definition;
     std::vector<StyleValue> m_definitionValues;
     std::size_t m_expandedBytes = 0;

@@ -69,4 +69,15 @@ struct Control : peg::normal<Rule>
     }
 };
 
+/// Where a name follows a number or a colour without a gap, this was meant to be longer: "14px", "#ff88zz".
+template <>
+struct Control<colon> : peg::normal<colon>
+{
+    template <typename Input>
+    [[noreturn]] static void raise(const Input &input, StyleSheetBuilder &builder)
+    {
+        throw builder.missingColon(input.current(), expected<colon>);
+    }
+};
+
 } // namespace tamble::client::grammar

@@ -294,8 +294,14 @@ void tst_StyleSheetParser::faults_data()
         "1:5: syntax error, expected a type name or \".\" and a class word after \">\"", "A > {}");
     row("blank behind the dot", "A. red {}", "1:3: syntax error, expected a class word after \".\"", "A. red {}");
     row("no state word", "A::1 {}", "1:4: syntax error, expected a state word after \"::\"", "A::1 {}");
-    row("number with unit", "A { a: 14px; }", "1:12: syntax error, expected \":\" after the name of the property",
-        "A { a: 14px; }");
+    row("number with unit", "A { a: 14px; }", "1:8: syntax error, 14px is no number", "A { a: 14px; }");
+    row("letters in a colour", "A {\n a: #ff88zz; }", "2:5: syntax error, #ff88zz is no colour", " a: #ff88zz; }");
+    row("letter first in a colour, no semicolon", "A { a: #z0 b: c }", "1:8: syntax error, #z0 is no colour",
+        "A { a: #z0 b: c }");
+    row("letter last in a colour, no semicolon", "A { a: #0z b: c }", "1:8: syntax error, #0z is no colour",
+        "A { a: #0z b: c }");
+    row("name behind quotes", "A { a: '#0'z; }", "1:13: syntax error, expected \":\" after the name of the property",
+        "A { a: '#0'z; }");
     row("hash without digits", "A { a: #; }", "1:8: syntax error, expected a value", "A { a: #; }");
     row("quote not closed", "A {\n a: \"b;\n}\n", "2:5: syntax error, expected the same quote at the end of the text",
         " a: \"b;");
@@ -343,6 +349,36 @@ void tst_StyleSheetParser::undefinedVariable()
         QCOMPARE(fault.line(), 3u);
         QCOMPARE(fault.column(), 15u);
         QCOMPARE(fault.lineText().c_str(), "  k: @known, @later; }");
+    }
+}
+
+void tst_StyleSheetParser::longLinesAreCut_data()
+{
+    QTest::addColumn<std::string>("text");
+    QTest::addColumn<std::string>("around"); // what the message shows of the place
+    const std::string megabyte(1000000, 'a');
+    QTest::newRow("fault at the end") << "A { " + megabyte + ": b;; }" << std::string("aaa: b;; }");
+    QTest::newRow("fault at the start") << ";" + megabyte << std::string(";aaa");
+    QTest::newRow("fault in between") << "A{k:'" + megabyte + "'; l:%; m:'" + megabyte + "'}"
+                                      << std::string("aaa'; l:%; m:'aaa");
+    QTest::newRow("long name of a variable") << "A{k:@" + megabyte + "}" << std::string("A{k:@aaa");
+    QTest::newRow("characters of two bytes")
+        << "A{k:'" + repeated("\xc3\xbc", 5000) + "'; l:% '" + repeated("\xc3\xbc", 5000)
+        << std::string("\xc3\xbc'; l:% '\xc3\xbc");
+}
+
+void tst_StyleSheetParser::longLinesAreCut()
+{
+    QFETCH(std::string, text);
+    QFETCH(std::string, around);
+    try {
+        parseStdString(text);
+        QFAIL("no fault was found");
+    } catch (const ParseException &fault) {
+        QVERIFY2(fault.lineText().size() <= 200, std::to_string(fault.lineText().size()).c_str());
+        QVERIFY2(fault.message().size() < 300, fault.what());
+        QVERIFY2(fault.lineText().find(around) != std::string::npos, fault.lineText().c_str());
+        QCOMPARE(QString::fromStdString(fault.lineText()).toStdString(), fault.lineText()); // UTF-8 throughout
     }
 }
 

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void faults_data();
     void faults();
     void undefinedVariable();
+    void longLinesAreCut_data();
+    void longLinesAreCut();
     void hostileTexts_data();
     void hostileTexts();
     void sheetAsShipped();
