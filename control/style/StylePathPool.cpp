@@ -2,6 +2,7 @@
 
 #include <QtCore/QHashFunctions>
 
+#include <algorithm>
 #include <vector>
 
 namespace tamble::client {
@@ -84,6 +85,8 @@ std::size_t StylePathPool::PathHash::operator()(const PathKey &key) const noexce
 
 StylePathRef StylePathPool::child(const StylePathRef &parent, QStringView typeName, QStringView name, QStringView state)
 {
+    if (m_paths.size() >= m_mostPaths)
+        collect();
     const StyleElement *innermost = element(ElementText(typeName, name, state));
     auto path = m_paths.find(PathKey(parent.get(), innermost));
     if (path == m_paths.end()) {
@@ -121,6 +124,13 @@ void StylePathPool::collect()
         }
     }
 
+    if (!unused.empty())
+        dropUnusedElements();
+    m_mostPaths = std::max(MinimumGrowth, 2 * m_paths.size());
+}
+
+void StylePathPool::dropUnusedElements()
+{
     std::unordered_set<const StyleElement *> used;
     for (const StylePath &path : m_paths)
         used.insert(&path.element());

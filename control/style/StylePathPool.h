@@ -10,6 +10,9 @@
 namespace tamble::client {
 
 /// Makes style paths and holds each distinct one once. For the GUI thread only.
+///
+/// Paths that nothing refers to stay for a while, since a state that was left often comes back: until somebody
+/// collects, at the latest until there are twice as many paths as the last collection left.
 class StylePathPool
 {
 public:
@@ -26,6 +29,9 @@ public:
 
     /// Drops all paths that nothing refers to, and all that only those referred to.
     void collect();
+
+    /// Fewer are not worth a search for those that can go.
+    static constexpr std::size_t MinimumGrowth = 512;
 
     /// How many paths and how many distinct elements are held.
     std::size_t pathCount() const { return m_paths.size(); }
@@ -88,9 +94,11 @@ private:
     };
 
     const StyleElement *element(const ElementText &text);
+    void dropUnusedElements();
 
     std::unordered_set<PooledElement, ElementHash, ElementEqual> m_elements;
     std::unordered_set<StylePath, PathHash, PathEqual> m_paths;
+    std::size_t m_mostPaths = MinimumGrowth;
 };
 
 } // namespace tamble::client

@@ -5,6 +5,8 @@
 
 #include <QtTest/QTest>
 
+#include <vector>
+
 using namespace tamble::client;
 
 void tst_StylePath::text_data()
@@ -117,6 +119,20 @@ void tst_StylePath::unusedPathsStayUntilCollected()
     pool.collect();
     QCOMPARE(pool.pathCount(), std::size_t(2));
     QCOMPARE(pool.elementCount(), std::size_t(2));
+}
+
+void tst_StylePath::unusedPathsGoBeforeTheyDouble()
+{
+    StylePathPool pool;
+    std::vector<StylePathRef> used;
+    for (int i = 0; i < 1'000; ++i)
+        used.push_back(pool.child({}, u"A", QString::number(i), u""));
+    for (int i = 0; i < 100'000; ++i) {
+        const StylePathRef outer = pool.child({}, u"B", QString::number(i), u"");
+        QCOMPARE(pool.child(outer, u"C", u"", u"")->parent(), outer.get());
+    }
+    QVERIFY(pool.pathCount() <= 2'100 && pool.elementCount() <= 2'100);
+    QVERIFY(pool.child({}, u"A", u"7", u"") == used[7]);
 }
 
 void tst_StylePath::collectKeepsWhatIsUsed()

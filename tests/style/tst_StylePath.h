@@ -15,6 +15,7 @@ private Q_SLOTS:
     void equalPathsAreOne();
     void longerListsOfWordsDiffer();
     void unusedPathsStayUntilCollected();
+    void unusedPathsGoBeforeTheyDouble();
     void collectKeepsWhatIsUsed();
     void collectOfADeepPath();
     void typeName_data();
