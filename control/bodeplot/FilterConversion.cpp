@@ -1,5 +1,6 @@
 #include "bodeplot/FilterConversion.h"
 
+#include "ControlLog.h"
 #include "bodeplot/RBodeplotAsymmetricEqFilter.h"
 #include "bodeplot/RBodeplotEqFilter.h"
 #include "bodeplot/RBodeplotFIRFilter.h"
@@ -167,9 +168,9 @@ ConvertedFilters calculationItemsQListToStdVector(const QList<RBodeplotCalculati
     for (qsizetype i = 0; i < items.size(); ++i) {
         const FilterRecord record = items[i] ? recordOfItem(*items[i]) : FilterRecord();
         if (!record) {
-            qWarning() << "calculationItemsQListToStdVector() calculationItem at index" << i
-                       << "is not an RBodeplotEqFilter / RBodeplotXOverFilter / RBodeplotFIRFilter / "
-                          "RBodeplotAsymmetricEqFilter";
+            qCWarning(controlLog) << "calculationItemsQListToStdVector() calculationItem at index" << i
+                                  << "is not an RBodeplotEqFilter / RBodeplotXOverFilter / RBodeplotFIRFilter / "
+                                     "RBodeplotAsymmetricEqFilter";
             continue;
         }
         converted.records.push_back(record);
@@ -184,7 +185,7 @@ ConvertedFilters calculationItemsQmlListReferenceToStdVector(const QQmlListRefer
     ConvertedFilters converted;
     converted.fromReference = true;
     if (!reference.canCount() || !reference.canAt()) {
-        qWarning() << "calculationItemsQmlListReferenceToStdVector() count function not implemented";
+        qCWarning(controlLog) << "calculationItemsQmlListReferenceToStdVector() count function not implemented";
         return converted;
     }
     for (qsizetype i = 0; i < reference.count(); ++i) {

@@ -1,5 +1,6 @@
 #include "bodeplot/RBodeplotAxis.h"
 
+#include "ControlLog.h"
 #include "bodeplot/StyleObject.h"
 
 #include <QtCore/QDebug>
@@ -132,13 +133,13 @@ void RBodeplotAxis::reportProblem(TickProblem problem)
     case TickProblem::None:
         break;
     case TickProblem::IncrementNotPositive:
-        qWarning("RBodeplotAxis::updateLabels() delta must be positive");
+        qCWarning(controlLog, "RBodeplotAxis::updateLabels() delta must be positive");
         break;
     case TickProblem::MinimumNotPositive:
-        qWarning("RBodeplotAxis::updateLabels() minimum of a logarithmic axis must be positive");
+        qCWarning(controlLog, "RBodeplotAxis::updateLabels() minimum of a logarithmic axis must be positive");
         break;
     case TickProblem::TooManyTicks:
-        qWarning("RBodeplotAxis::updateLabels() more than 1000 labels");
+        qCWarning(controlLog, "RBodeplotAxis::updateLabels() more than 1000 labels");
         break;
     }
 }

@@ -1,5 +1,6 @@
 #include "bodeplot/RBodeplotGrid.h"
 
+#include "ControlLog.h"
 #include "bodeplot/FrameAxes.h"
 #include "bodeplot/FrameGridLines.h"
 #include "bodeplot/StyleObject.h"
@@ -114,7 +115,8 @@ void RBodeplotGrid::warnWithoutZero() const
 {
     // While the component is being built, its bounds come one by one.
     if (m_dedicatedXAxisLine && isComponentComplete() && !showsZero())
-        qWarning("RBodeplotGrid::onHeightChanged() dedicated x axis line enabled but 0 is not between yMin and yMax");
+        qCWarning(controlLog,
+                  "RBodeplotGrid::onHeightChanged() dedicated x axis line enabled but 0 is not between yMin and yMax");
 }
 
 bool RBodeplotGrid::showsZero() const
@@ -154,7 +156,7 @@ void RBodeplotGrid::computeLines()
     const bool tooMany =
         vertical.problem == TickProblem::TooManyTicks || horizontal.problem == TickProblem::TooManyTicks;
     if (tooMany && !m_tooManyLinesReported)
-        qWarning("RBodeplotGrid::computeLines() more than 1000 lines");
+        qCWarning(controlLog, "RBodeplotGrid::computeLines() more than 1000 lines");
     m_tooManyLinesReported = tooMany;
 }
 

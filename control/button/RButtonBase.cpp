@@ -1,6 +1,7 @@
 #include "button/RButtonBase.h"
 
 #include "button/ButtonInterface.h"
+#include "ControlLog.h"
 #include "button/Mnemonic.h"
 #include "decoration/PartComponents.h"
 #include "style/StyleTypeName.h"
@@ -239,7 +240,7 @@ void RButtonBase::warnAboutMissingName() const
     const QString type = styleTypeName(metaObject()->className());
     if (accessibleNameOf(*this).isEmpty() && !warnedTypes.contains(type)) {
         warnedTypes.insert(type);
-        qWarning("WARN: %s has no accessible name", qPrintable(type));
+        qCWarning(controlLog, "WARN: %s has no accessible name", qPrintable(type));
     }
 }
 

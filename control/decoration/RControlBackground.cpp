@@ -1,5 +1,6 @@
 #include "decoration/RControlBackground.h"
 
+#include "ControlLog.h"
 #include "decoration/PartComponents.h"
 
 #include <QtQml/QQmlComponent>
@@ -51,7 +52,7 @@ QQuickItem *RControlBackground::makePart(const char *file)
     QQmlComponent &component = PartComponents::of(engine).component(QString::fromLatin1(file));
     auto *part = qobject_cast<QQuickItem *>(component.beginCreate(engine->rootContext()));
     if (!part) {
-        qmlWarning(this) << component.errorString();
+        qCWarning(controlLog).noquote() << component.errorString();
         return nullptr;
     }
     part->setParent(this);

@@ -1,5 +1,6 @@
 #include "fader/FaderItem.h"
 
+#include "ControlLog.h"
 #include "fader/FaderMarks.h"
 #include "style/StyleTypeName.h"
 
@@ -223,7 +224,7 @@ void FaderItem::warnAboutMissingName() const
     const QString type = styleTypeName(metaObject()->className());
     if (accessibleName().isEmpty() && !warnedTypes.contains(type)) {
         warnedTypes.insert(type);
-        qWarning("WARN: %s has no accessible name", qPrintable(type));
+        qCWarning(controlLog, "WARN: %s has no accessible name", qPrintable(type));
     }
 }
 

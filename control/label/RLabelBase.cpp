@@ -1,5 +1,6 @@
 #include "label/RLabelBase.h"
 
+#include "ControlLog.h"
 #include "button/Mnemonic.h"
 #include "decoration/PartComponents.h"
 
@@ -207,7 +208,7 @@ QObject *RLabelBase::makePart(const char *file)
     if (part)
         part->setParent(this);
     else
-        qmlWarning(this) << component.errorString();
+        qCWarning(controlLog).noquote() << component.errorString();
     return part;
 }
 

@@ -1,5 +1,6 @@
 #include "plot/NumberingHelper.h"
 
+#include "ControlLog.h"
 #include "plot/GridValues.h"
 #include "plot/NumberText.h"
 
@@ -38,7 +39,7 @@ void NumberingHelper::recalculate()
     const AxisRange range{m_from, m_to, axisScale(m_scale)};
     const std::optional<QList<double>> values = thinnedGridValues({range, m_step}, m_maximumCount);
     if (!values)
-        qWarning("NumberingHelper::recalculate() step out of range");
+        qCWarning(controlLog, "NumberingHelper::recalculate() step out of range");
 
     const QVariantList labels = labelsFor(values.value_or(QList<double>()), range);
     if (m_labels == labels)

@@ -1,5 +1,6 @@
 #include "plot/RConstantGridLineCalculator.h"
 
+#include "ControlLog.h"
 #include "plot/GridValues.h"
 
 #include <QtCore/QDebug>
@@ -36,7 +37,7 @@ void RConstantGridLineCalculator::recalculate()
     const AxisRange range{m_from, m_to, axisScale(m_scale)};
     const std::optional<QList<double>> found = gridValues({range, m_step, m_origin, m_includeEnds});
     if (!found)
-        qWarning("RConstantGridLineCalculator::recalculate() step out of range");
+        qCWarning(controlLog, "RConstantGridLineCalculator::recalculate() step out of range");
 
     const QList<double> values = found.value_or(QList<double>());
     QList<double> positions;

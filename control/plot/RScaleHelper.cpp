@@ -1,5 +1,6 @@
 #include "plot/RScaleHelper.h"
 
+#include "ControlLog.h"
 #include "plot/ScaleSteps.h"
 
 #include <QtCore/QDebug>
@@ -69,7 +70,7 @@ bool RScaleHelper::checkRange(const char *function)
     // Bindings call again and again; one line per unusable range is enough to find the mistake.
     if (!m_reportedRange || !isSameRange(*m_reportedRange, current)) {
         m_reportedRange = current;
-        qWarning("RScaleHelper::%s() range is empty or not above 0 on a logarithmic scale", function);
+        qCWarning(controlLog, "RScaleHelper::%s() range is empty or not above 0 on a logarithmic scale", function);
     }
     return false;
 }

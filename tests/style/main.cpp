@@ -1,5 +1,6 @@
 #include "tst_BuiltInSheets.h"
 #include "tst_ColourMetrics.h"
+#include "tst_LogCategories.h"
 #include "tst_StylePath.h"
 #include "tst_StyleResolver.h"
 #include "tst_StyleSheetParser.h"
@@ -17,9 +18,10 @@ int main(int argc, char **argv)
     tst_StyleResolver styleResolver;
     tst_ColourMetrics colourMetrics;
     tst_BuiltInSheets builtInSheets;
+    tst_LogCategories logCategories;
     int failures = 0;
     for (QObject *test : std::initializer_list<QObject *>{&styleSheetParser, &styleValues, &stylePath, &styleResolver,
-                                                          &colourMetrics, &builtInSheets})
+                                                          &colourMetrics, &builtInSheets, &logCategories})
         failures += QTest::qExec(test, argc, argv);
     return failures;
 }

@@ -1,0 +1,28 @@
+#include "tst_LogCategories.h"
+
+#include <QtCore/QDirIterator>
+#include <QtCore/QFile>
+#include <QtCore/QRegularExpression>
+#include <QtTest/QTest>
+
+// Hosts filter what they log by category, and a line without one cannot be told from their own.
+void tst_LogCategories::everyWarningHasOne()
+{
+    static const QRegularExpression plain(QStringLiteral("\\b(qWarning|qCritical|qmlWarning|qmlInfo|console\\.warn|"
+                                                         "console\\.error)\\s*\\("));
+    QStringList places;
+    int count = 0;
+    for (const char *folder : {"control", "libs", "qml"}) {
+        QDirIterator files(QStringLiteral(TAMBLE_SOURCES "/") + folder, {"*.cpp", "*.h", "*.qml"}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            QVERIFY(file.open(QFile::ReadOnly));
+            ++count;
+            if (plain.match(QString::fromUtf8(file.readAll())).hasMatch())
+                places.append(file.fileName());
+        }
+    }
+    QVERIFY(count > 100);
+    QCOMPARE(places, QStringList());
+}
