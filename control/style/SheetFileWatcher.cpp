@@ -1,8 +1,9 @@
 #include "style/SheetFileWatcher.h"
 
+#include "style/SheetFile.h"
+
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
 #include <chrono>
@@ -15,12 +16,12 @@ using namespace std::chrono_literals;
 
 constexpr auto SettleTime = 50ms;
 
-// Times of modification are too coarse to tell two saves within milliseconds apart.
+// Times of modification are too coarse to tell two saves within milliseconds apart. What a file holds beyond the length
+// of a sheet makes no difference, since neither is used.
 QByteArray digestOf(const QString &path)
 {
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha1)
-                                      : QByteArray();
+    const std::optional<QByteArray> text = readSheetFile(path);
+    return text ? QCryptographicHash::hash(*text, QCryptographicHash::Sha1) : QByteArray();
 }
 
 // The directory of `file`, or the nearest one above that exists: the rest of the path may appear later.
@@ -58,7 +59,7 @@ void SheetFileWatcher::watchAgain()
 {
     QStringList wanted;
     for (auto entry = m_contents.cbegin(); entry != m_contents.cend(); ++entry) {
-        if (QFileInfo::exists(entry.key()))
+        if (isSheetFile(entry.key()))
             wanted.append(entry.key());
         wanted.append(watchableDirectory(entry.key()));
     }

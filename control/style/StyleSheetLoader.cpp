@@ -1,12 +1,13 @@
 #include "style/StyleSheetLoader.h"
 
 #include "style/ParseException.h"
+#include "style/SheetFile.h"
 #include "style/StyleLog.h"
 #include "style/StyleSheetParser.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 #include <QtCore/QThread>
+
+#include <string_view>
 
 namespace tamble::client {
 
@@ -14,16 +15,11 @@ namespace {
 
 constexpr unsigned long MissingFileWaitMs = 1000;
 
-bool isResource(const QString &text)
-{
-    return text.startsWith(QStringLiteral("qrc:/")) || text.startsWith(QStringLiteral(":/"));
-}
-
 bool appears(const QString &path)
 {
-    if (path.isEmpty() || !QFileInfo(path).isFile())
+    if (!isSheetFile(path))
         QThread::msleep(MissingFileWaitMs);
-    return QFileInfo(path).isFile();
+    return isSheetFile(path);
 }
 
 } // namespace
@@ -39,58 +35,52 @@ std::optional<StyleSheet> StyleSheetLoader::load(const QUrl &url) const
         return StyleSheet();
     qCInfo(styleLog).noquote().nospace() << "INFO: Load style from '" << url.toString() << "'";
 
-    const bool wellFormed = url.isLocalFile() || url.isRelative() || (url.isValid() && isResource(url.toString()));
+    const bool wellFormed =
+        url.isLocalFile() || url.isRelative() || (url.isValid() && !sheetPath(url, QUrl()).isEmpty());
     if (!wellFormed) {
-        const QString message =
-            QStringLiteral("wrong path format '%1': missing 'file:///' or 'qrc:/' ? ").arg(url.toString());
-        qCCritical(styleLog).noquote() << "CRITICAL: loading style sheet failed:" << message;
-        m_report(QStringLiteral("loadingStyleSheetFailed"),
-                 QStringLiteral("Loading style sheet failed '%1'.").arg(message));
+        reportFailure(QStringLiteral("wrong path format '%1': missing 'file:///' or 'qrc:/' ? ").arg(url.toString()));
         return StyleSheet();
     }
 
-    const QString path = filePath(url);
+    const QString path = sheetPath(url, m_baseUrl);
     if (!appears(path)) {
         qCCritical(styleLog).noquote().nospace() << "CRITICAL: Style '" << path << "' not found";
         m_report(QStringLiteral("styleSheetNotFound"), QStringLiteral("Style '%1' not found.").arg(path));
         return StyleSheet();
     }
-    return parse(path);
+    return read(path);
 }
 
-QString StyleSheetLoader::filePath(const QUrl &url) const
-{
-    const QString text = url.toString();
-    if (text.startsWith(QStringLiteral("qrc:/")))
-        return text.mid(3);
-    if (text.startsWith(QStringLiteral(":/")))
-        return text;
-    const QUrl resolved = m_baseUrl.resolved(url);
-    return isResource(resolved.toString()) ? resolved.toString().mid(3) : resolved.toLocalFile();
-}
-
-std::optional<StyleSheet> StyleSheetLoader::parse(const QString &path) const
+std::optional<StyleSheet> StyleSheetLoader::read(const QString &path) const
 {
     qCInfo(styleLog).noquote().nospace() << "INFO: Load style from '" << path << "' ...";
-    QFile file(path);
-    if (!file.open(QFile::ReadOnly)) {
-        m_report(QStringLiteral("loadingStyleSheetFailed"),
-                 QStringLiteral("Loading style sheet failed '%1'.").arg(path + u' ' + file.errorString()));
+    QString error;
+    const std::optional<QByteArray> text = readSheetFile(path, &error);
+    if (!text) {
+        reportFailure(path + u' ' + error);
+        return std::nullopt;
+    }
+    if (text->size() > MaximumSheetBytes) {
+        reportFailure(QStringLiteral("%1: longer than %2 MiB").arg(path).arg(MaximumSheetBytes >> 20));
         return std::nullopt;
     }
     try {
-        return parseStdString(file.readAll().toStdString());
-    } catch (const ParseException &error) {
-        const QString message = QStringLiteral("%1: %2 at line %3 column %4: %5")
-                                    .arg(path, QString::fromStdString(error.message()))
-                                    .arg(error.line())
-                                    .arg(error.column())
-                                    .arg(QString::fromStdString(error.lineText()).trimmed());
-        qCCritical(styleLog).noquote() << "CRITICAL: loading style sheet failed:" << message;
-        m_report(QStringLiteral("loadingStyleSheetFailed"),
-                 QStringLiteral("Loading style sheet failed '%1'.").arg(message));
+        return parseSheet(std::string_view(text->constData(), std::size_t(text->size())));
+    } catch (const ParseException &fault) {
+        reportFailure(QStringLiteral("%1: %2 at line %3 column %4: %5")
+                          .arg(path, QString::fromStdString(fault.message()))
+                          .arg(fault.line())
+                          .arg(fault.column())
+                          .arg(QString::fromStdString(fault.lineText()).trimmed()));
         return std::nullopt;
     }
+}
+
+void StyleSheetLoader::reportFailure(const QString &message) const
+{
+    qCCritical(styleLog).noquote() << "CRITICAL: loading style sheet failed:" << message;
+    m_report(QStringLiteral("loadingStyleSheetFailed"),
+             QStringLiteral("Loading style sheet failed '%1'.").arg(message));
 }
 
 } // namespace tamble::client

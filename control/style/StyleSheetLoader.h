@@ -22,12 +22,12 @@ public:
 
     /// The sheet behind `url`: a file, a resource ("qrc:/…") or a relative URL. An empty URL, one of another form and a
     /// file that does not exist give an empty sheet; for a missing file the call waits a second first, since an editor
-    /// may be replacing it. Nothing when the sheet does not parse.
+    /// may be replacing it. Nothing when the sheet cannot be read, is too long or does not parse.
     std::optional<StyleSheet> load(const QUrl &url) const;
 
 private:
-    QString filePath(const QUrl &url) const;
-    std::optional<StyleSheet> parse(const QString &path) const;
+    std::optional<StyleSheet> read(const QString &path) const;
+    void reportFailure(const QString &message) const;
 
     QUrl m_baseUrl;
     Report m_report;

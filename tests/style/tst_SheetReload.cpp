@@ -8,6 +8,8 @@
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
+#include <sys/stat.h>
+
 #include <functional>
 
 using namespace tamble::client;
@@ -147,5 +149,45 @@ void tst_SheetReload::directoryThatAppearsLater()
     QVERIFY(QDir().mkpath(fixture.path("later/on")));
     QTest::qWait(120);
     fixture.write("later/on/user.style", sheet(3));
+    QTRY_COMPARE(box.props().number("a"), 3.0);
+}
+
+void tst_SheetReload::endlessFilesCountAsMissing_data()
+{
+    QTest::addColumn<Save>("make");
+    QTest::newRow("pipe") << Save([](const StyleFixture &fixture, const QByteArray &) {
+        QCOMPARE(mkfifo(qPrintable(fixture.path("user.style")), 0600), 0);
+    });
+    QTest::newRow("link to a device") << Save([](const StyleFixture &fixture, const QByteArray &) {
+        QVERIFY(QFile::link("/dev/zero", fixture.path("user.style")));
+    });
+}
+
+void tst_SheetReload::endlessFilesCountAsMissing()
+{
+    QFETCH(const Save, make);
+    StyleFixture fixture;
+    make(fixture, {});
+    QTest::ignoreMessage(QtCriticalMsg, QRegularExpression(QStringLiteral("^CRITICAL: Style '.*' not found$")));
+    const Setup setup(fixture.url("user.style"));
+    QCOMPARE(fixture.types, QStringList("styleSheetNotFound"));
+    QVERIFY(QFile::remove(fixture.path("user.style")));
+    fixture.write("user.style", sheet(2));
+    StyledBox box;
+    QTRY_COMPARE(box.props().number("a"), 2.0);
+}
+
+void tst_SheetReload::tooLongSheetLeavesTheStyles()
+{
+    StyleFixture fixture;
+    const Setup setup(fixture.write("user.style", sheet(1)));
+    StyledBox box;
+    QTest::ignoreMessage(QtCriticalMsg,
+                         QRegularExpression(QStringLiteral("^CRITICAL: loading style sheet failed: .*16 MiB")));
+    const qsizetype longest = qsizetype(16) << 20;
+    fixture.write("user.style", sheet(2) + QByteArray(longest, ' '));
+    QTRY_COMPARE(fixture.types, QStringList("loadingStyleSheetFailed"));
+    QCOMPARE(box.props().number("a"), 1.0);
+    fixture.write("user.style", sheet(3).leftJustified(longest));
     QTRY_COMPARE(box.props().number("a"), 3.0);
 }

@@ -14,4 +14,7 @@ private Q_SLOTS:
     void otherFilesCauseNone();
     void deletedSheetFallsBackToTheDefault();
     void directoryThatAppearsLater();
+    void endlessFilesCountAsMissing_data();
+    void endlessFilesCountAsMissing();
+    void tooLongSheetLeavesTheStyles();
 };
