@@ -6,6 +6,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
+#include <algorithm>
 #include <chrono>
 
 namespace tamble::client {
@@ -15,6 +16,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto SettleTime = 50ms;
+constexpr auto LongestSettleTime = 500ms;
 
 // Times of modification are too coarse to tell two saves within milliseconds apart. What a file holds beyond the length
 // of a sheet makes no difference, since neither is used.
@@ -39,9 +41,8 @@ SheetFileWatcher::SheetFileWatcher(QObject *parent)
     : QObject(parent)
 {
     m_settle.setSingleShot(true);
-    m_settle.setInterval(SettleTime);
-    connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_settle, qOverload<>(&QTimer::start));
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_settle, qOverload<>(&QTimer::start));
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &SheetFileWatcher::settle);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &SheetFileWatcher::settle);
     connect(&m_settle, &QTimer::timeout, this, &SheetFileWatcher::compare);
 }
 
@@ -52,6 +53,14 @@ void SheetFileWatcher::setFiles(const QStringList &files)
         contents.insert(file, digestOf(file));
     m_contents = contents;
     watchAgain();
+}
+
+// A neighbour that is written all the time must not hold a changed sheet back.
+void SheetFileWatcher::settle()
+{
+    if (!m_settle.isActive())
+        m_longestSettle.setRemainingTime(LongestSettleTime);
+    m_settle.start(std::min(SettleTime, std::chrono::milliseconds(m_longestSettle.remainingTime())));
 }
 
 // A watch on a file ends when the file is replaced, and none can be set on a missing one; hence the directories too.

@@ -5,6 +5,7 @@
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSaveFile>
+#include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
@@ -190,4 +191,19 @@ void tst_SheetReload::tooLongSheetLeavesTheStyles()
     QCOMPARE(box.props().number("a"), 1.0);
     fixture.write("user.style", sheet(3).leftJustified(longest));
     QTRY_COMPARE(box.props().number("a"), 3.0);
+}
+
+void tst_SheetReload::busyNeighboursHoldNothingBack()
+{
+    const StyleFixture fixture;
+    const Setup setup(fixture.write("user.style", sheet(1)));
+    StyledBox box;
+    QTimer neighbour;
+    QObject::connect(&neighbour, &QTimer::timeout, &neighbour, [&fixture] {
+        fixture.write("neighbour", {});
+        QFile::remove(fixture.path("neighbour"));
+    });
+    neighbour.start(20);
+    fixture.write("user.style", sheet(2));
+    QTRY_COMPARE_WITH_TIMEOUT(box.props().number("a"), 2.0, 1000);
 }

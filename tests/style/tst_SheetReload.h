@@ -17,4 +17,5 @@ private Q_SLOTS:
     void endlessFilesCountAsMissing_data();
     void endlessFilesCountAsMissing();
     void tooLongSheetLeavesTheStyles();
+    void busyNeighboursHoldNothingBack();
 };
