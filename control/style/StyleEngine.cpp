@@ -26,36 +26,53 @@ StyleEngine *StyleEngine::instance()
 void StyleEngine::setStyleSheetSource(const QUrl &url)
 {
     qCInfo(styleLog).noquote() << "INFO: StyleEngine::setStyleSheetSource" << url.toString();
-    m_styleSheetSource = url;
+    m_userSheet = {url, m_baseUrl};
 }
 
 void StyleEngine::setDefaultStyleSheetSource(const QUrl &url)
 {
     qCInfo(styleLog).noquote() << "INFO: StyleEngine::setDefaultStyleSheetSource" << url.toString();
-    m_defaultStyleSheetSource = url;
+    m_defaultSheet = {url, m_baseUrl};
 }
 
 void StyleEngine::loadStyles()
 {
     qCDebug(styleLog, "DEBUG: StyleEngine::loadStyles");
-    const StyleSheetLoader loader(
-        m_baseUrl, [this](const QString &type, const QString &message) { Q_EMIT exception(type, message); });
-    std::optional<StyleSheet> userSheet = loader.load(m_styleSheetSource);
-    std::optional<StyleSheet> defaultSheet = loader.load(m_defaultStyleSheetSource);
-    if (m_loaded && !(userSheet && defaultSheet))
+    const quint64 load = ++m_newestLoad;
+    const auto isOvertaken = [this, load] { return m_newestLoad != load; };
+
+    std::optional<StyleSheet> userSheet = read(m_userSheet);
+    if (isOvertaken())
+        return;
+    std::optional<StyleSheet> defaultSheet = read(m_defaultSheet);
+    const bool isStyled = m_sheet && !m_sheet->isEmpty();
+    if (isOvertaken() || (isStyled && !(userSheet && defaultSheet)))
         return;
 
-    install(StyleSheet::merged(std::move(defaultSheet).value_or(StyleSheet()),
-                               std::move(userSheet).value_or(StyleSheet())));
+    StyleSheet sheet =
+        StyleSheet::merged(std::move(defaultSheet).value_or(StyleSheet()), std::move(userSheet).value_or(StyleSheet()));
+    loadFonts(sheet);
+    if (isOvertaken())
+        return;
+    install(std::move(sheet));
+    announceChange();
+    if (isOvertaken())
+        return;
     m_loaded = true;
     signalMissingKeys();
-    Q_EMIT styleChanged();
+    if (!isOvertaken())
+        Q_EMIT styleChanged();
+}
+
+std::optional<StyleSheet> StyleEngine::read(const NamedSheet &named)
+{
+    const StyleSheetLoader loader(
+        named.baseUrl, [this](const QString &type, const QString &message) { Q_EMIT exception(type, message); });
+    return loader.load(named.source);
 }
 
 void StyleEngine::install(StyleSheet &&sheet)
 {
-    loadFonts(sheet);
-
     // Nothing may see a value of the old sheet once somebody hears of the new one, so all forget before any tells.
     for (const auto &shared : m_props)
         shared->invalidate();
@@ -63,22 +80,32 @@ void StyleEngine::install(StyleSheet &&sheet)
     dropUnused();
     m_sheet = std::make_unique<StyleSheet>(std::move(sheet));
     m_resolver = std::make_unique<StyleResolver>(*m_sheet);
+}
+
+void StyleEngine::announceChange()
+{
+    const quint64 load = m_newestLoad;
     const auto props = m_props; // a listener may make new ones
-    for (const auto &shared : props)
+    for (const auto &shared : props) {
+        if (m_newestLoad != load)
+            return; // they have all heard of the newer one
         shared->announceChange();
+    }
 }
 
 void StyleEngine::loadFonts(const StyleSheet &sheet)
 {
+    const quint64 load = m_newestLoad;
     for (const FontFace &face : sheet.fontFaces()) {
-        const QUrl &source = face.origin == SheetOrigin::UserSheet ? m_styleSheetSource : m_defaultStyleSheetSource;
-        const QUrl sheetUrl = m_baseUrl.resolved(source);
+        const QUrl sheetUrl = (face.origin == SheetOrigin::UserSheet ? m_userSheet : m_defaultSheet).url();
         m_fonts->load(QUrl(QString::fromStdString(face.url)), sheetUrl, [&](const QString &message) {
             qCWarning(styleLog).noquote().nospace()
                 << "WARN: " << message << " " << QString::fromStdString(face.url) << " (" << sheetUrl.toString()
                 << " at line " << face.position.line << " column " << face.position.column << ")";
             Q_EMIT exception(QStringLiteral("fontWasNotLoaded"), message);
         });
+        if (m_newestLoad != load)
+            return;
     }
 }
 
@@ -126,6 +153,7 @@ void StyleEngine::signalMissingKeys()
 
 void StyleEngine::reportMissingKeys()
 {
+    const quint64 load = m_newestLoad;
     const auto props = m_props; // a listener may make new ones
     for (const auto &shared : props) {
         // The engine holds it, and so does the copy above; further holders are style sets.
@@ -137,6 +165,12 @@ void StyleEngine::reportMissingKeys()
             qCWarning(styleLog).noquote().nospace() << "WARN: Property " << key << " not found (" << path << ")";
             Q_EMIT exception(QStringLiteral("propertyNotFound"),
                              QStringLiteral("Property '%1' not found (%2)").arg(key, path));
+            if (m_newestLoad != load) {
+                // What the listener has loaded misses other keys, and could not yet say so.
+                m_reportSignalled = false;
+                signalMissingKeys();
+                return;
+            }
         }
     }
     m_missingPending = false;

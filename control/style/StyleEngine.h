@@ -7,6 +7,7 @@
 #include <QtCore/QUrl>
 
 #include <memory>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -27,15 +28,19 @@ class TAMBLE_CLIENT_CONTROL_EXPORT StyleEngine : public QObject
 public:
     static StyleEngine *instance();
 
-    QUrl styleSheetSource() const { return m_styleSheetSource; }
-    QUrl defaultStyleSheetSource() const { return m_defaultStyleSheetSource; }
-    /// The sheets that loadStyles() reads. An empty URL means none. Relative ones are resolved against the base URL.
+    QUrl styleSheetSource() const { return m_userSheet.source; }
+    QUrl defaultStyleSheetSource() const { return m_defaultSheet.source; }
+    /// The sheets that loadStyles() reads. An empty URL means none. Relative ones are resolved against the base URL of
+    /// the time they are set.
     void setStyleSheetSource(const QUrl &url);
     void setDefaultStyleSheetSource(const QUrl &url);
     void setBaseUrl(const QUrl &url) { m_baseUrl = url; }
 
     /// Reads both sheets and restyles everything. A sheet that does not parse is reported and leaves the styles in
-    /// force as they are; at the first load the other sheet is used alone. A sheet that is missing counts as empty.
+    /// force as they are; while there are none, the other sheet is used alone. A sheet that is missing counts as empty.
+    ///
+    /// A listener may answer a report by naming another sheet and loading it. That load is the newer one: what is left
+    /// of the load that reported is not done.
     void loadStyles();
     /// Forgets that styles were loaded: a missing key is not reported until the next load.
     void unload() { m_loaded = false; }
@@ -64,15 +69,26 @@ private:
     StyleEngine();
     ~StyleEngine() override;
 
+    /// A sheet as somebody named it.
+    struct NamedSheet
+    {
+        QUrl source;
+        QUrl baseUrl;
+
+        QUrl url() const { return baseUrl.resolved(source); }
+    };
+
+    std::optional<StyleSheet> read(const NamedSheet &named);
     void install(StyleSheet &&sheet);
+    void announceChange();
     void loadFonts(const StyleSheet &sheet);
     void dropUnused();
     void signalMissingKeys();
 
     std::unique_ptr<FontFaceLoader> m_fonts;
     QUrl m_baseUrl;
-    QUrl m_styleSheetSource;
-    QUrl m_defaultStyleSheetSource;
+    NamedSheet m_userSheet;
+    NamedSheet m_defaultSheet;
     std::unique_ptr<StyleSheet> m_sheet;
     std::unique_ptr<StyleResolver> m_resolver;
 
@@ -80,6 +96,7 @@ private:
     std::vector<std::shared_ptr<UsageCountedStyleSetProps>> m_props;
     std::unordered_map<const StylePath *, std::size_t> m_propsByPath;
 
+    quint64 m_newestLoad = 0; // counts them
     bool m_loaded = false;
     bool m_missingPending = false;
     bool m_reportSignalled = false;

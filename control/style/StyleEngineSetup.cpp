@@ -54,28 +54,23 @@ void StyleEngineSetup::setDefaultStyleName(const QString &name)
 
 void StyleEngineSetup::setStyleSheetSource(const QUrl &url)
 {
-    if (assignSource(url))
-        load();
+    nameSheets(std::nullopt, url);
 }
 
 void StyleEngineSetup::setDefaultStyleSheetSource(const QUrl &url)
 {
-    if (assignDefaultSource(url))
-        load();
+    nameSheets(url, std::nullopt);
 }
 
 void StyleEngineSetup::setStyleSheetSources(const QUrl &defaultSource, const QUrl &userSource)
 {
-    const bool defaultChanged = assignDefaultSource(defaultSource);
-    const bool userChanged = assignSource(userSource);
-    if (defaultChanged || userChanged)
-        load();
+    nameSheets(defaultSource, userSource);
 }
 
 void StyleEngineSetup::componentComplete()
 {
     m_complete = true;
-    load();
+    load(true, true);
 }
 
 void StyleEngineSetup::onFileChanged(const QString &)
@@ -90,42 +85,40 @@ void StyleEngineSetup::update()
         return;
     const auto fileUrl = [&directory](const QString &name) {
         const QString path = QDir(directory).filePath(name);
-        return !name.isEmpty() && QFileInfo(path).isFile() ? QUrl::fromLocalFile(path) : QUrl();
+        return !name.isEmpty() && QFileInfo(path).isFile() ? NamedSource(QUrl::fromLocalFile(path)) : std::nullopt;
     };
-    const QUrl userSheet = fileUrl(m_styleName);
-    const QUrl defaultSheet = fileUrl(m_defaultStyleName);
-    setStyleSheetSources(defaultSheet.isEmpty() ? m_defaultStyleSheetSource : defaultSheet,
-                         userSheet.isEmpty() ? m_styleSheetSource : userSheet);
+    nameSheets(fileUrl(m_defaultStyleName), fileUrl(m_styleName));
 }
 
-bool StyleEngineSetup::assignSource(const QUrl &url)
+void StyleEngineSetup::nameSheets(const NamedSource &defaultSource, const NamedSource &userSource)
 {
-    if (m_styleSheetSource == url)
-        return false;
-    m_styleSheetSource = url;
-    Q_EMIT styleSheetSourceChanged(url);
-    return true;
+    const bool defaultDiffers = defaultSource && m_defaultStyleSheetSource != defaultSource;
+    const bool userDiffers = userSource && m_styleSheetSource != userSource;
+    const QUrl defaultBefore = defaultStyleSheetSource();
+    const QUrl userBefore = styleSheetSource();
+    if (defaultDiffers)
+        m_defaultStyleSheetSource = defaultSource;
+    if (userDiffers)
+        m_styleSheetSource = userSource;
+    if (defaultStyleSheetSource() != defaultBefore)
+        Q_EMIT defaultStyleSheetSourceChanged(defaultStyleSheetSource());
+    if (styleSheetSource() != userBefore)
+        Q_EMIT styleSheetSourceChanged(styleSheetSource());
+    if (m_complete && (defaultDiffers || userDiffers))
+        load(defaultDiffers, userDiffers);
 }
 
-bool StyleEngineSetup::assignDefaultSource(const QUrl &url)
+// Only what has been named anew is forwarded: meanwhile another setup may have named the other kind.
+void StyleEngineSetup::load(bool forwardDefault, bool forwardUser)
 {
-    if (m_defaultStyleSheetSource == url)
-        return false;
-    m_defaultStyleSheetSource = url;
-    Q_EMIT defaultStyleSheetSourceChanged(url);
-    return true;
-}
-
-void StyleEngineSetup::load()
-{
-    if (!m_complete)
-        return;
     StyleEngine *engine = StyleEngine::instance();
     engine->setBaseUrl(styleBaseUrl(this));
-    engine->setDefaultStyleSheetSource(m_defaultStyleSheetSource);
-    engine->setStyleSheetSource(m_styleSheetSource);
+    if (forwardDefault && m_defaultStyleSheetSource)
+        engine->setDefaultStyleSheetSource(*m_defaultStyleSheetSource);
+    if (forwardUser && m_styleSheetSource)
+        engine->setStyleSheetSource(*m_styleSheetSource);
 
-    QStringList files = {localStylePath(m_defaultStyleSheetSource, this), localStylePath(m_styleSheetSource, this)};
+    QStringList files = {localStylePath(defaultStyleSheetSource(), this), localStylePath(styleSheetSource(), this)};
     files.removeAll(QString());
     m_files.setFiles(files);
     engine->loadStyles();

@@ -9,6 +9,8 @@
 #include <QtQml/QQmlParserStatus>
 #include <QtQml/qqmlregistration.h>
 
+#include <optional>
+
 namespace tamble::client {
 
 /// Names the style sheets of an application, a default sheet and a user sheet, and has them loaded: once when the
@@ -45,9 +47,12 @@ public:
     QStringList availableStyles() const { return m_directory.availableStyleSheetNames(); }
 
     /// The sheets themselves: files, resources ("qrc:/…") or relative to the QML file. Empty for none.
-    QUrl styleSheetSource() const { return m_styleSheetSource; }
+    ///
+    /// Several setups share the one style engine: the last to name a sheet of a kind decides on that kind, and a setup
+    /// that never named one leaves it to the others. What is read is what was written here.
+    QUrl styleSheetSource() const { return m_styleSheetSource.value_or(QUrl()); }
     void setStyleSheetSource(const QUrl &url);
-    QUrl defaultStyleSheetSource() const { return m_defaultStyleSheetSource; }
+    QUrl defaultStyleSheetSource() const { return m_defaultStyleSheetSource.value_or(QUrl()); }
     void setDefaultStyleSheetSource(const QUrl &url);
 
     /// Changes both sources and loads once, so that nothing is shown with one new and one old sheet.
@@ -74,17 +79,18 @@ Q_SIGNALS:
     void exception(const QString &type, const QString &message);
 
 private:
+    using NamedSource = std::optional<QUrl>; // nothing for a kind that is left to others
+
     void update();
-    bool assignSource(const QUrl &url);
-    bool assignDefaultSource(const QUrl &url);
-    void load();
+    void nameSheets(const NamedSource &defaultSource, const NamedSource &userSource);
+    void load(bool forwardDefault, bool forwardUser);
 
     StylesDirWatcher m_directory{this};
     SheetFileWatcher m_files;
     QString m_styleName;
     QString m_defaultStyleName;
-    QUrl m_styleSheetSource;
-    QUrl m_defaultStyleSheetSource;
+    NamedSource m_styleSheetSource;
+    NamedSource m_defaultStyleSheetSource;
     bool m_complete = false;
 };
 
