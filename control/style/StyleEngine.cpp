@@ -8,6 +8,8 @@
 #include "style/StyleSheetLoader.h"
 #include "style/UsageCountedStyleSetProps.h"
 
+#include <algorithm>
+
 namespace tamble::client {
 
 StyleEngine::StyleEngine()
@@ -76,10 +78,9 @@ void StyleEngine::install(StyleSheet &&sheet)
     // Nothing may see a value of the old sheet once somebody hears of the new one, so all forget before any tells.
     for (const auto &shared : m_props)
         shared->invalidate();
-    m_resolver.reset();
-    dropUnused();
+    m_resolver.reset(); // refers to the old sheet
     m_sheet = std::make_unique<StyleSheet>(std::move(sheet));
-    m_resolver = std::make_unique<StyleResolver>(*m_sheet);
+    dropUnused();
 }
 
 void StyleEngine::announceChange()
@@ -109,21 +110,30 @@ void StyleEngine::loadFonts(const StyleSheet &sheet)
     }
 }
 
+// The resolver keeps each path that it has met, so it goes too and begins anew.
 void StyleEngine::dropUnused()
 {
     std::erase_if(m_props, [](const auto &shared) { return shared.use_count() == 1; });
     m_propsByPath.clear();
-    for (std::size_t i = 0; i < m_props.size(); ++i)
+    for (std::size_t i = 0; i < m_props.size(); ++i) {
         m_propsByPath.emplace(m_props[i]->path().get(), i);
+        m_props[i]->releaseResolved();
+    }
+    m_mostProps = std::max(StylePathPool::MinimumGrowth, 2 * m_props.size());
+    m_resolver.reset();
     StylePathPool::instance().collect();
+    if (m_sheet)
+        m_resolver = std::make_unique<StyleResolver>(*m_sheet);
 }
 
 std::shared_ptr<UsageCountedStyleSetProps> StyleEngine::propsFor(const StylePathRef &path)
 {
-    const auto [entry, isNew] = m_propsByPath.try_emplace(path.get(), m_props.size());
-    if (isNew)
-        m_props.push_back(std::make_shared<UsageCountedStyleSetProps>(path));
-    return m_props[entry->second];
+    if (const auto known = m_propsByPath.find(path.get()); known != m_propsByPath.end())
+        return m_props[known->second];
+    if (m_props.size() >= m_mostProps)
+        dropUnused();
+    m_propsByPath.emplace(path.get(), m_props.size());
+    return m_props.emplace_back(std::make_shared<UsageCountedStyleSetProps>(path));
 }
 
 const ResolvedMap &StyleEngine::resolve(const StylePath *path)

@@ -45,9 +45,11 @@ public:
     /// Forgets that styles were loaded: a missing key is not reported until the next load.
     void unload() { m_loaded = false; }
 
-    /// The values for `path`, shared by all style sets with this path.
+    /// The values for `path`, shared by all style sets with this path. Those without users are given back at the next
+    /// load, at the latest when there are twice as many as were left the last time.
     std::shared_ptr<UsageCountedStyleSetProps> propsFor(const StylePathRef &path);
-    /// The declarations in force for `path`; no path has none. Valid until the next load.
+    /// The declarations in force for `path`; no path has none. Valid until the next load or
+    /// propsFor().
     const ResolvedMap &resolve(const StylePath *path);
     /// The rules that match `path`, for the author of a sheet; empty without a sheet.
     QString styleInfo(const StylePath &path);
@@ -95,6 +97,7 @@ private:
     // All shared values in the order they were first asked for, and where each path's stand among them.
     std::vector<std::shared_ptr<UsageCountedStyleSetProps>> m_props;
     std::unordered_map<const StylePath *, std::size_t> m_propsByPath;
+    std::size_t m_mostProps = 0;
 
     quint64 m_newestLoad = 0; // counts them
     bool m_loaded = false;

@@ -184,6 +184,8 @@ public:
 
     /// Forgets all values, which are looked up anew when they are next asked for. Emits nothing.
     virtual void invalidate();
+    /// Lets go of what the engine has resolved. The values stay the same.
+    void releaseResolved() { m_resolved = nullptr; }
 
 Q_SIGNALS:
     /// Every value may be another one.

@@ -13,6 +13,9 @@
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
+#include <algorithm>
+#include <array>
+
 using namespace tamble::client;
 
 void tst_StyleEngine::init()
@@ -240,6 +243,35 @@ void tst_StyleEngine::unusedValuesAreGivenBack()
     QVERIFY(!dropped);
     QVERIFY(kept);
     QCOMPARE(kept->number("a"), 2.0);
+}
+
+void tst_StyleEngine::unusedNamesAreGivenBack()
+{
+    const StyleFixture fixture;
+    fixture.load("Box { a: 1; word: x } .n7 { b: 2 }");
+    std::array<StyledBox, 300> others; // in use all the time
+    for (std::size_t i = 0; i < others.size(); ++i) {
+        others[i].styleSet().setName(QStringLiteral("n%1").arg(i));
+        QCOMPARE(others[i].props().number("a"), 1.0);
+    }
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^WARN: Property word is not conv")));
+    others[7].props().number("word");
+    others[7].props().number("missing");
+
+    StyledBox box;
+    QList<QPointer<StyleSetProps>> seen;
+    for (int i = 0; i < 5'000; ++i) {
+        box.styleSet().setName(QStringLiteral("name%1").arg(i));
+        QCOMPARE(box.props().number("a"), 1.0);
+        seen.append(&box.props());
+    }
+    QVERIFY(seen.last());
+    const auto held = std::count_if(seen.cbegin(), seen.cend(), [](const auto &props) { return !props.isNull(); });
+    QVERIFY2(held <= 400, qPrintable(QString::number(held)));
+    QCOMPARE(others[7].props().number("b"), 2.0);
+    others[7].props().number("word"); // told already
+    QTest::ignoreMessage(QtWarningMsg, "WARN: Property missing not found (Box.n7)");
+    fixture.engine().reportMissingKeys();
 }
 
 void tst_StyleEngine::convertedValues_data()

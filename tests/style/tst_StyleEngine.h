@@ -20,6 +20,7 @@ private Q_SLOTS:
     void styleNamesOfADirectory();
     void nothingOldIsSeenDuringARestyle();
     void unusedValuesAreGivenBack();
+    void unusedNamesAreGivenBack();
     void convertedValues_data();
     void convertedValues();
     void unconvertibleValuesAreLoggedOnce();
