@@ -1,7 +1,5 @@
 #include "style/SelectorTree.h"
 
-#include <utility>
-
 namespace tamble::client {
 
 SelectorTree::SelectorTree()
@@ -14,12 +12,7 @@ SelectorTree::Node SelectorTree::insert(Node parent, NameId key)
     if (const auto known = m_children.constFind(step); known != m_children.cend())
         return *known;
     const Node node = nodeCount();
-    NodeData data;
-    data.parent = parent;
-    data.key = key;
-    data.olderSibling = std::exchange(m_nodes[parent].newestChild, node);
-    ++m_nodes[parent].childCount;
-    m_nodes.push_back(std::move(data));
+    m_nodes.push_back({parent, key, {}});
     m_children.insert(step, node);
     return node;
 }

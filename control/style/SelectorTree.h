@@ -38,11 +38,6 @@ public:
     /// The child of `parent` behind `key`, made when there is none.
     Node insert(Node parent, NameId key);
 
-    /// The children of `node`: how many, the newest one, and the one made before each; None at the end.
-    std::uint32_t childCount(Node node) const { return m_nodes[node].childCount; }
-    Node newestChild(Node node) const { return m_nodes[node].newestChild; }
-    Node olderSibling(Node node) const { return m_nodes[node].olderSibling; }
-
     /// Declarations attached to `node`, in the order they were added.
     std::span<const PropertySpec *const> declarations(Node node) const { return m_nodes[node].declarations; }
     /// Attaches a declaration, which must outlive the tree, to `node`.
@@ -60,9 +55,6 @@ private:
     {
         Node parent = None;
         NameId key = NameTable::Unknown;
-        Node olderSibling = None;
-        Node newestChild = None;
-        std::uint32_t childCount = 0;
         std::vector<const PropertySpec *> declarations;
     };
 

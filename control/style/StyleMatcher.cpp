@@ -114,8 +114,8 @@ bool StyleMatcher::matchWords(const Candidate &from, SelectorTree::Node node, co
             {next, &element, from.specificity + word.weight, saturatedProduct(from.routes, word.count)});
     };
     // An element may have as many words as the sheet has nodes, so the fewer of the two are gone through.
-    if (element.words.size() > FewWords && m_tree.childCount(node) < element.words.size()) {
-        for (auto next = m_tree.newestChild(node); next != SelectorTree::None; next = m_tree.olderSibling(next)) {
+    if (element.words.size() > FewWords && childrenOf(node).size() < element.words.size()) {
+        for (const SelectorTree::Node next : childrenOf(node)) {
             const auto word = std::ranges::lower_bound(element.words, m_tree.key(next), {}, &MatchWord::key);
             if (word != element.words.end() && word->key == m_tree.key(next))
                 add(next, *word);
@@ -133,6 +133,16 @@ void StyleMatcher::record(const Candidate &candidate, SelectorTree::Node node, s
 {
     if (!m_tree.declarations(node).empty())
         matches.push_back({node, candidate.specificity, candidate.routes});
+}
+
+const std::vector<SelectorTree::Node> &StyleMatcher::childrenOf(SelectorTree::Node node)
+{
+    if (m_children.empty()) {
+        m_children.resize(m_tree.nodeCount());
+        for (SelectorTree::Node child = SelectorTree::Root + 1; child < m_tree.nodeCount(); ++child)
+            m_children[m_tree.parent(child)].push_back(child);
+    }
+    return m_children[node];
 }
 
 SelectorTree::Node StyleMatcher::child(SelectorTree::Node node, NameId key)

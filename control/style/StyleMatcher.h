@@ -70,6 +70,7 @@ private:
         std::uint32_t routes;
     };
 
+    const std::vector<SelectorTree::Node> &childrenOf(SelectorTree::Node node);
     SelectorTree::Node child(SelectorTree::Node node, NameId key);
     bool matchWords(const Candidate &from, SelectorTree::Node node, const MatchElement &element);
     void continueFrom(const Candidate &candidate, std::vector<StyleMatch> &matches);
@@ -79,7 +80,8 @@ private:
     const SelectorTree &m_tree;
     NameId m_sameElement;
     NameId m_descendant;
-    std::vector<Candidate> m_candidates; // kept for its capacity
+    std::vector<Candidate> m_candidates;                     // kept for its capacity
+    std::vector<std::vector<SelectorTree::Node>> m_children; // by node; gathered for the first element of many words
     std::size_t m_lookUps = 0;
 };
 
