@@ -61,12 +61,7 @@ struct ValuePrinter : boost::static_visitor<std::string>
 
 std::string declarationText(const PropertySpec &declaration)
 {
-    std::string result = declaration.name + ": ";
-    for (const StyleValue &value : declaration.values) {
-        if (&value != &declaration.values.front())
-            result += ", ";
-        result += valueText(value);
-    }
+    std::string result = declaration.name + ": " + valuesText(declaration.values);
     result.append("; // ").append(sheetName(declaration.origin));
     result.append(" at line ").append(std::to_string(declaration.position.line));
     return result.append(" column ").append(std::to_string(declaration.position.column));
@@ -111,6 +106,17 @@ std::string selectorText(const NameTable &names, const SelectorTree &tree, Selec
 std::string valueText(const StyleValue &value)
 {
     return boost::apply_visitor(ValuePrinter(), value);
+}
+
+std::string valuesText(const std::vector<StyleValue> &values)
+{
+    std::string result;
+    for (const StyleValue &value : values) {
+        if (&value != &values.front())
+            result += ", ";
+        result += valueText(value);
+    }
+    return result;
 }
 
 std::string ruleText(const StyleSheet &sheet, SelectorTree::Node node)

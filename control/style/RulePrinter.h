@@ -3,6 +3,7 @@
 #include "style/StyleSheet.h"
 
 #include <string>
+#include <vector>
 
 namespace tamble::client {
 
@@ -12,6 +13,8 @@ std::string selectorText(const NameTable &names, const SelectorTree &tree, Selec
 
 /// A value as a sheet would write it. Texts that would not be read back as they are come in quotes.
 std::string valueText(const StyleValue &value);
+/// The same of a list.
+std::string valuesText(const std::vector<StyleValue> &values);
 
 /// The rule of `node`: its selector and its declarations, each with the name of its sheet and its position.
 ///

@@ -1,6 +1,7 @@
 #include "style/StyleEngine.h"
 
 #include "style/FontFaceLoader.h"
+#include "style/SheetFile.h"
 #include "style/StyleInfoText.h"
 #include "style/StyleLog.h"
 #include "style/StylePathPool.h"
@@ -80,6 +81,8 @@ void StyleEngine::install(StyleSheet &&sheet)
         shared->invalidate();
     m_resolver.reset(); // refers to the old sheet
     m_sheet = std::make_unique<StyleSheet>(std::move(sheet));
+    m_pathsInForce = {sheetPath(m_defaultSheet.source, m_defaultSheet.baseUrl),
+                      sheetPath(m_userSheet.source, m_userSheet.baseUrl)};
     dropUnused();
 }
 

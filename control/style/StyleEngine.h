@@ -6,6 +6,8 @@
 #include <QtCore/QObject>
 #include <QtCore/QUrl>
 
+#include <array>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <unordered_map>
@@ -18,6 +20,7 @@ class ResolvedMap;
 class StyleResolver;
 class StyleSheet;
 class UsageCountedStyleSetProps;
+enum class SheetOrigin : std::uint8_t;
 
 /// The styles of the process: the loaded sheets, what they resolve to for each style path, and the report of keys that
 /// controls asked for in vain. Made on first use, never replaced; belongs to the GUI thread.
@@ -53,6 +56,9 @@ public:
     const ResolvedMap &resolve(const StylePath *path);
     /// The rules that match `path`, for the author of a sheet; empty without a sheet.
     QString styleInfo(const StylePath &path);
+
+    /// The file or resource that the declarations in force with this origin stand in.
+    const QString &pathInForce(SheetOrigin origin) const { return m_pathsInForce[std::size_t(origin)]; }
 
     /// A key was asked for and not found.
     void noteMissingKey();
@@ -91,6 +97,7 @@ private:
     QUrl m_baseUrl;
     NamedSheet m_userSheet;
     NamedSheet m_defaultSheet;
+    std::array<QString, 2> m_pathsInForce; // by origin
     std::unique_ptr<StyleSheet> m_sheet;
     std::unique_ptr<StyleResolver> m_resolver;
 

@@ -1,9 +1,11 @@
 #include "style/StyleSetProps.h"
 
 #include "style/ConvertException.h"
+#include "style/RulePrinter.h"
 #include "style/StyleEngine.h"
 #include "style/StyleLog.h"
 #include "style/StyleResolver.h"
+#include "style/TextExcerpt.h"
 #include "style/ValueConversions.h"
 #include "style/ValueFunctions.h"
 
@@ -75,32 +77,32 @@ QVariant StyleSetProps::values(const QString &key)
 
 QColor StyleSetProps::color(const QString &key)
 {
-    return converted<QColor>(key, "QColor", onlyValue<QColor, colorFrom>);
+    return converted<QColor>(key, {"QColor", "colour"}, onlyValue<QColor, colorFrom>);
 }
 
 bool StyleSetProps::boolean(const QString &key)
 {
-    return converted<bool>(key, "bool", onlyValue<bool, booleanFrom>);
+    return converted<bool>(key, {"bool", "boolean (true or false)"}, onlyValue<bool, booleanFrom>);
 }
 
 double StyleSetProps::number(const QString &key)
 {
-    return converted<double>(key, "double", onlyValue<double, numberFrom>);
+    return converted<double>(key, {"double", "number"}, onlyValue<double, numberFrom>);
 }
 
 QFont StyleSetProps::font(const QString &key)
 {
-    return converted<QFont>(key, "QFont", onlyValue<QFont, fontFrom>);
+    return converted<QFont>(key, {"QFont", "font"}, onlyValue<QFont, fontFrom>);
 }
 
 QString StyleSetProps::string(const QString &key)
 {
-    return converted<QString>(key, "QString", onlyValue<QString, stringFrom>);
+    return converted<QString>(key, {"QString", "text"}, onlyValue<QString, stringFrom>);
 }
 
 QUrl StyleSetProps::url(const QString &key)
 {
-    return converted<QUrl>(key, "QUrl", onlyValue<QUrl, urlFrom>);
+    return converted<QUrl>(key, {"QUrl", "address"}, onlyValue<QUrl, urlFrom>);
 }
 
 void StyleSetProps::invalidate()
@@ -124,9 +126,9 @@ const PropertySpec *StyleSetProps::find(const QString &key) const
 }
 
 template <typename T>
-T StyleSetProps::converted(const QString &key, const char *typeName, T (*convert)(const PropertySpec &))
+T StyleSetProps::converted(const QString &key, const ValueType &type, T (*convert)(const PropertySpec &))
 {
-    const std::pair<QString, const char *> cacheKey(key, typeName);
+    const std::pair<QString, const char *> cacheKey(key, type.name);
     ResolvedMap::Values &values = resolved().convertedValues();
     if (const auto known = values.constFind(cacheKey); known != values.constEnd())
         return known->template value<T>();
@@ -142,12 +144,24 @@ T StyleSetProps::converted(const QString &key, const char *typeName, T (*convert
         const T value = convert(*spec);
         values.insert(cacheKey, QVariant::fromValue(value));
         return value;
-    } catch (const ConvertException &) {
+    } catch (const ConvertException &fault) {
         m_inconvertible.insert(cacheKey);
-        qCWarning(styleLog).noquote().nospace() << "WARN: Property " << key << " is not convertible to a '" << typeName
-                                                << "' (" << (m_path ? m_path->text() : QString()) << ")";
+        reportInconvertible(*spec, type, fault.what());
         return T();
     }
+}
+
+void StyleSetProps::reportInconvertible(const PropertySpec &spec, const ValueType &type, const char *reason) const
+{
+    // A single text is shown as it is; of a list or a call the reason tells which part of it is meant.
+    const auto *text = spec.values.size() == 1 ? boost::get<std::string>(&spec.values.front()) : nullptr;
+    const std::string shown = cutAround(text ? *text : valuesText(spec.values), 0);
+    qCWarning(styleLog).noquote().nospace()
+        << "WARN: Property " << QString::fromStdString(spec.name) << " is not convertible to a '" << type.name << "' ("
+        << (m_path ? m_path->text() : QString()) << "): " << QString::fromStdString(shown) << " is no " << type.noun
+        << (text ? QString() : QStringLiteral(", ") + QString::fromUtf8(reason)) << " ("
+        << StyleEngine::instance()->pathInForce(spec.origin) << " at line " << spec.position.line << " column "
+        << spec.position.column << ")";
 }
 
 } // namespace tamble::client

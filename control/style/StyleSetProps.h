@@ -198,8 +198,16 @@ protected:
 private:
     const ResolvedMap &resolved() const;
     const PropertySpec *find(const QString &key) const;
+    /// What a getter gives: the name of its type, and what values are called that it takes.
+    struct ValueType
+    {
+        const char *name;
+        const char *noun;
+    };
+
     template <typename T>
-    T converted(const QString &key, const char *typeName, T (*convert)(const PropertySpec &));
+    T converted(const QString &key, const ValueType &type, T (*convert)(const PropertySpec &));
+    void reportInconvertible(const PropertySpec &spec, const ValueType &type, const char *reason) const;
 
     StylePathRef m_path;
     mutable const ResolvedMap *m_resolved = nullptr;        // null until asked for, and again after a style load

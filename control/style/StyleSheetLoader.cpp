@@ -5,6 +5,9 @@
 #include "style/StyleLog.h"
 #include "style/StyleSheetParser.h"
 
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QThread>
 
 #include <string_view>
@@ -14,6 +17,26 @@ namespace tamble::client {
 namespace {
 
 constexpr unsigned long MissingFileWaitMs = 1000;
+
+/// What to tell of a missing sheet called "<key>.<theme>.style": the themes that there are for the key.
+QString themeHint(const QString &path)
+{
+    static const QRegularExpression pattern(QStringLiteral("^(.+)\\.([^.]+)\\.style$"));
+    const QFileInfo missing(path);
+    const QRegularExpressionMatch wanted = pattern.match(missing.fileName());
+    if (!wanted.hasMatch())
+        return {};
+    QStringList themes;
+    const QStringList files = missing.dir().entryList(QDir::Files, QDir::Name);
+    for (const QString &file : files) {
+        const QRegularExpressionMatch present = pattern.match(file);
+        if (present.captured(1) == wanted.captured(1))
+            themes.append(present.captured(2));
+    }
+    return themes.isEmpty() ? QString()
+                            : QStringLiteral(" '%1' is none of the themes %2")
+                                  .arg(wanted.captured(2), themes.join(QStringLiteral(", ")));
+}
 
 bool appears(const QString &path)
 {
@@ -44,8 +67,9 @@ std::optional<StyleSheet> StyleSheetLoader::load(const QUrl &url) const
 
     const QString path = sheetPath(url, m_baseUrl);
     if (!appears(path)) {
-        qCCritical(styleLog).noquote().nospace() << "CRITICAL: Style '" << path << "' not found";
-        m_report(QStringLiteral("styleSheetNotFound"), QStringLiteral("Style '%1' not found.").arg(path));
+        const QString hint = themeHint(path);
+        qCCritical(styleLog).noquote().nospace() << "CRITICAL: Style '" << path << "' not found" << hint;
+        m_report(QStringLiteral("styleSheetNotFound"), QStringLiteral("Style '%1' not found.").arg(path) + hint);
         return StyleSheet();
     }
     return read(path);

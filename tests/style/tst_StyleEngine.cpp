@@ -50,6 +50,8 @@ void tst_StyleEngine::sourceForms_data()
                               << "";
     QTest::newRow("resource URL") << "qrc:/none.style"
                                   << "styleSheetNotFound";
+    QTest::newRow("unknown theme") << "qrc:/style/tamble.drak.style"
+                                   << "styleSheetNotFound";
     QTest::newRow("network") << "http://example.org/a.style"
                              << "loadingStyleSheetFailed";
     QTest::newRow("directory") << "file://%1"
@@ -75,8 +77,12 @@ void tst_StyleEngine::sourceForms()
         QCOMPARE(fixture.messages.constFirst(), "Loading style sheet failed 'wrong path format 'http://example.org/"
                                                 "a.style': missing 'file:///' or 'qrc:/' ? '.");
     }
-    if (source.startsWith("qrc"))
+    if (source == "qrc:/none.style")
         QCOMPARE(fixture.messages.constFirst(), "Style ':/none.style' not found.");
+    if (source == "qrc:/style/tamble.drak.style") {
+        QCOMPARE(fixture.messages.constFirst(), "Style ':/style/tamble.drak.style' not found. 'drak' is none of the "
+                                                "themes contrast-dark, contrast-light, dark, light");
+    }
 }
 
 void tst_StyleEngine::brokenSheets_data()
@@ -319,14 +325,21 @@ void tst_StyleEngine::convertedValues()
 void tst_StyleEngine::unconvertibleValuesAreLoggedOnce()
 {
     const StyleFixture fixture;
-    fixture.load("Box { word: hello; pair: 1, 2; call: lighter(1) }");
+    fixture.load("Box { pair: 1, 2;\n call: lighter(1);\n shape: '#ff88zz' }", "Box { word: hello }");
     StyledBox box;
-    const auto expectLog = [](const char *line) { QTest::ignoreMessage(QtWarningMsg, line); };
-    expectLog("WARN: Property word is not convertible to a 'QColor' (Box)");
-    expectLog("WARN: Property pair is not convertible to a 'double' (Box)");
-    expectLog("WARN: Property call is not convertible to a 'QColor' (Box)");
+    const auto expectLog = [&fixture](const QString &what, const char *sheet, const char *place) {
+        const QString line = QStringLiteral("WARN: Property %1 (%2 at line %3)").arg(what, fixture.path(sheet), place);
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(line));
+    };
+    expectLog("word is not convertible to a 'QColor' (Box): hello is no colour", "user.style", "1 column 7");
+    expectLog("shape is not convertible to a 'QColor' (Box): #ff88zz is no colour", "default.style", "3 column 2");
+    expectLog("pair is not convertible to a 'double' (Box): \"1\", \"2\" is no number, exactly one value expected",
+              "default.style", "1 column 7");
+    expectLog("call is not convertible to a 'QColor' (Box): lighter(1) is no colour, Unsupported expression 'lighter'",
+              "default.style", "2 column 2");
     for (int round = 0; round < 2; ++round) {
         QCOMPARE(box.props().color("word"), QColor());
+        QCOMPARE(box.props().color("shape"), QColor());
         QCOMPARE(box.props().number("pair"), 0.0);
         QCOMPARE(box.props().color("call"), QColor());
     }
