@@ -2,6 +2,8 @@
 
 #include <QtCore/QSizeF>
 
+#include <algorithm>
+#include <cmath>
 #include <optional>
 #include <span>
 #include <vector>
@@ -21,13 +23,19 @@ struct ResponseView
     double lowest = 20.0;
     double highest = 20000.0;
 
-    /// Number of pixel columns and rows that count: the size without fractions.
-    int columns() const { return int(size.width()); }
-    int rows() const { return int(size.height()); }
+    /// Number of pixel columns and rows that count: the size without fractions. An item larger than any screen has the
+    /// most there can be, spread over the whole of it.
+    int columns() const { return int(std::min(size.width(), mostPixels)); }
+    int rows() const { return int(std::min(size.height(), mostPixels)); }
     /// Whether there is a column and a row to draw into.
-    bool isEmpty() const { return !(size.width() >= 1.0 && size.height() >= 1.0); }
+    bool isEmpty() const { return !(isDrawable(size.width()) && isDrawable(size.height())); }
 
     bool operator==(const ResponseView &) const = default;
+
+private:
+    static constexpr double mostPixels = 16384.0;
+
+    static bool isDrawable(double length) { return length >= 1.0 && std::isfinite(length); }
 };
 
 /// Pixel y of a value: `yMaximum` is 0, `yMinimum` the number of rows. A range that is empty or not finite puts

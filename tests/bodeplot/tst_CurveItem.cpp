@@ -6,7 +6,9 @@
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 using namespace tamble::client;
 
@@ -91,6 +93,39 @@ void CurveItemTest::badInput()
         QCOMPARE(page.curve->lines().aggregated().points.count(), std::size_t(0));
     else
         QVERIFY(std::abs(page.curve->column(150) - y) < 0.5);
+}
+
+void CurveItemTest::hugeItems_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<std::size_t>("columns");
+
+    constexpr std::size_t most = 16384;
+    constexpr double infinite = std::numeric_limits<double>::infinity();
+    QTest::newRow("wide") << QSizeF(1e9, 400.0) << most;
+    QTest::newRow("wider than an int") << QSizeF(4294967296.0, 400.0) << most;
+    QTest::newRow("high") << QSizeF(300.0, 4294967296.0) << std::size_t(300);
+    QTest::newRow("both") << QSizeF(1e300, 1e300) << most;
+    QTest::newRow("endless") << QSizeF(infinite, 400.0) << std::size_t(0);
+}
+
+void CurveItemTest::hugeItems()
+{
+    QFETCH(QSizeF, size);
+    QFETCH(std::size_t, columns);
+
+    const Page page("calculationItems: RBodeplotEqFilter { gain: 10; freq: 632.4555 }");
+    page.curve->setSize(size);
+    const ResponseLine &sum = page.curve->lines().aggregated();
+    QCOMPARE(sum.columns.size(), columns);
+    if (columns == 0)
+        return;
+    // The peak is in the middle of the item and the line goes on to its end.
+    QVERIFY(std::abs(sum.columns[columns / 2] / std::min(size.height(), 16384.0) - 0.25) < 1e-4);
+    const auto highest = std::ranges::min(sum.points.points, {}, &QPointF::y);
+    QVERIFY(std::abs(highest.y() / size.height() - 0.25) < 1e-4);
+    QVERIFY(std::abs(highest.x() / size.width() - 0.5) < 1e-2);
+    QVERIFY(sum.points.points.back().x() >= size.width() * 0.999);
 }
 
 void CurveItemTest::assignedListKeepsItsHandles()

@@ -13,6 +13,8 @@ private Q_SLOTS:
     void listOfPlainObjects();
     void badInput_data();
     void badInput();
+    void hugeItems_data();
+    void hugeItems();
     void assignedListKeepsItsHandles();
     void filterChangesFollowInPlace();
     void destroyedFilters();
