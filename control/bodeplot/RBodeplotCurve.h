@@ -56,7 +56,8 @@ public:
     /// The filters. A filter that is destroyed leaves the list by itself.
     QQmlListProperty<RBodeplotCalculationItem> calculationItems();
 
-    QQmlListReference calculationItemsReference() const { return m_calculationItemsReference; }
+    /// Any objects with filter-named properties; an empty list while none is set and when its owner is gone.
+    QQmlListReference calculationItemsReference();
     void setCalculationItemsReference(const QQmlListReference &reference);
 
     QList<QObject *> filterPointModels();

@@ -23,6 +23,16 @@ QQmlListProperty<RBodeplotCalculationItem> RBodeplotCurve::calculationItems()
     return {this, nullptr, &appendItem, &itemCount, &itemAt, &clearItems};
 }
 
+QQmlListReference RBodeplotCurve::calculationItemsReference()
+{
+    if (m_calculationItemsReference.isValid())
+        return m_calculationItemsReference;
+    // The script engine crashes on a reference to nothing.
+    const auto count = [](QQmlListProperty<QObject> *) { return qsizetype(0); };
+    const auto at = [](QQmlListProperty<QObject> *, qsizetype) -> QObject * { return nullptr; };
+    return QQmlListReference(QVariant::fromValue(QQmlListProperty<QObject>(this, nullptr, count, at)));
+}
+
 void RBodeplotCurve::setCalculationItemsReference(const QQmlListReference &reference)
 {
     // An equal reference names the same list, but that list may have new contents: that is when a binding comes here.

@@ -1,10 +1,15 @@
 #include "bodeplot/tst_FilterItems.h"
 
+#include "bodeplot/RBodeplot.h"
 #include "bodeplot/RBodeplotAsymmetricEqFilter.h"
+#include "bodeplot/RBodeplotAxis.h"
 #include "bodeplot/RBodeplotCurve.h"
 #include "bodeplot/RBodeplotEqFilter.h"
 #include "bodeplot/RBodeplotFIRFilter.h"
+#include "bodeplot/RBodeplotGrid.h"
 #include "bodeplot/RBodeplotXOverFilter.h"
+#include "bodeplot/RLimiterCurve.h"
+#include "bodeplot/RSimpleCurve.h"
 
 #include <QtCore/QMetaEnum>
 #include <QtQml/QQmlComponent>
@@ -27,6 +32,11 @@ std::unique_ptr<QObject> create(QQmlEngine &engine, const QByteArray &body)
         qmlRegisterType<RBodeplotXOverFilter>("FilterItems", 1, 0, "RBodeplotXOverFilter");
         qmlRegisterType<RBodeplotFIRFilter>("FilterItems", 1, 0, "RBodeplotFIRFilter");
         qmlRegisterType<RBodeplotCurve>("FilterItems", 1, 0, "RBodeplotCurveTemplate");
+        qmlRegisterType<RBodeplot>("FilterItems", 1, 0, "RBodeplotTemplate");
+        qmlRegisterType<RBodeplotGrid>("FilterItems", 1, 0, "RBodeplotGridTemplate");
+        qmlRegisterType<RBodeplotAxis>("FilterItems", 1, 0, "RBodeplotAxisTemplate");
+        qmlRegisterType<RSimpleCurve>("FilterItems", 1, 0, "RSimpleCurveTemplate");
+        qmlRegisterType<RLimiterCurve>("FilterItems", 1, 0, "RLimiterCurveTemplate");
         return true;
     }();
     Q_UNUSED(registered)
@@ -129,6 +139,81 @@ void FilterItemsTest::declaredInQml()
     delete band;
     QCOMPARE(spy.count(), 1);
     QCOMPARE(filters.count(&filters), 3);
+}
+
+void FilterItemsTest::freshItemsCanBeRead_data()
+{
+    QTest::addColumn<QByteArray>("type");
+    for (const char *type :
+         {"RBodeplotCurveTemplate", "RBodeplotCalculationItem", "RBodeplotEqFilter", "RBodeplotAsymmetricEqFilter",
+          "RBodeplotXOverFilter", "RBodeplotFIRFilter", "RBodeplotTemplate", "RBodeplotGridTemplate",
+          "RBodeplotAxisTemplate", "RSimpleCurveTemplate", "RLimiterCurveTemplate"})
+        QTest::newRow(type) << QByteArray(type);
+}
+
+void FilterItemsTest::freshItemsCanBeRead()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    QFETCH(QByteArray, type);
+
+    QQmlEngine engine;
+    // Every property, and every entry of those that are lists or objects; all of it written back as it was read.
+    const auto item = create(engine, "Item { property var fresh: " + type + R"( { }
+        function count() {
+            let entries = 0
+            for (const name in fresh) {
+                const value = fresh[name]
+                for (const entry in value)
+                    ++entries
+                if (typeof value === "object" && value && value.length === 0 && value[0] !== undefined)
+                    throw name
+            }
+            return entries
+        }
+    })");
+    QVERIFY(item);
+    QVariant entries;
+    QMetaObject::invokeMethod(item.get(), "count", Q_RETURN_ARG(QVariant, entries));
+    QVERIFY(entries.toInt() > 0);
+}
+
+void FilterItemsTest::listReferencesToNothing_data()
+{
+    QTest::addColumn<QByteArray>("step");
+
+    QTest::newRow("never set") << QByteArray();
+    QTest::newRow("set to null") << QByteArray("reference = null");
+    QTest::newRow("set to nothing") << QByteArray("reference = undefined");
+    QTest::newRow("its own empty list") << QByteArray("reference = reference");
+    QTest::newRow("owner gone") << QByteArray("const owner = owners.createObject(page)\n"
+                                              "reference = owner.bands; owner.destroy()");
+}
+
+void FilterItemsTest::listReferencesToNothing()
+{
+    QFETCH(QByteArray, step);
+
+    QQmlEngine engine;
+    const auto page = create(engine, R"(Item {
+        id: page
+        property alias reference: curve.calculationItemsReference
+        property Component owners: Component { QtObject { property list<QtObject> bands: [ QtObject { } ] } }
+        RBodeplotCurveTemplate { id: curve }
+        function read() {
+            let text = ""
+            for (const entry of Array.from(reference))
+                text += entry
+            return text + reference.length
+        }
+        function step() { try { )" + step +
+                                         R"( } catch (error) { } }
+    })");
+    QVERIFY(page);
+    QMetaObject::invokeMethod(page.get(), "step");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVariant text;
+    QMetaObject::invokeMethod(page.get(), "read", Q_RETURN_ARG(QVariant, text));
+    QCOMPARE(text, "0");
 }
 
 void FilterItemsTest::listReferenceFollowsItsList()

@@ -11,5 +11,9 @@ private Q_SLOTS:
     void enumKeys();
     void newFirFilterPassesEverything();
     void declaredInQml();
+    void freshItemsCanBeRead_data();
+    void freshItemsCanBeRead();
+    void listReferencesToNothing_data();
+    void listReferencesToNothing();
     void listReferenceFollowsItsList();
 };
