@@ -36,8 +36,7 @@ void CurveAreaNode::add(std::span<const QPointF> curve)
 
 void CurveAreaNode::end()
 {
-    storeStrip<AreaVertex>(m_geometry, m_vertices);
-    markDirty(DirtyGeometry);
+    markDirty(storeStrip<AreaVertex>(m_geometry, m_vertices));
 }
 
 void CurveAreaNode::paint(PictureCanvas &canvas) const

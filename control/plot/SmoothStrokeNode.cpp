@@ -48,8 +48,7 @@ void SmoothStrokeNode::add(std::span<const QPointF> points)
 
 void SmoothStrokeNode::end()
 {
-    storeStrip<StrokeVertex>(m_geometry, m_vertices);
-    markDirty(DirtyGeometry);
+    markDirty(storeStrip<StrokeVertex>(m_geometry, m_vertices));
     if (m_material.setReach(float(m_width.reach())))
         markDirty(DirtyMaterial);
 }

@@ -1,5 +1,6 @@
 #include "plot/StrokeNode.h"
 
+#include "plot/VertexStore.h"
 #include "scenegraph/PictureCanvas.h"
 
 namespace tamble::client {
@@ -44,12 +45,13 @@ void StrokeNode::setStroke(const StrokeGeometry &stroke)
     m_stroke = stroke;
     m_geometry.setDrawingMode(drawingMode(stroke.mode));
     m_geometry.setLineWidth(float(stroke.lineWidth));
-    if (m_geometry.vertexCount() != stroke.vertices.size())
+    const int before = m_geometry.vertexCount();
+    if (before != stroke.vertices.size())
         m_geometry.allocate(int(stroke.vertices.size()));
     QSGGeometry::Point2D *vertex = m_geometry.vertexDataAsPoint2D();
     for (const QPointF &point : stroke.vertices)
         (vertex++)->set(float(point.x()), float(point.y()));
-    markDirty(DirtyGeometry);
+    markDirty(writtenState(before));
 }
 
 void StrokeNode::paint(PictureCanvas &canvas) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtQuick/QSGGeometry>
+#include <QtQuick/QSGNode>
 
 #include <algorithm>
 #include <span>
@@ -19,11 +20,19 @@ constexpr int roomForVertices(int needed, int allocated)
     return needed == 0 ? 0 : (needed / step + 1) * step;
 }
 
-/// Puts a triangle strip into a geometry of its vertex type; the rest of the room repeats the last vertex, which draws
-/// nothing.
-template <typename Vertex>
-void storeStrip(QSGGeometry &geometry, std::span<const Vertex> strip)
+/// What to mark of a node whose geometry was written. The renderer has a node without vertices in none of its batches,
+/// and when it gets some looks for one only if the material is marked, too.
+inline QSGNode::DirtyState writtenState(int vertexCountBefore)
 {
+    return vertexCountBefore == 0 ? QSGNode::DirtyGeometry | QSGNode::DirtyMaterial : QSGNode::DirtyGeometry;
+}
+
+/// Puts a triangle strip into a geometry of its vertex type; the rest of the room repeats the last vertex, which draws
+/// nothing. Returns what to mark of the node.
+template <typename Vertex>
+QSGNode::DirtyState storeStrip(QSGGeometry &geometry, std::span<const Vertex> strip)
+{
+    const int before = geometry.vertexCount();
     const int room = roomForVertices(int(strip.size()), geometry.vertexCount());
     if (room != geometry.vertexCount())
         geometry.allocate(room);
@@ -33,6 +42,7 @@ void storeStrip(QSGGeometry &geometry, std::span<const Vertex> strip)
         std::fill(vertices + strip.size(), vertices + room, strip.back());
     else
         std::fill(vertices, vertices + room, Vertex());
+    return writtenState(before);
 }
 
 } // namespace tamble::client

@@ -100,6 +100,30 @@ void CurveDrawingTest::nothingIsRewrittenWithoutChange()
     QCOMPARE(page.curve->updateCount(), updates);
 }
 
+void CurveDrawingTest::hiddenLinesComeBack()
+{
+    if (!QGuiApplication::platformName().contains(QLatin1String("xcb")))
+        QSKIP("Needs a display.");
+    // Their sum is flat.
+    const Page page(colours + "calculationItems: [ RBodeplotEqFilter { freq: 100; gain: 12; quality: 2 },\n"
+                              "RBodeplotEqFilter { freq: 100; gain: -12; quality: 2 } ]");
+    QQuickWindow window;
+    window.resize(300, 400);
+    static_cast<QQuickItem *>(page.root.get())->setParentItem(window.contentItem());
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const auto peakIsDrawn = [&] {
+        return window.grabWindow().pixelColor(QPoint(70, 80) * window.effectiveDevicePixelRatio()).red() < 100;
+    };
+    QVERIFY(peakIsDrawn());
+    for (int i = 0; i < 2; ++i) {
+        page.curve->setProperty("hideIndividualCurves", true);
+        QVERIFY(!peakIsDrawn());
+        page.curve->setProperty("hideIndividualCurves", false);
+        QVERIFY(peakIsDrawn());
+    }
+}
+
 void CurveDrawingTest::drawnPixels_data()
 {
     QTest::addColumn<QByteArray>("body");

@@ -11,6 +11,7 @@ private Q_SLOTS:
     void init();
     void draggingAllocatesNothing();
     void nothingIsRewrittenWithoutChange();
+    void hiddenLinesComeBack();
     void drawnPixels_data();
     void drawnPixels();
     void areaFadesAlongEachColumn_data();
