@@ -38,6 +38,8 @@ public:
     void returnHeaders(int evaluatedRecord);
 
     HandleEdit move(int handle, const QPointF &wanted);
+    /// What is left to do of a gesture when the page has been told of it, see FilterSet::follow().
+    void follow(const HandleEdit &edit);
     HandleEdit level(int handle);
     HandleEdit changeQuality(int handle, double baseQuality, double change);
 

@@ -1,5 +1,7 @@
 #include "bodeplot/CurveFilters.h"
 
+#include "bodeplot/RBodeplotPointModel.h"
+
 #include <QtCore/QTimerEvent>
 
 #include <algorithm>
@@ -25,17 +27,27 @@ bool sameKind(const FilterRecord &a, const FilterRecord &b)
 
 HandleEdit CurveFilters::move(int handle, const QPointF &wanted)
 {
-    const auto pointOf = [this](int index) { return m_set.handles()[std::size_t(index)].point; };
-    const std::optional<HandleRelation> relation = m_set.relationOf(handle);
-    const QPointF before = relation ? pointOf(handle) : QPointF();
     HandleEdit edit = m_set.move(handle, wanted);
-    if (!edit)
-        return edit;
-    m_hold.untoldPoint.reset();
-    if (isAsymmetric(edit.relation) && edit.record == heldRecord() && pointOf(handle) != before)
-        m_hold.untoldPoint = wanted;
-    updateModels();
+    if (edit)
+        m_hold.untoldPoint.reset();
+    if (edit && !edit.follows)
+        updateModels();
     return edit;
+}
+
+void CurveFilters::follow(const HandleEdit &edit)
+{
+    if (!edit.follows)
+        return;
+    if (m_set.follow(edit) && edit.record == heldRecord())
+        m_hold.untoldPoint = edit.follows;
+    // The partner goes first, and both before their gain.
+    for (const int handle : {m_set.partnerOf(edit.handle), edit.handle}) {
+        if (m_set.recordOf(handle) >= 0 && handle < m_pointModels.size())
+            static_cast<RBodeplotPointModel *>(m_pointModels[handle])
+                ->setPoint(m_set.handles()[std::size_t(handle)].point);
+    }
+    updateModels();
 }
 
 HandleEdit CurveFilters::level(int handle)

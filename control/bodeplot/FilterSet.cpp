@@ -15,16 +15,6 @@ bool isInWidth(double x)
     return x >= 0.0 && x <= 1.0;
 }
 
-HandleEdit editOf(const FilterHandle &handle)
-{
-    return {.record = handle.record,
-            .relation = handle.relation,
-            .frequencyHz = handle.frequencyHz,
-            .gainDb = handle.gainDb,
-            .quality = handle.quality,
-            .problem = {}};
-}
-
 HandleEdit refused(const QString &problem = {})
 {
     HandleEdit edit;
@@ -108,6 +98,27 @@ int FilterSet::firstHandleOf(int record) const
 {
     const auto found = std::ranges::find(m_handles, record, &FilterHandle::record);
     return found == m_handles.end() ? -1 : int(found - m_handles.begin());
+}
+
+int FilterSet::partnerOf(int handle) const
+{
+    const std::optional<HandleRelation> relation = relationOf(handle);
+    if (!relation || !isAsymmetric(*relation))
+        return -1;
+    const int partner = *relation == HandleRelation::AsymmetricSecond ? handle - 1 : handle + 1;
+    return recordOf(partner) == recordOf(handle) ? partner : -1;
+}
+
+HandleEdit FilterSet::editOf(const FilterHandle &handle) const
+{
+    return {.record = handle.record,
+            .handle = int(&handle - m_handles.data()),
+            .relation = handle.relation,
+            .frequencyHz = handle.frequencyHz,
+            .gainDb = handle.gainDb,
+            .quality = handle.quality,
+            .follows = {},
+            .problem = {}};
 }
 
 HandleEdit FilterSet::current(int handle) const
@@ -225,26 +236,31 @@ HandleEdit FilterSet::moveFir(int index, FIRFilter &record, const QPointF &wante
 HandleEdit FilterSet::moveAsymmetric(int index, AsymmetricEqFilter &record, const QPointF &wanted)
 {
     FilterHandle &handle = m_handles[std::size_t(index)];
-    const bool second = handle.relation == HandleRelation::AsymmetricSecond;
-    const int partner = second ? index - 1 : index + 1;
-
-    // An asymmetric band follows its handle one step late, as its devices do: the frequency is taken from where the
-    // handle was, and the gain that is told is the one before the move.
-    double &frequency = second ? record.freq2 : record.freq;
+    double &frequency = handle.relation == HandleRelation::AsymmetricSecond ? record.freq2 : record.freq;
     if (isInWidth(handle.point.x()))
         frequency = frequencyAt(handle.point.x(), m_frame);
     handle.frequencyHz = frequency;
-    const HandleEdit edit = editOf(handle);
-
-    handle.point = wanted;
-    record.gain = levelAt(wanted.y(), m_frame);
-    handle.gainDb = record.gain;
-    if (recordOf(partner) == handle.record) {
-        FilterHandle &other = m_handles[std::size_t(partner)];
-        other.point.setY(wanted.y());
-        other.gainDb = record.gain;
-    }
+    HandleEdit edit = editOf(handle);
+    edit.follows = wanted;
     return edit;
+}
+
+bool FilterSet::follow(const HandleEdit &edit)
+{
+    if (!edit.follows || recordOf(edit.handle) != edit.record || relationOf(edit.handle) != edit.relation)
+        return false;
+    auto *record = dynamic_cast<AsymmetricEqFilter *>(m_records[std::size_t(edit.record)].data());
+    if (!record)
+        return false;
+    FilterHandle &handle = m_handles[std::size_t(edit.handle)];
+    record->gain = levelAt(edit.follows->y(), m_frame);
+    handle.gainDb = record->gain;
+    if (const int partner = partnerOf(edit.handle); partner >= 0) {
+        FilterHandle &other = m_handles[std::size_t(partner)];
+        other.point.setY(edit.follows->y());
+        other.gainDb = record->gain;
+    }
+    return std::exchange(handle.point, *edit.follows) != *edit.follows;
 }
 
 HandleEdit FilterSet::level(int handle)

@@ -7,6 +7,7 @@
 #include <QtCore/QPointF>
 #include <QtCore/QStringList>
 
+#include <optional>
 #include <vector>
 
 namespace tamble::client {
@@ -15,10 +16,13 @@ namespace tamble::client {
 struct HandleEdit
 {
     int record = -1; ///< -1: nothing was changed.
+    int handle = -1;
     HandleRelation relation = HandleRelation::Eq;
     double frequencyHz = 0.0;
     double gainDb = 0.0;
     double quality = 0.0;
+    /// Where the handle of an asymmetric band goes when the page has been told, see FilterSet::follow().
+    std::optional<QPointF> follows;
     QString problem; ///< Why nothing was changed, where that is worth a line in the log.
 
     explicit operator bool() const { return record >= 0; }
@@ -46,8 +50,15 @@ public:
     /// First handle of a record, -1 for none.
     int firstHandleOf(int record) const;
 
-    /// Drags a handle to a normalised point and stores what follows in its record.
+    /// Drags a handle to a normalised point and stores what follows in its record. An asymmetric band follows its
+    /// handle one step late, as its devices do: its frequency is taken from where the handle was, the gain that is told
+    /// is the one before the move, and both handles stay until follow().
     HandleEdit move(int handle, const QPointF &wanted);
+    /// Moves both handles of an asymmetric band, and its gain, to what is left of a move; returns whether that is
+    /// another place. Any other edit, and one whose handle is not there any more, moves nothing.
+    bool follow(const HandleEdit &edit);
+    /// The other handle of an asymmetric band, -1 for a handle without one.
+    int partnerOf(int handle) const;
     /// Sets the gain of a handle's band to 0 dB, wherever that is in the frame; nothing for one without gain.
     HandleEdit level(int handle);
     /// Drags the Q of a handle's band; see draggedQuality().
@@ -63,6 +74,7 @@ private:
     HandleEdit moveEq(FilterHandle &handle, tamble::common::EqFilter &record, const QPointF &wanted) const;
     HandleEdit moveXOver(FilterHandle &handle, tamble::common::XOverFilter &record, const QPointF &wanted) const;
     HandleEdit moveAsymmetric(int index, tamble::common::AsymmetricEqFilter &record, const QPointF &wanted);
+    HandleEdit editOf(const FilterHandle &handle) const;
     HandleEdit moveFir(int index, tamble::common::FIRFilter &record, const QPointF &wanted);
 
     FilterRecords m_records;

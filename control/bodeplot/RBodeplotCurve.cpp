@@ -143,6 +143,7 @@ void RBodeplotCurve::tellEdit(const HandleEdit &edit)
     }
     Q_EMIT userChangedFilterPoint(edit.record, relationText(edit.relation), float(edit.frequencyHz), float(edit.gainDb),
                                   float(edit.quality));
+    m_filters.follow(edit);
     requestEvaluation(edit.record);
 }
 

@@ -28,7 +28,7 @@ void RBodeplotPointModel::update(const FilterHandle &handle, int index, bool sel
     assign(m_frequency, handle.frequencyHz, &RBodeplotPointModel::frequencyChanged);
     assign(m_gain, handle.gainDb, &RBodeplotPointModel::gainChanged);
     assign(m_quality, handle.quality, &RBodeplotPointModel::qualityChanged);
-    assign(m_point, handle.point, &RBodeplotPointModel::pointChanged);
+    setPoint(handle.point);
     assign(m_index, index, &RBodeplotPointModel::indexChanged);
     assign(m_label, handle.label, &RBodeplotPointModel::labelChanged);
     assign(m_errorFlag, handle.errorFlag, &RBodeplotPointModel::errorFlagChanged);
@@ -39,6 +39,11 @@ void RBodeplotPointModel::update(const FilterHandle &handle, int index, bool sel
 void RBodeplotPointModel::setSelected(bool selected)
 {
     assign(m_selected, selected, &RBodeplotPointModel::selectedChanged);
+}
+
+void RBodeplotPointModel::setPoint(const QPointF &point)
+{
+    assign(m_point, point, &RBodeplotPointModel::pointChanged);
 }
 
 } // namespace tamble::client

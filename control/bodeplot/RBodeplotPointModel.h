@@ -45,6 +45,7 @@ public:
     /// Takes over what differs, with one notification for each property.
     void update(const FilterHandle &handle, int index, bool selected);
     void setSelected(bool selected);
+    void setPoint(const QPointF &point);
 
 Q_SIGNALS:
     void pointChanged();

@@ -285,6 +285,39 @@ void CurveItemTest::heldValuesWait()
     QCOMPARE(curve->filterPointModels().size(), 0);
 }
 
+void CurveItemTest::asymmetricBandIsToldBeforeItMoves()
+{
+    const Page page("calculationItems: RBodeplotAsymmetricEqFilter { freq: 200; freq2: 2000; gain: 5 }");
+    Curve *curve = page.curve;
+    QStringList order;
+    const auto note = [&](const char *what, double value) {
+        order.append(QStringLiteral("%1 %2").arg(QLatin1String(what)).arg(value, 0, 'g', 4));
+    };
+    for (const int handle : {0, 1}) {
+        RBodeplotPointModel *model = curve->handle(handle);
+        const char *name = handle == 0 ? "first" : "second";
+        connect(model, &RBodeplotPointModel::pointChanged, this, [=] { note(name, curve->point(handle).y()); });
+        connect(model, &RBodeplotPointModel::gainChanged, this, [=] { note("gain", model->gain()); });
+    }
+    connect(curve, &RBodeplotCurve::userChangedFilterPoint, this,
+            [&](int, const QString &type, float frequency, float gain, float) {
+                note(qPrintable(type), double(frequency));
+                note("of", double(gain));
+            });
+    const QStringList gains{"gain 10", "gain 10"};
+    curve->onUserMoveFilterPoint(0, {0.5, 0.25});
+    QCOMPARE(order, (QStringList{"ASYMEQ1 200", "of 5", "second 0.25", "first 0.25"} + gains));
+    order.clear();
+    curve->onUserMoveFilterPoint(1, {1.0, 0.5});
+    QCOMPARE(order.mid(0, 4), (QStringList{"ASYMEQ2 2000", "of 10", "first 0.5", "second 0.5"}));
+    QCOMPARE(curve->handle(0)->frequency(), 200.0);
+
+    // What the page answers with does not get in the way.
+    connect(curve, &RBodeplotCurve::userChangedFilterPoint, this, [&] { delete page.filter(0); });
+    curve->onUserMoveFilterPoint(0, {0.25, 0.3});
+    QCOMPARE(curve->filterPointModels().size(), 0);
+}
+
 void CurveItemTest::asymmetricBandTellsItsLastStep()
 {
     const Page page("calculationItems: RBodeplotAsymmetricEqFilter { freq: 20; freq2: 200 }");

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void selection();
     void dragTellsThePage();
     void heldValuesWait();
+    void asymmetricBandIsToldBeforeItMoves();
     void asymmetricBandTellsItsLastStep();
     void cancelledDrag();
     void nativeRecords();

@@ -201,12 +201,16 @@ void FilterSetTest::asymmetricBandLagsOneStep()
 {
     FilterSet set = setOf({asymmetric()});
     const HandleEdit first = set.move(1, {1.0, 0.25});
+    QCOMPARE(set.handles()[1].point, QPointF(2.0 / 3.0, 0.375));
+    QVERIFY(set.follow(first));
     QCOMPARE(first.frequencyHz, 2000.0);
     QCOMPARE(first.gainDb, 5.0);
     QCOMPARE(first.quality, 1.5);
     QCOMPARE(set.handles()[0].point, QPointF(1.0 / 3.0, 0.25));
     QCOMPARE(set.handles()[1].point, QPointF(1.0, 0.25));
     const HandleEdit second = set.move(1, {0.9, 0.5});
+    QVERIFY(set.follow(second));
+    QVERIFY(!set.follow(second));
     QCOMPARE(second.frequencyHz, 20000.0);
     QCOMPARE(second.gainDb, 10.0);
     QCOMPARE(recordIn<AsymmetricEqFilterExtended>(set).freq, 200.0);
