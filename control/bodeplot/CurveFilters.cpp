@@ -47,7 +47,7 @@ QStringList CurveFilters::take(ConvertedFilters filters)
 {
     FilterRecords records = std::exchange(filters.records, {});
     m_filters = std::move(filters);
-    keepHeldRecord(records);
+    keepEditedRecords(records);
     QStringList problems = m_set.setRecords(std::move(records));
     m_watch.setFilters(m_filters.sources);
     if (const int selected = findSelected(); selected >= 0 && selected != m_selectedRecord) {
@@ -67,10 +67,8 @@ void CurveFilters::setFrame(const HandleFrame &frame)
 
 void CurveFilters::refresh(QObject *source)
 {
-    if (m_hold.isActive() && m_hold.source == source) {
-        m_hold.missedChange = true;
+    if (isEdited(source))
         return;
-    }
     for (std::size_t i = 0; i < m_filters.sources.size(); ++i) {
         if (m_filters.sources[i] == source)
             refreshRecord(i);
@@ -92,8 +90,6 @@ void CurveFilters::refreshRecord(std::size_t position)
 
 void CurveFilters::drop(QObject *source)
 {
-    if (m_hold.source == source)
-        takeHold();
     const int selected = std::exchange(m_selectedRecord, -1);
     ConvertedFilters kept;
     kept.fromReference = m_filters.fromReference;

@@ -9,13 +9,15 @@
 #include <QtCore/QObject>
 
 #include <optional>
+#include <vector>
 
 namespace tamble::client {
 
 /// The filters of a curve with the objects they come from, their handles as models for QML, and the selection.
 ///
 /// While a handle is held, and for a settling time afterwards, what the object of its filter says waits: a device
-/// confirms a drag late, and the handle must not jump back to old values under the pointer.
+/// confirms a drag late, and the handle must not jump back to old values under the pointer. Then the object counts
+/// again, whether it took the edit or refused it.
 class CurveFilters : public QObject
 {
     Q_OBJECT
@@ -44,7 +46,8 @@ public:
     HandleEdit changeQuality(int handle, double baseQuality, double change);
 
     void hold(int handle);
-    /// Ends a hold after the settling time. Tells what an asymmetric band, which lags one step, still has to tell.
+    /// Ends a hold; its filter settles for some time. Tells what an asymmetric band, which lags one step, still has to
+    /// tell.
     HandleEdit release(int settleTimeMs);
     /// Ends a hold with the record as it was at its beginning; nothing when no handle is held.
     HandleEdit cancel();
@@ -63,16 +66,24 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
-    struct Hold
+    /// A filter that the user has edited.
+    struct Edited
     {
-        HandleRelation relation = HandleRelation::Eq;
         QObject *source = nullptr;
         FilterRecord record;
+    };
+    struct Hold : Edited
+    {
+        HandleRelation relation = HandleRelation::Eq;
         FilterRecord before;
-        bool missedChange = false;
         std::optional<QPointF> untoldPoint; ///< Of the handle's last move, when it was told the state before that.
 
         bool isActive() const { return !record.isNull(); }
+    };
+    /// A hold that has ended a moment ago.
+    struct Settling : Edited
+    {
+        QBasicTimer timer;
     };
 
     QStringList take(ConvertedFilters filters);
@@ -83,9 +94,10 @@ private:
     void drop(QObject *source);
     int heldRecord() const;
     int heldHandle() const;
-    void keepHeldRecord(FilterRecords &records);
-    Hold takeHold();
-    void endHold();
+    bool isEdited(const QObject *source) const;
+    bool keepRecord(const Edited &edited, FilterRecords &records) const;
+    void keepEditedRecords(FilterRecords &records);
+    void endHold(int settleTimeMs);
     int findSelected() const;
     void markSelected();
     void updateModels();
@@ -96,7 +108,7 @@ private:
     QList<QObject *> m_pointModels;
     std::vector<FilterHandle> m_modelledHandles; ///< What the models were made for.
     Hold m_hold;
-    QBasicTimer m_settling;
+    std::vector<Settling> m_settling;
     int m_selectedRecord = -1;
     int m_selectedHandle = -1; ///< -1: every handle of the selected record is.
     int m_previouslySelectedRecord = -1;

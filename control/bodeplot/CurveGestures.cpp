@@ -72,11 +72,11 @@ void CurveFilters::hold(int handle)
 {
     const int position = m_set.recordOf(handle);
     if (position != heldRecord())
-        endHold();
+        endHold(0);
     if (position < 0)
         return;
     const auto index = std::size_t(position);
-    m_settling.stop();
+    std::erase_if(m_settling, [&](const Settling &settling) { return settling.record == m_set.records()[index]; });
     m_hold.relation = m_set.handles()[std::size_t(handle)].relation;
     m_hold.source = index < m_filters.sources.size() ? m_filters.sources[index] : nullptr;
     m_hold.record = m_set.records()[index];
@@ -88,16 +88,16 @@ HandleEdit CurveFilters::release(int settleTimeMs)
 {
     if (!m_hold.isActive())
         return {};
-    m_settling.start(std::max(0, settleTimeMs), this);
     const std::optional<QPointF> untold = m_hold.untoldPoint;
     const int handle = heldHandle();
+    endHold(settleTimeMs);
     return untold && handle >= 0 ? move(handle, *untold) : HandleEdit();
 }
 
 HandleEdit CurveFilters::cancel()
 {
     const int position = heldRecord();
-    if (position < 0 || m_settling.isActive())
+    if (position < 0)
         return {};
     m_hold.record = copyRecord(m_hold.before.data());
     m_hold.untoldPoint.reset();
@@ -121,44 +121,51 @@ int CurveFilters::heldHandle() const
     return found == m_set.handles().end() ? -1 : int(found - m_set.handles().begin());
 }
 
+void CurveFilters::endHold(int settleTimeMs)
+{
+    const Hold ended = std::exchange(m_hold, {});
+    if (!ended.source)
+        return; // ready-made records keep what they were given
+    Settling &settling = m_settling.emplace_back(Settling{{ended.source, ended.record}, {}});
+    settling.timer.start(std::max(0, settleTimeMs), this);
+}
+
 void CurveFilters::timerEvent(QTimerEvent *event)
 {
-    if (event->timerId() != m_settling.timerId()) {
+    const auto found = std::ranges::find_if(
+        m_settling, [event](const Settling &settling) { return settling.timer.timerId() == event->timerId(); });
+    if (found == m_settling.end()) {
         QObject::timerEvent(event);
         return;
     }
-    endHold();
+    QObject *source = found->source;
+    m_settling.erase(found);
+    refresh(source);
 }
 
-CurveFilters::Hold CurveFilters::takeHold()
+bool CurveFilters::isEdited(const QObject *source) const
 {
-    m_settling.stop();
-    return std::exchange(m_hold, {});
+    const bool isHeld = m_hold.isActive() && m_hold.source == source;
+    return isHeld || std::ranges::find(m_settling, source, &Settling::source) != m_settling.end();
 }
 
-/// The missed change comes with the next event: it may bring other handles, which must not happen while one is pressed.
-void CurveFilters::endHold()
+/// Puts an edited record in its place in a list that is made anew; false when that has none for it.
+bool CurveFilters::keepRecord(const Edited &edited, FilterRecords &records) const
 {
-    const Hold ended = takeHold();
-    if (ended.missedChange)
-        QMetaObject::invokeMethod(
-            this, [this, source = ended.source] { refresh(source); }, Qt::QueuedConnection);
-}
-
-/// In a list that is made anew the held record stays the one that the user edits.
-void CurveFilters::keepHeldRecord(FilterRecords &records)
-{
-    if (!m_hold.isActive())
-        return;
     const std::vector<QObject *> &sources = m_filters.sources;
-    const auto found = std::ranges::find(sources, m_hold.source);
+    const auto found = std::ranges::find(sources, edited.source);
     const auto position = std::size_t(found - sources.begin());
-    if (!m_hold.source || found == sources.end() || !sameKind(records[position], m_hold.record)) {
-        takeHold();
-        return;
-    }
-    records[position] = m_hold.record;
-    m_hold.missedChange = true;
+    if (!edited.source || found == sources.end() || !sameKind(records[position], edited.record))
+        return false;
+    records[position] = edited.record;
+    return true;
+}
+
+void CurveFilters::keepEditedRecords(FilterRecords &records)
+{
+    if (!keepRecord(m_hold, records))
+        m_hold = {};
+    std::erase_if(m_settling, [&](const Settling &settling) { return !keepRecord(settling, records); });
 }
 
 } // namespace tamble::client

@@ -268,12 +268,10 @@ void CurveItemTest::heldValuesWait()
     page.filter(0)->setProperty("gain", 5.0);
     QCOMPARE(curve->handle(0)->gain(), 5.0);
 
-    // Another type, missed during the first hold, leaves the handles alone while the next begins.
-    curve->setProperty("settleTime", 10000);
+    // Another type, missed during a hold, leaves the handles alone until the next event.
     curve->holdFilterPoint(0);
     page.filter(0)->setProperty("type", 3);
     page.filter(0)->setProperty("freq", 300.0);
-    curve->releaseFilterPoint();
     curve->holdFilterPoint(-1);
     QCOMPARE(curve->handle(0)->moveMode(), HandleMotion::Both);
     QTRY_COMPARE(curve->handle(0)->moveMode(), HandleMotion::Horizontal);
@@ -283,6 +281,41 @@ void CurveItemTest::heldValuesWait()
     delete page.filter(0);
     curve->releaseFilterPoint();
     QCOMPARE(curve->filterPointModels().size(), 0);
+}
+
+void CurveItemTest::refusedEdits_data()
+{
+    QTest::addColumn<QByteArray>("gesture"); // of a handle at 200 Hz to 2000 Hz
+    QTest::addColumn<double>("frequency");   // of handle and record, when all has settled
+
+    const QByteArray move = "onUserMoveFilterPoint(0, Qt.point(2 / 3, 0.5)); ";
+    QTest::newRow("held") << QByteArray("holdFilterPoint(0); " + move + "releaseFilterPoint()") << 200.0;
+    QTest::newRow("held, another is held at once")
+        << QByteArray("holdFilterPoint(0); " + move + "releaseFilterPoint(); holdFilterPoint(1)") << 200.0;
+    QTest::newRow("held and never released")
+        << QByteArray("holdFilterPoint(0); " + move + "holdFilterPoint(1); releaseFilterPoint()") << 200.0;
+    QTest::newRow("the list is made anew meanwhile")
+        << QByteArray("holdFilterPoint(0); " + move + "releaseFilterPoint(); onCalculationItemsChanged()") << 200.0;
+    QTest::newRow("held again") << QByteArray("holdFilterPoint(0); " + move +
+                                              "releaseFilterPoint(); holdFilterPoint(0)")
+                                << 2000.0;
+    QTest::newRow("bare call") << move << 2000.0;
+}
+
+void CurveItemTest::refusedEdits()
+{
+    QFETCH(QByteArray, gesture);
+    QFETCH(double, frequency);
+
+    const Page page("settleTime: 20; function gesture() { " + gesture + " }\n" +
+                    "calculationItems: [ RBodeplotEqFilter { freq: 200; gain: 10 }, RBodeplotEqFilter {} ]");
+    Curve *curve = page.curve;
+    QMetaObject::invokeMethod(curve, "gesture");
+    QVERIFY(std::abs(curve->handle(0)->frequency() - 2000.0) < 1e-6);
+    QTest::qWait(60);
+    QVERIFY(std::abs(curve->handle(0)->frequency() - frequency) < 1e-6);
+    QVERIFY(std::abs(curve->column(frequency < 1000.0 ? 100 : 200) - 100.0) < (frequency < 1000.0 ? 0.1 : 150.0));
+    QCOMPARE(page.filter(0)->property("freq"), 200.0);
 }
 
 void CurveItemTest::asymmetricBandIsToldBeforeItMoves()
@@ -356,7 +389,11 @@ void CurveItemTest::nativeRecords()
     page.curve->refresh({band, nullptr});
     QCOMPARE(page.curve->filterPointModels().size(), 1);
     QVERIFY(std::abs(page.curve->column(100) - 100.0) < 0.1);
+    page.curve->holdFilterPoint(0);
     page.curve->onUserMoveFilterPoint(0, {2.0 / 3.0, 0.5});
+    page.curve->setProperty("settleTime", 0);
+    page.curve->releaseFilterPoint();
+    QTest::qWait(10);
     QCOMPARE(band->freq, 2000.0);
     page.curve->onCalculationItemsChanged();
     QCOMPARE(page.curve->handle(0)->property("label"), "LP");

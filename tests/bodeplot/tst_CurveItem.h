@@ -22,6 +22,8 @@ private Q_SLOTS:
     void selection();
     void dragTellsThePage();
     void heldValuesWait();
+    void refusedEdits_data();
+    void refusedEdits();
     void asymmetricBandIsToldBeforeItMoves();
     void asymmetricBandTellsItsLastStep();
     void cancelledDrag();
