@@ -6,6 +6,7 @@
 #include <QtCore/QDebug>
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QVariant>
+#include <QtQml/QQmlInfo>
 
 #include <algorithm>
 #include <utility>
@@ -49,6 +50,8 @@ QStringList CurveFilters::take(ConvertedFilters filters)
     m_filters = std::move(filters);
     keepEditedRecords(records);
     QStringList problems = m_set.setRecords(std::move(records));
+    for (std::size_t i = 0; i < m_filters.sources.size(); ++i)
+        checkSlope(i);
     m_watch.setFilters(m_filters.sources);
     if (const int selected = findSelected(); selected >= 0 && selected != m_selectedRecord) {
         m_selectedRecord = selected;
@@ -81,11 +84,22 @@ void CurveFilters::refreshRecord(std::size_t position)
     const FilterRecord record = convertedAgain(m_filters, position);
     if (const QString problem = m_set.setRecord(int(position), record); !problem.isEmpty())
         qDebug().noquote() << problem;
+    checkSlope(position);
     updateModels();
     if (!sameDisplay(old, record))
         Q_EMIT displayChanged();
     if (!sameResponse(old.data(), record.data()))
         Q_EMIT recordChanged(int(position));
+}
+
+void CurveFilters::checkSlope(std::size_t position)
+{
+    if (m_hasToldOfSlope || !hasUnknownSlope(m_set.records()[position].data()))
+        return;
+    m_hasToldOfSlope = true;
+    qmlWarning(m_filters.sources[position])
+        << "there is no such slope: write RBodeplotSlopeTypeEnum.SLOPE_TWELVE_DB_SLOPE (2) for 12 dB per octave, "
+           "SLOPE_SIX_DB_SLOPE (1) for 6 dB, SLOPE_NULL_SLOPE (0) for none";
 }
 
 void CurveFilters::drop(QObject *source)

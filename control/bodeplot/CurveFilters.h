@@ -89,6 +89,7 @@ private:
     QStringList take(ConvertedFilters filters);
     void refresh(QObject *source);
     void refreshRecord(std::size_t position);
+    void checkSlope(std::size_t position);
     void followHeader(QObject *source);
     void followSelection(QObject *source);
     void drop(QObject *source);
@@ -112,6 +113,7 @@ private:
     int m_selectedRecord = -1;
     int m_selectedHandle = -1; ///< -1: every handle of the selected record is.
     int m_previouslySelectedRecord = -1;
+    bool m_hasToldOfSlope = false;
     const QObject *m_markedSource = nullptr; ///< Its `selected` is being written, which is no news.
 };
 

@@ -38,6 +38,12 @@ RecordDisplay recordDisplay(const CalculationItem *record)
     return {};
 }
 
+bool hasUnknownSlope(const CalculationItem *record)
+{
+    const auto isUnknown = [](const auto *band) { return band && (band->slope < 0 || band->slope > 2); };
+    return isUnknown(as<EqFilter>(record)) || isUnknown(as<AsymmetricEqFilter>(record));
+}
+
 bool isWithoutGain(int eqType)
 {
     return (eqType >= 3 && eqType <= 5) || eqType == 8 || eqType == 9;

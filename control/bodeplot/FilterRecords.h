@@ -52,6 +52,9 @@ struct RecordDisplay
 };
 RecordDisplay recordDisplay(const tamble::common::CalculationItem *record);
 
+/// Whether a band of an equaliser has a slope that RBodeplotSlopeTypeEnum does not know; false for other records.
+bool hasUnknownSlope(const tamble::common::CalculationItem *record);
+
 /// Whether an equaliser type has no gain: high pass, low pass, all pass, band pass and notch.
 bool isWithoutGain(int eqType);
 

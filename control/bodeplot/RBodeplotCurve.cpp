@@ -249,6 +249,7 @@ void RBodeplotCurve::componentComplete()
     QQuickItem::componentComplete();
     m_filters.setFrame({m_xMinimum, m_xMaximum, m_yMinimum, m_yMaximum});
     onCalculationItemsChanged();
+    tellOfUnlistedFilters();
 }
 
 void RBodeplotCurve::itemChange(ItemChange change, const ItemChangeData &value)

@@ -138,6 +138,8 @@ private:
     static RBodeplotCalculationItem *itemAt(ItemList *list, qsizetype index);
     static void clearItems(ItemList *list);
     void forgetItem(QObject *item);
+    bool isListed(QObject *filter) const;
+    void tellOfUnlistedFilters();
 
     void connectProperties();
     void requestConversion();
@@ -165,6 +167,7 @@ private:
     int m_settleTime = 300;
     QList<RBodeplotCalculationItem *> m_calculationItems;
     QQmlListReference m_calculationItemsReference;
+    bool m_hasToldOfNoFilter = false;
 
     CurveFilters m_filters;
     bool m_listIsStale = false; ///< m_filters is still that of an earlier list.

@@ -1,8 +1,10 @@
 #include "bodeplot/RBodeplotCurve.h"
 
 #include <QtCore/QScopedValueRollback>
+#include <QtQml/QQmlInfo>
 #include <QtQuick/QQuickWindow>
 
+#include <algorithm>
 #include <utility>
 
 // Where the filters of a curve come from.
@@ -43,9 +45,13 @@ void RBodeplotCurve::setCalculationItemsReference(const QQmlListReference &refer
 // The filters get no visual parent: their `visible` must tell what the page wrote, not whether the plot is on screen.
 void RBodeplotCurve::appendItem(ItemList *list, RBodeplotCalculationItem *item)
 {
-    if (!item)
-        return;
     auto *curve = curveOf(list);
+    if (!item) {
+        if (!std::exchange(curve->m_hasToldOfNoFilter, true))
+            qmlWarning(curve) << "what is no filter item, such as RBodeplotEqFilter, is left out of calculationItems; "
+                                 "other objects go in calculationItemsReference";
+        return;
+    }
     curve->m_calculationItems.append(item);
     connect(item, &QObject::destroyed, curve, &RBodeplotCurve::forgetItem, Qt::UniqueConnection);
     Q_EMIT curve->calculationItemsChanged();
@@ -77,6 +83,40 @@ void RBodeplotCurve::forgetItem(QObject *item)
     const auto isItem = [item](const QObject *candidate) { return candidate == item; };
     if (erase_if(m_calculationItems, isItem) > 0)
         Q_EMIT calculationItemsChanged();
+}
+
+bool RBodeplotCurve::isListed(QObject *filter) const
+{
+    const auto isFilter = [filter](const QObject *listed) { return listed == filter; };
+    if (std::ranges::any_of(m_calculationItems, isFilter))
+        return true;
+    const QQmlListReference &reference = m_calculationItemsReference;
+    const auto count = reference.isValid() && reference.canCount() && reference.canAt() ? reference.count() : 0;
+    for (qsizetype i = 0; i < count; ++i) {
+        if (isFilter(reference.at(i)))
+            return true;
+    }
+    return false;
+}
+
+void RBodeplotCurve::tellOfUnlistedFilters()
+{
+    QList<QPointer<QObject>> unlisted;
+    for (QQuickItem *child : childItems()) {
+        if (qobject_cast<RBodeplotCalculationItem *>(child) && !isListed(child))
+            unlisted.append(child);
+    }
+    if (unlisted.isEmpty())
+        return;
+    // A page may well list them when all of it is complete.
+    const auto tell = [this, unlisted] {
+        const auto found = std::ranges::find_if(
+            unlisted, [this](const QPointer<QObject> &filter) { return filter && !isListed(filter); });
+        if (found != unlisted.end())
+            qmlWarning(*found) << "a filter that is only a child of its curve is not drawn: name it in the curve's "
+                                  "calculationItems";
+    };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 void RBodeplotCurve::requestConversion()

@@ -128,6 +128,46 @@ void CurveItemTest::hugeItems()
     QVERIFY(sum.points.points.back().x() >= size.width() * 0.999);
 }
 
+void CurveItemTest::wrongUse_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QString>("told"); // empty: nothing
+
+    const QString noFilter = QStringLiteral("what is no filter item.*calculationItemsReference");
+    const QString unlisted = QStringLiteral("only a child of its curve.*calculationItems");
+    const QString slope = QStringLiteral("no such slope.*SLOPE_TWELVE_DB_SLOPE \\(2\\)");
+    const QByteArray children = "RBodeplotEqFilter { id: a } RBodeplotEqFilter { id: b }\n";
+    const QByteArray later = "Component.onCompleted: calculationItems = ";
+    QTest::newRow("right") << children + "calculationItems: [a, b]" << QString();
+    QTest::newRow("listed at last") << children + later + "[b, a]" << QString();
+    QTest::newRow("as plain objects") << children +
+                                             "property list<QtObject> all: [a, b]; calculationItemsReference: all"
+                                      << QString();
+    QTest::newRow("no filter") << children + later + "[a, b, curve, 5]" << noFilter;
+    QTest::newRow("null") << children + later + "[null, a, b]" << noFilter;
+    QTest::newRow("only a child") << children + "calculationItems: b" << unlisted;
+    QTest::newRow("slope in dB") << QByteArray("calculationItems: [ RBodeplotEqFilter { type: 3; slope: 12 },\n"
+                                               "RBodeplotEqFilter { slope: 6 } ]")
+                                 << slope;
+    QTest::newRow("slope set later") << children + "calculationItems: [a, b]; Component.onCompleted: b.slope = -1"
+                                     << slope;
+}
+
+void CurveItemTest::wrongUse()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(QString, told);
+
+    if (!told.isEmpty())
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(told));
+    const Page page(body);
+    QCoreApplication::processEvents();
+    // Once is enough.
+    if (QObject *filter = page.filter(0))
+        filter->setProperty("slope", filter->property("slope").toInt() > 2 ? 6 : 1);
+    page.curve->onCalculationItemsChanged();
+}
+
 void CurveItemTest::assignedListKeepsItsHandles()
 {
     const Page page("RBodeplotEqFilter { id: a; freq: 200; gain: 10 } RBodeplotEqFilter { id: b }\n"

@@ -15,6 +15,8 @@ private Q_SLOTS:
     void badInput();
     void hugeItems_data();
     void hugeItems();
+    void wrongUse_data();
+    void wrongUse();
     void assignedListKeepsItsHandles();
     void filterChangesFollowInPlace();
     void destroyedFilters();
