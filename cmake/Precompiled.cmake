@@ -7,13 +7,13 @@
 
 option(TAMBLE_PRECOMPILED_HEADERS "Compile headers that nearly every file reads once only" ON)
 
-set(core_headers
+set(TAMBLE_CORE_HEADERS
     <algorithm> <array> <cmath> <functional> <limits> <memory> <optional> <span> <string> <string_view> <unordered_map>
     <utility> <variant> <vector>
     <QtCore/QDebug> <QtCore/QFile> <QtCore/QFileInfo> <QtCore/QHash> <QtCore/QList> <QtCore/QMap> <QtCore/QObject>
     <QtCore/QPointer> <QtCore/QRegularExpression> <QtCore/QString> <QtCore/QTimer> <QtCore/QUrl> <QtCore/QVariant>
 )
-set(quick_headers ${core_headers}
+set(TAMBLE_QUICK_HEADERS ${TAMBLE_CORE_HEADERS}
     <QtGui/QColor> <QtGui/QFont> <QtGui/QGuiApplication> <QtGui/QImage>
     <QtQml/QQmlComponent> <QtQml/QQmlContext> <QtQml/QQmlEngine> <QtQml/QQmlListProperty> <QtQml/qqmlprivate.h>
     <QtQuick/QQuickItem> <QtQuick/QQuickWindow> <QtQuick/QSGGeometryNode>
@@ -32,8 +32,8 @@ function(tamble_add_header_set name)
 endfunction()
 
 if(TAMBLE_PRECOMPILED_HEADERS)
-    tamble_add_header_set(core HEADERS ${core_headers} LIBRARIES Qt6::Core)
-    tamble_add_header_set(quick HEADERS ${quick_headers} LIBRARIES Qt6::Quick)
+    tamble_add_header_set(core HEADERS ${TAMBLE_CORE_HEADERS} LIBRARIES Qt6::Core)
+    tamble_add_header_set(quick HEADERS ${TAMBLE_QUICK_HEADERS} LIBRARIES Qt6::Quick)
 endif()
 
 function(tamble_precompile target set)

@@ -1,7 +1,7 @@
-#include "bodeplot/tst_BodeplotFrame.h"
-
 #include "bodeplot/RBodeplot.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
@@ -43,12 +43,29 @@ struct Frame : RBodeplot
 
 } // namespace
 
-void BodeplotFrameTest::init()
+class tst_BodeplotFrame : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void levelZoom_data();
+    void levelZoom();
+    void frequencyZoom();
+    void spanGuard();
+    void panning_data();
+    void panning();
+    void panStartsAfreshAtTheEdge();
+    void disabledFrameIgnoresAll();
+    void notANumberIsIgnored();
+};
+
+void tst_BodeplotFrame::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
 }
 
-void BodeplotFrameTest::levelZoom_data()
+void tst_BodeplotFrame::levelZoom_data()
 {
     QTest::addColumn<int>("direction");
     QTest::addColumn<int>("steps");
@@ -61,7 +78,7 @@ void BodeplotFrameTest::levelZoom_data()
     QTest::newRow("other directions do nothing") << 2 << 1 << 25.0;
 }
 
-void BodeplotFrameTest::levelZoom()
+void tst_BodeplotFrame::levelZoom()
 {
     QFETCH(int, direction);
     QFETCH(int, steps);
@@ -74,7 +91,7 @@ void BodeplotFrameTest::levelZoom()
     QCOMPARE(frame.yMinimum(), -bound);
 }
 
-void BodeplotFrameTest::frequencyZoom()
+void tst_BodeplotFrame::frequencyZoom()
 {
     Frame frame;
     QSignalSpy spy(&frame, &RBodeplot::xMaximumChanged);
@@ -93,7 +110,7 @@ void BodeplotFrameTest::frequencyZoom()
     QCOMPARE(frame.xMaximum(), 20000.0);
 }
 
-void BodeplotFrameTest::spanGuard()
+void tst_BodeplotFrame::spanGuard()
 {
     Frame frame;
     frame.zoomXAxis(In); // only measures
@@ -108,7 +125,7 @@ void BodeplotFrameTest::spanGuard()
     QCOMPARE(frame.xMinimum(), 115.0);
 }
 
-void BodeplotFrameTest::panning_data()
+void tst_BodeplotFrame::panning_data()
 {
     QTest::addColumn<double>("minimum");
     QTest::addColumn<double>("maximum");
@@ -130,7 +147,7 @@ void BodeplotFrameTest::panning_data()
     QTest::newRow("whole range shown") << 20.0 << 20000.0 << 200.0 << 100.0 << 20.0 << 20000.0;
 }
 
-void BodeplotFrameTest::panning()
+void tst_BodeplotFrame::panning()
 {
     QFETCH(double, minimum);
     QFETCH(double, maximum);
@@ -147,7 +164,7 @@ void BodeplotFrameTest::panning()
     QCOMPARE(frame.xMaximum(), newMaximum);
 }
 
-void BodeplotFrameTest::panStartsAfreshAtTheEdge()
+void tst_BodeplotFrame::panStartsAfreshAtTheEdge()
 {
     Frame frame;
     frame.show(50.0, 5000.0);
@@ -160,7 +177,7 @@ void BodeplotFrameTest::panStartsAfreshAtTheEdge()
     QCOMPARE(frame.xMinimum(), 20.0 * std::pow(10.0, 0.1));
 }
 
-void BodeplotFrameTest::disabledFrameIgnoresAll()
+void tst_BodeplotFrame::disabledFrameIgnoresAll()
 {
     Frame frame;
     frame.show(50.0, 5000.0);
@@ -175,7 +192,7 @@ void BodeplotFrameTest::disabledFrameIgnoresAll()
     QCOMPARE(frame.yMaximum(), 25.0);
 }
 
-void BodeplotFrameTest::notANumberIsIgnored()
+void tst_BodeplotFrame::notANumberIsIgnored()
 {
     Frame frame;
     QSignalSpy spy(&frame, &RBodeplot::xMinimumChanged);
@@ -183,3 +200,6 @@ void BodeplotFrameTest::notANumberIsIgnored()
     QCOMPARE(frame.xMinimum(), 20.0);
     QCOMPARE(spy.count(), 0);
 }
+
+static const TestClass<tst_BodeplotFrame> registered;
+#include "tst_BodeplotFrame.moc"

@@ -1,8 +1,8 @@
-#include "bodeplot/tst_CurveDrawing.h"
-
 #include "bodeplot/AllocationCount.h"
 #include "bodeplot/CurvePage.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
 #include <QtQuick/QQuickWindow>
 #include <QtTest/QTest>
@@ -37,12 +37,28 @@ bool drawsInSoftware(const QQuickWindow &window)
 
 } // namespace
 
-void CurveDrawingTest::init()
+/// What a curve draws and what a frame of it costs.
+class tst_CurveDrawing : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void draggingAllocatesNothing();
+    void nothingIsRewrittenWithoutChange();
+    void hiddenLinesComeBack();
+    void drawnPixels_data();
+    void drawnPixels();
+    void areaFadesAlongEachColumn_data();
+    void areaFadesAlongEachColumn();
+};
+
+void tst_CurveDrawing::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
 }
 
-void CurveDrawingTest::draggingAllocatesNothing()
+void tst_CurveDrawing::draggingAllocatesNothing()
 {
     if (!countsAllocations())
         QSKIP("Allocations are the sanitizer's.");
@@ -68,7 +84,7 @@ void CurveDrawingTest::draggingAllocatesNothing()
     QCOMPARE(takeAllocationCount(), std::size_t(0));
 }
 
-void CurveDrawingTest::nothingIsRewrittenWithoutChange()
+void tst_CurveDrawing::nothingIsRewrittenWithoutChange()
 {
     if (!QGuiApplication::platformName().contains(QLatin1String("xcb")))
         QSKIP("Needs a display.");
@@ -100,7 +116,7 @@ void CurveDrawingTest::nothingIsRewrittenWithoutChange()
     QCOMPARE(page.curve->updateCount(), updates);
 }
 
-void CurveDrawingTest::hiddenLinesComeBack()
+void tst_CurveDrawing::hiddenLinesComeBack()
 {
     if (!QGuiApplication::platformName().contains(QLatin1String("xcb")))
         QSKIP("Needs a display.");
@@ -124,7 +140,7 @@ void CurveDrawingTest::hiddenLinesComeBack()
     }
 }
 
-void CurveDrawingTest::drawnPixels_data()
+void tst_CurveDrawing::drawnPixels_data()
 {
     QTest::addColumn<QByteArray>("body");
     QTest::addColumn<QPoint>("place");
@@ -146,7 +162,7 @@ void CurveDrawingTest::drawnPixels_data()
                            << QColor(Qt::red);
 }
 
-void CurveDrawingTest::drawnPixels()
+void tst_CurveDrawing::drawnPixels()
 {
     if (!QGuiApplication::platformName().contains(QLatin1String("xcb")))
         QSKIP("Needs a display.");
@@ -168,7 +184,7 @@ void CurveDrawingTest::drawnPixels()
     QVERIFY2(distance < 60, qPrintable(drawn.name()));
 }
 
-void CurveDrawingTest::areaFadesAlongEachColumn_data()
+void tst_CurveDrawing::areaFadesAlongEachColumn_data()
 {
     QTest::addColumn<QByteArray>("filters");
     QTest::addColumn<QPoint>("flank");
@@ -179,7 +195,7 @@ void CurveDrawingTest::areaFadesAlongEachColumn_data()
     QTest::newRow("below the axis") << QByteArray("{ freq: 632.4555; gain: -18; quality: 6 }") << QPoint(20, 280);
 }
 
-void CurveDrawingTest::areaFadesAlongEachColumn()
+void tst_CurveDrawing::areaFadesAlongEachColumn()
 {
     if (!QGuiApplication::platformName().contains(QLatin1String("xcb")))
         QSKIP("Needs a display.");
@@ -218,3 +234,6 @@ void CurveDrawingTest::areaFadesAlongEachColumn()
     }
     QVERIFY2(worst < 0.02, qPrintable(QStringLiteral("%1 at %2, %3").arg(worst).arg(place.x()).arg(place.y())));
 }
+
+static const TestClass<tst_CurveDrawing> registered;
+#include "tst_CurveDrawing.moc"

@@ -1,7 +1,7 @@
-#include "bodeplot/tst_CurveItem.h"
-
 #include "bodeplot/CurvePage.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
@@ -12,12 +12,43 @@
 
 using namespace tamble::client;
 
-void CurveItemTest::init()
+/// The curve as pages use it: lists of filters, handle models, gestures.
+class tst_CurveItem : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void declaredFilters();
+    void listOfPlainObjects();
+    void badInput_data();
+    void badInput();
+    void hugeItems_data();
+    void hugeItems();
+    void wrongUse_data();
+    void wrongUse();
+    void assignedListKeepsItsHandles();
+    void filterChangesFollowInPlace();
+    void destroyedFilters();
+    void firHeaderComesBack();
+    void selection();
+    void dragTellsThePage();
+    void heldValuesWait();
+    void refusedEdits_data();
+    void refusedEdits();
+    void asymmetricBandIsToldBeforeItMoves();
+    void asymmetricBandTellsItsLastStep();
+    void cancelledDrag();
+    void nativeRecords();
+    void outOfRangeIsLoggedOnce();
+};
+
+void tst_CurveItem::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
 }
 
-void CurveItemTest::declaredFilters()
+void tst_CurveItem::declaredFilters()
 {
     QTest::ignoreMessage(QtWarningMsg,
                          "calculationItemsQListToStdVector() calculationItem at index 1 is not an RBodeplotEqFilter / "
@@ -37,7 +68,7 @@ void CurveItemTest::declaredFilters()
     QVERIFY(page.curve->lines().records()[2].columns.empty());
 }
 
-void CurveItemTest::listOfPlainObjects()
+void tst_CurveItem::listOfPlainObjects()
 {
     const Page page("calculationItemsReference: root.bands\n",
                     "id: root; property list<QtObject> bands: [ QtObject { property real freq: 1000.1 },\n"
@@ -63,7 +94,7 @@ void CurveItemTest::listOfPlainObjects()
     QCOMPARE(curve->handle(1)->frequency(), 400.0);
 }
 
-void CurveItemTest::badInput_data()
+void tst_CurveItem::badInput_data()
 {
     QTest::addColumn<QByteArray>("body");
     QTest::addColumn<double>("y"); // of column 150, -1: nothing is drawn
@@ -83,7 +114,7 @@ void CurveItemTest::badInput_data()
     QTest::newRow("no height") << sound + "Component.onCompleted: height = 0.9" << -1.0;
 }
 
-void CurveItemTest::badInput()
+void tst_CurveItem::badInput()
 {
     QFETCH(QByteArray, body);
     QFETCH(double, y);
@@ -95,7 +126,7 @@ void CurveItemTest::badInput()
         QVERIFY(std::abs(page.curve->column(150) - y) < 0.5);
 }
 
-void CurveItemTest::hugeItems_data()
+void tst_CurveItem::hugeItems_data()
 {
     QTest::addColumn<QSizeF>("size");
     QTest::addColumn<std::size_t>("columns");
@@ -109,7 +140,7 @@ void CurveItemTest::hugeItems_data()
     QTest::newRow("endless") << QSizeF(infinite, 400.0) << std::size_t(0);
 }
 
-void CurveItemTest::hugeItems()
+void tst_CurveItem::hugeItems()
 {
     QFETCH(QSizeF, size);
     QFETCH(std::size_t, columns);
@@ -128,7 +159,7 @@ void CurveItemTest::hugeItems()
     QVERIFY(sum.points.points.back().x() >= size.width() * 0.999);
 }
 
-void CurveItemTest::wrongUse_data()
+void tst_CurveItem::wrongUse_data()
 {
     QTest::addColumn<QByteArray>("body");
     QTest::addColumn<QString>("told"); // empty: nothing
@@ -153,7 +184,7 @@ void CurveItemTest::wrongUse_data()
                                      << slope;
 }
 
-void CurveItemTest::wrongUse()
+void tst_CurveItem::wrongUse()
 {
     QFETCH(QByteArray, body);
     QFETCH(QString, told);
@@ -168,7 +199,7 @@ void CurveItemTest::wrongUse()
     page.curve->onCalculationItemsChanged();
 }
 
-void CurveItemTest::assignedListKeepsItsHandles()
+void tst_CurveItem::assignedListKeepsItsHandles()
 {
     const Page page("RBodeplotEqFilter { id: a; freq: 200; gain: 10 } RBodeplotEqFilter { id: b }\n"
                     "calculationItems: [a, b]\n"
@@ -194,7 +225,7 @@ void CurveItemTest::assignedListKeepsItsHandles()
     QTRY_COMPARE(modelsChanged.count(), 2);
 }
 
-void CurveItemTest::filterChangesFollowInPlace()
+void tst_CurveItem::filterChangesFollowInPlace()
 {
     const Page page("calculationItems: [ RBodeplotEqFilter { freq: 200; gain: 10 }, RBodeplotEqFilter {} ]");
     Curve *curve = page.curve;
@@ -221,7 +252,7 @@ void CurveItemTest::filterChangesFollowInPlace()
     QVERIFY(curve->point(1).x() < 0.0);
 }
 
-void CurveItemTest::destroyedFilters()
+void tst_CurveItem::destroyedFilters()
 {
     const Page page("calculationItems: [ RBodeplotEqFilter { gain: 5 }, RBodeplotXOverFilter {} ]");
     delete page.filter(0);
@@ -235,7 +266,7 @@ void CurveItemTest::destroyedFilters()
     page.curve->onUserMoveFilterPoint(0, {0.5, 0.5});
 }
 
-void CurveItemTest::firHeaderComesBack()
+void tst_CurveItem::firHeaderComesBack()
 {
     const Page page("calculationItems: RBodeplotFIRFilter { type: 1; freqHP: 200; labelHP: header.slice(-9) }");
     QObject *fir = page.filter(0);
@@ -246,7 +277,7 @@ void CurveItemTest::firHeaderComesBack()
     QCOMPARE(page.curve->handle(0)->property("label"), " 512 taps");
 }
 
-void CurveItemTest::selection()
+void tst_CurveItem::selection()
 {
     const Page page("calculationItems: [ RBodeplotEqFilter {},\n"
                     "RBodeplotAsymmetricEqFilter { label: selected ? 'chosen' : 'plain' } ]");
@@ -275,7 +306,7 @@ void CurveItemTest::selection()
     QCOMPARE(pressed.count(), 1);
 }
 
-void CurveItemTest::dragTellsThePage()
+void tst_CurveItem::dragTellsThePage()
 {
     const Page page("property var told: []; onUserChangedFilterPoint: (index, type, frequency, gain, quality) => {\n"
                     "told.push(index, type, frequency, gain, quality); calculationItems[index].freq = frequency\n"
@@ -292,7 +323,7 @@ void CurveItemTest::dragTellsThePage()
     QCOMPARE(curve->property("told").toList().size(), 10);
 }
 
-void CurveItemTest::heldValuesWait()
+void tst_CurveItem::heldValuesWait()
 {
     const Page page("settleTime: 20; calculationItems: RBodeplotEqFilter { gain: 3 }");
     Curve *curve = page.curve;
@@ -323,7 +354,7 @@ void CurveItemTest::heldValuesWait()
     QCOMPARE(curve->filterPointModels().size(), 0);
 }
 
-void CurveItemTest::refusedEdits_data()
+void tst_CurveItem::refusedEdits_data()
 {
     QTest::addColumn<QByteArray>("gesture"); // of a handle at 200 Hz to 2000 Hz
     QTest::addColumn<double>("frequency");   // of handle and record, when all has settled
@@ -342,7 +373,7 @@ void CurveItemTest::refusedEdits_data()
     QTest::newRow("bare call") << move << 2000.0;
 }
 
-void CurveItemTest::refusedEdits()
+void tst_CurveItem::refusedEdits()
 {
     QFETCH(QByteArray, gesture);
     QFETCH(double, frequency);
@@ -358,7 +389,7 @@ void CurveItemTest::refusedEdits()
     QCOMPARE(page.filter(0)->property("freq"), 200.0);
 }
 
-void CurveItemTest::asymmetricBandIsToldBeforeItMoves()
+void tst_CurveItem::asymmetricBandIsToldBeforeItMoves()
 {
     const Page page("calculationItems: RBodeplotAsymmetricEqFilter { freq: 200; freq2: 2000; gain: 5 }");
     Curve *curve = page.curve;
@@ -391,7 +422,7 @@ void CurveItemTest::asymmetricBandIsToldBeforeItMoves()
     QCOMPARE(curve->filterPointModels().size(), 0);
 }
 
-void CurveItemTest::asymmetricBandTellsItsLastStep()
+void tst_CurveItem::asymmetricBandTellsItsLastStep()
 {
     const Page page("calculationItems: RBodeplotAsymmetricEqFilter { freq: 20; freq2: 200 }");
     QSignalSpy told(page.curve, &RBodeplotCurve::userChangedFilterPoint);
@@ -403,7 +434,7 @@ void CurveItemTest::asymmetricBandTellsItsLastStep()
     QCOMPARE(told, (QList<QVariantList>{{0, "ASYMEQ2", 2000.0f, 10.0f, 1.0f}}));
 }
 
-void CurveItemTest::cancelledDrag()
+void tst_CurveItem::cancelledDrag()
 {
     const Page page("calculationItems: RBodeplotAsymmetricEqFilter { freq: 200; freq2: 2000; gain: 5; quality2: 1.5 }");
     Curve *curve = page.curve;
@@ -420,7 +451,7 @@ void CurveItemTest::cancelledDrag()
     QCOMPARE(told.count(), 1);
 }
 
-void CurveItemTest::nativeRecords()
+void tst_CurveItem::nativeRecords()
 {
     const Page page("calculationItems: RBodeplotXOverFilter {}");
     auto band = QSharedPointer<EqFilterExtended>::create();
@@ -439,7 +470,7 @@ void CurveItemTest::nativeRecords()
     QCOMPARE(page.curve->handle(0)->property("label"), "LP");
 }
 
-void CurveItemTest::outOfRangeIsLoggedOnce()
+void tst_CurveItem::outOfRangeIsLoggedOnce()
 {
     const Page page("calculationItems: RBodeplotEqFilter {}");
     // 300 columns over four decades of 4096/3 values each: column 225 is the first of the last decade.
@@ -454,3 +485,6 @@ void CurveItemTest::outOfRangeIsLoggedOnce()
     page.curve->setProperty("resolution", 0);
     QCOMPARE(page.curve->lines().aggregated().points.count(), std::size_t(0));
 }
+
+static const TestClass<tst_CurveItem> registered;
+#include "tst_CurveItem.moc"

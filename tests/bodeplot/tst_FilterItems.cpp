@@ -1,5 +1,3 @@
-#include "bodeplot/tst_FilterItems.h"
-
 #include "bodeplot/RBodeplot.h"
 #include "bodeplot/RBodeplotAsymmetricEqFilter.h"
 #include "bodeplot/RBodeplotAxis.h"
@@ -10,8 +8,10 @@
 #include "bodeplot/RBodeplotXOverFilter.h"
 #include "bodeplot/RLimiterCurve.h"
 #include "bodeplot/RSimpleCurve.h"
+#include "support/TestProgram.h"
 
 #include <QtCore/QMetaEnum>
+#include <QtCore/QObject>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 #include <QtTest/QSignalSpy>
@@ -51,7 +51,23 @@ std::unique_ptr<QObject> create(QQmlEngine &engine, const QByteArray &body)
 
 } // namespace
 
-void FilterItemsTest::enumKeys_data()
+class tst_FilterItems : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void enumKeys_data();
+    void enumKeys();
+    void newFirFilterPassesEverything();
+    void declaredInQml();
+    void freshItemsCanBeRead_data();
+    void freshItemsCanBeRead();
+    void listReferencesToNothing_data();
+    void listReferencesToNothing();
+    void listReferenceFollowsItsList();
+};
+
+void tst_FilterItems::enumKeys_data()
 {
     QTest::addColumn<QMetaEnum>("type");
     QTest::addColumn<QByteArray>("keys");
@@ -75,7 +91,7 @@ void FilterItemsTest::enumKeys_data()
                                              "XOVER_LINKWITZ_TWENTYFOUR_DB=17 ");
 }
 
-void FilterItemsTest::enumKeys()
+void tst_FilterItems::enumKeys()
 {
     QFETCH(QMetaEnum, type);
     QFETCH(QByteArray, keys);
@@ -86,7 +102,7 @@ void FilterItemsTest::enumKeys()
     QCOMPARE(found, keys);
 }
 
-void FilterItemsTest::newFirFilterPassesEverything()
+void tst_FilterItems::newFirFilterPassesEverything()
 {
     const RBodeplotFIRFilter filter;
     const auto coefficients = filter.property("coefficients").value<QList<qreal>>();
@@ -97,7 +113,7 @@ void FilterItemsTest::newFirFilterPassesEverything()
     QCOMPARE(filter.property("order").toInt(), 512);
 }
 
-void FilterItemsTest::declaredInQml()
+void tst_FilterItems::declaredInQml()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
     QQmlEngine engine;
@@ -141,7 +157,7 @@ void FilterItemsTest::declaredInQml()
     QCOMPARE(filters.count(&filters), 3);
 }
 
-void FilterItemsTest::freshItemsCanBeRead_data()
+void tst_FilterItems::freshItemsCanBeRead_data()
 {
     QTest::addColumn<QByteArray>("type");
     for (const char *type :
@@ -151,7 +167,7 @@ void FilterItemsTest::freshItemsCanBeRead_data()
         QTest::newRow(type) << QByteArray(type);
 }
 
-void FilterItemsTest::freshItemsCanBeRead()
+void tst_FilterItems::freshItemsCanBeRead()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
     QFETCH(QByteArray, type);
@@ -177,7 +193,7 @@ void FilterItemsTest::freshItemsCanBeRead()
     QVERIFY(entries.toInt() > 0);
 }
 
-void FilterItemsTest::listReferencesToNothing_data()
+void tst_FilterItems::listReferencesToNothing_data()
 {
     QTest::addColumn<QByteArray>("step");
 
@@ -189,7 +205,7 @@ void FilterItemsTest::listReferencesToNothing_data()
                                               "reference = owner.bands; owner.destroy()");
 }
 
-void FilterItemsTest::listReferencesToNothing()
+void tst_FilterItems::listReferencesToNothing()
 {
     QFETCH(QByteArray, step);
 
@@ -216,7 +232,7 @@ void FilterItemsTest::listReferencesToNothing()
     QCOMPARE(text, "0");
 }
 
-void FilterItemsTest::listReferenceFollowsItsList()
+void tst_FilterItems::listReferenceFollowsItsList()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
     QQmlEngine engine;
@@ -238,3 +254,6 @@ void FilterItemsTest::listReferenceFollowsItsList()
     QVERIFY(spy.count() >= 1);
     QCOMPARE(curve->calculationItemsReference().count(), 2);
 }
+
+static const TestClass<tst_FilterItems> registered;
+#include "tst_FilterItems.moc"

@@ -1,7 +1,7 @@
-#include "bodeplot/tst_FilterSet.h"
-
 #include "bodeplot/FilterSet.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <cmath>
@@ -72,7 +72,31 @@ const Record &recordIn(const FilterSet &set, std::size_t position = 0)
 
 Q_DECLARE_METATYPE(tamble::client::FilterRecord)
 
-void FilterSetTest::handles_data()
+/// Handles of filters, and what gestures make of their records.
+class tst_FilterSet : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void handles_data();
+    void handles();
+    void recordsWithoutHandles();
+    void placing_data();
+    void placing();
+    void dragging_data();
+    void dragging();
+    void draggedFrequencySurvivesAnotherRange();
+    void asymmetricBandLagsOneStep();
+    void levelling_data();
+    void levelling();
+    void firHandlesKeepTheirDistance();
+    void quality_data();
+    void quality();
+    void wrongIndices();
+    void walkingByFrequency();
+};
+
+void tst_FilterSet::handles_data()
 {
     QTest::addColumn<FilterRecord>("record");
     QTest::addColumn<QString>("described"); // relation, motion, label and level of each handle
@@ -90,7 +114,7 @@ void FilterSetTest::handles_data()
     QTest::newRow("FIR from coefficients") << fir(255) << "";
 }
 
-void FilterSetTest::handles()
+void tst_FilterSet::handles()
 {
     QFETCH(FilterRecord, record);
     QFETCH(QString, described);
@@ -107,7 +131,7 @@ void FilterSetTest::handles()
     QCOMPARE(found, described);
 }
 
-void FilterSetTest::recordsWithoutHandles()
+void tst_FilterSet::recordsWithoutHandles()
 {
     FilterSet set;
     const QString place = QStringLiteral("RBodeplotCurve::onCalculationItemsChanged() ");
@@ -123,7 +147,7 @@ void FilterSetTest::recordsWithoutHandles()
     QCOMPARE(relationText(set.relationOf(1)), "OUT OF RANGE");
 }
 
-void FilterSetTest::placing_data()
+void tst_FilterSet::placing_data()
 {
     QTest::addColumn<double>("frequency");
     QTest::addColumn<double>("gain");
@@ -139,7 +163,7 @@ void FilterSetTest::placing_data()
     QTest::newRow("negative frequency") << -5.0 << 0.0 << QPointF(-1.0, 0.5);
 }
 
-void FilterSetTest::placing()
+void tst_FilterSet::placing()
 {
     QFETCH(double, frequency);
     QFETCH(double, gain);
@@ -151,7 +175,7 @@ void FilterSetTest::placing()
     QCOMPARE(setOf({record}).handles().front().point, QPointF(-1.0, -1.0));
 }
 
-void FilterSetTest::dragging_data()
+void tst_FilterSet::dragging_data()
 {
     QTest::addColumn<FilterRecord>("record");
     QTest::addColumn<QPointF>("wanted");
@@ -168,7 +192,7 @@ void FilterSetTest::dragging_data()
     QTest::newRow("FIR") << fir(0) << middle << 2000.0 << 0.0 << 0.0;
 }
 
-void FilterSetTest::dragging()
+void tst_FilterSet::dragging()
 {
     QFETCH(FilterRecord, record);
     QFETCH(QPointF, wanted);
@@ -186,7 +210,7 @@ void FilterSetTest::dragging()
     QCOMPARE(set.handles()[1].frequencyHz, frequency);
 }
 
-void FilterSetTest::draggedFrequencySurvivesAnotherRange()
+void tst_FilterSet::draggedFrequencySurvivesAnotherRange()
 {
     FilterSet set = setOf({eq(0)});
     set.move(0, {2.0 / 3.0, 0.375});
@@ -197,7 +221,7 @@ void FilterSetTest::draggedFrequencySurvivesAnotherRange()
     QCOMPARE(recordIn<EqFilterExtended>(set).freq, 2000.0);
 }
 
-void FilterSetTest::asymmetricBandLagsOneStep()
+void tst_FilterSet::asymmetricBandLagsOneStep()
 {
     FilterSet set = setOf({asymmetric()});
     const HandleEdit first = set.move(1, {1.0, 0.25});
@@ -217,7 +241,7 @@ void FilterSetTest::asymmetricBandLagsOneStep()
     QCOMPARE(recordIn<AsymmetricEqFilterExtended>(set).gain, 0.0);
 }
 
-void FilterSetTest::levelling_data()
+void tst_FilterSet::levelling_data()
 {
     QTest::addColumn<FilterRecord>("record");
     QTest::addColumn<double>("frequency"); // 0: nothing is told
@@ -227,7 +251,7 @@ void FilterSetTest::levelling_data()
     QTest::newRow("notch") << eq(9) << 0.0;
 }
 
-void FilterSetTest::levelling()
+void tst_FilterSet::levelling()
 {
     QFETCH(FilterRecord, record);
     QFETCH(double, frequency);
@@ -242,7 +266,7 @@ void FilterSetTest::levelling()
         QCOMPARE(handle.gainDb, 0.0);
 }
 
-void FilterSetTest::firHandlesKeepTheirDistance()
+void tst_FilterSet::firHandlesKeepTheirDistance()
 {
     FilterSet set = setOf({fir(5)});
     set.move(0, {0.9, 0.5});
@@ -253,7 +277,7 @@ void FilterSetTest::firHandlesKeepTheirDistance()
     QCOMPARE(recordIn<FIRFilterExtended>(set).freqLP, 20000.0);
 }
 
-void FilterSetTest::quality_data()
+void tst_FilterSet::quality_data()
 {
     QTest::addColumn<FilterRecord>("record");
     QTest::addColumn<double>("base");
@@ -275,7 +299,7 @@ void FilterSetTest::quality_data()
     QTest::newRow("change is no number") << eq(0) << 1.0 << notANumber << 1.0;
 }
 
-void FilterSetTest::quality()
+void tst_FilterSet::quality()
 {
     QFETCH(FilterRecord, record);
     QFETCH(double, base);
@@ -290,7 +314,7 @@ void FilterSetTest::quality()
         QCOMPARE(set.handles().front().quality, quality);
 }
 
-void FilterSetTest::wrongIndices()
+void tst_FilterSet::wrongIndices()
 {
     FilterSet set = setOf({eq(0), eq(0)});
     QCOMPARE(set.move(2, {}).problem,
@@ -301,7 +325,7 @@ void FilterSetTest::wrongIndices()
              "between 0 and 1");
 }
 
-void FilterSetTest::walkingByFrequency()
+void tst_FilterSet::walkingByFrequency()
 {
     const FilterSet set = setOf({eq(0, 5000.0), eq(0, 50.0), eq(0, 500.0), eq(0, 10.0)});
     const auto walk = [&](int from, bool forward) { return neighbourHandle(set.handles(), from, forward); };
@@ -312,3 +336,6 @@ void FilterSetTest::walkingByFrequency()
     QCOMPARE(walk(1, false), -1);
     QCOMPARE(neighbourHandle({}, -1, true), -1);
 }
+
+static const TestClass<tst_FilterSet> registered;
+#include "tst_FilterSet.moc"

@@ -1,11 +1,11 @@
-#include "bodeplot/tst_FrameItems.h"
-
 #include "bodeplot/RBodeplotAxis.h"
 #include "bodeplot/RBodeplotGrid.h"
 #include "bodeplot/RLimiterCurve.h"
 #include "bodeplot/RSimpleCurve.h"
 #include "plot/SmoothStrokeNode.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtQuick/QSGFlatColorMaterial>
 #include <QtQuick/QSGGeometryNode>
 #include <QtTest/QSignalSpy>
@@ -146,12 +146,34 @@ constexpr char noZero[] =
 
 } // namespace
 
-void FrameItemsTest::init()
+/// Grid, axis, given curve and limiter curve as items: what they draw, signal and log.
+class tst_FrameItems : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void gridKeepsItsNodes();
+    void gridFollowsItsStyle();
+    void gridWarnsOncePerChange();
+    void gridWithFarTooManyLines();
+    void axisLabels();
+    void axisLogsOnce_data();
+    void axisLogsOnce();
+    void curveFromEitherForm();
+    void curveKeepsItsNodes();
+    void limiterSignals();
+    void limiterDrawsByState();
+    void badNumbersReachNoVertex_data();
+    void badNumbersReachNoVertex();
+};
+
+void tst_FrameItems::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
 }
 
-void FrameItemsTest::gridKeepsItsNodes()
+void tst_FrameItems::gridKeepsItsNodes()
 {
     Painted<RBodeplotGrid> grid;
     grid.setProperty("xAxisTickValues", QVariantList{100, 1000, 10000});
@@ -178,7 +200,7 @@ void FrameItemsTest::gridKeepsItsNodes()
     QCOMPARE(vertices(child(root, ZeroLine)).size(), 0);
 }
 
-void FrameItemsTest::gridFollowsItsStyle()
+void tst_FrameItems::gridFollowsItsStyle()
 {
     auto grid = std::make_unique<Painted<RBodeplotGrid>>();
     grid->setProperty("xAxisTickValues", QVariantList{100});
@@ -201,7 +223,7 @@ void FrameItemsTest::gridFollowsItsStyle()
     QVERIFY(allVertices(*grid, grid->node()).isEmpty());
 }
 
-void FrameItemsTest::gridWarnsOncePerChange()
+void tst_FrameItems::gridWarnsOncePerChange()
 {
     Painted<RBodeplotGrid> grid;
     grid.setProperty("yMaximum", 60.0);
@@ -219,7 +241,7 @@ void FrameItemsTest::gridWarnsOncePerChange()
     grid.setHeight(300.0);
 }
 
-void FrameItemsTest::gridWithFarTooManyLines()
+void tst_FrameItems::gridWithFarTooManyLines()
 {
     Painted<RBodeplotGrid> grid;
     grid.setProperty("dedicatedXAxisLine", false);
@@ -231,7 +253,7 @@ void FrameItemsTest::gridWithFarTooManyLines()
     grid.paint();
 }
 
-void FrameItemsTest::axisLabels()
+void tst_FrameItems::axisLabels()
 {
     RBodeplotAxis axis;
     axis.setSize({300.0, 20.0});
@@ -257,7 +279,7 @@ void FrameItemsTest::axisLabels()
     QVERIFY(axis.labels().isEmpty());
 }
 
-void FrameItemsTest::axisLogsOnce_data()
+void tst_FrameItems::axisLogsOnce_data()
 {
     QTest::addColumn<int>("scale");
     QTest::addColumn<double>("minimum");
@@ -273,7 +295,7 @@ void FrameItemsTest::axisLogsOnce_data()
         << QByteArray("RBodeplotAxis::updateLabels() minimum of a logarithmic axis must be positive");
 }
 
-void FrameItemsTest::axisLogsOnce()
+void tst_FrameItems::axisLogsOnce()
 {
     QFETCH(int, scale);
     QFETCH(double, minimum);
@@ -297,7 +319,7 @@ void FrameItemsTest::axisLogsOnce()
     axis.setProperty("delta", delta);
 }
 
-void FrameItemsTest::curveFromEitherForm()
+void tst_FrameItems::curveFromEitherForm()
 {
     RSimpleCurve curve;
     QSignalSpy changed(&curve, &RSimpleCurve::visibleCountChanged);
@@ -318,7 +340,7 @@ void FrameItemsTest::curveFromEitherForm()
     QCOMPARE(curve.visibleCount(), 1);
 }
 
-void FrameItemsTest::curveKeepsItsNodes()
+void tst_FrameItems::curveKeepsItsNodes()
 {
     Painted<RSimpleCurve> curve;
     curve.setProperty("points", QVariantList{QPointF(20, 0), QPointF(200, 0), QStringLiteral("gap"), QPointF(2000, 10),
@@ -348,7 +370,7 @@ void FrameItemsTest::curveKeepsItsNodes()
     QVERIFY(strokeVertices(node).empty());
 }
 
-void FrameItemsTest::limiterSignals()
+void tst_FrameItems::limiterSignals()
 {
     RLimiterCurve curve;
     QCOMPARE(curve.points(), QVariantList({QPointF(0, 0.5), QPointF(1, 0.5)}));
@@ -368,7 +390,7 @@ void FrameItemsTest::limiterSignals()
     QCOMPARE(handle.count(), 1);
 }
 
-void FrameItemsTest::limiterDrawsByState()
+void tst_FrameItems::limiterDrawsByState()
 {
     Painted<RLimiterCurve> curve;
     curve.setProperty("xAxisScale", Linear);
@@ -396,7 +418,7 @@ void FrameItemsTest::limiterDrawsByState()
     QCOMPARE(strokeVertices(node).front().offset, 1.0f);
 }
 
-void FrameItemsTest::badNumbersReachNoVertex_data()
+void tst_FrameItems::badNumbersReachNoVertex_data()
 {
     QTest::addColumn<double>("number");
 
@@ -427,7 +449,7 @@ void feed(double number)
     }
 }
 
-void FrameItemsTest::badNumbersReachNoVertex()
+void tst_FrameItems::badNumbersReachNoVertex()
 {
     QFETCH(double, number);
 
@@ -439,4 +461,7 @@ void FrameItemsTest::badNumbersReachNoVertex()
     feed<RLimiterCurve>(number);
 }
 
+#include "tst_FrameItems.moc"
+
+static const TestClass<tst_FrameItems> registered;
 #include "tst_FrameItems.moc"

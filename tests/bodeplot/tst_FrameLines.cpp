@@ -1,10 +1,10 @@
-#include "bodeplot/tst_FrameLines.h"
-
 #include "bodeplot/CurvePixels.h"
 #include "bodeplot/FrameGridLines.h"
 #include "bodeplot/FrameTicks.h"
 #include "bodeplot/LimiterLine.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtGui/QPolygonF>
 #include <QtTest/QTest>
 
@@ -59,12 +59,44 @@ QString inWords(const Lines &lines)
 
 } // namespace
 
-void FrameLinesTest::init()
+/// What grid, axes and given curves of a plot frame are computed from.
+class tst_FrameLines : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void ticks_data();
+    void ticks();
+    void problems_data();
+    void problems();
+    void choice_data();
+    void choice();
+    void labels_data();
+    void labels();
+    void readableLabels_data();
+    void readableLabels();
+    void gridPlaces();
+    void crispLines_data();
+    void crispLines();
+    void columns_data();
+    void columns();
+    void curve_data();
+    void curve();
+    void limiter_data();
+    void limiter();
+    void limiterHandle_data();
+    void limiterHandle();
+    void thresholdSteps_data();
+    void thresholdSteps();
+};
+
+void tst_FrameLines::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
 }
 
-void FrameLinesTest::ticks_data()
+void tst_FrameLines::ticks_data()
 {
     QTest::addColumn<AxisRange>("axis");
     QTest::addColumn<double>("increment");
@@ -90,7 +122,7 @@ void FrameLinesTest::ticks_data()
     QTest::newRow("infinite") << logarithmic(20, infinity) << 1.0 << "";
 }
 
-void FrameLinesTest::ticks()
+void tst_FrameLines::ticks()
 {
     QFETCH(AxisRange, axis);
     QFETCH(double, increment);
@@ -101,7 +133,7 @@ void FrameLinesTest::ticks()
     QVERIFY(ticks.problem == TickProblem::None);
 }
 
-void FrameLinesTest::problems_data()
+void tst_FrameLines::problems_data()
 {
     QTest::addColumn<AxisRange>("axis");
     QTest::addColumn<double>("increment");
@@ -117,7 +149,7 @@ void FrameLinesTest::problems_data()
     QTest::newRow("hundreds of decades") << logarithmic(1e-300, 1e300) << 1.0 << TickProblem::TooManyTicks;
 }
 
-void FrameLinesTest::problems()
+void tst_FrameLines::problems()
 {
     QFETCH(AxisRange, axis);
     QFETCH(double, increment);
@@ -128,7 +160,7 @@ void FrameLinesTest::problems()
     QVERIFY(ticks.problem == problem);
 }
 
-void FrameLinesTest::choice_data()
+void tst_FrameLines::choice_data()
 {
     QTest::addColumn<QVariantList>("listed");
     QTest::addColumn<double>("value");
@@ -144,7 +176,7 @@ void FrameLinesTest::choice_data()
     QTest::newRow("zero") << QVariantList{0} << 0.0 << true;
 }
 
-void FrameLinesTest::choice()
+void tst_FrameLines::choice()
 {
     QFETCH(QVariantList, listed);
     QFETCH(double, value);
@@ -153,7 +185,7 @@ void FrameLinesTest::choice()
     QCOMPARE(TickChoice(listed).contains(value), chosen);
 }
 
-void FrameLinesTest::labels_data()
+void tst_FrameLines::labels_data()
 {
     QTest::addColumn<AxisRange>("axis");
     QTest::addColumn<double>("increment");
@@ -178,7 +210,7 @@ void FrameLinesTest::labels_data()
                                               300 - 300 * std::log(40.0) / std::log(42.0)};
 }
 
-void FrameLinesTest::labels()
+void tst_FrameLines::labels()
 {
     QFETCH(AxisRange, axis);
     QFETCH(double, increment);
@@ -198,7 +230,7 @@ void FrameLinesTest::labels()
     QCOMPARE(inWords(actualPositions), inWords(positions));
 }
 
-void FrameLinesTest::readableLabels_data()
+void tst_FrameLines::readableLabels_data()
 {
     QTest::addColumn<double>("length");
     QTest::addColumn<QStringList>("texts");
@@ -209,7 +241,7 @@ void FrameLinesTest::readableLabels_data()
     QTest::newRow("hardly any") << 60.0 << QStringList{"100", "300"};
 }
 
-void FrameLinesTest::readableLabels()
+void tst_FrameLines::readableLabels()
 {
     QFETCH(double, length);
     QFETCH(QStringList, texts);
@@ -225,7 +257,7 @@ void FrameLinesTest::readableLabels()
     QCOMPARE(actual, texts);
 }
 
-void FrameLinesTest::gridPlaces()
+void tst_FrameLines::gridPlaces()
 {
     const GridPlaces all = tamble::client::gridPlaces(linear(-20, 20), 10.0, TickChoice({}));
     QCOMPARE(inWords(all.full), QStringLiteral("0.25 0.5 0.75")); // not at the ends
@@ -240,7 +272,7 @@ void FrameLinesTest::gridPlaces()
              QStringLiteral("0.25 0.75"));
 }
 
-void FrameLinesTest::crispLines_data()
+void tst_FrameLines::crispLines_data()
 {
     QTest::addColumn<double>("place");
     QTest::addColumn<Qt::Orientation>("orientation");
@@ -263,7 +295,7 @@ void FrameLinesTest::crispLines_data()
     QTest::newRow("place that is no number") << notANumber << Qt::Vertical << 1.0 << 1.0 << Numbers{};
 }
 
-void FrameLinesTest::crispLines()
+void tst_FrameLines::crispLines()
 {
     QFETCH(double, place);
     QFETCH(Qt::Orientation, orientation);
@@ -284,7 +316,7 @@ void FrameLinesTest::crispLines()
         QCOMPARE(covered, QRectF(QPointF(0.0, band[0]), QPointF(200.0, band[1])));
 }
 
-void FrameLinesTest::columns_data()
+void tst_FrameLines::columns_data()
 {
     QTest::addColumn<Points>("pixels");
     QTest::addColumn<Points>("reduced");
@@ -302,7 +334,7 @@ void FrameLinesTest::columns_data()
     QTest::newRow("nothing") << Points{} << Points{};
 }
 
-void FrameLinesTest::columns()
+void tst_FrameLines::columns()
 {
     QFETCH(Points, pixels);
     QFETCH(Points, reduced);
@@ -310,7 +342,7 @@ void FrameLinesTest::columns()
     QCOMPARE(inWords(reducedToColumns(pixels)), inWords(reduced));
 }
 
-void FrameLinesTest::curve_data()
+void tst_FrameLines::curve_data()
 {
     QTest::addColumn<Points>("points");
     QTest::addColumn<double>("trim");
@@ -342,7 +374,7 @@ void FrameLinesTest::curve_data()
     QTest::newRow("trim that is no number") << Points{{100, 0}, {1000, 0}} << notANumber << axes << Lines{} << 0;
 }
 
-void FrameLinesTest::curve()
+void tst_FrameLines::curve()
 {
     QFETCH(Points, points);
     QFETCH(double, trim);
@@ -355,7 +387,7 @@ void FrameLinesTest::curve()
     QVERIFY(curvePixels({points, trim}, axes, {300.0, 0.0}).isEmpty());
 }
 
-void FrameLinesTest::limiter_data()
+void tst_FrameLines::limiter_data()
 {
     QTest::addColumn<LimiterRule>("rule");
     QTest::addColumn<FrameAxes>("axes");
@@ -383,7 +415,7 @@ void FrameLinesTest::limiter_data()
     QTest::newRow("empty frame") << LimiterRule{} << FrameAxes{linear(0, 0), linear(-60, 20)} << Points{};
 }
 
-void FrameLinesTest::limiter()
+void tst_FrameLines::limiter()
 {
     QFETCH(LimiterRule, rule);
     QFETCH(FrameAxes, axes);
@@ -392,7 +424,7 @@ void FrameLinesTest::limiter()
     QCOMPARE(inWords(limiterLine(rule, axes)), inWords(points));
 }
 
-void FrameLinesTest::limiterHandle_data()
+void tst_FrameLines::limiterHandle_data()
 {
     QTest::addColumn<FrameAxes>("axes");
     QTest::addColumn<double>("threshold");
@@ -413,7 +445,7 @@ void FrameLinesTest::limiterHandle_data()
     QTest::newRow("pointer that is nowhere") << levels << 20.0 << QPointF(1, 0) << QPointF(notANumber, 0) << notANumber;
 }
 
-void FrameLinesTest::limiterHandle()
+void tst_FrameLines::limiterHandle()
 {
     QFETCH(FrameAxes, axes);
     QFETCH(double, threshold);
@@ -425,7 +457,7 @@ void FrameLinesTest::limiterHandle()
     QCOMPARE(thresholdNear(pointer, axes), moved);
 }
 
-void FrameLinesTest::thresholdSteps_data()
+void tst_FrameLines::thresholdSteps_data()
 {
     QTest::addColumn<double>("threshold");
     QTest::addColumn<double>("difference");
@@ -438,7 +470,7 @@ void FrameLinesTest::thresholdSteps_data()
     QTest::newRow("no number") << notANumber << 0.5 << notANumber;
 }
 
-void FrameLinesTest::thresholdSteps()
+void tst_FrameLines::thresholdSteps()
 {
     QFETCH(double, threshold);
     QFETCH(double, difference);
@@ -446,3 +478,6 @@ void FrameLinesTest::thresholdSteps()
 
     QCOMPARE(thresholdMovedBy(threshold, difference, FrameAxes()), moved);
 }
+
+static const TestClass<tst_FrameLines> registered;
+#include "tst_FrameLines.moc"

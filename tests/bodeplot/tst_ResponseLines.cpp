@@ -1,10 +1,10 @@
-#include "bodeplot/tst_ResponseLines.h"
-
 #include "bodeplot/FrameClip.h"
 #include "bodeplot/ResponseLines.h"
 #include "bodeplot/ResponseOutline.h"
 #include "plot/SmoothStroke.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <algorithm>
@@ -60,7 +60,31 @@ ResponseView viewOf(double width, double height)
 
 } // namespace
 
-void ResponseLinesTest::clipping_data()
+/// From a computed response to pixel columns and drawn vertices.
+class tst_ResponseLines : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void clipping_data();
+    void clipping();
+    void columnsFollowTheRange_data();
+    void columnsFollowTheRange();
+    void levels_data();
+    void levels();
+    void narrowBandIsNeverShortened_data();
+    void narrowBandIsNeverShortened();
+    void straightStretchesNeedNoVertices();
+    void zoomedInEveryValueIsAVertex();
+    void lineEndsWithTheComputedRange();
+    void wrappedPhaseHasNoSmear();
+    void areaStaysInTheFrame();
+    void onlyChangedLinesAreNew();
+    void strokeCorners();
+    void strokePieces();
+};
+
+void tst_ResponseLines::clipping_data()
 {
     QTest::addColumn<Points>("line");
     QTest::addColumn<Runs>("inside"); // of the frame from (0, 0) to (10, 10)
@@ -78,14 +102,14 @@ void ResponseLinesTest::clipping_data()
     QTest::newRow("infinite") << Points{{1, 1}, {2, std::numeric_limits<double>::infinity()}} << Runs{};
 }
 
-void ResponseLinesTest::clipping()
+void tst_ResponseLines::clipping()
 {
     QFETCH(Points, line);
     QFETCH(Runs, inside);
     QCOMPARE(clipPolyline(line, QRectF(0, 0, 10, 10)), inside);
 }
 
-void ResponseLinesTest::columnsFollowTheRange_data()
+void tst_ResponseLines::columnsFollowTheRange_data()
 {
     QTest::addColumn<double>("xMinimum");
     QTest::addColumn<double>("xMaximum");
@@ -101,7 +125,7 @@ void ResponseLinesTest::columnsFollowTheRange_data()
     QTest::newRow("no range") << 0.0 << 0.0 << 0 << 0 << -2;
 }
 
-void ResponseLinesTest::columnsFollowTheRange()
+void tst_ResponseLines::columnsFollowTheRange()
 {
     QFETCH(double, xMinimum);
     QFETCH(double, xMaximum);
@@ -120,7 +144,7 @@ void ResponseLinesTest::columnsFollowTheRange()
     QCOMPARE(std::isnan(drawn.columns[0]), first < 0);
 }
 
-void ResponseLinesTest::levels_data()
+void tst_ResponseLines::levels_data()
 {
     QTest::addColumn<double>("minimum");
     QTest::addColumn<double>("maximum");
@@ -138,7 +162,7 @@ void ResponseLinesTest::levels_data()
     QTest::newRow("trim is no number") << -20.0 << 20.0 << 0.0 << notANumber << 400.0;
 }
 
-void ResponseLinesTest::levels()
+void tst_ResponseLines::levels()
 {
     QFETCH(double, minimum);
     QFETCH(double, maximum);
@@ -152,7 +176,7 @@ void ResponseLinesTest::levels()
     QCOMPARE(LevelScale(view, trim)(value), y);
 }
 
-void ResponseLinesTest::narrowBandIsNeverShortened_data()
+void tst_ResponseLines::narrowBandIsNeverShortened_data()
 {
     QTest::addColumn<double>("width");
     QTest::addColumn<int>("place");
@@ -163,7 +187,7 @@ void ResponseLinesTest::narrowBandIsNeverShortened_data()
     }
 }
 
-void ResponseLinesTest::narrowBandIsNeverShortened()
+void tst_ResponseLines::narrowBandIsNeverShortened()
 {
     QFETCH(double, width);
     QFETCH(int, place);
@@ -179,7 +203,7 @@ void ResponseLinesTest::narrowBandIsNeverShortened()
     QVERIFY(std::ranges::is_sorted(drawn.outline.points, {}, [](const QPointF &p) { return p.x(); }));
 }
 
-void ResponseLinesTest::straightStretchesNeedNoVertices()
+void tst_ResponseLines::straightStretchesNeedNoVertices()
 {
     // A smooth band, with one value per column.
     std::vector<double> values(1200);
@@ -199,7 +223,7 @@ void ResponseLinesTest::straightStretchesNeedNoVertices()
     }
 }
 
-void ResponseLinesTest::zoomedInEveryValueIsAVertex()
+void tst_ResponseLines::zoomedInEveryValueIsAVertex()
 {
     // Four values on 300 pixels: no steps of columns that share a value.
     const Drawn drawn({0.0, 10.0, -10.0, 20.0}, viewOf(300.0, 40.0));
@@ -210,7 +234,7 @@ void ResponseLinesTest::zoomedInEveryValueIsAVertex()
     QCOMPARE(drawn.outline.ends, std::vector<std::size_t>{4});
 }
 
-void ResponseLinesTest::lineEndsWithTheComputedRange()
+void tst_ResponseLines::lineEndsWithTheComputedRange()
 {
     ResponseView view = viewOf(400.0, 40.0);
     view.xMinimum = 2.0;
@@ -230,7 +254,7 @@ void ResponseLinesTest::lineEndsWithTheComputedRange()
     QCOMPARE(backwards.outline.points.back(), QPointF(0.0, 10.0));
 }
 
-void ResponseLinesTest::wrappedPhaseHasNoSmear()
+void tst_ResponseLines::wrappedPhaseHasNoSmear()
 {
     ResponseView view = viewOf(300.0, 360.0);
     view.yMinimum = -180.0;
@@ -247,7 +271,7 @@ void ResponseLinesTest::wrappedPhaseHasNoSmear()
     QCOMPARE(Drawn({-90.0, -90.0, 90.0, 90.0}, view, true).outline.count(), std::size_t(1));
 }
 
-void ResponseLinesTest::areaStaysInTheFrame()
+void tst_ResponseLines::areaStaysInTheFrame()
 {
     PolylineRuns line;
     line.points = {{-5, 50}, {5, 50}, {15, -50}, {25, 150}};
@@ -262,7 +286,7 @@ void ResponseLinesTest::areaStaysInTheFrame()
         QCOMPARE(area.points[i], expected[i]);
 }
 
-void ResponseLinesTest::onlyChangedLinesAreNew()
+void tst_ResponseLines::onlyChangedLinesAreNew()
 {
     BodePlotCalculationResults results;
     results.items.resize(3);
@@ -303,7 +327,7 @@ void ResponseLinesTest::onlyChangedLinesAreNew()
     QCOMPARE(lines.aggregated().points.count(), std::size_t(0));
 }
 
-void ResponseLinesTest::strokeCorners()
+void tst_ResponseLines::strokeCorners()
 {
     // Width 3 at two device pixels per pixel: half of 6 and half a pixel for the edge, that is 1.75 pixels.
     std::vector<StrokeVertex> strip;
@@ -319,7 +343,7 @@ void ResponseLinesTest::strokeCorners()
     QVERIFY(tip >= 100.0f && tip < 100.1f);
 }
 
-void ResponseLinesTest::strokePieces()
+void tst_ResponseLines::strokePieces()
 {
     std::vector<StrokeVertex> strip;
     appendSmoothStroke(std::vector<QPointF>{{0, 0}, {1, 0}}, {1.0, 1.0}, strip);
@@ -332,3 +356,6 @@ void ResponseLinesTest::strokePieces()
     appendSmoothStroke(std::vector<QPointF>{{0, 0}, {1, 0}}, {0.0, 1.0}, strip);
     QCOMPARE(strip.size(), std::size_t(10));
 }
+
+static const TestClass<tst_ResponseLines> registered;
+#include "tst_ResponseLines.moc"

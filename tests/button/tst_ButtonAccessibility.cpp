@@ -1,5 +1,6 @@
 #include "TambleClientControlModule.h"
 #include "button/Mnemonic.h"
+#include "support/TestProgram.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QStringList>
@@ -394,5 +395,5 @@ void tst_ButtonAccessibility::missingNameIsReportedOnce()
     QVERIFY(first && second);
 }
 
-QTEST_MAIN(tst_ButtonAccessibility)
+static const TestClass<tst_ButtonAccessibility> registered;
 #include "tst_ButtonAccessibility.moc"

@@ -1,11 +1,11 @@
-#include "tst_ControlImageProvider.h"
-
 #include "ControlImageProvider.h"
+#include "support/TestProgram.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFileInfo>
+#include <QtCore/QObject>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
 #include <QtQml/QQmlComponent>
@@ -45,6 +45,22 @@ QSize requestedSizeOf(ControlImageProvider &provider, const QString &id)
 }
 
 } // namespace
+
+class tst_ControlImageProvider : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void lookup_data();
+    void lookup();
+    void manyVariants();
+    void noAssetDirectory();
+    void baseUrlThatIsNoLocalFile();
+    void bundleStandsInForTheFirstDirectory();
+    void asynchronousRequestsOutliveTheEngine();
+};
 
 void tst_ControlImageProvider::init()
 {
@@ -177,3 +193,6 @@ void tst_ControlImageProvider::asynchronousRequestsOutliveTheEngine()
         QVERIFY2(object, qPrintable(component.errorString()));
     }
 }
+
+static const TestClass<tst_ControlImageProvider> registered;
+#include "tst_ControlImageProvider.moc"

@@ -1,11 +1,11 @@
-#include "tst_ModuleFrame.h"
-
 #include "ControlImageProvider.h"
 #include "TambleClientControlModule.h"
+#include "support/TestProgram.h"
 #include "workspace/RMouseEventSpy.h"
 
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
+#include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QResource>
 #include <QtGui/QFontInfo>
@@ -49,6 +49,24 @@ void useOneEngine()
 }
 
 } // namespace
+
+class tst_ModuleFrame : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void engineInitialisation();
+    void typesUnderSeveralUris();
+    void touchPointsOfEveryPointingDevice();
+    void enginesShareTheSpy();
+    void metaTypesAreKnown();
+    void noQmldirWithinReach();
+    void resourcesAreCompressedWithZlib();
+    void interfaceFontIsSubstituted();
+    void enginesComeAndGo();
+};
 
 void tst_ModuleFrame::initTestCase()
 {
@@ -187,3 +205,6 @@ void tst_ModuleFrame::enginesComeAndGo()
     const double growthPerEngine = (double(after) - double(before)) / Rounds;
     QVERIFY2(growthPerEngine < 250, qPrintable(QStringLiteral("%1 bytes per engine").arg(growthPerEngine)));
 }
+
+static const TestClass<tst_ModuleFrame> registered;
+#include "tst_ModuleFrame.moc"

@@ -1,13 +1,15 @@
-#include "tst_TypeCatalogue.h"
-
 #include "TambleClientControlModule.h"
+#include "support/TestProgram.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QMetaProperty>
+#include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
+#include <QtCore/QStringList>
 #include <QtQml/QJSValue>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlContext>
+#include <QtQml/QQmlEngine>
 #include <QtTest/QTest>
 
 #include <memory>
@@ -116,6 +118,30 @@ bool hasUnreadableList(const QString &name)
 }
 
 } // namespace
+
+class tst_TypeCatalogue : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void composites_data();
+    void composites();
+    void absentListIsTrue();
+    void creatableNatives_data();
+    void creatableNatives();
+    void othersCanBeRead_data();
+    void othersCanBeRead();
+    void uncreatable_data();
+    void uncreatable();
+    void enumValues();
+    void attachedStyleSet();
+
+private:
+    QQmlEngine m_engine;
+    QStringList m_absent;
+};
 
 void tst_TypeCatalogue::initTestCase()
 {
@@ -320,3 +346,6 @@ void tst_TypeCatalogue::attachedStyleSet()
     QVERIFY2(object, qPrintable(component->errorString()));
     QCOMPARE(object->property("state").toString().trimmed(), QStringLiteral("hovered"));
 }
+
+static const TestClass<tst_TypeCatalogue> registered;
+#include "tst_TypeCatalogue.moc"

@@ -1,12 +1,22 @@
-#include "tst_ValueRequests.h"
-
 #include "support/SeenPage.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtGui/QAccessible>
 #include <QtQml/QJSValue>
 #include <QtTest/QTest>
 
 using namespace tamble::client;
+
+/// Assistive tools set the values of faders, parameters and plain handles.
+class tst_ValueRequests : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void toolsEditValues_data();
+    void toolsEditValues();
+};
 
 void tst_ValueRequests::toolsEditValues_data()
 {
@@ -66,3 +76,6 @@ void tst_ValueRequests::toolsEditValues()
         QTRY_COMPARE(item->property("value").toDouble(), -30.0);
     QVERIFY(page.root->property("log").toStringList().isEmpty());
 }
+
+static const TestClass<tst_ValueRequests> registered;
+#include "tst_ValueRequests.moc"

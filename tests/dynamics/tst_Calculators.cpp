@@ -1,6 +1,5 @@
-#include "tst_Calculators.h"
-
 #include "SignalLog.h"
+#include "support/TestProgram.h"
 
 #include "dynamics/AGCCalculator.h"
 #include "dynamics/ANCCalculator.h"
@@ -9,6 +8,7 @@
 #include "dynamics/LimiterCalculator.h"
 #include "dynamics/NoiseGateCalculator.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QtTest>
 
 #include <limits>
@@ -51,6 +51,22 @@ QStringList ownSignals(const QMetaObject &type)
 const QVariantList identity{QPointF(0, 1), QPointF(1, 0)};
 
 } // namespace
+
+class tst_Calculators : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void metaObjectOrder_data();
+    void metaObjectOrder();
+    void defaults_data();
+    void defaults();
+    void signalsOfSetter_data();
+    void signalsOfSetter();
+    void gateClearsSilently();
+    void pointsStayInsideThePlot_data() { defaults_data(); }
+    void pointsStayInsideThePlot();
+};
 
 void tst_Calculators::metaObjectOrder_data()
 {
@@ -241,3 +257,6 @@ void tst_Calculators::pointsStayInsideThePlot()
         }
     }
 }
+
+static const TestClass<tst_Calculators> registered;
+#include "tst_Calculators.moc"

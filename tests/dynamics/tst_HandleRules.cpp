@@ -1,8 +1,8 @@
-#include "tst_HandleRules.h"
-
 #include "dynamics/HandleRules.h"
 #include "dynamics/NumberPlaces.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QtTest>
 
 #include <cmath>
@@ -22,6 +22,25 @@ bool isSame(double a, double b)
 }
 
 } // namespace
+
+class tst_HandleRules : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void placeOnAxis_data();
+    void placeOnAxis();
+    void limitedValue_data();
+    void limitedValue();
+    void steppedValue_data();
+    void steppedValue();
+    void ratioOfLine_data();
+    void ratioOfLine();
+    void heightOfCurve_data();
+    void heightOfCurve();
+    void numberStarts_data();
+    void numberStarts();
+};
 
 void tst_HandleRules::placeOnAxis_data()
 {
@@ -190,3 +209,6 @@ void tst_HandleRules::numberStarts()
         spans.append({.centre = centre, .length = 20.0});
     QVERIFY(tamble::client::numberStarts(spans, axisLength, 4.0) == expected);
 }
+
+static const TestClass<tst_HandleRules> registered;
+#include "tst_HandleRules.moc"

@@ -1,9 +1,9 @@
-#include "tst_TransferCurves.h"
-
 #include "dynamics/CompressorCurve.h"
 #include "dynamics/TransferCurves.h"
 #include "dynamics/TransferScale.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QtTest>
 
 #include <cmath>
@@ -115,6 +115,21 @@ Parameters inactive(Parameters parameters)
 }
 
 } // namespace
+
+class tst_TransferCurves : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void clampedScale_data();
+    void clampedScale();
+    void curve_data();
+    void curve();
+    void gateOutOfBounds_data();
+    void gateOutOfBounds();
+    void softKnee();
+    void kneeMeetsBothParts();
+};
 
 void tst_TransferCurves::clampedScale_data()
 {
@@ -254,3 +269,6 @@ void tst_TransferCurves::kneeMeetsBothParts()
         QVERIFY(std::abs((compressorOutput(p, edge + small) - compressorOutput(p, edge)) / small - slope) < 1e-4);
     }
 }
+
+static const TestClass<tst_TransferCurves> registered;
+#include "tst_TransferCurves.moc"

@@ -1,9 +1,9 @@
-#include "tst_FaderLaws.h"
-
 #include "fader/FaderDrag.h"
 #include "fader/FaderTravel.h"
 #include "fader/TransferTable.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <cmath>
@@ -22,6 +22,27 @@ bool isNear(double actual, double expected, double tolerance)
 }
 
 } // namespace
+
+class tst_FaderLaws : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tables_data();
+    void tables();
+    void tableMaps_data();
+    void tableMaps();
+    void travel_data();
+    void travel();
+    void everyPlaceComesBack_data();
+    void everyPlaceComesBack();
+    void rounding_data();
+    void rounding();
+    void steps();
+    void detents_data();
+    void detents();
+    void drag();
+};
 
 void tst_FaderLaws::tables_data()
 {
@@ -218,3 +239,6 @@ void tst_FaderLaws::drag()
     QCOMPARE(drag.moved(65.0, 100.0, 1.0, 0.99), 0.89);
     QCOMPARE(drag.moved(55.0, 0.0, 1.0, 0.89), 0.99); // without a travel nothing moves from the last anchor
 }
+
+static const TestClass<tst_FaderLaws> registered;
+#include "tst_FaderLaws.moc"

@@ -1,12 +1,23 @@
-#include "tst_FaderMarks.h"
-
 #include "fader/FaderMarks.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <limits>
 
 using namespace tamble::client;
+
+class tst_FaderMarks : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void automatic_data();
+    void automatic();
+    void given_data();
+    void given();
+};
 
 void tst_FaderMarks::automatic_data()
 {
@@ -72,3 +83,6 @@ void tst_FaderMarks::given()
     QCOMPARE(shown, ticks);
     QCOMPARE(labelled, labels);
 }
+
+static const TestClass<tst_FaderMarks> registered;
+#include "tst_FaderMarks.moc"

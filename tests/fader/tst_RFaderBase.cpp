@@ -1,8 +1,8 @@
-#include "tst_RFaderBase.h"
-
 #include "fader/RFaderBase.h"
 #include "support/SeenPage.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtGui/QAccessible>
 #include <QtQuick/QQuickWindow>
 #include <QtTest/QSignalSpy>
@@ -36,6 +36,17 @@ struct Fixture
 };
 
 } // namespace
+
+class tst_RFaderBase : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fineDrag();
+    void goesFromADisabledPanel();
+    void fineDragIgnoresDetents();
+    void accessible();
+};
 
 void tst_RFaderBase::fineDrag()
 {
@@ -100,3 +111,6 @@ void tst_RFaderBase::accessible()
     QCOMPARE(fader->value(), -79.5);
     QCOMPARE(edited.count(), 1);
 }
+
+static const TestClass<tst_RFaderBase> registered;
+#include "tst_RFaderBase.moc"

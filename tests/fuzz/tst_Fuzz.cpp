@@ -1,5 +1,6 @@
 #include "FuzzBodies.h"
 #include "Mutator.h"
+#include "support/TestProgram.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtTest/QTest>
@@ -65,5 +66,5 @@ void tst_Fuzz::cascade()
     });
 }
 
-QTEST_APPLESS_MAIN(tst_Fuzz)
+static const TestClass<tst_Fuzz> registered;
 #include "tst_Fuzz.moc"

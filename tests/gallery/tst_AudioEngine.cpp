@@ -1,10 +1,10 @@
-#include "tst_AudioEngine.h"
-
 #include "AudioEngine.h"
 #include "BlockClock.h"
 #include "BuiltInSignal.h"
 #include "CountingSource.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QtTest>
 
 #include <atomic>
@@ -16,6 +16,25 @@ namespace {
 const BlockClock::Clock::time_point Start{1000s};
 
 } // namespace
+
+class tst_AudioEngine : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void clockCountsBlocks();
+    void clockDoesNotDrift();
+    void clockLeavesALongPauseOut();
+
+    void steppingIsDeterministic();
+    void channelsOfTapsWrapAround();
+    void tapsEnd();
+    void builtInSignalIsAlive();
+
+    void playsInRealTime();
+    void announcesOnceUntilTaken();
+    void startsAndStops();
+};
 
 void tst_AudioEngine::clockCountsBlocks()
 {
@@ -190,3 +209,6 @@ void tst_AudioEngine::startsAndStops()
         engine.start(); // ends with the engine
     }
 }
+
+static const TestClass<tst_AudioEngine> registered;
+#include "tst_AudioEngine.moc"

@@ -1,8 +1,8 @@
-#include "tst_FilterSections.h"
-
 #include "DigitalSection.h"
 #include "FilterSections.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QtTest>
 
 #include <cmath>
@@ -31,6 +31,18 @@ QList<double> numbersOf(const QVariant &section)
 }
 
 } // namespace
+
+class tst_FilterSections : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sectionsOfAQuarterOfTheRate_data();
+    void sectionsOfAQuarterOfTheRate();
+    void bandsInOrder();
+    void gainsAtTheCorner_data();
+    void gainsAtTheCorner();
+};
 
 void tst_FilterSections::sectionsOfAQuarterOfTheRate_data()
 {
@@ -100,3 +112,6 @@ void tst_FilterSections::gainsAtTheCorner()
     }
     QVERIFY2(std::abs(std::abs(response) / gain - 1.0) < 1e-9, qPrintable(QString::number(std::abs(response))));
 }
+
+static const TestClass<tst_FilterSections> registered;
+#include "tst_FilterSections.moc"

@@ -1,9 +1,9 @@
-#include "tst_GalleryAudio.h"
-
 #include "DynamicsTap.h"
 #include "GalleryAudio.h"
 #include "SpectrumTap.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QTemporaryDir>
 #include <QtQml/QQmlEngine>
 #include <QtTest/QtTest>
@@ -34,6 +34,21 @@ ChannelLevel *levelOf(GalleryAudio &audio, qsizetype channel)
 }
 
 } // namespace
+
+class tst_GalleryAudio : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void beginsWithTheBuiltInSignal();
+    void unreadableFileKeepsTheSource();
+    void fileReplacesTheSource();
+    void steppedIgnoresRunning();
+    void playsThroughTheEventLoop();
+    void unchangedLevelsAreSilent();
+    void spectrumPoints();
+    void pageSeesTheSameObject();
+};
 
 void tst_GalleryAudio::beginsWithTheBuiltInSignal()
 {
@@ -175,3 +190,6 @@ void tst_GalleryAudio::pageSeesTheSameObject()
     audio.reset();
     tap.setChannel(2);
 }
+
+static const TestClass<tst_GalleryAudio> registered;
+#include "tst_GalleryAudio.moc"

@@ -1,11 +1,11 @@
-#include "tst_Measurements.h"
-
 #include "BlockLevels.h"
 #include "DynamicsChain.h"
 #include "FilterBank.h"
 #include "Spectrum.h"
 #include "TestSignals.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QtTest>
 
 #include <limits>
@@ -29,6 +29,26 @@ StaticCurve levelCurve(const QList<QPointF> &points, double minimum, double maxi
 }
 
 } // namespace
+
+class tst_Measurements : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void blockLevels_data();
+    void blockLevels();
+    void channelsAreApart();
+    void staticGain_data();
+    void staticGain();
+    void detectorFollows();
+    void dynamicsReading();
+    void filterSections_data();
+    void filterSections();
+    void tuningKeepsTheMemory();
+    void spectrumOfASine_data();
+    void spectrumOfASine();
+    void spectrumAverages();
+};
 
 void tst_Measurements::blockLevels_data()
 {
@@ -248,3 +268,6 @@ void tst_Measurements::spectrumAverages()
     spectrum.process(std::vector<float>(48000, 0.0F));
     QVERIFY(isNear(spectrum.levels()[34], -4.34, 0.02));
 }
+
+static const TestClass<tst_Measurements> registered;
+#include "tst_Measurements.moc"

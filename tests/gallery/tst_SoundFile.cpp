@@ -1,9 +1,10 @@
-#include "tst_SoundFile.h"
-
 #include "AudioProcessor.h"
 #include "SoundFile.h"
 #include "TestSignals.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
+#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
 #include <sndfile.h>
@@ -39,6 +40,24 @@ void writeBytes(const QString &path, const QByteArray &bytes)
 }
 
 } // namespace
+
+class tst_SoundFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void formats_data();
+    void formats();
+    void loops();
+    void refusals_data();
+    void refusals();
+    void truncatedFilePlaysWhatIsThere();
+
+private:
+    QString path(const QString &name) const { return m_directory.filePath(name); }
+
+    QTemporaryDir m_directory;
+};
 
 void tst_SoundFile::formats_data()
 {
@@ -151,3 +170,6 @@ void tst_SoundFile::truncatedFilePlaysWhatIsThere()
     const auto isHalf = [](float sample) { return std::abs(sample - 0.5F) < 0.001F; };
     QCOMPARE(std::count_if(samples.begin(), samples.end(), isHalf), 4000);
 }
+
+static const TestClass<tst_SoundFile> registered;
+#include "tst_SoundFile.moc"

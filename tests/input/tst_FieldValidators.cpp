@@ -1,10 +1,10 @@
-#include "input/tst_FieldValidators.h"
-
 #include "input/RTextFieldDoubleValidator.h"
 #include "input/RTextFieldIntValidator.h"
 #include "input/RTextFieldIpAddressValidator.h"
 #include "input/RTextFieldPinValidator.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
@@ -28,7 +28,26 @@ QValidator::State stateOf(const QValidator &validator, QString text)
 
 } // namespace
 
-void FieldValidatorsTest::decimals_data()
+class tst_FieldValidators : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void decimals_data();
+    void decimals();
+    void integers_data();
+    void integers();
+    void addresses_data();
+    void addresses();
+    void pins_data();
+    void pins();
+    void pinMessages();
+    void fixup_data();
+    void fixup();
+    void rangeChangeRevalidates();
+};
+
+void tst_FieldValidators::decimals_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<double>("bottom");
@@ -65,7 +84,7 @@ void FieldValidatorsTest::decimals_data()
     QTest::newRow("reversed bounds") << "5" << 10.0 << 0.0 << 0 << Intermediate;
 }
 
-void FieldValidatorsTest::decimals()
+void tst_FieldValidators::decimals()
 {
     QFETCH(QString, text);
     QFETCH(double, bottom);
@@ -78,7 +97,7 @@ void FieldValidatorsTest::decimals()
     QCOMPARE(stateOf(validator, text), state);
 }
 
-void FieldValidatorsTest::integers_data()
+void tst_FieldValidators::integers_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("bottom");
@@ -97,7 +116,7 @@ void FieldValidatorsTest::integers_data()
     QTest::newRow("hexadecimal") << "0x1" << 1 << Invalid;
 }
 
-void FieldValidatorsTest::integers()
+void tst_FieldValidators::integers()
 {
     QFETCH(QString, text);
     QFETCH(int, bottom);
@@ -108,7 +127,7 @@ void FieldValidatorsTest::integers()
     QCOMPARE(stateOf(validator, text), state);
 }
 
-void FieldValidatorsTest::addresses_data()
+void tst_FieldValidators::addresses_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QValidator::State>("state");
@@ -122,14 +141,14 @@ void FieldValidatorsTest::addresses_data()
         QTest::newRow(wrong) << QString::fromLatin1(wrong) << Invalid;
 }
 
-void FieldValidatorsTest::addresses()
+void tst_FieldValidators::addresses()
 {
     QFETCH(QString, text);
     QFETCH(QValidator::State, state);
     QCOMPARE(stateOf(RTextFieldIpAddressValidator(), text), state);
 }
 
-void FieldValidatorsTest::pins_data()
+void tst_FieldValidators::pins_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("trivialAllowed");
@@ -148,7 +167,7 @@ void FieldValidatorsTest::pins_data()
     QTest::newRow("run where allowed") << "1234" << true << Acceptable;
 }
 
-void FieldValidatorsTest::pins()
+void tst_FieldValidators::pins()
 {
     QFETCH(QString, text);
     QFETCH(bool, trivialAllowed);
@@ -159,7 +178,7 @@ void FieldValidatorsTest::pins()
     QCOMPARE(stateOf(validator, text), state);
 }
 
-void FieldValidatorsTest::pinMessages()
+void tst_FieldValidators::pinMessages()
 {
     RTextFieldPinValidator validator;
     validator.setProperty("trivialAllowed", false);
@@ -168,7 +187,7 @@ void FieldValidatorsTest::pinMessages()
     QCOMPARE(validator.message(QStringLiteral("1470")), QString());
 }
 
-void FieldValidatorsTest::fixup_data()
+void tst_FieldValidators::fixup_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("decimal");
@@ -202,7 +221,7 @@ void FieldValidatorsTest::fixup_data()
                                         << "99999";
 }
 
-void FieldValidatorsTest::fixup()
+void tst_FieldValidators::fixup()
 {
     QFETCH(QString, text);
     QFETCH(QString, decimal);
@@ -216,7 +235,7 @@ void FieldValidatorsTest::fixup()
     QCOMPARE(asInteger, integer);
 }
 
-void FieldValidatorsTest::rangeChangeRevalidates()
+void tst_FieldValidators::rangeChangeRevalidates()
 {
     RTextFieldPinValidator validator;
     QSignalSpy spy(&validator, &QValidator::changed);
@@ -224,3 +243,6 @@ void FieldValidatorsTest::rangeChangeRevalidates()
     QCOMPARE(spy.count(), 1);
     QCOMPARE(stateOf(validator, QStringLiteral("14701")), Intermediate);
 }
+
+static const TestClass<tst_FieldValidators> registered;
+#include "tst_FieldValidators.moc"

@@ -1,8 +1,8 @@
-#include "input/tst_Screen.h"
-
 #include "input/RScreen.h"
 #include "input/ScreenZoom.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
@@ -10,7 +10,17 @@
 
 using namespace tamble::client;
 
-void ScreenTest::zoomFactor_data()
+class tst_Screen : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void zoomFactor_data();
+    void zoomFactor();
+    void followsItsWindow();
+};
+
+void tst_Screen::zoomFactor_data()
 {
     QTest::addColumn<double>("logicalDpi");
     QTest::addColumn<double>("designDpi");
@@ -26,7 +36,7 @@ void ScreenTest::zoomFactor_data()
     QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << 96.0 << 1.0;
 }
 
-void ScreenTest::zoomFactor()
+void tst_Screen::zoomFactor()
 {
     QFETCH(double, logicalDpi);
     QFETCH(double, designDpi);
@@ -34,7 +44,7 @@ void ScreenTest::zoomFactor()
     QCOMPARE(autoZoomFactor(logicalDpi, designDpi), factor);
 }
 
-void ScreenTest::followsItsWindow()
+void tst_Screen::followsItsWindow()
 {
     QQuickWindow window;
     RScreen page;
@@ -54,3 +64,6 @@ void ScreenTest::followsItsWindow()
     QCOMPARE(page.screenSize(), QSizeF(0.0, 0.0));
     QCOMPARE(factorSpy.count(), 2);
 }
+
+static const TestClass<tst_Screen> registered;
+#include "tst_Screen.moc"

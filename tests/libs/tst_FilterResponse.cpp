@@ -1,4 +1,5 @@
 #include "libs/ResponseSupport.h"
+#include "support/TestProgram.h"
 
 #include <tamblecommon-math/ScaleMappings.h>
 
@@ -544,6 +545,5 @@ void tst_FilterResponse::everythingIsFinite()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_FilterResponse)
-
+static const TestClass<tst_FilterResponse> registered;
 #include "tst_FilterResponse.moc"

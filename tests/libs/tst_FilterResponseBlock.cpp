@@ -1,4 +1,5 @@
 #include "libs/ResponseSupport.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -267,6 +268,5 @@ void tst_FilterResponseBlock::dragAllocatesNothing()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_FilterResponseBlock)
-
+static const TestClass<tst_FilterResponseBlock> registered;
 #include "tst_FilterResponseBlock.moc"

@@ -1,3 +1,5 @@
+#include "support/TestProgram.h"
+
 #include <tamblecommon-math/FilterAlgorithm.h>
 
 #include <QFile>
@@ -170,6 +172,5 @@ void tst_FilterResponseReference::cleanupTestCase()
     qInfo("worst differences: %.2g dB, %.2g degrees", m_worstLevel, m_worstPhase);
 }
 
-QTEST_APPLESS_MAIN(tst_FilterResponseReference)
-
+static const TestClass<tst_FilterResponseReference> registered;
 #include "tst_FilterResponseReference.moc"

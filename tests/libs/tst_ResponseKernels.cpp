@@ -1,5 +1,6 @@
 #include "response/ResponseKernels.h"
 #include "response/TapGroups.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -174,6 +175,5 @@ void tst_ResponseKernels::tapsAreSummed()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_ResponseKernels)
-
+static const TestClass<tst_ResponseKernels> registered;
 #include "tst_ResponseKernels.moc"

@@ -1,3 +1,5 @@
+#include "support/TestProgram.h"
+
 #include <tamblecommon-math/ScaleMappings.h>
 
 #include <QTest>
@@ -140,5 +142,5 @@ void tst_ScaleMappings::orderOfMagnitude()
     QVERIFY(tamble::common::orderOfMagnitude(x) == expected);
 }
 
-QTEST_APPLESS_MAIN(tst_ScaleMappings)
+static const TestClass<tst_ScaleMappings> registered;
 #include "tst_ScaleMappings.moc"

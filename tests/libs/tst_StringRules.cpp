@@ -1,3 +1,5 @@
+#include "support/TestProgram.h"
+
 #include <tamblecommon-common/StringRules.h>
 
 #include <QElapsedTimer>
@@ -257,5 +259,5 @@ void tst_StringRules::capDnsName()
     QCOMPARE(validateCapDnsName(u"Amp-").fault, StringFault::LabelHyphen);
 }
 
-QTEST_APPLESS_MAIN(tst_StringRules)
+static const TestClass<tst_StringRules> registered;
 #include "tst_StringRules.moc"

@@ -1,3 +1,5 @@
+#include "support/TestProgram.h"
+
 #include <tambleclient-common/DoubleValueConverter.h>
 #include <tambleclient-common/RValueConverter.h>
 
@@ -440,5 +442,5 @@ void tst_ValueConverters::derivedConverterIsUsed()
     QCOMPARE(value, QVariant(12));
 }
 
-QTEST_GUILESS_MAIN(tst_ValueConverters)
+static const TestClass<tst_ValueConverters> registered;
 #include "tst_ValueConverters.moc"

@@ -1,7 +1,7 @@
-#include "tst_MeterFractions.h"
-
 #include "meter/MeterFractions.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <limits>
@@ -14,6 +14,17 @@ constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
 } // namespace
+
+class tst_MeterFractions : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void displayedLevel_data();
+    void displayedLevel();
+    void fractions_data();
+    void fractions();
+};
 
 void tst_MeterFractions::displayedLevel_data()
 {
@@ -79,3 +90,6 @@ void tst_MeterFractions::fractions()
     QTEST(upperFraction(range, level, zone), "upper");
     QTEST(lowerFraction(range, level, zone), "lower");
 }
+
+static const TestClass<tst_MeterFractions> registered;
+#include "tst_MeterFractions.moc"

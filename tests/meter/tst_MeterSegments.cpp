@@ -1,9 +1,9 @@
-#include "tst_MeterSegments.h"
-
 #include "meter/FallingBars.h"
 #include "meter/MeterSegments.h"
 #include "meter/RMeterBar.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QTimer>
 #include <QtQuick/QQuickWindow>
 #include <QtQuick/private/qquickitem_p.h>
@@ -31,6 +31,18 @@ QString textOf(const MeterSegments &segments)
 constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
 } // namespace
+
+class tst_MeterSegments : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void bar_data();
+    void bar();
+    void split();
+    void repaintsOnlyWhatIsSeen();
+    void fallsWithTheNextRise();
+};
 
 void tst_MeterSegments::bar_data()
 {
@@ -142,3 +154,6 @@ void tst_MeterSegments::fallsWithTheNextRise()
     meters.front().setCurrentValue(-30.0);
     QVERIFY2(takeDirty(falling), "nothing to wait for");
 }
+
+static const TestClass<tst_MeterSegments> registered;
+#include "tst_MeterSegments.moc"

@@ -1,9 +1,9 @@
-#include "tst_RMeterBase.h"
-
 #include "../dynamics/SignalLog.h"
+#include "support/TestProgram.h"
 
 #include "meter/RMeterBase.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QtTest>
 
 #include <limits>
@@ -36,6 +36,28 @@ public:
 };
 
 } // namespace
+
+class tst_RMeterBase : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void metaObjectOrder();
+    void defaults();
+    void risesAtOnceAndFallsByTicks();
+    void fallStopsAtTheValue();
+    void incompleteMeterIgnoresTicks();
+    void settledMeterIsSilent();
+    void levelOutsideTheRangeSignalsEachTick_data();
+    void levelOutsideTheRangeSignalsEachTick();
+    void notANumberShowsTheMinimum();
+    void signalOrder();
+    void thresholdDropsThePeak_data();
+    void thresholdDropsThePeak();
+    void factors();
+    void invokables();
+    void newMeterRestartsTheSharedTimer();
+};
 
 void tst_RMeterBase::metaObjectOrder()
 {
@@ -263,3 +285,6 @@ void tst_RMeterBase::newMeterRestartsTheSharedTimer()
     tick(); // the connection has ended with the meter
     QVERIFY(timer.isActive());
 }
+
+static const TestClass<tst_RMeterBase> registered;
+#include "tst_RMeterBase.moc"

@@ -1,8 +1,8 @@
-#include "plot/tst_AreaStrip.h"
-
 #include "plot/AreaStrip.h"
 #include "scenegraph/PictureCanvas.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <algorithm>
@@ -31,6 +31,17 @@ double heightAt(const Points &curve, double x)
 }
 
 } // namespace
+
+class tst_AreaStrip : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fadesAlongEachColumn_data();
+    void fadesAlongEachColumn();
+    void addsVerticesOnlyWhereItIsSteep();
+    void pieces();
+};
 
 void tst_AreaStrip::fadesAlongEachColumn_data()
 {
@@ -89,3 +100,6 @@ void tst_AreaStrip::pieces()
     QCOMPARE(held[0].weightedHeight * held[0].inverseHeight, 1.0f);
     QCOMPARE(held[1].weightedHeight * held[1].inverseHeight, 0.0f);
 }
+
+static const TestClass<tst_AreaStrip> registered;
+#include "tst_AreaStrip.moc"

@@ -1,13 +1,26 @@
-#include "tst_AxisTicks.h"
-
 #include "plot/AxisTicks.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <limits>
 
 using namespace tamble::client;
 using namespace Qt::StringLiterals;
+
+class tst_AxisTicks : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void step_data();
+    void step();
+    void ticks_data();
+    void ticks();
+    void tickPlaces();
+    void hugeCountEnds();
+};
 
 void tst_AxisTicks::step_data()
 {
@@ -79,3 +92,6 @@ void tst_AxisTicks::hugeCountEnds()
     QCOMPARE(ticks.size(), 2000);
     QCOMPARE(ticks.last().label, u"399.8"_s);
 }
+
+static const TestClass<tst_AxisTicks> registered;
+#include "tst_AxisTicks.moc"

@@ -1,13 +1,23 @@
-#include "tst_CustomMaterial.h"
-
 #include "plot/CustomMaterial.h"
 #include "plot/CustomShader.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <cstring>
 
 using namespace tamble::client;
+
+class tst_CustomMaterial : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void comparesByIdentity();
+    void dirtyOnChangeOnly();
+    void uniformLayout();
+};
 
 void tst_CustomMaterial::comparesByIdentity()
 {
@@ -57,3 +67,6 @@ void tst_CustomMaterial::uniformLayout()
     QCOMPARE(floatAt(96), 0.5f);
     QCOMPARE(block.mid(100), untouched.mid(100));
 }
+
+static const TestClass<tst_CustomMaterial> registered;
+#include "tst_CustomMaterial.moc"

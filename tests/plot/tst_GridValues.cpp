@@ -1,9 +1,9 @@
-#include "tst_GridValues.h"
-
 #include "plot/GridValues.h"
 #include "plot/NumberText.h"
 #include "plot/ScaleSteps.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <limits>
@@ -19,6 +19,27 @@ constexpr AxisScale linear = AxisScale::Linear;
 constexpr AxisScale logarithmic = AxisScale::Logarithmic;
 
 } // namespace
+
+class tst_GridValues : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void axisRange_data();
+    void axisRange();
+    void gridValues_data();
+    void gridValues();
+    void outOfRange_data();
+    void outOfRange();
+    void thinned_data();
+    void thinned();
+    void numberText_data();
+    void numberText();
+    void decimalsOfStep_data();
+    void decimalsOfStep();
+    void niceStep_data();
+    void niceStep();
+};
 
 void tst_GridValues::axisRange_data()
 {
@@ -220,3 +241,6 @@ void tst_GridValues::niceStep()
     QFETCH(double, minimum);
     QTEST(niceStepAtLeast(minimum), "step");
 }
+
+static const TestClass<tst_GridValues> registered;
+#include "tst_GridValues.moc"

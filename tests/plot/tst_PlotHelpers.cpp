@@ -1,6 +1,5 @@
-#include "tst_PlotHelpers.h"
-
 #include "../dynamics/SignalLog.h"
+#include "support/TestProgram.h"
 
 #include "plot/LineCalculator.h"
 #include "plot/NumberingHelper.h"
@@ -9,6 +8,7 @@
 #include "plot/RConstantGridLineCalculator.h"
 #include "plot/RScaleHelper.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtTest/QtTest>
 
@@ -30,6 +30,25 @@ QStringList texts(const NumberingHelper &numbering)
 }
 
 } // namespace
+
+class tst_PlotHelpers : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void lineCalculator();
+    void constantGrid();
+    void constantGridReportsOnce();
+    void componentTakesItsPropertiesTogether();
+    void numbering();
+    void numberingUnit();
+    void scaleHelper();
+    void scaleHelperReportsOnce();
+    void axis();
+    void axisSignalOrder();
+    void oldTicksStayAlive();
+};
 
 void tst_PlotHelpers::init()
 {
@@ -210,3 +229,6 @@ void tst_PlotHelpers::oldTicksStayAlive()
     }
     QVERIFY(!tick);
 }
+
+static const TestClass<tst_PlotHelpers> registered;
+#include "tst_PlotHelpers.moc"

@@ -1,10 +1,10 @@
-#include "tst_Plotters.h"
-
 #include "plot/GraphPlotter.h"
 #include "plot/LinePlotter.h"
 #include "plot/RGrid.h"
 #include "plot/SmoothStrokeNode.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtQuick/QSGFlatColorMaterial>
 #include <QtQuick/QSGGeometryNode>
 #include <QtTest/QtTest>
@@ -80,6 +80,26 @@ std::unique_ptr<Painted<GraphPlotter>> paintedGraph()
 }
 
 } // namespace
+
+class tst_Plotters : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void defaults();
+    void graphVertices();
+    void graphSkipsWhatIsNoPoint();
+    void lineVertices();
+    void wideLinesAreSmooth();
+    void unchangedInputRebuildsNothing();
+    void colorTouchesTheMaterialOnly();
+    void verticesAreReallocatedOnlyForAnotherCount();
+    void freshNodeIsFilled();
+    void emptySizeDrawsNothing();
+    void gridKeepsItsNodes();
+    void gridForgetsADestroyedLayout();
+    void gridSharesALayout();
+};
 
 void tst_Plotters::defaults()
 {
@@ -289,3 +309,6 @@ void tst_Plotters::gridSharesALayout()
     grid.paint();
     QCOMPARE(grid.root()->childCount(), 1);
 }
+
+static const TestClass<tst_Plotters> registered;
+#include "tst_Plotters.moc"

@@ -1,8 +1,8 @@
-#include "tst_StrokeGeometry.h"
-
 #include "plot/GridLines.h"
 #include "plot/StrokeGeometry.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <limits>
@@ -15,6 +15,21 @@ using Points = QList<QPointF>;
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 } // namespace
+
+class tst_StrokeGeometry : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void thinLines();
+    void thinSegments();
+    void nothingToDraw_data();
+    void nothingToDraw();
+    void gridLines();
+    void gridFrame();
+    void gridWidths_data();
+    void gridWidths();
+};
 
 void tst_StrokeGeometry::thinLines()
 {
@@ -134,3 +149,6 @@ void tst_StrokeGeometry::gridWidths()
     QCOMPARE(vertices[7].x() - vertices[6].x(), drawn);
     QCOMPARE(vertices[12], QPointF(0, drawn));
 }
+
+static const TestClass<tst_StrokeGeometry> registered;
+#include "tst_StrokeGeometry.moc"

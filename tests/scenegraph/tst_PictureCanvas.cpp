@@ -1,7 +1,7 @@
-#include "scenegraph/tst_PictureCanvas.h"
-
 #include "scenegraph/PictureCanvas.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <vector>
@@ -28,6 +28,20 @@ QString textOf(const QImage &image)
 }
 
 } // namespace
+
+/// What is drawn without a graphics card, pixel by pixel.
+class tst_PictureCanvas : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void coversEachPixelOnce_data();
+    void coversEachPixelOnce();
+    void strengths();
+    void thinLines();
+    void wholeDevicePixels_data();
+    void wholeDevicePixels();
+};
 
 void tst_PictureCanvas::coversEachPixelOnce_data()
 {
@@ -113,3 +127,6 @@ void tst_PictureCanvas::wholeDevicePixels()
     QTEST(canvas.area(), "area");
     QTEST(canvas.image().size(), "pixels");
 }
+
+static const TestClass<tst_PictureCanvas> registered;
+#include "tst_PictureCanvas.moc"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TambleClientControlModule.h"
 #include "style/StyleEngine.h"
 #include "style/StyleSet.h"
 
@@ -14,6 +15,7 @@ class StyleFixture
 public:
     StyleFixture()
     {
+        tamble::client::TambleClientControlModule().registerTypes("TambleClient.Control");
         engine().setBaseUrl(QUrl());
         m_connection = QObject::connect(&engine(), &tamble::client::StyleEngine::exception,
                                         [this](const QString &type, const QString &message) {

@@ -1,9 +1,9 @@
-#include "tst_BuiltInSheets.h"
-
 #include "SheetAudit.h"
 #include "support/ColourMetrics.h"
+#include "support/TestProgram.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
 
@@ -58,6 +58,35 @@ QStringList difference(const QSet<QString> &a, const QSet<QString> &b)
 }
 
 } // namespace
+
+/// The built-in sheets: their format, their content against independent tables, and what people can make out on them.
+class tst_BuiltInSheets : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void format_data();
+    void format();
+    void irregularities();
+
+    void selectors_data();
+    void selectors();
+    void plainValues_data();
+    void plainValues();
+    void keys();
+    void statePalette_data();
+    void statePalette();
+    void contrastSheetsCoverBothThemes_data();
+    void contrastSheetsCoverBothThemes();
+
+    void pointerShows_data();
+    void pointerShows();
+    void contrast_data();
+    void contrast();
+    void contrastPairsNameEveryColour();
+    void meterZones_data();
+    void meterZones();
+};
 
 void tst_BuiltInSheets::format_data()
 {
@@ -290,3 +319,6 @@ void tst_BuiltInSheets::meterZones()
         }
     }
 }
+
+static const TestClass<tst_BuiltInSheets> registered;
+#include "tst_BuiltInSheets.moc"

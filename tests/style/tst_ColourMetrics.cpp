@@ -1,10 +1,24 @@
-#include "tst_ColourMetrics.h"
-
 #include "support/ColourMetrics.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <cmath>
+
+/// The colour mathematics of the audits, against published and hand-worked figures.
+class tst_ColourMetrics : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void contrast_data();
+    void contrast();
+    void composition_data();
+    void composition();
+    void difference_data();
+    void difference();
+};
 
 void tst_ColourMetrics::contrast_data()
 {
@@ -70,3 +84,6 @@ void tst_ColourMetrics::difference()
     QTEST(qRound(colourDifference(a, b, ColourVision::Deuteranopia)), "deuteranopia");
     QTEST(qRound(colourDifference(a, b, ColourVision::Protanopia)), "protanopia");
 }
+
+static const TestClass<tst_ColourMetrics> registered;
+#include "tst_ColourMetrics.moc"

@@ -1,11 +1,21 @@
-#include "tst_LogCategories.h"
+#include "support/TestProgram.h"
 
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
+#include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
 
 // Hosts filter what they log by category, and a line without one cannot be told from their own.
+
+class tst_LogCategories : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyWarningHasOne();
+};
+
 void tst_LogCategories::everyWarningHasOne()
 {
     static const QRegularExpression plain(QStringLiteral("\\b(qWarning|qCritical|qmlWarning|qmlInfo|console\\.warn|"
@@ -26,3 +36,6 @@ void tst_LogCategories::everyWarningHasOne()
     QVERIFY(count > 100);
     QCOMPARE(places, QStringList());
 }
+
+static const TestClass<tst_LogCategories> registered;
+#include "tst_LogCategories.moc"

@@ -1,8 +1,8 @@
-#include "tst_SheetReload.h"
-
 #include "StyleFixture.h"
 #include "style/StyleEngineSetup.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSaveFile>
 #include <QtCore/QTimer>
@@ -37,6 +37,24 @@ public:
 } // namespace
 
 Q_DECLARE_METATYPE(Save)
+
+class tst_SheetReload : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void everyWayOfSaving_data();
+    void everyWayOfSaving();
+    void severalSavesAreOneLoad();
+    void otherFilesCauseNone();
+    void deletedSheetFallsBackToTheDefault();
+    void directoryThatAppearsLater();
+    void endlessFilesCountAsMissing_data();
+    void endlessFilesCountAsMissing();
+    void tooLongSheetLeavesTheStyles();
+    void busyNeighboursHoldNothingBack();
+};
 
 void tst_SheetReload::init()
 {
@@ -207,3 +225,6 @@ void tst_SheetReload::busyNeighboursHoldNothingBack()
     fixture.write("user.style", sheet(2));
     QTRY_COMPARE_WITH_TIMEOUT(box.props().number("a"), 2.0, 1000);
 }
+
+static const TestClass<tst_SheetReload> registered;
+#include "tst_SheetReload.moc"

@@ -1,13 +1,23 @@
-#include "tst_StateHelper.h"
-
 #include "style/StyleSet.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
 using namespace tamble::client;
 
-void StateHelperTest::words_data()
+class tst_StateHelper : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void words_data();
+    void words();
+    void styleSetFollows();
+};
+
+void tst_StateHelper::words_data()
 {
     QTest::addColumn<QStringList>("states");
     QTest::addColumn<QString>("text");
@@ -19,7 +29,7 @@ void StateHelperTest::words_data()
         << "pressed hovered disabled readonly selected inconsistent focus active ";
 }
 
-void StateHelperTest::words()
+void tst_StateHelper::words()
 {
     QFETCH(QStringList, states);
     QFETCH(QString, text);
@@ -30,7 +40,7 @@ void StateHelperTest::words()
     QCOMPARE(styleSet.state(), text);
 }
 
-void StateHelperTest::styleSetFollows()
+void tst_StateHelper::styleSetFollows()
 {
     StyleSet styleSet;
     QStringList seen;
@@ -49,3 +59,6 @@ void StateHelperTest::styleSetFollows()
     styleSet.stateHelper()->setPressed(true);
     QCOMPARE(styleSet.state(), QStringLiteral("pressed hovered "));
 }
+
+static const TestClass<tst_StateHelper> registered;
+#include "tst_StateHelper.moc"

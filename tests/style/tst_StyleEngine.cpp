@@ -1,9 +1,9 @@
-#include "tst_StyleEngine.h"
-
 #include "StyleFixture.h"
 #include "style/StyleEngineSetup.h"
 #include "style/UsageCountedStyleSetProps.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QThread>
@@ -17,6 +17,33 @@
 #include <array>
 
 using namespace tamble::client;
+
+class tst_StyleEngine : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void userSheetOverridesDefaultSheet();
+    void sourceForms_data();
+    void sourceForms();
+    void brokenSheets_data();
+    void brokenSheets();
+    void missingFileWaitsForTheEditor();
+    void setupLoadsOnce();
+    void relativeSourcesAreTheApplications();
+    void styleNamesOfADirectory();
+    void nothingOldIsSeenDuringARestyle();
+    void unusedValuesAreGivenBack();
+    void unusedNamesAreGivenBack();
+    void convertedValues_data();
+    void convertedValues();
+    void unconvertibleValuesAreLoggedOnce();
+    void missingKeyReports();
+    void fontFaces();
+    void objectsThatAreNoItems();
+};
 
 void tst_StyleEngine::init()
 {
@@ -408,3 +435,6 @@ void tst_StyleEngine::objectsThatAreNoItems()
     QCOMPARE(fixture.messages, QStringList("Hierarchy changes for this component won't be detected"));
     QCOMPARE(StyleSet(&object).props()->number("a"), 1.0); // placed by its object's parent
 }
+
+static const TestClass<tst_StyleEngine> registered;
+#include "tst_StyleEngine.moc"

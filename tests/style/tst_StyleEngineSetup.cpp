@@ -1,8 +1,8 @@
-#include "tst_StyleEngineSetup.h"
-
 #include "StyleFixture.h"
 #include "style/StyleEngineSetup.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
@@ -29,6 +29,21 @@ QList<double> valuesOfAAndB()
 }
 
 } // namespace
+
+class tst_StyleEngineSetup : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void setupsShareTheEngine_data();
+    void setupsShareTheEngine();
+    void relativeSourcesOfTwoSetups();
+    void destroyedSetupLeavesTheStyles();
+    void answersToReports_data();
+    void answersToReports();
+    void answerToAMissingKey();
+};
 
 void tst_StyleEngineSetup::init()
 {
@@ -183,3 +198,6 @@ void tst_StyleEngineSetup::answerToAMissingKey()
     fixture.engine().reportMissingKeys();
     QCOMPARE(reports, QStringList({"b", "e"}));
 }
+
+static const TestClass<tst_StyleEngineSetup> registered;
+#include "tst_StyleEngineSetup.moc"

@@ -1,13 +1,33 @@
-#include "tst_StylePath.h"
-
 #include "StyleTestPaths.h"
 #include "style/StyleTypeName.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <vector>
 
 using namespace tamble::client;
+
+/// Style paths, the pool that holds each of them once, and the names of types.
+class tst_StylePath : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void text_data();
+    void text();
+    void parts();
+    void equalPathsAreOne_data();
+    void equalPathsAreOne();
+    void longerListsOfWordsDiffer();
+    void unusedPathsStayUntilCollected();
+    void unusedPathsGoBeforeTheyDouble();
+    void collectKeepsWhatIsUsed();
+    void collectOfADeepPath();
+    void typeName_data();
+    void typeName();
+};
 
 void tst_StylePath::text_data()
 {
@@ -189,3 +209,6 @@ void tst_StylePath::typeName()
 {
     QTEST(styleTypeName(QByteArrayView(QTest::currentDataTag())), "expected");
 }
+
+static const TestClass<tst_StylePath> registered;
+#include "tst_StylePath.moc"

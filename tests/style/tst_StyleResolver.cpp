@@ -1,12 +1,12 @@
-#include "tst_StyleResolver.h"
-
 #include "StyleTestPaths.h"
 #include "style/RulePrinter.h"
 #include "style/StyleInfoText.h"
 #include "style/StyleResolver.h"
 #include "style/StyleSheetParser.h"
+#include "support/TestProgram.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <limits>
@@ -77,6 +77,44 @@ std::size_t lookUpsFor(const StyleSheet &sheet, const QStringList &paths)
 }
 
 } // namespace
+
+/// What a sheet gives to a style path: matching, the order of matches, merging, inheritance and the caches.
+class tst_StyleResolver : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void matches_data();
+    void matches();
+    void wordsAreNoKeysOfTheTree_data();
+    void wordsAreNoKeysOfTheTree();
+    void repeatedWordsMatchByEachRoute();
+    void declarationsOnASameElementStep();
+
+    void winner_data();
+    void winner();
+    void positionsCountAgainstALessSpecificMatch();
+    void samePositionKeepsTheFirst();
+    void userSheetWinsAtTheSamePosition();
+    void orderOfClassWordsDoesNotMatter();
+
+    void inheritance_data();
+    void inheritance();
+    void elementWithoutMatchSharesTheParentsMap();
+    void equalResultsShareAMap();
+    void resolvedMapFinds();
+    void emptySheet();
+    void resolverKeepsItsPaths();
+    void deepPath();
+
+    void costDoesNotDependOnOtherRules();
+    void costOfDescendantChains();
+    void costOfRepeatedWords();
+    void costOfManyNamesAndWords();
+    void knownPathsAndElementsCostNothing();
+
+    void styleInfo();
+};
 
 void tst_StyleResolver::matches_data()
 {
@@ -488,3 +526,6 @@ void tst_StyleResolver::styleInfo()
              "}\n");
     QCOMPARE(styleInfoText(sheet, *pathFrom(pool, "RLabel")), "Style info for path RLabel\n");
 }
+
+static const TestClass<tst_StyleResolver> registered;
+#include "tst_StyleResolver.moc"

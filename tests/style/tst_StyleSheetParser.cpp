@@ -1,12 +1,12 @@
-#include "tst_StyleSheetParser.h"
-
 #include "style/RulePrinter.h"
 #include "style/StyleSheetGrammar.h"
 #include "style/StyleSheetParser.h"
+#include "support/TestProgram.h"
 
 #include <tao/pegtl/contrib/analyze.hpp>
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
 
@@ -88,6 +88,38 @@ const std::string shippedSheet =
     "RFlyoutWindow > RText { font: \"Brack Office Sans bold 14px\"; } /* end */ \r\n";
 
 } // namespace
+
+/// Sheets as text, their trees, their faults and their printed form.
+class tst_StyleSheetParser : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void grammarAlwaysAdvances();
+    void selectors_data();
+    void selectors();
+    void values_data();
+    void values();
+    void positions_data();
+    void positions();
+    void variables_data();
+    void variables();
+    void fontFaces_data();
+    void fontFaces();
+    void faults_data();
+    void faults();
+    void undefinedVariable();
+    void longLinesAreCut_data();
+    void longLinesAreCut();
+    void hostileTexts_data();
+    void hostileTexts();
+    void sheetAsShipped();
+    void damagedSheets();
+    void laterDeclarationsAreKept();
+    void merging();
+    void ruleText();
+};
 
 void tst_StyleSheetParser::init()
 {
@@ -534,3 +566,6 @@ void tst_StyleSheetParser::ruleText()
              "    m: \"\"; // user stylesheet at line 1 column 16\n"
              "}\n");
 }
+
+static const TestClass<tst_StyleSheetParser> registered;
+#include "tst_StyleSheetParser.moc"

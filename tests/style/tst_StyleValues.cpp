@@ -1,11 +1,11 @@
-#include "tst_StyleValues.h"
-
 #include "style/ConvertException.h"
 #include "style/FontValue.h"
 #include "style/StrictNumber.h"
 #include "style/ValueConversions.h"
 #include "style/ValueFunctions.h"
+#include "support/TestProgram.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
 
@@ -59,6 +59,29 @@ private:
 };
 
 } // namespace
+
+/// Texts and function calls as colours, addresses, fonts, numbers and flags.
+class tst_StyleValues : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void colors_data();
+    void colors();
+    void failures_data();
+    void failures();
+    void hueOfAFullCircle();
+    void addresses_data();
+    void addresses();
+    void plainValues();
+    void numbers_data();
+    void numbers();
+    void numbersUnderACommaLocale();
+    void fonts_data();
+    void fonts();
+    void fontDefaults();
+};
 
 void tst_StyleValues::init()
 {
@@ -282,3 +305,6 @@ void tst_StyleValues::fontDefaults()
     QCOMPARE(font.hintingPreference(), QFont::PreferNoHinting);
     QCOMPARE(font.family(), "Brack");
 }
+
+static const TestClass<tst_StyleValues> registered;
+#include "tst_StyleValues.moc"

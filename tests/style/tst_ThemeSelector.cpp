@@ -1,8 +1,8 @@
-#include "tst_ThemeSelector.h"
-
 #include "style/ThemeSelector.h"
+#include "support/TestProgram.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtQml/QQmlContext>
 #include <QtQml/QQmlEngine>
@@ -26,7 +26,16 @@ QObject *installedTheme(const QQmlEngine &engine)
 
 } // namespace
 
-void ThemeSelectorTest::bindingsFollowTheTheme()
+class tst_ThemeSelector : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void bindingsFollowTheTheme();
+    void brokenThemeChangesNothing();
+};
+
+void tst_ThemeSelector::bindingsFollowTheTheme()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
     QQmlEngine engine;
@@ -55,7 +64,7 @@ void ThemeSelectorTest::bindingsFollowTheTheme()
     QVERIFY(installedTheme(engine));
 }
 
-void ThemeSelectorTest::brokenThemeChangesNothing()
+void tst_ThemeSelector::brokenThemeChangesNothing()
 {
     QQmlEngine engine;
     QQmlComponent good(&engine);
@@ -70,3 +79,6 @@ void ThemeSelectorTest::brokenThemeChangesNothing()
     selector.setThemeComponent(&broken);
     QCOMPARE(installedTheme(engine), theme);
 }
+
+static const TestClass<tst_ThemeSelector> registered;
+#include "tst_ThemeSelector.moc"

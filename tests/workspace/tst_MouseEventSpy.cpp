@@ -1,8 +1,8 @@
-#include "workspace/tst_MouseEventSpy.h"
-
+#include "support/TestProgram.h"
 #include "workspace/RMouseEventSpy.h"
 
 #include <QtCore/QAbstractEventDispatcher>
+#include <QtCore/QObject>
 #include <QtCore/QTimerEvent>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
@@ -50,12 +50,30 @@ QList<QAbstractEventDispatcher::TimerInfo> timersOf(RMouseEventSpy &spy)
 
 } // namespace
 
-void MouseEventSpyTest::init()
+class tst_MouseEventSpy : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void windowEventsAreReportedOnce();
+    void doubleClickIsTwoPresses();
+    void movesAreLimited();
+    void lastMoveIsReported();
+    void activityIsLimited();
+    void touchCountsAsLeftButton();
+    void idleIsReportedOncePerPeriod();
+    void nothingRunsWithoutIdleLimit();
+    void idleTimeTicksForItsListeners();
+    void installsOnceAndFirst();
+};
+
+void tst_MouseEventSpy::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
 }
 
-void MouseEventSpyTest::windowEventsAreReportedOnce()
+void tst_MouseEventSpy::windowEventsAreReportedOnce()
 {
     Observed observed;
     QSignalSpy pressed(&observed.spy, &RMouseEventSpy::mousePressed);
@@ -75,7 +93,7 @@ void MouseEventSpyTest::windowEventsAreReportedOnce()
     QCOMPARE(observed.window.received, 2);
 }
 
-void MouseEventSpyTest::doubleClickIsTwoPresses()
+void tst_MouseEventSpy::doubleClickIsTwoPresses()
 {
     Observed observed;
     observed.window.setGeometry(0, 0, 100, 100);
@@ -88,7 +106,7 @@ void MouseEventSpyTest::doubleClickIsTwoPresses()
     QCOMPARE(released.count(), 2);
 }
 
-void MouseEventSpyTest::movesAreLimited()
+void tst_MouseEventSpy::movesAreLimited()
 {
     Observed observed;
     QSignalSpy moved(&observed.spy, &RMouseEventSpy::mouseMoved);
@@ -101,7 +119,7 @@ void MouseEventSpyTest::movesAreLimited()
     QCOMPARE(observed.window.received, 100);
 }
 
-void MouseEventSpyTest::lastMoveIsReported()
+void tst_MouseEventSpy::lastMoveIsReported()
 {
     Observed observed;
     QSignalSpy moved(&observed.spy, &RMouseEventSpy::mouseMoved);
@@ -113,7 +131,7 @@ void MouseEventSpyTest::lastMoveIsReported()
     QCOMPARE(moved.last().first().toPointF(), QPointF(2, 0));
 }
 
-void MouseEventSpyTest::activityIsLimited()
+void tst_MouseEventSpy::activityIsLimited()
 {
     Observed observed;
     QSignalSpy activity(&observed.spy, &RMouseEventSpy::activity);
@@ -130,7 +148,7 @@ void MouseEventSpyTest::activityIsLimited()
     QCOMPARE(activity.count(), 2);
 }
 
-void MouseEventSpyTest::touchCountsAsLeftButton()
+void tst_MouseEventSpy::touchCountsAsLeftButton()
 {
     Observed observed;
     QSignalSpy pressed(&observed.spy, &RMouseEventSpy::mousePressed);
@@ -148,7 +166,7 @@ void MouseEventSpyTest::touchCountsAsLeftButton()
     QCOMPARE(released.count(), 1);
 }
 
-void MouseEventSpyTest::idleIsReportedOncePerPeriod()
+void tst_MouseEventSpy::idleIsReportedOncePerPeriod()
 {
     Observed observed;
     QSignalSpy idle(&observed.spy, &RMouseEventSpy::idle);
@@ -172,7 +190,7 @@ void MouseEventSpyTest::idleIsReportedOncePerPeriod()
     QCOMPARE(idle.count(), 2);
 }
 
-void MouseEventSpyTest::nothingRunsWithoutIdleLimit()
+void tst_MouseEventSpy::nothingRunsWithoutIdleLimit()
 {
     Observed observed;
     QSignalSpy moved(&observed.spy, &RMouseEventSpy::mouseMoved);
@@ -183,7 +201,7 @@ void MouseEventSpyTest::nothingRunsWithoutIdleLimit()
     QVERIFY(timersOf(observed.spy).isEmpty());
 }
 
-void MouseEventSpyTest::idleTimeTicksForItsListeners()
+void tst_MouseEventSpy::idleTimeTicksForItsListeners()
 {
     Observed observed;
     int timer = 0;
@@ -203,7 +221,7 @@ void MouseEventSpyTest::idleTimeTicksForItsListeners()
     QVERIFY(timersOf(observed.spy).isEmpty());
 }
 
-void MouseEventSpyTest::installsOnceAndFirst()
+void tst_MouseEventSpy::installsOnceAndFirst()
 {
     struct Eater : QObject
     {
@@ -225,3 +243,6 @@ void MouseEventSpyTest::installsOnceAndFirst()
     QCOMPARE(pressed.count(), 2);
     QCoreApplication::instance()->removeEventFilter(spy);
 }
+
+static const TestClass<tst_MouseEventSpy> registered;
+#include "tst_MouseEventSpy.moc"
