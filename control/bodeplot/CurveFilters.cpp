@@ -195,8 +195,8 @@ void CurveFilters::updateModels()
     QList<QObject *> old;
     if (changed) {
         old.swap(m_pointModels);
-        for (const FilterHandle &handle : handles)
-            m_pointModels.append(new RBodeplotPointModel(handle.relation, this));
+        for (std::size_t i = 0; i < handles.size(); ++i)
+            m_pointModels.append(new RBodeplotPointModel(this));
         m_modelledHandles = handles;
     }
     if (changed || m_set.recordOf(m_selectedHandle) != m_selectedRecord)

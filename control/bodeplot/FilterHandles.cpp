@@ -25,6 +25,8 @@ FilterHandle handleOf(const EqFilterExtended &record, int position)
             .frequencyHz = record.freq,
             .gainDb = record.gain,
             .quality = record.quality,
+            .hasQuality = qualityCounts(record.type, record.slope),
+            .dragsQuality = qualityLimit(record.type, record.slope).has_value(),
             .label = record.label,
             .point = {}};
 }
@@ -40,6 +42,8 @@ FilterHandle handleOf(const AsymmetricEqFilterExtended &record, int position, bo
             .frequencyHz = second ? record.freq2 : record.freq,
             .gainDb = record.gain,
             .quality = second ? record.quality2 : record.quality,
+            .hasQuality = true,
+            .dragsQuality = true,
             .label = record.label,
             .point = {}};
 }

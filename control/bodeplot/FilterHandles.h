@@ -42,6 +42,8 @@ struct FilterHandle
     double frequencyHz = 0.0;
     double gainDb = 0.0;
     double quality = 0.0;
+    bool hasQuality = false;   ///< Its filter's response depends on the Q.
+    bool dragsQuality = false; ///< A gesture can change the Q.
     QString label;
     QPointF point; ///< Normalised; outside 0 to 1 when it cannot be shown.
 };

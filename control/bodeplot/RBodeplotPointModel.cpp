@@ -2,16 +2,9 @@
 
 namespace tamble::client {
 
-RBodeplotPointModel::RBodeplotPointModel(HandleRelation relation, QObject *parent)
+RBodeplotPointModel::RBodeplotPointModel(QObject *parent)
     : QObject(parent)
-    , m_relation(relation)
 {}
-
-bool RBodeplotPointModel::hasQuality() const
-{
-    return m_relation == HandleRelation::Eq || m_relation == HandleRelation::AsymmetricFirst ||
-           m_relation == HandleRelation::AsymmetricSecond;
-}
 
 template <typename Value>
 void RBodeplotPointModel::assign(Value &member, const Value &value, void (RBodeplotPointModel::*changed)())
@@ -28,6 +21,8 @@ void RBodeplotPointModel::update(const FilterHandle &handle, int index, bool sel
     assign(m_frequency, handle.frequencyHz, &RBodeplotPointModel::frequencyChanged);
     assign(m_gain, handle.gainDb, &RBodeplotPointModel::gainChanged);
     assign(m_quality, handle.quality, &RBodeplotPointModel::qualityChanged);
+    assign(m_hasQuality, handle.hasQuality, &RBodeplotPointModel::hasQualityChanged);
+    assign(m_dragsQuality, handle.dragsQuality, &RBodeplotPointModel::dragsQualityChanged);
     setPoint(handle.point);
     assign(m_index, index, &RBodeplotPointModel::indexChanged);
     assign(m_label, handle.label, &RBodeplotPointModel::labelChanged);

@@ -12,8 +12,8 @@ namespace tamble::client {
 /// One draggable handle of a curve.
 ///
 /// `point` is normalised to the curve's size: x from 0 (left) to 1 (right), y from 0 (top) to 1 (bottom); a handle
-/// outside that square is not shown. `frequency` (Hz) and `gain` (dB) are what the filter has there, `hasGain` and
-/// `hasQuality` whether the filter has them at all.
+/// outside that square is not shown. `frequency` (Hz) and `gain` (dB) are what the filter has there. `hasGain` and
+/// `hasQuality` tell whether its response depends on them at all, `dragsQuality` whether a gesture can change the Q.
 class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotPointModel : public QObject
 {
     Q_OBJECT
@@ -28,19 +28,18 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotPointModel : public QObject
     Q_PROPERTY(qreal frequency READ frequency NOTIFY frequencyChanged)
     Q_PROPERTY(qreal gain READ gain NOTIFY gainChanged)
     Q_PROPERTY(bool hasGain READ hasGain NOTIFY moveModeChanged)
-    Q_PROPERTY(bool hasQuality READ hasQuality CONSTANT)
+    Q_PROPERTY(bool hasQuality MEMBER m_hasQuality NOTIFY hasQualityChanged)
+    Q_PROPERTY(bool dragsQuality MEMBER m_dragsQuality NOTIFY dragsQualityChanged)
 
 public:
     using MoveMode = HandleMotion;
 
-    /// A handle of that relation; the relation stays.
-    explicit RBodeplotPointModel(HandleRelation relation, QObject *parent = nullptr);
+    explicit RBodeplotPointModel(QObject *parent = nullptr);
 
     MoveMode moveMode() const { return m_moveMode; }
     qreal frequency() const { return m_frequency; }
     qreal gain() const { return m_gain; }
     bool hasGain() const { return m_moveMode != MoveMode::Horizontal; }
-    bool hasQuality() const;
 
     /// Takes over what differs, with one notification for each property.
     void update(const FilterHandle &handle, int index, bool selected);
@@ -58,6 +57,8 @@ Q_SIGNALS:
     void frequencyChanged();
     void gainChanged();
     void moveModeChanged();
+    void hasQualityChanged();
+    void dragsQualityChanged();
 
 private:
     template <typename Value>
@@ -73,7 +74,8 @@ private:
     qreal m_frequency = 0.0;
     qreal m_gain = 0.0;
     MoveMode m_moveMode = MoveMode::Both;
-    HandleRelation m_relation;
+    bool m_hasQuality = false;
+    bool m_dragsQuality = false;
 };
 
 } // namespace tamble::client

@@ -1,4 +1,5 @@
 .pragma library
+.import Gallery 1.0 as Gallery
 
 // What the kinds of filters are called, which values they have, and how these are written and stepped.
 
@@ -62,14 +63,13 @@ function has(band, key) {
         return key === "freqHP" ? band.type % 3 !== 0 : key === "freqLP" ? band.type % 3 !== 1 : ["type", "slope"].includes(key)
     if (band.kind === "xover")
         return ["type", "freq"].includes(key)
-    const sloped = [1, 2, 3, 4].includes(band.type)
     switch (key) {
     case "gain":
         return [0, 1, 2, 6, 7, 10, 11].includes(band.type)
     case "quality":
-        return ![1, 2].includes(band.type) && (!sloped || band.slope === 2)
+        return Gallery.FilterSections.qualityCounts(band.type, band.slope)
     case "slope":
-        return sloped
+        return [1, 2, 3, 4].includes(band.type)
     }
     return ["type", "freq"].includes(key)
 }

@@ -74,3 +74,8 @@ QVariantList FilterSections::of(const QVariantList &bands, double sampleRate) co
     }
     return sections;
 }
+
+bool FilterSections::qualityCounts(int type, int slope) const
+{
+    return tamble::common::qualityCounts(type, slope);
+}

@@ -22,4 +22,7 @@ public:
     /// "kind" ("eq", "asym" or "xover"; any other has no sections) and the values that its plot filter has, by the same
     /// names.
     Q_INVOKABLE QVariantList of(const QVariantList &bands, double sampleRate) const;
+
+    /// Whether the response of a band of kind "eq" depends on its Q.
+    Q_INVOKABLE bool qualityCounts(int type, int slope) const;
 };

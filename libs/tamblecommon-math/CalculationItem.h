@@ -41,6 +41,20 @@ struct TAMBLE_COMMON_MATH_EXPORT EqFilter : CalculationItem
     int slope = 0;        ///< 1 for 6 dB per octave, 2 for 12 dB per octave.
 };
 
+/// Whether the response of an EqFilter depends on its Q.
+constexpr bool qualityCounts(int eqType, int slope)
+{
+    switch (eqType) {
+    case 3:
+    case 4:
+        return slope == 2;
+    case 5:
+        return slope != 1;
+    default:
+        return eqType == 0 || (eqType >= 6 && eqType <= 11);
+    }
+}
+
 /// A band with different flanks: between its two frequencies it has `gain`, beyond them 0 dB. They come in either
 /// order; the lower frequency is the lower flank, and each flank keeps its own Q. The prototype is a high shelf with Q
 /// (EqFilter type 11) of +gain at the lower frequency, times one of -gain at the upper one, whatever `type` says.

@@ -90,6 +90,8 @@ RBodeplotCurveTemplate {
             }
 
             function stepQuality(change: real) {
+                if (!handle.modelData.dragsQuality)
+                    return
                 root.holdFilterPoint(handle.index)
                 root.onUserChangeFilterPointQuality(handle.index, handle.quality, change)
                 root.releaseFilterPoint()
@@ -195,7 +197,7 @@ RBodeplotCurveTemplate {
                     pressPlace = mapToItem(root, mouse.x, mouse.y)
                     baseQuality = handle.quality
                     dragging = true
-                    changesQuality = mouse.button === Qt.RightButton && handle.hasQuality
+                    changesQuality = mouse.button === Qt.RightButton && handle.modelData.dragsQuality
                     root.pressed = true
                     root.holdFilterPoint(handle.index)
                     root.onUserSelectFilterPoint(handle.index)

@@ -18,7 +18,7 @@ Item {
     property bool visiblePoint: true
     property real frequency: 0
     property real gain: 0
-    /*! Whether the filter has these at all; they are then part of the description. */
+    /*! Whether the filter's response depends on these; they are then part of the description. */
     property bool hasGain: true
     property bool hasQuality: true
     /*! Shows the Q in a bubble beside the handle, while it is being changed. */

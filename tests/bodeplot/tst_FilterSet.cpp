@@ -283,20 +283,25 @@ void tst_FilterSet::quality_data()
     QTest::addColumn<double>("base");
     QTest::addColumn<double>("change");
     QTest::addColumn<double>("quality"); // 0: the gesture does nothing
+    QTest::addColumn<bool>("counts");    // for the response
 
-    QTest::newRow("200 down reaches the upper limit") << eq(0) << 1.0 << 200.0 << 40.0;
-    QTest::newRow("stays there") << eq(0) << 40.0 << 200.0 << 40.0;
-    QTest::newRow("200 up reaches the lower limit") << eq(0) << 1.0 << -200.0 << 0.4;
-    QTest::newRow("half way") << eq(9) << 2.0 << 100.0 << 21.0;
-    QTest::newRow("no way") << eq(0) << 3.0 << 0.0 << 3.0;
-    QTest::newRow("shelf with Q") << eq(10) << 1.0 << 300.0 << 2.0;
-    QTest::newRow("high pass of 12 dB") << eq(3, 100, 0, 1, 2) << 1.0 << 100.0 << 1.5;
-    QTest::newRow("high pass of 6 dB") << eq(3, 100, 0, 1, 1) << 1.0 << 100.0 << 0.0;
-    QTest::newRow("shelf without Q") << eq(1) << 1.0 << 100.0 << 0.0;
-    QTest::newRow("asymmetric") << asymmetric() << 0.5 << 200.0 << 2.0;
-    QTest::newRow("crossover") << xOver(0) << 1.0 << 100.0 << 0.0;
-    QTest::newRow("base is no number") << eq(0) << notANumber << 0.0 << 0.4;
-    QTest::newRow("change is no number") << eq(0) << 1.0 << notANumber << 1.0;
+    QTest::newRow("200 down reaches the upper limit") << eq(0) << 1.0 << 200.0 << 40.0 << true;
+    QTest::newRow("stays there") << eq(0) << 40.0 << 200.0 << 40.0 << true;
+    QTest::newRow("200 up reaches the lower limit") << eq(0) << 1.0 << -200.0 << 0.4 << true;
+    QTest::newRow("half way") << eq(9) << 2.0 << 100.0 << 21.0 << true;
+    QTest::newRow("no way") << eq(0) << 3.0 << 0.0 << 3.0 << true;
+    QTest::newRow("shelf with Q") << eq(10) << 1.0 << 300.0 << 2.0 << true;
+    QTest::newRow("high pass of 12 dB") << eq(3, 100, 0, 1, 2) << 1.0 << 100.0 << 1.5 << true;
+    QTest::newRow("high pass of 6 dB") << eq(3, 100, 0, 1, 1) << 1.0 << 100.0 << 0.0 << false;
+    QTest::newRow("all pass") << eq(5) << 1.0 << 100.0 << 1.5 << true;
+    QTest::newRow("all pass of first order") << eq(5, 100, 0, 1, 1) << 1.0 << 100.0 << 1.5 << false;
+    for (const int type : {6, 7, 8})
+        QTest::addRow("type %d", type) << eq(type) << 1.0 << 100.0 << 0.0 << true;
+    QTest::newRow("shelf without Q") << eq(1) << 1.0 << 100.0 << 0.0 << false;
+    QTest::newRow("asymmetric") << asymmetric() << 0.5 << 200.0 << 2.0 << true;
+    QTest::newRow("crossover") << xOver(0) << 1.0 << 100.0 << 0.0 << false;
+    QTest::newRow("base is no number") << eq(0) << notANumber << 0.0 << 0.4 << true;
+    QTest::newRow("change is no number") << eq(0) << 1.0 << notANumber << 1.0 << true;
 }
 
 void tst_FilterSet::quality()
@@ -305,8 +310,11 @@ void tst_FilterSet::quality()
     QFETCH(double, base);
     QFETCH(double, change);
     QFETCH(double, quality);
+    QFETCH(bool, counts);
 
     FilterSet set = setOf({record});
+    QCOMPARE(set.handles().front().hasQuality, counts);
+    QCOMPARE(set.handles().front().dragsQuality, quality > 0.0);
     const HandleEdit edit = set.changeQuality(0, base, change);
     QCOMPARE(bool(edit), quality > 0.0);
     QCOMPARE(edit.quality, quality);

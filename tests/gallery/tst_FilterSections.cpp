@@ -42,6 +42,7 @@ private Q_SLOTS:
     void bandsInOrder();
     void gainsAtTheCorner_data();
     void gainsAtTheCorner();
+    void qualityCounts();
 };
 
 void tst_FilterSections::sectionsOfAQuarterOfTheRate_data()
@@ -111,6 +112,21 @@ void tst_FilterSections::gainsAtTheCorner()
                     (1.0 + delay * (numbers[3] + delay * numbers[4]));
     }
     QVERIFY2(std::abs(std::abs(response) / gain - 1.0) < 1e-9, qPrintable(QString::number(std::abs(response))));
+}
+
+void tst_FilterSections::qualityCounts()
+{
+    const FilterSections filters;
+    for (int type = -1; type <= 12; ++type) {
+        for (const int slope : {0, 1, 2}) {
+            QVariantMap filter = band(QStringLiteral("eq"), type, 1000, 6, 1);
+            filter[QStringLiteral("slope")] = slope;
+            const QVariantList sections = filters.of({filter}, Rate);
+            filter[QStringLiteral("quality")] = 3.0;
+            const bool differs = filters.of({filter}, Rate) != sections;
+            QVERIFY2(filters.qualityCounts(type, slope) == differs, qPrintable(QString::number(type)));
+        }
+    }
 }
 
 static const TestClass<tst_FilterSections> registered;

@@ -156,6 +156,31 @@ ThemedTestCase {
         mouseRelease(curve, 230, 395, Qt.RightButton)
     }
 
+    function test_qualityThatCannotBeDragged_data() {
+        return [
+            { tag: "proportional Q", type: 6, slope: 0, description: "2000 Hz, +0.0 dB, Q 1.0" },
+            { tag: "pass of 6 dB", type: 3, slope: 1, description: "2000 Hz" },
+            { tag: "shelf", type: 1, slope: 0, description: "2000 Hz, +0.0 dB" },
+            { tag: "band pass", type: 8, slope: 0, description: "2000 Hz, Q 1.0" },
+            { tag: "all pass of first order", type: 5, slope: 1, description: "2000 Hz", drags: true }
+        ]
+    }
+
+    function test_qualityThatCannotBeDragged(data: var) {
+        const curve = make()
+        const filter = curve.calculationItems[0]
+        filter.type = data.type
+        filter.slope = data.slope
+        const band = handles(curve)[0]
+        compare(band.Accessible.description, data.description)
+        mousePress(curve, 200, 195, Qt.RightButton)
+        mouseMove(curve, 200, 295, -1, Qt.RightButton)
+        compare(band.showQuality, data.drags === true)
+        mouseRelease(curve, 200, 295, Qt.RightButton)
+        keyClick(Qt.Key_PageDown)
+        compare(changed.count > 0, data.drags === true)
+    }
+
     function test_escapeTakesADragBack() {
         const curve = make()
         mousePress(curve, 200, 195)
