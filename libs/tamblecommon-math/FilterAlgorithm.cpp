@@ -45,8 +45,10 @@ void FilterAlgorithm::calculateBodePlotLogarithmic(BodePlotCalculation &block, b
         if (single && fits && i != index)
             continue;
         // An unchanged record keeps its curve.
-        if (models[i].update(block.items[i], state.grid))
+        if (models[i].update(block.items[i], state.grid)) {
             response::evaluateCurve(models[i], state.grid, curves[i]);
+            state.sum.curveChanged(i);
+        }
     }
     state.sum.sum(curves, models, state.grid.size(), block.results.aggregated);
 }

@@ -37,7 +37,8 @@ void operator delete(void *memory, std::size_t) noexcept
 
 namespace {
 
-// One record of every kind, at a resolution that is no multiple of the kernels' blocks.
+// One record of every kind, at a resolution that is no multiple of the kernels' blocks; `times` over, for a block with
+// more records than one sum is made of.
 struct Mixture
 {
     EqFilter peak = eqBand(0, 1000, 12, 3);
@@ -50,12 +51,15 @@ struct Mixture
     FIRFilter list = fir(255, 40);
     BodePlotCalculation block;
 
-    Mixture()
+    explicit Mixture(std::size_t times = 1)
     {
         asymmetric.freq2 = 4000;
         asymmetric.gain = -9;
         list.coefficients.assign(40, 0.1);
         block = blockOf({&peak, &allPass, &flat, &asymmetric, &highPass, &linear, &minimum, &list, nullptr}, 1000);
+        const std::vector<CalculationItem *> once = block.items;
+        for (std::size_t i = 1; i < times; ++i)
+            block.items.insert(block.items.end(), once.begin(), once.end());
     }
 
     void change(double amount)
@@ -105,20 +109,31 @@ class tst_FilterResponseBlock : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void singleEqualsFull_data() { times(); }
     void singleEqualsFull();
     void singleLeavesOthers();
     void otherBlocksAreEvaluatedInFull_data();
     void otherBlocksAreEvaluatedInFull();
     void copiesStandAlone();
+    void sumOfCurves_data() { times(); }
     void sumOfCurves();
     void levelAlone();
     void pointsDoNotDependOnTheResolution();
     void dragAllocatesNothing();
+
+private:
+    static void times()
+    {
+        QTest::addColumn<std::size_t>("times");
+        for (const std::size_t count : {1u, 5u})
+            QTest::addRow("%zu", count) << count;
+    }
 };
 
 void tst_FilterResponseBlock::singleEqualsFull()
 {
-    Mixture mixture;
+    QFETCH(std::size_t, times);
+    Mixture mixture(times);
     evaluate(mixture.block);
     for (double amount : {0.25, -0.5, 1.0}) {
         mixture.change(amount);
@@ -171,7 +186,7 @@ void tst_FilterResponseBlock::otherBlocksAreEvaluatedInFull_data()
 void tst_FilterResponseBlock::otherBlocksAreEvaluatedInFull()
 {
     QFETCH(std::function<void(Mixture &)>, change);
-    Mixture mixture;
+    Mixture mixture(2);
     evaluate(mixture.block);
     mixture.change(1);
     change(mixture);
@@ -199,7 +214,8 @@ void tst_FilterResponseBlock::copiesStandAlone()
 
 void tst_FilterResponseBlock::sumOfCurves()
 {
-    Mixture mixture;
+    QFETCH(std::size_t, times);
+    Mixture mixture(times);
     evaluate(mixture.block);
     const BodePlotCalculationResults &results = mixture.block.results;
     for (std::size_t i = 0; i < 1000; ++i) {

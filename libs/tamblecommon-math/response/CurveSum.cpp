@@ -10,7 +10,13 @@ namespace tamble::common::response {
 
 namespace {
 
-void sumBlock(const std::vector<const double *> &curves, std::size_t first, std::size_t count, double *sum)
+// Small enough for a drag among hundreds of curves, and large enough that the usual number needs no groups.
+constexpr std::size_t groupSize = 16;
+
+using Curves = std::vector<const double *>;
+using Limit = void (*)(double *);
+
+void sumBlock(const Curves &curves, std::size_t first, std::size_t count, double *sum)
 {
     const ResponseKernels &kernels = responseKernels();
     std::fill_n(sum, blockSize, 0.0);
@@ -23,32 +29,78 @@ void sumBlock(const std::vector<const double *> &curves, std::size_t first, std:
         kernels.add(curves[i] + first, count, sum);
 }
 
+/// Sums whole curves and brings the sum within its limits, if it has any.
+void sumCurves(const Curves &curves, std::size_t size, Limit limit, std::vector<double> &sum)
+{
+    sum.resize(size);
+    alignas(64) double block[blockSize];
+    for (std::size_t first = 0; first < size; first += blockSize) {
+        const std::size_t count = std::min(blockSize, size - first);
+        sumBlock(curves, first, count, block);
+        if (limit)
+            limit(block);
+        std::copy_n(block, count, sum.data() + first);
+    }
+}
+
 } // namespace
+
+void CurveSum::curveChanged(std::size_t index)
+{
+    if (index / groupSize < m_groups.size())
+        m_groups[index / groupSize].stale = true;
+}
 
 void CurveSum::sum(const std::vector<FilterResponse> &curves, const std::vector<RecordModel> &models, std::size_t size,
                    FilterResponse &result)
 {
+    if (curves.size() <= groupSize) {
+        m_groups.clear();
+        gather(curves, models, 0, curves.size());
+    } else {
+        updateGroups(curves, models, size);
+        m_levels.clear();
+        m_phases.clear();
+        for (const Group &group : m_groups) {
+            if (!group.sum.magnitude.empty())
+                m_levels.push_back(group.sum.magnitude.data());
+            if (!group.sum.phase.empty())
+                m_phases.push_back(group.sum.phase.data());
+        }
+    }
+    const ResponseKernels &kernels = responseKernels();
+    sumCurves(m_levels, size, kernels.clampLevels, result.magnitude);
+    sumCurves(m_phases, size, kernels.wrapPhases, result.phase);
+}
+
+void CurveSum::gather(const std::vector<FilterResponse> &curves, const std::vector<RecordModel> &models,
+                      std::size_t first, std::size_t last)
+{
     m_levels.clear();
     m_phases.clear();
-    for (std::size_t i = 0; i < curves.size(); ++i) {
+    for (std::size_t i = first; i < last; ++i) {
         if (!models[i].hasFlatLevel())
             m_levels.push_back(curves[i].magnitude.data());
         if (!models[i].isFlat())
             m_phases.push_back(curves[i].phase.data());
     }
+}
 
-    const ResponseKernels &kernels = responseKernels();
-    result.magnitude.resize(size);
-    result.phase.resize(size);
-    alignas(64) double block[blockSize];
-    for (std::size_t first = 0; first < size; first += blockSize) {
-        const std::size_t count = std::min(blockSize, size - first);
-        sumBlock(m_levels, first, count, block);
-        kernels.clampLevels(block);
-        std::copy_n(block, count, result.magnitude.data() + first);
-        sumBlock(m_phases, first, count, block);
-        kernels.wrapPhases(block);
-        std::copy_n(block, count, result.phase.data() + first);
+void CurveSum::updateGroups(const std::vector<FilterResponse> &curves, const std::vector<RecordModel> &models,
+                            std::size_t size)
+{
+    if (m_count != curves.size())
+        m_groups.clear();
+    m_count = curves.size();
+    m_groups.resize((m_count + groupSize - 1) / groupSize);
+    for (std::size_t i = 0; i < m_groups.size(); ++i) {
+        Group &group = m_groups[i];
+        if (!group.stale)
+            continue;
+        group.stale = false;
+        gather(curves, models, i * groupSize, std::min((i + 1) * groupSize, m_count));
+        sumCurves(m_levels, m_levels.empty() ? 0 : size, nullptr, group.sum.magnitude);
+        sumCurves(m_phases, m_phases.empty() ? 0 : size, nullptr, group.sum.phase);
     }
 }
 
