@@ -1,0 +1,9 @@
+import QtQuick
+
+Item {
+    Timer {
+        interval: 1500
+        running: true
+        onTriggered: Qt.quit()
+    }
+}
