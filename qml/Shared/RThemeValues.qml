@@ -27,7 +27,7 @@ QtObject {
 
     /*! The size of a font that a page asks for, within what can be drawn without filling the memory. */
     function fontPixels(size: real): int {
-        return Math.max(1, Math.min(1000, size || 1))
+        return Math.max(1, Math.min(1000, Math.round(size) || 1))
     }
 
     function tellWhatIsMissing() {

@@ -42,7 +42,7 @@ ThemedTestCase {
 
     function test_fontSize_data() {
         return [
-            { tag: "given", size: 9.0, pixels: 9 },
+            { tag: "given", size: 9.6, pixels: 10 },
             { tag: "gigantic", size: 1e9, pixels: 1000 },
             { tag: "none", size: 0, pixels: 1 },
             { tag: "no number", size: NaN, pixels: 1 },
