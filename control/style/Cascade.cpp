@@ -8,11 +8,17 @@ namespace tamble::client {
 
 void sortMatches(std::vector<StyleMatch> &matches, const SelectorTree &tree)
 {
-    const auto key = [&tree](const StyleMatch &match) {
-        const PropertySpec &first = *tree.declarations(match.node).front();
-        return std::tuple(match.specificity, first.position, first.origin != SheetOrigin::UserSheet);
+    const auto place = [](const PropertySpec *declaration) {
+        return std::tuple(declaration->position, declaration->origin != SheetOrigin::UserSheet);
     };
-    std::ranges::stable_sort(matches, {}, key);
+    // Rules with several selectors share their first declarations, so all of them are compared.
+    const auto isWeaker = [&](const StyleMatch &a, const StyleMatch &b) {
+        if (a.specificity != b.specificity)
+            return a.specificity < b.specificity;
+        return std::ranges::lexicographical_compare(tree.declarations(a.node), tree.declarations(b.node), {}, place,
+                                                    place);
+    };
+    std::ranges::stable_sort(matches, isWeaker);
 }
 
 DeclarationMap mergeMatches(std::span<const StyleMatch> matches, const SelectorTree &tree)

@@ -12,9 +12,9 @@ using DeclarationMap = std::vector<const PropertySpec *>;
 
 /// Orders matches from the weakest to the strongest.
 ///
-/// Equally specific ones come in the order of their first declarations' places in the sheets, the user's before the
-/// default sheet's at the same place, so that the result depends neither on the order of an item's class words nor on
-/// the way the matches were found.
+/// Equally specific ones come in the order of their declarations' places in the sheets, the first ones first, the
+/// user's before the default sheet's at the same place, so that the result depends neither on the order of an item's
+/// class words nor on the way the matches were found.
 void sortMatches(std::vector<StyleMatch> &matches, const SelectorTree &tree);
 
 /// The declarations that win, from matches in the order of sortMatches().

@@ -301,6 +301,11 @@ void tst_StyleResolver::orderOfClassWordsDoesNotMatter()
     QCOMPARE(expected, "k=y l=z m=x");
     for (const char *path : {"A.x z y", "A.y x z", "A.y z x", "A.z x y", "A.z y x", "A.z z y x x"})
         QCOMPARE(resolved(sheet, path), expected);
+
+    // Two selectors of one rule have their first declaration in common, which must not leave the order to the words.
+    const StyleSheet shared = sheetFrom("A.x, A.y { l: both }\nA.x { k: x }\nA { k: type }");
+    QCOMPARE(resolved(shared, "A.y x"), "k=type l=both");
+    QCOMPARE(resolved(shared, "A.x y"), "k=type l=both");
 }
 
 void tst_StyleResolver::inheritance_data()
