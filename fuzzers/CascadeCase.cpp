@@ -62,7 +62,8 @@ private:
         for (std::size_t i = 0; i < selectorCount; ++i) {
             if (i > 0)
                 m_sheet.text += ',';
-            writeSelector(rule.selectors.emplace_back());
+            rule.selectors.push_back(selector());
+            writeSelector(rule.selectors.back());
         }
         m_sheet.text += '{';
         const std::size_t declarationCount = 1 + m_choices.below(3);
@@ -71,16 +72,28 @@ private:
         m_sheet.text += '}' + m_choices.oneOf(Gaps);
     }
 
-    void writeSelector(Selector &selector)
+    /// A new one or, so that rules meet, one of an earlier rule.
+    Selector selector()
     {
+        if (!m_selectors.empty() && m_choices.below(3) == 0)
+            return m_selectors[m_choices.below(m_selectors.size())];
+        Selector selector;
         const std::size_t elementCount = 1 + m_choices.below(3);
         for (std::size_t i = 0; i < elementCount; ++i) {
-            if (i > 0) {
+            if (i > 0)
                 selector.isChild.push_back(m_choices.below(3) == 0);
-                m_sheet.text += selector.isChild.back() ? " > " : m_choices.oneOf(Gaps);
-            }
             selector.elements.push_back(element());
-            for (const std::string &piece : selector.elements.back())
+        }
+        m_selectors.push_back(selector);
+        return selector;
+    }
+
+    void writeSelector(const Selector &selector)
+    {
+        for (std::size_t i = 0; i < selector.elements.size(); ++i) {
+            if (i > 0)
+                m_sheet.text += selector.isChild[i - 1] ? " > " : m_choices.oneOf(Gaps);
+            for (const std::string &piece : selector.elements[i])
                 m_sheet.text += piece;
         }
     }
@@ -117,6 +130,7 @@ private:
     Choices &m_choices;
     char m_valuePrefix;
     int m_declarationCount = 0;
+    std::vector<Selector> m_selectors;
     SheetCase m_sheet;
 };
 
