@@ -25,14 +25,15 @@ QtObject {
     readonly property int fontSizeXL: root.source.fontSizeXL ?? root.defaults.fontSizeXL
     readonly property int fontSizeXXL: root.source.fontSizeXXL ?? root.defaults.fontSizeXXL
 
+    readonly property var members: ["dp", "hoverEnabled", "nativeRendering", "fontFamily", "fontSizeXXS", "fontSizeXS", "fontSizeS", "fontSizeM", "fontSizeL", "fontSizeXL", "fontSizeXXL"]
+
     /*! The size of a font that a page asks for, within what can be drawn without filling the memory. */
     function fontPixels(size: real): int {
         return Math.max(1, Math.min(1000, Math.round(size) || 1))
     }
 
     function tellWhatIsMissing() {
-        const read = ["dp", "hoverEnabled", "nativeRendering", "fontFamily", "fontSizeXXS", "fontSizeXS", "fontSizeS", "fontSizeM", "fontSizeL", "fontSizeXL", "fontSizeXXL"]
-        const missing = read.filter(name => root.source[name] === undefined)
+        const missing = root.members.filter(name => root.source[name] === undefined)
         if (missing.length > 0)
             console.warn(`The context property "theme" lacks ${missing.join(", ")}; controls take the defaults of RTheme. Make it an RTheme, or give it another name.`)
     }

@@ -19,6 +19,7 @@ TestCase {
             property alias loads: loads
             property alias refresh: refreshShortcut
             property alias wheel: wheelHandler
+            readonly property Item overlay: button.T.Overlay.overlay
             appStyleSheetKey: ""
             visible: true
             onStyleException: (type, message) => root.exceptions.push(type)
@@ -177,7 +178,7 @@ TestCase {
         compare(window.button.activeFocus, false)
 
         window.busy = false
-        tryVerify(() => !window.T.Overlay.overlay.visible || row.tag === "beside a popup")
+        tryVerify(() => !window.overlay.visible || row.tag === "beside a popup")
         if (row.tag === "beside a popup")
             return
         compare(window.button.activeFocus, true, "the focus comes back")
@@ -187,7 +188,7 @@ TestCase {
 
     function test_busyShowsAfterAWhile() {
         const window = shownWindow({ busy: true })
-        const overlay = window.T.Overlay.overlay
+        const overlay = window.overlay
         const veil = overlay.children[overlay.children.length - 1]
         compare([veil.width, veil.height], [window.width, window.height])
         compare(veil.opacity, 0, "short waits do not flicker")

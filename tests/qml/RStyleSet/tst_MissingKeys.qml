@@ -74,7 +74,7 @@ TestCase {
     ]
 
     /*! All items below `item` that can be dragged. */
-    function handlesOf(item: Item): var {
+    function handlesOf(item: var): var {
         let handles = item.dragging === undefined ? [] : [item]
         for (let i = 0; i < item.children.length; ++i)
             handles = handles.concat(handlesOf(item.children[i]))
