@@ -1,5 +1,7 @@
 // The icon resource holds every icon in every size and density, and nothing else.
 
+#include "support/TestProgram.h"
+
 #include <QDir>
 #include <QImage>
 #include <QTest>
@@ -148,5 +150,5 @@ void tst_Icons::nothingElseIsShipped()
     QCOMPARE(unexpected, QStringList());
 }
 
-QTEST_GUILESS_MAIN(tst_Icons)
+static const TestClass<tst_Icons> registered;
 #include "tst_Icons.moc"

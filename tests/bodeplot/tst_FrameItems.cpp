@@ -461,7 +461,5 @@ void tst_FrameItems::badNumbersReachNoVertex()
     feed<RLimiterCurve>(number);
 }
 
-#include "tst_FrameItems.moc"
-
 static const TestClass<tst_FrameItems> registered;
 #include "tst_FrameItems.moc"

@@ -1,4 +1,4 @@
-#include "SignalLog.h"
+#include "support/SignalLog.h"
 #include "support/TestProgram.h"
 
 #include "dynamics/AGCCalculator.h"

@@ -1,4 +1,4 @@
-#include "../dynamics/SignalLog.h"
+#include "support/SignalLog.h"
 #include "support/TestProgram.h"
 
 #include "plot/LineCalculator.h"
