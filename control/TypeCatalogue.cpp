@@ -46,6 +46,7 @@
 #include "plot/RGrid.h"
 #include "plot/RGridLayout.h"
 #include "plot/RScaleHelper.h"
+#include "style/SheetName.h"
 #include "style/StateHelper.h"
 #include "style/StyleChecker.h"
 #include "style/StyleEngineSetup.h"
@@ -319,6 +320,7 @@ void registerInternals(const Registrar &registrar)
     registrar.withLaterProperties<QQuickText>();
     registrar.withLaterProperties<QQuickLabel>();
     registrar.singleton<RPlotRules>("RPlotRules");
+    registrar.creatable<SheetName>("RSheetName");
     registrar.creatable<RTintedImage>("RTintedImage");
     registrar.singleton<RTransferTable>("RTransferTable");
     registrar.creatable<RUnderlay>("RUnderlay");

@@ -6,13 +6,14 @@ import TambleClient.Control 1.0
 T.ApplicationWindow {
     id: root
 
-    property string tambleStyleSheetDirectory: "qrc:/style/"
-    property string tambleStyleSheetKey: "tamble"
-    property string tambleStyleSheetTheme: theme.stylesheet
-    property string appStyleSheetDirectory: "qrc:/style/"
-    /*! Empty in an application without a sheet of its own. */
-    property string appStyleSheetKey: "app"
-    property string appStyleSheetTheme: theme.stylesheet
+    property alias tambleStyleSheetDirectory: tambleSheet.directory
+    property alias tambleStyleSheetKey: tambleSheet.key
+    property alias tambleStyleSheetTheme: tambleSheet.themeWord
+    /*! The application's own sheet. As long as none of the three is set, there need not be one. */
+    property alias appStyleSheetDirectory: appSheet.directory
+    /*! Empty for no sheet. */
+    property alias appStyleSheetKey: appSheet.key
+    property alias appStyleSheetTheme: appSheet.themeWord
 
     /*! Makes the object that is installed as `theme`. */
     property alias themeComponent: selector.themeComponent
@@ -27,8 +28,8 @@ T.ApplicationWindow {
     /*! Covers the window with a veil that takes mouse, touch and keys. */
     property bool busy: false
 
-    readonly property url tambleStyleSheet: root.sheet(root.tambleStyleSheetDirectory, root.tambleStyleSheetKey, root.tambleStyleSheetTheme)
-    readonly property url appStyleSheet: root.sheet(root.appStyleSheetDirectory, root.appStyleSheetKey, root.appStyleSheetTheme)
+    readonly property url tambleStyleSheet: tambleSheet.source
+    readonly property url appStyleSheet: appSheet.source
     property bool complete: false
 
     signal styleException(string type, string message)
@@ -40,12 +41,11 @@ T.ApplicationWindow {
         root.loadSheets()
     }
 
-    function sheet(directory: string, key: string, word: string): url {
-        return key.length > 0 ? directory + key + "." + word + ".style" : ""
-    }
-
     function loadSheets() {
-        setup.engine.setStyleSheetSources(root.tambleStyleSheet, root.appStyleSheet)
+        if (appSheet.named)
+            setup.engine.setStyleSheetSources(root.tambleStyleSheet, root.appStyleSheet)
+        else
+            setup.engine.defaultStyleSheetSource = root.tambleStyleSheet
     }
 
     /*! One theme word is in both names, which change one after the other; they are loaded once. Nothing is loaded
@@ -94,6 +94,18 @@ T.ApplicationWindow {
         themeComponent: Component {
             RTheme {}
         }
+    }
+    RSheetName {
+        id: tambleSheet
+        defaultKey: "tamble"
+        defaultThemeWord: theme.stylesheet
+    }
+    RSheetName {
+        id: appSheet
+        defaultKey: "app"
+        defaultThemeWord: theme.stylesheet
+        optional: true
+        onNamedChanged: root.sheetChanged()
     }
     RStyleEngineSetup {
         id: setup

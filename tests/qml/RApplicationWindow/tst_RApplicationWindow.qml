@@ -59,6 +59,13 @@ TestCase {
         }
     }
 
+    Component {
+        id: plainComponent
+        RApplicationWindow {
+            onStyleException: (type, message) => root.exceptions.push(message)
+        }
+    }
+
     function init() {
         // There is no theme before the window is made, and whatever reads it too early warns.
         failOnWarning(/.*/)
@@ -104,6 +111,41 @@ TestCase {
         wait(0)
         compare(window.loads.count, 3)
         compare(root.exceptions, [])
+    }
+
+    function test_appSheetNeedNotExist_data() {
+        const directory = String(Qt.resolvedUrl("."))
+        return [
+            { tag: "nothing set", properties: {}, source: "", exceptions: [] },
+            { tag: "set to what it is", properties: { appStyleSheetKey: "app" }, source: "qrc:/style/app.dark.style",
+                exceptions: ["Style ':/style/app.dark.style' not found."] },
+            { tag: "other theme", properties: { appStyleSheetTheme: "all" }, source: "qrc:/style/app.all.style",
+                exceptions: ["Style ':/style/app.all.style' not found."] },
+            { tag: "no key", properties: { appStyleSheetKey: "" }, source: "", exceptions: [] },
+            { tag: "directory without slash",
+                properties: { appStyleSheetDirectory: directory.slice(0, -1), appStyleSheetKey: "own" },
+                source: directory + "own.dark.style", exceptions: [] },
+            { tag: "directory that is half a name",
+                properties: { appStyleSheetDirectory: directory + "o", appStyleSheetKey: "wn" },
+                source: directory + "own.dark.style", exceptions: [] }
+        ]
+    }
+    function test_appSheetNeedNotExist(row) {
+        const window = createTemporaryObject(plainComponent, null, row.properties)
+        compare(String(window.styleEngine.styleSheetSource), row.source)
+        compare(window.background.color, "#323232")
+        compare(root.exceptions, row.exceptions)
+    }
+
+    function test_unnamedAppSheetAtAChangeOfTheme() {
+        const window = createTemporaryObject(plainComponent, null)
+        const before = Date.now()
+        window.setTheme("light")
+        compare(window.background.color, "#dcdcdc")
+        compare(root.exceptions, [])
+        verify(Date.now() - before < 1000, "waits for no file")
+        window.appStyleSheetTheme = "none"
+        tryCompare(root, "exceptions", ["Style ':/style/app.none.style' not found."], 3000)
     }
 
     function test_styleExceptions() {
