@@ -21,7 +21,7 @@ constexpr double halfTurn = 180.0;
 /// the ratio to its height.
 constexpr double lineTolerance = 0.05;
 constexpr double areaTolerance = 0.4;
-constexpr double shadeTolerance = 0.01;
+constexpr double shadeTolerance = 0.02;
 
 /// Hands on the points of a line, from left to right or from right to left, but those that a straight line between
 /// others passes within the sink's tolerance.

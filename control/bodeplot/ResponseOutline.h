@@ -31,7 +31,7 @@ void responseOutline(const ResponseCurve &curve, const ResponseView &view, Polyl
 ///
 /// The line is held within the frame, with vertices where it crosses the frame's edges and the axis, so that a strip
 /// between these points and the axis covers the visible part of the area. Its edge, which lies below the drawn line,
-/// has fewer vertices than that and may be a hundredth of its height off, from a twentieth of a pixel to 0.4.
+/// has fewer vertices than that and may be a fiftieth of its height off, from a twentieth of a pixel to 0.4.
 void areaOutline(const PolylineRuns &line, const QRectF &frame, double axisY, PolylineRuns &outline);
 
 } // namespace tamble::client

@@ -31,7 +31,7 @@ struct AreaVertex
 /// Appends the area between a curve and a horizontal axis as a triangle strip, after what is there already.
 ///
 /// Within each column the saturation goes evenly from the one at the curve to the one at the axis, however steep the
-/// curve is: within 1.25 %, where the area is more than a pixel high. The curve must not cross the axis between two
+/// curve is: within 4.2 %, where the area is more than two pixels high. The curve must not cross the axis between two
 /// points; points have to be finite, and fewer than two append nothing.
 void appendAreaStrip(std::span<const QPointF> curve, double axisY, const AreaSaturation &saturation,
                      std::vector<AreaVertex> &strip);
