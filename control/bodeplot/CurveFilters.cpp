@@ -1,12 +1,12 @@
 #include "bodeplot/CurveFilters.h"
 
+#include "ControlLog.h"
 #include "bodeplot/RBodeplotFIRFilter.h"
 #include "bodeplot/RBodeplotPointModel.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QVariant>
-#include <QtQml/QQmlInfo>
 
 #include <algorithm>
 #include <utility>
@@ -97,9 +97,10 @@ void CurveFilters::checkSlope(std::size_t position)
     if (m_hasToldOfSlope || !hasUnknownSlope(m_set.records()[position].data()))
         return;
     m_hasToldOfSlope = true;
-    qmlWarning(m_filters.sources[position])
-        << "there is no such slope: write RBodeplotSlopeTypeEnum.SLOPE_TWELVE_DB_SLOPE (2) for 12 dB per octave, "
-           "SLOPE_SIX_DB_SLOPE (1) for 6 dB, SLOPE_NULL_SLOPE (0) for none";
+    warnOfPage(
+        m_filters.sources[position],
+        QStringLiteral("there is no such slope: write RBodeplotSlopeTypeEnum.SLOPE_TWELVE_DB_SLOPE (2) for 12 dB "
+                       "per octave, SLOPE_SIX_DB_SLOPE (1) for 6 dB, SLOPE_NULL_SLOPE (0) for none"));
 }
 
 void CurveFilters::drop(QObject *source)

@@ -1,7 +1,7 @@
 #include "bodeplot/RBodeplotCurve.h"
 
+#include "ControlLog.h"
 #include <QtCore/QScopedValueRollback>
-#include <QtQml/QQmlInfo>
 #include <QtQuick/QQuickWindow>
 
 #include <algorithm>
@@ -48,8 +48,8 @@ void RBodeplotCurve::appendItem(ItemList *list, RBodeplotCalculationItem *item)
     auto *curve = curveOf(list);
     if (!item) {
         if (!std::exchange(curve->m_hasToldOfNoFilter, true))
-            qmlWarning(curve) << "what is no filter item, such as RBodeplotEqFilter, is left out of calculationItems; "
-                                 "other objects go in calculationItemsReference";
+            warnOfPage(curve, QStringLiteral("what is no filter item, such as RBodeplotEqFilter, is left out of "
+                                             "calculationItems; other objects go in calculationItemsReference"));
         return;
     }
     curve->m_calculationItems.append(item);
@@ -113,8 +113,8 @@ void RBodeplotCurve::tellOfUnlistedFilters()
         const auto found = std::ranges::find_if(
             unlisted, [this](const QPointer<QObject> &filter) { return filter && !isListed(filter); });
         if (found != unlisted.end())
-            qmlWarning(*found) << "a filter that is only a child of its curve is not drawn: name it in the curve's "
-                                  "calculationItems";
+            warnOfPage(*found, QStringLiteral("a filter that is only a child of its curve is not drawn: name it in the "
+                                              "curve's calculationItems"));
     };
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }

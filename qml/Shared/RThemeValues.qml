@@ -9,6 +9,7 @@ QtObject {
     id: root
 
     readonly property RTheme defaults: RTheme {}
+    readonly property LoggingCategory log: LoggingCategory { name: "tamble.control" }
     /*! Asked for its type first: a name that nobody has set yet cannot be read. */
     readonly property var source: typeof theme === "undefined" ? root.defaults : theme ?? root.defaults
 
@@ -35,7 +36,7 @@ QtObject {
     function tellWhatIsMissing() {
         const missing = root.members.filter(name => root.source[name] === undefined)
         if (missing.length > 0)
-            console.warn(`The context property "theme" lacks ${missing.join(", ")}; controls take the defaults of RTheme. Make it an RTheme, or give it another name.`)
+            console.warn(root.log, `The context property "theme" lacks ${missing.join(", ")}; controls take the defaults of RTheme. Make it an RTheme, or give it another name.`)
     }
 
     onSourceChanged: root.tellWhatIsMissing()

@@ -19,7 +19,7 @@ private Q_SLOTS:
 void tst_LogCategories::everyWarningHasOne()
 {
     static const QRegularExpression plain(QStringLiteral("\\b(qWarning|qCritical|qmlWarning|qmlInfo|console\\.warn|"
-                                                         "console\\.error)\\s*\\("));
+                                                         "console\\.error)\\s*\\((?!root\\.log)"));
     QStringList places;
     int count = 0;
     for (const char *folder : {"control", "libs", "qml"}) {
@@ -27,6 +27,9 @@ void tst_LogCategories::everyWarningHasOne()
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {
             QFile file(files.next());
+            // Gives the warnings about pages their category.
+            if (files.fileName() == QLatin1String("ControlLog.cpp"))
+                continue;
             QVERIFY(file.open(QFile::ReadOnly));
             ++count;
             if (plain.match(QString::fromUtf8(file.readAll())).hasMatch())
