@@ -133,6 +133,17 @@ TestCase {
         page.setTheme("light")
         verify(String(button.ssBackground) !== plain)
         compare(lamp.color, "#78be20")
+
+        const knob = root.find(page.contentItem, "ssHandle")
+        compare(String(knob.ssBackground), "#404040")
+        knob.forceActiveFocus()
+        keyClick(Qt.Key_Up)
+        compare(page.level, -19.5)
+        page.level = 0
+        tryCompare(knob, "value", 0, 1000, "settled")
+        keyClick(Qt.Key_Up)
+        compare(knob.value, 0.5)
+        tryCompare(knob, "value", 0, 1000, "the page allows no more")
     }
 
     function test_controlInTheLibrary() {
