@@ -27,7 +27,8 @@ T.ToolTip {
             width: Math.min(words.implicitWidth, root.widest)
             padding: 6 * RThemeValues.unit
             wrapMode: Text.Wrap
-            text: root.text
+            // More would take seconds to wrap, and nobody reads it.
+            text: root.text.length > 1000 ? root.text.slice(0, 1000) + "…" : root.text
             color: frame.ssForegroundItem
             font.pixelSize: RThemeValues.fontSizeS
         }

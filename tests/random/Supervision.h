@@ -32,6 +32,6 @@ int supervised(const std::function<int()> &work);
 /// all that there is.
 void limitFurtherMemory(std::size_t bytes);
 
-/// Ends the process when it uses so much processor time, or stands still for ten times as long, before the next call.
-/// Sanitizers have ten times the time.
+/// Ends the process when it uses so much processor time, or stands still for twenty times as long, before the next
+/// call. Sanitizers have ten times the time.
 void limitTime(std::chrono::seconds time);

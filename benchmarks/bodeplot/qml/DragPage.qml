@@ -12,7 +12,9 @@ Item {
 
     /*! Where the pointer takes hold of a handle, in pixels of the page. */
     function grip(index: int): point {
+        // qmllint disable
         const place = curve.filterPointModels[index].point
+        // qmllint enable
         return curve.mapToItem(root, place.x * curve.width, place.y * curve.height - 12 * RThemeValues.unit)
     }
 
@@ -47,6 +49,7 @@ Item {
                 calculationItems[index].freq = frequency
                 calculationItems[index].gain = gain
             }
+            // qmllint disable
             Component.onCompleted: calculationItems = Array.from({
                 length: root.count
             }, (_, i) => band.createObject(root, {
@@ -55,6 +58,7 @@ Item {
                 quality: 0.7 + i % 5,
                 label: i + 1
             }))
+            // qmllint enable
         }
     }
 }

@@ -173,5 +173,17 @@ ThemedTestCase {
         compare(overlay.children[0].width, 320)
         mouseMove(root, 300, 250)
         tryVerify(() => !overlay.visible)
+        label.text = "a".repeat(20000)
+        mouseMove(label, 6, 6)
+        tryVerify(() => overlay.visible, 2000)
+        compare(longestText(overlay), 1001, "not more than can be read")
+        mouseMove(root, 300, 250)
+        tryVerify(() => !overlay.visible)
+    }
+    function longestText(item: Item): int {
+        let longest = item instanceof Text ? item.text.length : 0
+        for (let i = 0; i < item.children.length; ++i)
+            longest = Math.max(longest, longestText(item.children[i]))
+        return longest
     }
 }
