@@ -96,7 +96,12 @@ QSGNode *RTintedImage::updateTintedNode(QSGNode *old, UpdatePaintNodeData *data)
         node->setFlag(QSGNode::OwnsMaterial);
     }
     QQuickImagePrivate *image = privateOf(this);
-    QSGTexture *texture = image->sceneGraphRenderContext()->textureForFactory(image->pix.textureFactory(), window());
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+    QQuickTextureFactory *picture = image->pix.textureFactory();
+#else
+    QQuickTextureFactory *picture = image->currentPix->textureFactory();
+#endif
+    QSGTexture *texture = image->sceneGraphRenderContext()->textureForFactory(picture, window());
     const bool textureChanged = material->setTexture(texture);
     const bool colorChanged = material->setColor(m_tint);
     if (textureChanged || colorChanged)
