@@ -1,7 +1,7 @@
 #include "button/RButtonBase.h"
 
-#include "button/ButtonInterface.h"
 #include "ControlLog.h"
+#include "button/ButtonInterface.h"
 #include "button/Mnemonic.h"
 #include "decoration/PartComponents.h"
 #include "style/StyleTypeName.h"

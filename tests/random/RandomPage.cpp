@@ -44,12 +44,6 @@ std::vector<QMetaProperty> writableProperties(const QObject &object)
     return result;
 }
 
-// Widths beyond all screens exhaust the memory.
-bool diesOfWidth(const QString &name)
-{
-    return name == QLatin1String("RBodeplotCurve") || name == QLatin1String("RBodeplotCurveTemplate");
-}
-
 // A sheet that is not there is waited for, for a second.
 bool canTakeASecond(const QMetaProperty &property)
 {
@@ -73,7 +67,7 @@ TypeShelf::TypeShelf(QQmlEngine &engine)
     const QList<QQmlType> types = QQmlMetaType::qmlTypes();
     for (const QQmlType &type : types) {
         const bool canBeMade = (type.isCreatable() || type.isComposite()) && !type.isSingleton();
-        if (canBeMade && type.module() == QLatin1String(Module) && !diesOfWidth(type.elementName()))
+        if (canBeMade && type.module() == QLatin1String(Module))
             names.append(type.elementName());
     }
     names.sort();
