@@ -26,7 +26,10 @@ endif()
 add_compile_definitions(QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
 
 if(TAMBLE_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    # Little optimisation and only lines for the reports: compiling takes twice as long otherwise, running hardly less.
+    add_compile_options(
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -O1 -g1
+    )
     add_link_options(-fsanitize=address,undefined)
 else()
     # A sanitizer's run-time symbols are left undefined in shared libraries.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ControlExport.h"
 #include "plot/SmoothStroke.h"
 #include "plot/SmoothStrokeMaterial.h"
 #include "scenegraph/PictureShape.h"
@@ -13,7 +14,7 @@
 namespace tamble::client {
 
 /// Scene-graph node of a line with smooth edges, in one colour; owns geometry and material and updates them in place.
-class SmoothStrokeNode : public QSGGeometryNode, public PictureShape
+class TAMBLE_CLIENT_CONTROL_EXPORT SmoothStrokeNode : public QSGGeometryNode, public PictureShape
 {
 public:
     SmoothStrokeNode();
