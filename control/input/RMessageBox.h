@@ -30,7 +30,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RMessageBox : public QObject
     Q_PROPERTY(bool opened READ opened NOTIFY openedChanged)
 
 public:
-    enum Icon {
+    enum Icon : int {
         NoIcon,
         Information,
         Question,

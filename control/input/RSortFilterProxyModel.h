@@ -28,7 +28,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RSortFilterProxyModel : public QSortFilterPro
     Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
-    enum Syntax {
+    enum Syntax : int {
         FixedString = 0,
         Wildcard = 1,
         RegularExpression = 2,

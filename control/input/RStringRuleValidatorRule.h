@@ -15,7 +15,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RStringRuleValidatorRule : public QObject
     QML_UNCREATABLE("You cannot create an instance of the Enums.")
 
 public:
-    enum Type {
+    enum Type : int {
         RULE_ANY = 0,          ///< no control characters
         RULE_ASCII = 1,        ///< printable ASCII
         RULE_ALPHANUMERIC = 2, ///< ASCII letters and digits

@@ -18,7 +18,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT LinePlotter : public tamble::client::Plotter
     Q_PROPERTY(qreal lineWidth READ lineWidth WRITE setLineWidth NOTIFY lineWidthChanged)
 
 public:
-    enum ORIENTATION { Horizontal, Vertical };
+    enum ORIENTATION : int { Horizontal, Vertical };
     Q_ENUM(ORIENTATION)
 
     explicit LinePlotter(QQuickItem *parent = nullptr);

@@ -23,7 +23,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RWorkspaceSelection : public QObject
     Q_PROPERTY(QRectF boundingRect READ boundingRect NOTIFY boundingRectChanged)
 
 public:
-    enum Mode {
+    enum Mode : int {
         Replace = 0,
         Add = 1,
         Toggle = 2,

@@ -41,8 +41,9 @@ protected:
     QSGNode *updatePaintNode(QSGNode *old, UpdatePaintNodeData *data) override
     {
         ++m_updateCount;
-        m_node = static_cast<ResponseCurveNode *>(RBodeplotCurve::updatePaintNode(old, data));
-        return m_node;
+        QSGNode *node = RBodeplotCurve::updatePaintNode(old, data);
+        m_node = dynamic_cast<ResponseCurveNode *>(node); // the software renderer has another
+        return node;
     }
 
 private:

@@ -1,5 +1,5 @@
-#include "bodeplot/AllocationCount.h"
 #include "bodeplot/CurvePage.h"
+#include "support/AllocationCount.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QObject>

@@ -97,7 +97,6 @@ int readEverything(QJSEngine &engine, QObject *object)
     QStringList names;
     for (int i = 0; i < object->metaObject()->propertyCount(); ++i)
         names.append(QString::fromLatin1(object->metaObject()->property(i).name()));
-    QQmlEngine::setObjectOwnership(object, QQmlEngine::CppOwnership);
     QJSValue read = engine.evaluate(QStringLiteral("(function(object, names) {"
                                                    "  let count = 0;"
                                                    "  function look(value) {"
@@ -108,7 +107,7 @@ int readEverything(QJSEngine &engine, QObject *object)
                                                    "  for (const name in object) look(object[name]);"
                                                    "  for (const name of names) look(object[name]);"
                                                    "  return count; })"));
-    return read.call({engine.newQObject(object), engine.toScriptValue(names)}).toInt();
+    return read.call({engine.toScriptValue(object), engine.toScriptValue(names)}).toInt();
 }
 
 } // namespace

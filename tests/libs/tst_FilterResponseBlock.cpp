@@ -1,39 +1,13 @@
 #include "libs/ResponseSupport.h"
+#include "support/AllocationCount.h"
 #include "support/TestProgram.h"
 
 #include <QTest>
 
 #include <algorithm>
-#include <atomic>
-#include <cstdlib>
 #include <functional>
-#include <new>
 
 using namespace tamble::common;
-
-namespace {
-
-std::atomic<int> allocations = 0;
-
-} // namespace
-
-void *operator new(std::size_t size)
-{
-    ++allocations;
-    if (void *memory = std::malloc(size > 0 ? size : 1))
-        return memory;
-    throw std::bad_alloc();
-}
-
-void operator delete(void *memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void *memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 namespace {
 
@@ -275,12 +249,12 @@ void tst_FilterResponseBlock::dragAllocatesNothing()
     FilterAlgorithm::calculateAggregatedLevel(mixture.block, level);
     for (bool warm : {false, true}) {
         mixture.change(1);
-        const int before = allocations;
+        takeAllocationCount();
         for (unsigned i = 0; i < mixture.block.items.size(); ++i)
             single(mixture.block, i);
         FilterAlgorithm::calculateAggregatedLevel(mixture.block, level);
         if (warm)
-            QCOMPARE(allocations - before, 0);
+            QCOMPARE(takeAllocationCount(), std::size_t(0));
     }
 }
 

@@ -476,26 +476,31 @@ void tst_StyleResolver::costOfRepeatedWords()
 
 void tst_StyleResolver::costOfManyNamesAndWords()
 {
-    // Distinct ones in an order that is not the alphabet's.
-    constexpr int count = 100'000;
-    QString declarations;
-    QString selectors;
-    QString name;
-    for (int i = count; i > 0; --i) {
-        declarations += QStringLiteral("k%1: v; ").arg(i);
-        selectors += QStringLiteral(".c%1,").arg(i);
-        name += QStringLiteral("c%1 ").arg(i);
-    }
-    QElapsedTimer timer;
-    timer.start();
-    const StyleSheet names = sheetFrom("A { " + declarations + "}");
-    StylePathPool pool;
-    QCOMPARE(StyleResolver(names).resolve(*pathFrom(pool, "A")).all().size(), std::size_t(count));
-    const StyleSheet words = sheetFrom(selectors + "A { k: v }");
-    QCOMPARE(StyleResolver(words).matches(*pathFrom(pool, "A." + name)).size(), std::size_t(count) + 1);
-    QCOMPARE(StyleResolver(words).matches(*pathFrom(pool, "A." + name + "/A." + name)).size(), std::size_t(count) + 1);
-    // Half a second in fact; what takes more than linear time takes many.
-    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
+    const auto cost = [](int count) {
+        // Distinct ones in an order that is not the alphabet's.
+        QString declarations;
+        QString selectors;
+        QString name;
+        for (int i = count; i > 0; --i) {
+            declarations += QStringLiteral("k%1: v; ").arg(i);
+            selectors += QStringLiteral(".c%1,").arg(i);
+            name += QStringLiteral("c%1 ").arg(i);
+        }
+        QElapsedTimer timer;
+        timer.start();
+        const StyleSheet names = sheetFrom("A { " + declarations + "}");
+        StylePathPool pool;
+        const auto found = StyleResolver(names).resolve(*pathFrom(pool, "A")).all().size();
+        const StyleSheet words = sheetFrom(selectors + "A { k: v }");
+        const auto one = StyleResolver(words).matches(*pathFrom(pool, "A." + name)).size();
+        const auto two = StyleResolver(words).matches(*pathFrom(pool, "A." + name + "/A." + name)).size();
+        return found == std::size_t(count) && one == found + 1 && two == one ? double(timer.nsecsElapsed()) : 0.0;
+    };
+    // Four times as many take four times as long, not sixteen times; other programs may disturb one comparison.
+    double growth = std::numeric_limits<double>::infinity();
+    for (int i = 0; i < 5 && !(growth < 9.0); ++i)
+        growth = std::min(growth, cost(80'000) / cost(20'000));
+    QVERIFY2(growth > 0.0 && growth < 9.0, qPrintable(QString::number(growth)));
 }
 
 void tst_StyleResolver::knownPathsAndElementsCostNothing()

@@ -34,7 +34,12 @@ int run(int argc, char **argv)
         return EXIT_FAILURE;
     }
     argv[1] = argv[0];
-    return QTest::qExec(found->second().get(), argc - 1, argv + 1);
+    std::unique_ptr<QObject> test = found->second();
+    const int failures = QTest::qExec(test.get(), argc - 1, argv + 1);
+    test.reset();
+    // An engine's singletons outlive it until then.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return failures;
 }
 
 } // namespace TestProgram

@@ -1,4 +1,4 @@
-#include "bodeplot/AllocationCount.h"
+#include "support/AllocationCount.h"
 
 #include <utility>
 
