@@ -5,7 +5,6 @@
 #include <QtGui/QAccessible>
 #include <QtGui/QWindow>
 #include <QtQuick/private/qquickaccessibleattached_p.h>
-#include <QtQuick/private/qquickitem_p.h>
 
 namespace tamble::client {
 
@@ -17,7 +16,7 @@ QAccessibleInterface *makeInterface(const QString &className, QObject *object)
     if (className != QLatin1String(RButtonBase::staticMetaObject.className()))
         return nullptr;
     auto *button = static_cast<RButtonBase *>(object);
-    return QQuickItemPrivate::get(button)->isAccessible ? new ButtonInterface(button) : nullptr;
+    return isIgnoredByTools(*button) ? nullptr : new ButtonInterface(button);
 }
 
 } // namespace
@@ -79,6 +78,12 @@ QString accessibleNameOf(const RButtonBase &button)
 {
     const auto *attached = QQuickAccessibleAttached::attachedProperties(&button);
     return attached && !attached->name().isEmpty() ? attached->name() : button.plainText();
+}
+
+bool isIgnoredByTools(const RButtonBase &button)
+{
+    const auto *attached = QQuickAccessibleAttached::attachedProperties(&button);
+    return attached && attached->ignored();
 }
 
 void installButtonInterfaces()

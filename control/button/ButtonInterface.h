@@ -27,6 +27,9 @@ private:
 /// The name that the page attaches, or else the text without its mnemonic.
 QString accessibleNameOf(const RButtonBase &button);
 
+/// Whether the page has hidden the button from assistive tools.
+bool isIgnoredByTools(const RButtonBase &button);
+
 /// Has Qt make the interfaces, as soon as somebody asks for one. Once is enough, more does no harm.
 void installButtonInterfaces();
 

@@ -64,11 +64,7 @@ bool repeatsSpace(const QKeyEvent &event)
 
 RButtonBase::RButtonBase(QQuickItem *parent)
     : QQuickAbstractButton(*new RButtonBasePrivate, parent)
-{
-    // Says that there is an interface to ask for; what it tells is read from the button.
-    Q_D(RButtonBase);
-    d->setAccessible();
-}
+{}
 
 void RButtonBase::setSelectable(bool selectable)
 {
@@ -228,8 +224,11 @@ void RButtonBase::clickOncePerKey()
 // In place of the template, which makes an attached object to tell what the button's own interface tells.
 void RButtonBase::accessibilityActiveChanged(bool active)
 {
-    if (!active)
+    Q_D(RButtonBase);
+    if (!active || isIgnoredByTools(*this))
         return;
+    // Not before: Qt makes an interface to tell of each change of what is accessible, whether or not somebody listens.
+    d->setAccessible();
     announce(QAccessible::ObjectCreated);
     warnAboutMissingName();
 }
@@ -246,12 +245,16 @@ void RButtonBase::warnAboutMissingName() const
 
 void RButtonBase::announce(QAccessible::Event change)
 {
+    if (!QAccessible::isActive())
+        return;
     QAccessibleEvent event(this, change);
     QAccessible::updateAccessibility(&event);
 }
 
 void RButtonBase::announceState()
 {
+    if (!QAccessible::isActive())
+        return;
     QAccessible::State changed;
     changed.checkable = changed.checked = changed.checkStateMixed = changed.pressed = true;
     QAccessibleStateChangeEvent event(this, changed);
