@@ -49,7 +49,8 @@ const RuleSet &ruleSet(const QStringList &directories)
 ControlImageProvider::ControlImageProvider(const QUrl &baseUrl)
     : QQuickImageProvider(QQmlImageProviderBase::Image)
 {
-    const RuleSet &rules = ruleSet(assetDirectories(baseUrl));
+    const QStringList directories = assetDirectories(baseUrl);
+    const RuleSet &rules = ruleSet(directories);
     m_rules = {&rules.theme, &rules.products, &rules.fallback};
 }
 
