@@ -74,7 +74,7 @@ struct Page
         root.reset(component.create());
         if (!root)
             qWarning().noquote() << component.errorString();
-        curve = root ? root->findChild<Curve *>(QStringLiteral("curve")) : nullptr;
+        curve = root ? static_cast<Curve *>(root->findChild<RBodeplotCurve *>(QStringLiteral("curve"))) : nullptr;
     }
 
     QObject *filter(int index) const
