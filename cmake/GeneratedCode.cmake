@@ -9,21 +9,22 @@ function(tamble_relax_generated_code target)
 
     get_target_property(sources ${target} SOURCES)
     list(FILTER sources INCLUDE REGEX "/qmlcache/.*\\.cpp$")
+    set_source_files_properties(${sources} TARGET_DIRECTORY ${target} PROPERTIES HEADER_FILE_ONLY ON)
     set(number 0)
-    foreach(source IN LISTS sources)
-        math(EXPR group "${number} / ${files_at_once}")
-        set_source_files_properties(${source} TARGET_DIRECTORY ${target} PROPERTIES UNITY_GROUP qml${group})
+    while(sources)
+        list(SUBLIST sources 0 ${files_at_once} together)
+        list(REMOVE_ITEM sources ${together})
+        list(TRANSFORM together REPLACE "(.+)" "#include \"\\1\"\n" OUTPUT_VARIABLE lines)
+        string(JOIN "" content ${lines})
+        set(file ${PROJECT_BINARY_DIR}/united/${target}-qml${number}.cpp)
+        file(CONFIGURE OUTPUT ${file} CONTENT "${content}" @ONLY)
+        set_source_files_properties(${file} TARGET_DIRECTORY ${target} PROPERTIES
+            COMPILE_OPTIONS -w
+            OBJECT_DEPENDS "${together}"
+            SKIP_AUTOMOC ON
+            SKIP_UNITY_BUILD_INCLUSION ON
+        )
+        target_sources(${target} PRIVATE ${file})
         math(EXPR number "${number} + 1")
-    endforeach()
-
-    # The option -w for single files would keep them apart.
-    set(before)
-    foreach(warning IN ITEMS all extra pedantic shadow conversion sign-conversion float-conversion)
-        string(APPEND before "#pragma GCC diagnostic ignored \"-W${warning}\"\n")
-    endforeach()
-    set_target_properties(${target} PROPERTIES
-        UNITY_BUILD ON
-        UNITY_BUILD_MODE GROUP
-        UNITY_BUILD_CODE_BEFORE_INCLUDE "${before}"
-    )
+    endwhile()
 endfunction()

@@ -18,6 +18,12 @@ if(TAMBLE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${TAMBLE_CCACHE})
 endif()
 
+# A few files of a target are compiled at once, since most of the time goes into Qt's templates, which each would make
+# anew; and GCC does not stop to look for memory to free.
+set(CMAKE_UNITY_BUILD ON)
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 8)
+add_compile_options($<$<CXX_COMPILER_ID:GNU>:--param=ggc-min-heapsize=500000>)
+
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion)
 if(TAMBLE_WARNINGS_AS_ERRORS)
     add_compile_options(-Werror)

@@ -150,5 +150,5 @@ void tst_Icons::nothingElseIsShipped()
     QCOMPARE(unexpected, QStringList());
 }
 
-static const TestClass<tst_Icons> registered;
+template struct TestClass<tst_Icons>;
 #include "tst_Icons.moc"

@@ -201,5 +201,5 @@ void tst_BodeplotFrame::notANumberIsIgnored()
     QCOMPARE(spy.count(), 0);
 }
 
-static const TestClass<tst_BodeplotFrame> registered;
+template struct TestClass<tst_BodeplotFrame>;
 #include "tst_BodeplotFrame.moc"

@@ -235,5 +235,5 @@ void tst_CurveDrawing::areaFadesAlongEachColumn()
     QVERIFY2(worst < 0.05, qPrintable(QStringLiteral("%1 at %2, %3").arg(worst).arg(place.x()).arg(place.y())));
 }
 
-static const TestClass<tst_CurveDrawing> registered;
+template struct TestClass<tst_CurveDrawing>;
 #include "tst_CurveDrawing.moc"

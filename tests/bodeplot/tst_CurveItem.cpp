@@ -486,5 +486,5 @@ void tst_CurveItem::outOfRangeIsLoggedOnce()
     QCOMPARE(page.curve->lines().aggregated().points.count(), std::size_t(0));
 }
 
-static const TestClass<tst_CurveItem> registered;
+template struct TestClass<tst_CurveItem>;
 #include "tst_CurveItem.moc"

@@ -255,5 +255,5 @@ void tst_FilterItems::listReferenceFollowsItsList()
     QCOMPARE(curve->calculationItemsReference().count(), 2);
 }
 
-static const TestClass<tst_FilterItems> registered;
+template struct TestClass<tst_FilterItems>;
 #include "tst_FilterItems.moc"

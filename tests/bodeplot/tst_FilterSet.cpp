@@ -1,17 +1,15 @@
 #include "bodeplot/FilterSet.h"
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <cmath>
-#include <limits>
 
 using namespace tamble::client;
 
 namespace {
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 FilterRecord eq(int type, double frequency = 200.0, double gain = 6.0, double quality = 1.0, int slope = 0)
 {
@@ -345,5 +343,5 @@ void tst_FilterSet::walkingByFrequency()
     QCOMPARE(neighbourHandle({}, -1, true), -1);
 }
 
-static const TestClass<tst_FilterSet> registered;
+template struct TestClass<tst_FilterSet>;
 #include "tst_FilterSet.moc"

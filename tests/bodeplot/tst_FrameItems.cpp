@@ -3,6 +3,7 @@
 #include "bodeplot/RLimiterCurve.h"
 #include "bodeplot/RSimpleCurve.h"
 #include "plot/SmoothStrokeNode.h"
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QObject>
@@ -12,7 +13,6 @@
 #include <QtTest/QTest>
 
 #include <cmath>
-#include <limits>
 #include <memory>
 #include <span>
 
@@ -23,8 +23,6 @@ namespace {
 using Points = QList<QPointF>;
 
 constexpr int Linear = RBodeplotAxisScaleEnum::LINEAR;
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 /// As a page's inline style object: values that tell when they change.
 class Style : public QObject
@@ -461,5 +459,5 @@ void tst_FrameItems::badNumbersReachNoVertex()
     feed<RLimiterCurve>(number);
 }
 
-static const TestClass<tst_FrameItems> registered;
+template struct TestClass<tst_FrameItems>;
 #include "tst_FrameItems.moc"

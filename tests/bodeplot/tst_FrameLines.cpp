@@ -2,6 +2,7 @@
 #include "bodeplot/FrameGridLines.h"
 #include "bodeplot/FrameTicks.h"
 #include "bodeplot/LimiterLine.h"
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QObject>
@@ -9,7 +10,6 @@
 #include <QtTest/QTest>
 
 #include <cmath>
-#include <limits>
 
 using namespace tamble::client;
 
@@ -18,9 +18,6 @@ namespace {
 using Numbers = QList<double>;
 using Points = QList<QPointF>;
 using Lines = QList<Points>;
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 AxisRange linear(double from, double to)
 {
@@ -479,5 +476,5 @@ void tst_FrameLines::thresholdSteps()
     QCOMPARE(thresholdMovedBy(threshold, difference, FrameAxes()), moved);
 }
 
-static const TestClass<tst_FrameLines> registered;
+template struct TestClass<tst_FrameLines>;
 #include "tst_FrameLines.moc"

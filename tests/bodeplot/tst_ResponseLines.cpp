@@ -2,6 +2,7 @@
 #include "bodeplot/ResponseLines.h"
 #include "bodeplot/ResponseOutline.h"
 #include "plot/SmoothStroke.h"
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QObject>
@@ -15,8 +16,6 @@ using namespace tamble::client;
 using tamble::common::BodePlotCalculationResults;
 
 namespace {
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 using Points = QList<QPointF>;
 using Runs = QList<Points>;
@@ -357,5 +356,5 @@ void tst_ResponseLines::strokePieces()
     QCOMPARE(strip.size(), std::size_t(10));
 }
 
-static const TestClass<tst_ResponseLines> registered;
+template struct TestClass<tst_ResponseLines>;
 #include "tst_ResponseLines.moc"

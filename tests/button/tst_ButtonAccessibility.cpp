@@ -418,5 +418,5 @@ void tst_ButtonAccessibility::missingNameIsReportedOnce()
     QVERIFY(first && second);
 }
 
-static const TestClass<tst_ButtonAccessibility> registered;
+template struct TestClass<tst_ButtonAccessibility>;
 #include "tst_ButtonAccessibility.moc"

@@ -194,5 +194,5 @@ void tst_ControlImageProvider::asynchronousRequestsOutliveTheEngine()
     }
 }
 
-static const TestClass<tst_ControlImageProvider> registered;
+template struct TestClass<tst_ControlImageProvider>;
 #include "tst_ControlImageProvider.moc"

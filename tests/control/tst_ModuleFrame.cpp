@@ -206,5 +206,5 @@ void tst_ModuleFrame::enginesComeAndGo()
     QVERIFY2(growthPerEngine < 250, qPrintable(QStringLiteral("%1 bytes per engine").arg(growthPerEngine)));
 }
 
-static const TestClass<tst_ModuleFrame> registered;
+template struct TestClass<tst_ModuleFrame>;
 #include "tst_ModuleFrame.moc"

@@ -338,5 +338,5 @@ void tst_TypeCatalogue::attachedStyleSet()
     QCOMPARE(object->property("state").toString().trimmed(), QStringLiteral("hovered"));
 }
 
-static const TestClass<tst_TypeCatalogue> registered;
+template struct TestClass<tst_TypeCatalogue>;
 #include "tst_TypeCatalogue.moc"

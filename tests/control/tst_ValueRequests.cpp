@@ -77,5 +77,5 @@ void tst_ValueRequests::toolsEditValues()
     QVERIFY(page.root->property("log").toStringList().isEmpty());
 }
 
-static const TestClass<tst_ValueRequests> registered;
+template struct TestClass<tst_ValueRequests>;
 #include "tst_ValueRequests.moc"

@@ -258,5 +258,5 @@ void tst_Calculators::pointsStayInsideThePlot()
     }
 }
 
-static const TestClass<tst_Calculators> registered;
+template struct TestClass<tst_Calculators>;
 #include "tst_Calculators.moc"

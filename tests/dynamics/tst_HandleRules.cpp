@@ -1,19 +1,16 @@
 #include "dynamics/HandleRules.h"
 #include "dynamics/NumberPlaces.h"
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QObject>
 #include <QtTest/QtTest>
 
 #include <cmath>
-#include <limits>
 
 using namespace tamble::client;
 
 namespace {
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 /// Equal to the last digit: what a handle sends stands in texts and files. NaN equals NaN.
 bool isSame(double a, double b)
@@ -210,5 +207,5 @@ void tst_HandleRules::numberStarts()
     QVERIFY(tamble::client::numberStarts(spans, axisLength, 4.0) == expected);
 }
 
-static const TestClass<tst_HandleRules> registered;
+template struct TestClass<tst_HandleRules>;
 #include "tst_HandleRules.moc"

@@ -1,20 +1,17 @@
 #include "dynamics/CompressorCurve.h"
 #include "dynamics/TransferCurves.h"
 #include "dynamics/TransferScale.h"
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QObject>
 #include <QtTest/QtTest>
 
 #include <cmath>
-#include <limits>
 
 using namespace tamble::client;
 
 namespace {
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 bool isNear(const QPointF &a, const QPointF &b)
 {
@@ -270,5 +267,5 @@ void tst_TransferCurves::kneeMeetsBothParts()
     }
 }
 
-static const TestClass<tst_TransferCurves> registered;
+template struct TestClass<tst_TransferCurves>;
 #include "tst_TransferCurves.moc"

@@ -1,20 +1,17 @@
 #include "fader/FaderDrag.h"
 #include "fader/FaderTravel.h"
 #include "fader/TransferTable.h"
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QObject>
 #include <QtTest/QTest>
 
 #include <cmath>
-#include <limits>
 
 using namespace tamble::client;
 
 namespace {
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 bool isNear(double actual, double expected, double tolerance)
 {
@@ -240,5 +237,5 @@ void tst_FaderLaws::drag()
     QCOMPARE(drag.moved(55.0, 0.0, 1.0, 0.89), 0.99); // without a travel nothing moves from the last anchor
 }
 
-static const TestClass<tst_FaderLaws> registered;
+template struct TestClass<tst_FaderLaws>;
 #include "tst_FaderLaws.moc"

@@ -84,5 +84,5 @@ void tst_FaderMarks::given()
     QCOMPARE(labelled, labels);
 }
 
-static const TestClass<tst_FaderMarks> registered;
+template struct TestClass<tst_FaderMarks>;
 #include "tst_FaderMarks.moc"

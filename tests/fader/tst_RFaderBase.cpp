@@ -112,5 +112,5 @@ void tst_RFaderBase::accessible()
     QCOMPARE(edited.count(), 1);
 }
 
-static const TestClass<tst_RFaderBase> registered;
+template struct TestClass<tst_RFaderBase>;
 #include "tst_RFaderBase.moc"

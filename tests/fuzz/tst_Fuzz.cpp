@@ -66,5 +66,5 @@ void tst_Fuzz::cascade()
     });
 }
 
-static const TestClass<tst_Fuzz> registered;
+template struct TestClass<tst_Fuzz>;
 #include "tst_Fuzz.moc"

@@ -210,5 +210,5 @@ void tst_AudioEngine::startsAndStops()
     }
 }
 
-static const TestClass<tst_AudioEngine> registered;
+template struct TestClass<tst_AudioEngine>;
 #include "tst_AudioEngine.moc"

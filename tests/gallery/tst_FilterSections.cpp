@@ -129,5 +129,5 @@ void tst_FilterSections::qualityCounts()
     }
 }
 
-static const TestClass<tst_FilterSections> registered;
+template struct TestClass<tst_FilterSections>;
 #include "tst_FilterSections.moc"

@@ -191,5 +191,5 @@ void tst_GalleryAudio::pageSeesTheSameObject()
     tap.setChannel(2);
 }
 
-static const TestClass<tst_GalleryAudio> registered;
+template struct TestClass<tst_GalleryAudio>;
 #include "tst_GalleryAudio.moc"

@@ -269,5 +269,5 @@ void tst_Measurements::spectrumAverages()
     QVERIFY(isNear(spectrum.levels()[34], -4.34, 0.02));
 }
 
-static const TestClass<tst_Measurements> registered;
+template struct TestClass<tst_Measurements>;
 #include "tst_Measurements.moc"

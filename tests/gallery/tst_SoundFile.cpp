@@ -171,5 +171,5 @@ void tst_SoundFile::truncatedFilePlaysWhatIsThere()
     QCOMPARE(std::count_if(samples.begin(), samples.end(), isHalf), 4000);
 }
 
-static const TestClass<tst_SoundFile> registered;
+template struct TestClass<tst_SoundFile>;
 #include "tst_SoundFile.moc"

@@ -2,23 +2,16 @@
 #include "input/RTextFieldIntValidator.h"
 #include "input/RTextFieldIpAddressValidator.h"
 #include "input/RTextFieldPinValidator.h"
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QObject>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
-#include <limits>
-
 using namespace tamble::client;
 
 namespace {
-
-constexpr auto Invalid = QValidator::Invalid;
-constexpr auto Intermediate = QValidator::Intermediate;
-constexpr auto Acceptable = QValidator::Acceptable;
-constexpr double Infinity = std::numeric_limits<double>::infinity();
-constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
 QValidator::State stateOf(const QValidator &validator, QString text)
 {
@@ -55,33 +48,33 @@ void tst_FieldValidators::decimals_data()
     QTest::addColumn<int>("decimals");
     QTest::addColumn<QValidator::State>("state");
 
-    QTest::newRow("in range") << "3.5" << -10.0 << 10.0 << 1 << Acceptable;
-    QTest::newRow("comma separates") << "3,5" << -10.0 << 10.0 << 1 << Acceptable;
-    QTest::newRow("no digit before the separator") << ".5" << -10.0 << 10.0 << 1 << Acceptable;
-    QTest::newRow("on the bound") << "-10" << -10.0 << 10.0 << 1 << Acceptable;
-    QTest::newRow("true minus") << QStringLiteral("\u22123,5") << -10.0 << 10.0 << 1 << Acceptable;
-    QTest::newRow("true minus, below") << QStringLiteral("\u221211") << -10.0 << 10.0 << 1 << Intermediate;
-    QTest::newRow("true minus, only positive") << QStringLiteral("\u2212") << 0.0 << 10.0 << 1 << Invalid;
-    QTest::newRow("empty") << "" << -10.0 << 10.0 << 1 << Intermediate;
-    QTest::newRow("sign alone") << "-" << -10.0 << 10.0 << 1 << Intermediate;
-    QTest::newRow("separator alone") << "," << -10.0 << 10.0 << 1 << Intermediate;
-    QTest::newRow("fraction to come") << "5." << -10.0 << 10.0 << 1 << Intermediate;
-    QTest::newRow("above the range") << "11" << -10.0 << 10.0 << 1 << Intermediate;
-    QTest::newRow("below the range") << "2" << 20.0 << 20000.0 << 1 << Intermediate;
-    QTest::newRow("blank behind") << "5 " << -10.0 << 10.0 << 1 << Intermediate;
-    QTest::newRow("blank inside") << "5 0" << -10.0 << 100.0 << 1 << Invalid;
-    QTest::newRow("second separator") << "1.2," << -10.0 << 10.0 << 2 << Invalid;
-    QTest::newRow("sign in the middle") << "1-" << -10.0 << 10.0 << 2 << Invalid;
-    QTest::newRow("exponent") << "1e3" << 0.0 << 1e4 << 2 << Invalid;
-    QTest::newRow("minus without negative numbers") << "-" << 0.0 << 10.0 << 1 << Invalid;
-    QTest::newRow("separator without decimals") << "5." << 0.0 << 10.0 << 0 << Invalid;
-    QTest::newRow("too many decimals") << "0.12" << 0.0 << 10.0 << 1 << Invalid;
-    QTest::newRow("any number of decimals") << "0.123456" << 0.0 << 10.0 << -1 << Acceptable;
-    QTest::newRow("15 digits") << "1234567890.12345" << 0.0 << Infinity << 5 << Acceptable;
-    QTest::newRow("16 digits") << "12345678901.12345" << 0.0 << Infinity << 5 << Invalid;
-    QTest::newRow("other digits") << QStringLiteral("\u0663") << 0.0 << 10.0 << 0 << Invalid;
-    QTest::newRow("open bounds") << "-12" << NotANumber << NotANumber << 0 << Acceptable;
-    QTest::newRow("reversed bounds") << "5" << 10.0 << 0.0 << 0 << Intermediate;
+    QTest::newRow("in range") << "3.5" << -10.0 << 10.0 << 1 << QValidator::Acceptable;
+    QTest::newRow("comma separates") << "3,5" << -10.0 << 10.0 << 1 << QValidator::Acceptable;
+    QTest::newRow("no digit before the separator") << ".5" << -10.0 << 10.0 << 1 << QValidator::Acceptable;
+    QTest::newRow("on the bound") << "-10" << -10.0 << 10.0 << 1 << QValidator::Acceptable;
+    QTest::newRow("true minus") << QStringLiteral("\u22123,5") << -10.0 << 10.0 << 1 << QValidator::Acceptable;
+    QTest::newRow("true minus, below") << QStringLiteral("\u221211") << -10.0 << 10.0 << 1 << QValidator::Intermediate;
+    QTest::newRow("true minus, only positive") << QStringLiteral("\u2212") << 0.0 << 10.0 << 1 << QValidator::Invalid;
+    QTest::newRow("empty") << "" << -10.0 << 10.0 << 1 << QValidator::Intermediate;
+    QTest::newRow("sign alone") << "-" << -10.0 << 10.0 << 1 << QValidator::Intermediate;
+    QTest::newRow("separator alone") << "," << -10.0 << 10.0 << 1 << QValidator::Intermediate;
+    QTest::newRow("fraction to come") << "5." << -10.0 << 10.0 << 1 << QValidator::Intermediate;
+    QTest::newRow("above the range") << "11" << -10.0 << 10.0 << 1 << QValidator::Intermediate;
+    QTest::newRow("below the range") << "2" << 20.0 << 20000.0 << 1 << QValidator::Intermediate;
+    QTest::newRow("blank behind") << "5 " << -10.0 << 10.0 << 1 << QValidator::Intermediate;
+    QTest::newRow("blank inside") << "5 0" << -10.0 << 100.0 << 1 << QValidator::Invalid;
+    QTest::newRow("second separator") << "1.2," << -10.0 << 10.0 << 2 << QValidator::Invalid;
+    QTest::newRow("sign in the middle") << "1-" << -10.0 << 10.0 << 2 << QValidator::Invalid;
+    QTest::newRow("exponent") << "1e3" << 0.0 << 1e4 << 2 << QValidator::Invalid;
+    QTest::newRow("minus without negative numbers") << "-" << 0.0 << 10.0 << 1 << QValidator::Invalid;
+    QTest::newRow("separator without decimals") << "5." << 0.0 << 10.0 << 0 << QValidator::Invalid;
+    QTest::newRow("too many decimals") << "0.12" << 0.0 << 10.0 << 1 << QValidator::Invalid;
+    QTest::newRow("any number of decimals") << "0.123456" << 0.0 << 10.0 << -1 << QValidator::Acceptable;
+    QTest::newRow("15 digits") << "1234567890.12345" << 0.0 << infinity << 5 << QValidator::Acceptable;
+    QTest::newRow("16 digits") << "12345678901.12345" << 0.0 << infinity << 5 << QValidator::Invalid;
+    QTest::newRow("other digits") << QStringLiteral("\u0663") << 0.0 << 10.0 << 0 << QValidator::Invalid;
+    QTest::newRow("open bounds") << "-12" << notANumber << notANumber << 0 << QValidator::Acceptable;
+    QTest::newRow("reversed bounds") << "5" << 10.0 << 0.0 << 0 << QValidator::Intermediate;
 }
 
 void tst_FieldValidators::decimals()
@@ -103,17 +96,17 @@ void tst_FieldValidators::integers_data()
     QTest::addColumn<int>("bottom");
     QTest::addColumn<QValidator::State>("state");
 
-    QTest::newRow("in range") << "48" << 1 << Acceptable;
-    QTest::newRow("plus") << "+48" << 1 << Acceptable;
-    QTest::newRow("outside") << "97" << 1 << Intermediate;
-    QTest::newRow("larger than an int, 10 digits") << "9999999999" << 1 << Intermediate;
-    QTest::newRow("11 digits") << "99999999999" << 1 << Invalid;
-    QTest::newRow("minus, only positive") << "-" << 0 << Invalid;
-    QTest::newRow("minus, negative too") << "-" << -1 << Intermediate;
-    QTest::newRow("true minus") << QStringLiteral("\u22123") << -5 << Acceptable;
-    QTest::newRow("separator") << "4.0" << 1 << Invalid;
-    QTest::newRow("blank in front") << " 4" << 1 << Intermediate;
-    QTest::newRow("hexadecimal") << "0x1" << 1 << Invalid;
+    QTest::newRow("in range") << "48" << 1 << QValidator::Acceptable;
+    QTest::newRow("plus") << "+48" << 1 << QValidator::Acceptable;
+    QTest::newRow("outside") << "97" << 1 << QValidator::Intermediate;
+    QTest::newRow("larger than an int, 10 digits") << "9999999999" << 1 << QValidator::Intermediate;
+    QTest::newRow("11 digits") << "99999999999" << 1 << QValidator::Invalid;
+    QTest::newRow("minus, only positive") << "-" << 0 << QValidator::Invalid;
+    QTest::newRow("minus, negative too") << "-" << -1 << QValidator::Intermediate;
+    QTest::newRow("true minus") << QStringLiteral("\u22123") << -5 << QValidator::Acceptable;
+    QTest::newRow("separator") << "4.0" << 1 << QValidator::Invalid;
+    QTest::newRow("blank in front") << " 4" << 1 << QValidator::Intermediate;
+    QTest::newRow("hexadecimal") << "0x1" << 1 << QValidator::Invalid;
 }
 
 void tst_FieldValidators::integers()
@@ -133,12 +126,12 @@ void tst_FieldValidators::addresses_data()
     QTest::addColumn<QValidator::State>("state");
 
     for (const char *address : {"192.168.1.10", "0.0.0.0", "255.255.255.255"})
-        QTest::newRow(address) << QString::fromLatin1(address) << Acceptable;
+        QTest::newRow(address) << QString::fromLatin1(address) << QValidator::Acceptable;
     for (const char *beginning : {"", "1", "192.", "192.168.1", "192.168.1.", " 1.2.3.4", "1.2.3.4 "})
-        QTest::addRow("beginning \"%s\"", beginning) << QString::fromLatin1(beginning) << Intermediate;
+        QTest::addRow("beginning \"%s\"", beginning) << QString::fromLatin1(beginning) << QValidator::Intermediate;
     for (const char *wrong :
          {".", "1..", "256", "1.2.3.2550", "01", "00", "1.2.3.4.", "1.2.3.4.5", "a", "1,2", "1 .2", "-1"})
-        QTest::newRow(wrong) << QString::fromLatin1(wrong) << Invalid;
+        QTest::newRow(wrong) << QString::fromLatin1(wrong) << QValidator::Invalid;
 }
 
 void tst_FieldValidators::addresses()
@@ -154,17 +147,17 @@ void tst_FieldValidators::pins_data()
     QTest::addColumn<bool>("trivialAllowed");
     QTest::addColumn<QValidator::State>("state");
 
-    QTest::newRow("shortest") << "1470" << false << Acceptable;
-    QTest::newRow("too short") << "147" << false << Intermediate;
-    QTest::newRow("longest") << "14701470" << false << Acceptable;
-    QTest::newRow("too long") << "147014701" << false << Invalid;
-    QTest::newRow("letter") << "14a" << false << Invalid;
-    QTest::newRow("blank") << "147 " << false << Invalid;
-    QTest::newRow("repeated digit") << "7777" << false << Intermediate;
-    QTest::newRow("run up") << "23456" << false << Intermediate;
-    QTest::newRow("run down") << "9876" << false << Intermediate;
-    QTest::newRow("broken run") << "12346" << false << Acceptable;
-    QTest::newRow("run where allowed") << "1234" << true << Acceptable;
+    QTest::newRow("shortest") << "1470" << false << QValidator::Acceptable;
+    QTest::newRow("too short") << "147" << false << QValidator::Intermediate;
+    QTest::newRow("longest") << "14701470" << false << QValidator::Acceptable;
+    QTest::newRow("too long") << "147014701" << false << QValidator::Invalid;
+    QTest::newRow("letter") << "14a" << false << QValidator::Invalid;
+    QTest::newRow("blank") << "147 " << false << QValidator::Invalid;
+    QTest::newRow("repeated digit") << "7777" << false << QValidator::Intermediate;
+    QTest::newRow("run up") << "23456" << false << QValidator::Intermediate;
+    QTest::newRow("run down") << "9876" << false << QValidator::Intermediate;
+    QTest::newRow("broken run") << "12346" << false << QValidator::Acceptable;
+    QTest::newRow("run where allowed") << "1234" << true << QValidator::Acceptable;
 }
 
 void tst_FieldValidators::pins()
@@ -241,8 +234,8 @@ void tst_FieldValidators::rangeChangeRevalidates()
     QSignalSpy spy(&validator, &QValidator::changed);
     validator.setProperty("minimumLength", 6);
     QCOMPARE(spy.count(), 1);
-    QCOMPARE(stateOf(validator, QStringLiteral("14701")), Intermediate);
+    QCOMPARE(stateOf(validator, QStringLiteral("14701")), QValidator::Intermediate);
 }
 
-static const TestClass<tst_FieldValidators> registered;
+template struct TestClass<tst_FieldValidators>;
 #include "tst_FieldValidators.moc"

@@ -65,5 +65,5 @@ void tst_Screen::followsItsWindow()
     QCOMPARE(factorSpy.count(), 2);
 }
 
-static const TestClass<tst_Screen> registered;
+template struct TestClass<tst_Screen>;
 #include "tst_Screen.moc"

@@ -1,4 +1,5 @@
 #include "libs/ResponseSupport.h"
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <tamblecommon-math/ScaleMappings.h>
@@ -14,8 +15,6 @@ using namespace tamble::common;
 
 namespace {
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double floorLevel = -240;
 constexpr double nearDc = 1e-9;
 constexpr double nyquist = 24000;
@@ -545,5 +544,5 @@ void tst_FilterResponse::everythingIsFinite()
     }
 }
 
-static const TestClass<tst_FilterResponse> registered;
+template struct TestClass<tst_FilterResponse>;
 #include "tst_FilterResponse.moc"

@@ -258,5 +258,5 @@ void tst_FilterResponseBlock::dragAllocatesNothing()
     }
 }
 
-static const TestClass<tst_FilterResponseBlock> registered;
+template struct TestClass<tst_FilterResponseBlock>;
 #include "tst_FilterResponseBlock.moc"

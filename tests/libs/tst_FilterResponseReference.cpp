@@ -172,5 +172,5 @@ void tst_FilterResponseReference::cleanupTestCase()
     qInfo("worst differences: %.2g dB, %.2g degrees", m_worstLevel, m_worstPhase);
 }
 
-static const TestClass<tst_FilterResponseReference> registered;
+template struct TestClass<tst_FilterResponseReference>;
 #include "tst_FilterResponseReference.moc"

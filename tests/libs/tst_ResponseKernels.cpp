@@ -175,5 +175,5 @@ void tst_ResponseKernels::tapsAreSummed()
     }
 }
 
-static const TestClass<tst_ResponseKernels> registered;
+template struct TestClass<tst_ResponseKernels>;
 #include "tst_ResponseKernels.moc"

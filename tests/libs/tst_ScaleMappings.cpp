@@ -1,3 +1,4 @@
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <tamblecommon-math/ScaleMappings.h>
@@ -10,9 +11,6 @@
 using namespace tamble::common;
 
 namespace {
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 using Mapping = double (*)(double, double, double, double, double) noexcept;
 
@@ -142,5 +140,5 @@ void tst_ScaleMappings::orderOfMagnitude()
     QVERIFY(tamble::common::orderOfMagnitude(x) == expected);
 }
 
-static const TestClass<tst_ScaleMappings> registered;
+template struct TestClass<tst_ScaleMappings>;
 #include "tst_ScaleMappings.moc"

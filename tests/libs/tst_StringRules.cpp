@@ -259,5 +259,5 @@ void tst_StringRules::capDnsName()
     QCOMPARE(validateCapDnsName(u"Amp-").fault, StringFault::LabelHyphen);
 }
 
-static const TestClass<tst_StringRules> registered;
+template struct TestClass<tst_StringRules>;
 #include "tst_StringRules.moc"

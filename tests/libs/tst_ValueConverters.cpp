@@ -1,3 +1,4 @@
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <tambleclient-common/DoubleValueConverter.h>
@@ -9,15 +10,11 @@
 #include <QUrl>
 
 #include <cmath>
-#include <limits>
 
 using namespace Qt::StringLiterals;
 using namespace tamble::client;
 
 namespace {
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 using Properties = QVariantMap;
 
@@ -442,5 +439,5 @@ void tst_ValueConverters::derivedConverterIsUsed()
     QCOMPARE(value, QVariant(12));
 }
 
-static const TestClass<tst_ValueConverters> registered;
+template struct TestClass<tst_ValueConverters>;
 #include "tst_ValueConverters.moc"

@@ -1,19 +1,11 @@
 #include "meter/MeterFractions.h"
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QObject>
 #include <QtTest/QTest>
 
-#include <limits>
-
 using namespace tamble::client;
-
-namespace {
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
-
-} // namespace
 
 class tst_MeterFractions : public QObject
 {
@@ -91,5 +83,5 @@ void tst_MeterFractions::fractions()
     QTEST(lowerFraction(range, level, zone), "lower");
 }
 
-static const TestClass<tst_MeterFractions> registered;
+template struct TestClass<tst_MeterFractions>;
 #include "tst_MeterFractions.moc"

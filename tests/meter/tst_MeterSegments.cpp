@@ -1,6 +1,7 @@
 #include "meter/FallingBars.h"
 #include "meter/MeterSegments.h"
 #include "meter/RMeterBar.h"
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QObject>
@@ -10,7 +11,6 @@
 #include <QtTest/QTest>
 
 #include <array>
-#include <limits>
 #include <utility>
 
 using namespace tamble::client;
@@ -27,8 +27,6 @@ QString textOf(const MeterSegments &segments)
     }
     return parts.join(u' ');
 }
-
-constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
 } // namespace
 
@@ -61,7 +59,7 @@ void tst_MeterSegments::bar_data()
     QTest::newRow("lower zones hide higher ones")
         << Factors{0.8, 0.5, 0.9} << true << false << 1.0 << "G0-80 R80-90 -90-100";
     QTest::newRow("out of range") << Factors{-1.0, 0.5, 7.0} << true << false << 1.0 << "Y0-50 R50-100";
-    QTest::newRow("not a number") << Factors{NotANumber, NotANumber, NotANumber} << true << false << 1.0 << "-0-100";
+    QTest::newRow("not a number") << Factors{notANumber, notANumber, notANumber} << true << false << 1.0 << "-0-100";
     QTest::newRow("whole pixels") << Factors{0.333, 0.333, 0.333} << true << false << 1.0 << "G0-33 -33-100";
     QTest::newRow("whole device pixels") << Factors{0.333, 0.333, 0.333} << true << false << 2.0 << "G0-33.5 -33.5-100";
 }
@@ -83,7 +81,7 @@ void tst_MeterSegments::split()
     QCOMPARE(textOf(splitSegments({0.5, 0.75, 0.75}, dark, 0.4, 100.0, 1.0)),
              QStringLiteral("G20-40 Y10-20 -0-10 -40-100"));
     QCOMPARE(textOf(splitSegments(dark, {0.5, 0.5, 1.0}, 0.4, 100.0, 1.0)), QStringLiteral("-0-40 G40-70 R70-100"));
-    QCOMPARE(textOf(splitSegments(dark, dark, NotANumber, 100.0, 1.0)), QStringLiteral("-0-100"));
+    QCOMPARE(textOf(splitSegments(dark, dark, notANumber, 100.0, 1.0)), QStringLiteral("-0-100"));
 }
 
 void tst_MeterSegments::repaintsOnlyWhatIsSeen()
@@ -155,5 +153,5 @@ void tst_MeterSegments::fallsWithTheNextRise()
     QVERIFY2(takeDirty(falling), "nothing to wait for");
 }
 
-static const TestClass<tst_MeterSegments> registered;
+template struct TestClass<tst_MeterSegments>;
 #include "tst_MeterSegments.moc"

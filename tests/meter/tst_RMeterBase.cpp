@@ -286,5 +286,5 @@ void tst_RMeterBase::newMeterRestartsTheSharedTimer()
     QVERIFY(timer.isActive());
 }
 
-static const TestClass<tst_RMeterBase> registered;
+template struct TestClass<tst_RMeterBase>;
 #include "tst_RMeterBase.moc"

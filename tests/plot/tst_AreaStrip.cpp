@@ -101,5 +101,5 @@ void tst_AreaStrip::pieces()
     QCOMPARE(held[1].weightedHeight * held[1].inverseHeight, 0.0f);
 }
 
-static const TestClass<tst_AreaStrip> registered;
+template struct TestClass<tst_AreaStrip>;
 #include "tst_AreaStrip.moc"

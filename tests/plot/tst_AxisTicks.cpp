@@ -93,5 +93,5 @@ void tst_AxisTicks::hugeCountEnds()
     QCOMPARE(ticks.last().label, u"399.8"_s);
 }
 
-static const TestClass<tst_AxisTicks> registered;
+template struct TestClass<tst_AxisTicks>;
 #include "tst_AxisTicks.moc"

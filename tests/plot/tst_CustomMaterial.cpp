@@ -68,5 +68,5 @@ void tst_CustomMaterial::uniformLayout()
     QCOMPARE(block.mid(100), untouched.mid(100));
 }
 
-static const TestClass<tst_CustomMaterial> registered;
+template struct TestClass<tst_CustomMaterial>;
 #include "tst_CustomMaterial.moc"

@@ -1,20 +1,17 @@
 #include "plot/GridValues.h"
 #include "plot/NumberText.h"
 #include "plot/ScaleSteps.h"
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QObject>
 #include <QtTest/QTest>
-
-#include <limits>
 
 using namespace tamble::client;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr AxisScale linear = AxisScale::Linear;
 constexpr AxisScale logarithmic = AxisScale::Logarithmic;
 
@@ -242,5 +239,5 @@ void tst_GridValues::niceStep()
     QTEST(niceStepAtLeast(minimum), "step");
 }
 
-static const TestClass<tst_GridValues> registered;
+template struct TestClass<tst_GridValues>;
 #include "tst_GridValues.moc"

@@ -230,5 +230,5 @@ void tst_PlotHelpers::oldTicksStayAlive()
     QVERIFY(!tick);
 }
 
-static const TestClass<tst_PlotHelpers> registered;
+template struct TestClass<tst_PlotHelpers>;
 #include "tst_PlotHelpers.moc"

@@ -310,5 +310,5 @@ void tst_Plotters::gridSharesALayout()
     QCOMPARE(grid.root()->childCount(), 1);
 }
 
-static const TestClass<tst_Plotters> registered;
+template struct TestClass<tst_Plotters>;
 #include "tst_Plotters.moc"

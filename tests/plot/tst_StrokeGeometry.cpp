@@ -1,5 +1,6 @@
 #include "plot/GridLines.h"
 #include "plot/StrokeGeometry.h"
+#include "support/Numbers.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QObject>
@@ -12,7 +13,6 @@ using namespace tamble::client;
 namespace {
 
 using Points = QList<QPointF>;
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 } // namespace
 
@@ -150,5 +150,5 @@ void tst_StrokeGeometry::gridWidths()
     QCOMPARE(vertices[12], QPointF(0, drawn));
 }
 
-static const TestClass<tst_StrokeGeometry> registered;
+template struct TestClass<tst_StrokeGeometry>;
 #include "tst_StrokeGeometry.moc"

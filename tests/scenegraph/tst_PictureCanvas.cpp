@@ -128,5 +128,5 @@ void tst_PictureCanvas::wholeDevicePixels()
     QTEST(canvas.image().size(), "pixels");
 }
 
-static const TestClass<tst_PictureCanvas> registered;
+template struct TestClass<tst_PictureCanvas>;
 #include "tst_PictureCanvas.moc"

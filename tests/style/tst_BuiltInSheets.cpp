@@ -320,5 +320,5 @@ void tst_BuiltInSheets::meterZones()
     }
 }
 
-static const TestClass<tst_BuiltInSheets> registered;
+template struct TestClass<tst_BuiltInSheets>;
 #include "tst_BuiltInSheets.moc"

@@ -85,5 +85,5 @@ void tst_ColourMetrics::difference()
     QTEST(qRound(colourDifference(a, b, ColourVision::Protanopia)), "protanopia");
 }
 
-static const TestClass<tst_ColourMetrics> registered;
+template struct TestClass<tst_ColourMetrics>;
 #include "tst_ColourMetrics.moc"

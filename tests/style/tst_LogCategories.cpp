@@ -40,5 +40,5 @@ void tst_LogCategories::everyWarningHasOne()
     QCOMPARE(places, QStringList());
 }
 
-static const TestClass<tst_LogCategories> registered;
+template struct TestClass<tst_LogCategories>;
 #include "tst_LogCategories.moc"

@@ -226,5 +226,5 @@ void tst_SheetReload::busyNeighboursHoldNothingBack()
     QTRY_COMPARE_WITH_TIMEOUT(box.props().number("a"), 2.0, 1000);
 }
 
-static const TestClass<tst_SheetReload> registered;
+template struct TestClass<tst_SheetReload>;
 #include "tst_SheetReload.moc"

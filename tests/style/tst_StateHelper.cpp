@@ -60,5 +60,5 @@ void tst_StateHelper::styleSetFollows()
     QCOMPARE(styleSet.state(), QStringLiteral("pressed hovered "));
 }
 
-static const TestClass<tst_StateHelper> registered;
+template struct TestClass<tst_StateHelper>;
 #include "tst_StateHelper.moc"

@@ -436,5 +436,5 @@ void tst_StyleEngine::objectsThatAreNoItems()
     QCOMPARE(StyleSet(&object).props()->number("a"), 1.0); // placed by its object's parent
 }
 
-static const TestClass<tst_StyleEngine> registered;
+template struct TestClass<tst_StyleEngine>;
 #include "tst_StyleEngine.moc"

@@ -199,5 +199,5 @@ void tst_StyleEngineSetup::answerToAMissingKey()
     QCOMPARE(reports, QStringList({"b", "e"}));
 }
 
-static const TestClass<tst_StyleEngineSetup> registered;
+template struct TestClass<tst_StyleEngineSetup>;
 #include "tst_StyleEngineSetup.moc"

@@ -210,5 +210,5 @@ void tst_StylePath::typeName()
     QTEST(styleTypeName(QByteArrayView(QTest::currentDataTag())), "expected");
 }
 
-static const TestClass<tst_StylePath> registered;
+template struct TestClass<tst_StylePath>;
 #include "tst_StylePath.moc"

@@ -537,5 +537,5 @@ void tst_StyleResolver::styleInfo()
     QCOMPARE(styleInfoText(sheet, *pathFrom(pool, "RLabel")), "Style info for path RLabel\n");
 }
 
-static const TestClass<tst_StyleResolver> registered;
+template struct TestClass<tst_StyleResolver>;
 #include "tst_StyleResolver.moc"

@@ -567,5 +567,5 @@ void tst_StyleSheetParser::ruleText()
              "}\n");
 }
 
-static const TestClass<tst_StyleSheetParser> registered;
+template struct TestClass<tst_StyleSheetParser>;
 #include "tst_StyleSheetParser.moc"

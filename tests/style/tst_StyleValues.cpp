@@ -306,5 +306,5 @@ void tst_StyleValues::fontDefaults()
     QCOMPARE(font.family(), "Brack");
 }
 
-static const TestClass<tst_StyleValues> registered;
+template struct TestClass<tst_StyleValues>;
 #include "tst_StyleValues.moc"

@@ -80,5 +80,5 @@ void tst_ThemeSelector::brokenThemeChangesNothing()
     QCOMPARE(installedTheme(engine), theme);
 }
 
-static const TestClass<tst_ThemeSelector> registered;
+template struct TestClass<tst_ThemeSelector>;
 #include "tst_ThemeSelector.moc"

@@ -19,9 +19,9 @@ std::map<std::string, Maker> &classes()
 
 } // namespace
 
-void add(const char *className, Maker maker)
+bool add(const char *className, Maker maker)
 {
-    classes().emplace(className, std::move(maker));
+    return classes().emplace(className, std::move(maker)).second;
 }
 
 int run(int argc, char **argv)

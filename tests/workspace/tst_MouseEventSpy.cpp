@@ -244,5 +244,5 @@ void tst_MouseEventSpy::installsOnceAndFirst()
     QCoreApplication::instance()->removeEventFilter(spy);
 }
 
-static const TestClass<tst_MouseEventSpy> registered;
+template struct TestClass<tst_MouseEventSpy>;
 #include "tst_MouseEventSpy.moc"
