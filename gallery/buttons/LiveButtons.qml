@@ -128,6 +128,29 @@ Column {
             }
         }
         RText {
+            text: qsTr("Keeps you waiting")
+        }
+        RButton {
+            id: loading
+            readonly property RApplicationWindow window: loading.Window.window as RApplicationWindow
+            width: theme.dp(128)
+            enabled: enabledSwitch.selected
+            text: qsTr("&Load a preset")
+            onClicked: {
+                loading.window.busy = true
+                loaded.start()
+            }
+
+            Timer {
+                id: loaded
+                interval: 2500
+                onTriggered: {
+                    loading.window.busy = false
+                    root.said = qsTr("Load a preset: done")
+                }
+            }
+        }
+        RText {
             text: qsTr("Enabled")
         }
         RButtonSwitch {
