@@ -337,14 +337,11 @@ void tst_StyleEngine::convertedValues()
     StyledBox box;
     for (int round = 0; round < 2; ++round) { // the second comes from the cache
         QVariant result(expected.metaType());
-        if (getter == "get" || getter == "values") {
-            QMetaObject::invokeMethod(&box.props(), getter.constData(), Q_RETURN_ARG(QVariant, result),
-                                      Q_ARG(QString, "key"));
-        } else {
-            QMetaObject::invokeMethod(&box.props(), getter.constData(),
-                                      QGenericReturnArgument(expected.typeName(), result.data()),
-                                      Q_ARG(QString, "key"));
-        }
+        const bool isAny = getter == "get" || getter == "values";
+        const QString key = QStringLiteral("key");
+        const QGenericReturnArgument returned(isAny ? "QVariant" : expected.typeName(),
+                                              isAny ? &result : result.data());
+        QMetaObject::invokeMethod(&box.props(), getter.constData(), returned, QGenericArgument("QString", &key));
         QCOMPARE(result, expected);
     }
 }
