@@ -88,6 +88,8 @@ T.Popup {
                 KeyNavigation.down: off
                 KeyNavigation.left: off
                 KeyNavigation.right: off
+                KeyNavigation.tab: off
+                KeyNavigation.backtab: off
                 onClicked: root.choose(true)
             }
             RButton {
@@ -99,6 +101,8 @@ T.Popup {
                 KeyNavigation.down: on
                 KeyNavigation.left: on
                 KeyNavigation.right: on
+                KeyNavigation.tab: on
+                KeyNavigation.backtab: on
                 onClicked: root.choose(false)
             }
         }
