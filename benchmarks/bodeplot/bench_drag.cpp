@@ -146,6 +146,8 @@ void drag(benchmark::State &state, QQmlEngine &engine, int filters, Way way)
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Without a display, Qt Quick would paint in software instead.
+    qputenv("QT_QUICK_BACKEND", "rhi");
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Null);
     QGuiApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
