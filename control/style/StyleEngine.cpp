@@ -44,16 +44,16 @@ void StyleEngine::loadStyles()
     const quint64 load = ++m_newestLoad;
     const auto isOvertaken = [this, load] { return m_newestLoad != load; };
 
-    std::optional<StyleSheet> userSheet = read(m_userSheet);
+    const std::shared_ptr<const StyleSheet> userSheet = read(m_userSheet);
     if (isOvertaken())
         return;
-    std::optional<StyleSheet> defaultSheet = read(m_defaultSheet);
+    const std::shared_ptr<const StyleSheet> defaultSheet = read(m_defaultSheet);
     const bool isStyled = m_sheet && !m_sheet->isEmpty();
     if (isOvertaken() || (isStyled && !(userSheet && defaultSheet)))
         return;
 
-    StyleSheet sheet =
-        StyleSheet::merged(std::move(defaultSheet).value_or(StyleSheet()), std::move(userSheet).value_or(StyleSheet()));
+    const StyleSheet none;
+    StyleSheet sheet = StyleSheet::merged(defaultSheet ? *defaultSheet : none, userSheet ? *userSheet : none);
     loadFonts(sheet);
     if (isOvertaken())
         return;
@@ -67,7 +67,7 @@ void StyleEngine::loadStyles()
         Q_EMIT styleChanged();
 }
 
-std::optional<StyleSheet> StyleEngine::read(const NamedSheet &named)
+std::shared_ptr<const StyleSheet> StyleEngine::read(const NamedSheet &named)
 {
     const StyleSheetLoader loader(
         named.baseUrl, [this](const QString &type, const QString &message) { Q_EMIT exception(type, message); });

@@ -86,7 +86,7 @@ private:
         QUrl url() const { return baseUrl.resolved(source); }
     };
 
-    std::optional<StyleSheet> read(const NamedSheet &named);
+    std::shared_ptr<const StyleSheet> read(const NamedSheet &named);
     void install(StyleSheet &&sheet);
     void announceChange();
     void loadFonts(const StyleSheet &sheet);

@@ -5,6 +5,7 @@
 #include "style/StyleLog.h"
 #include "style/StyleSheetParser.h"
 
+#include <QtCore/QCache>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QRegularExpression>
@@ -17,6 +18,19 @@ namespace tamble::client {
 namespace {
 
 constexpr unsigned long MissingFileWaitMs = 1000;
+
+/// A sheet as parsed before, if its text is the same: themes are switched back and forth. Throws ParseException.
+std::shared_ptr<const StyleSheet> parsed(const QByteArray &text)
+{
+    constexpr qsizetype keptBytes = 512 * 1024;
+    static QCache<QByteArray, std::shared_ptr<const StyleSheet>> known(keptBytes);
+    if (const auto *sheet = known.object(text))
+        return *sheet;
+    const std::string_view view(text.constData(), std::size_t(text.size()));
+    auto sheet = std::make_shared<const StyleSheet>(parseSheet(view));
+    known.insert(text, new std::shared_ptr<const StyleSheet>(sheet), text.size());
+    return sheet;
+}
 
 /// What to tell of a missing sheet called "<key>.<theme>.style": the themes that there are for the key.
 QString themeHint(const QString &path)
@@ -52,17 +66,17 @@ StyleSheetLoader::StyleSheetLoader(QUrl baseUrl, Report report)
     , m_report(std::move(report))
 {}
 
-std::optional<StyleSheet> StyleSheetLoader::load(const QUrl &url) const
+std::shared_ptr<const StyleSheet> StyleSheetLoader::load(const QUrl &url) const
 {
     if (url.isEmpty())
-        return StyleSheet();
+        return std::make_shared<const StyleSheet>();
     qCInfo(styleLog).noquote().nospace() << "INFO: Load style from '" << url.toString() << "'";
 
     const bool wellFormed =
         url.isLocalFile() || url.isRelative() || (url.isValid() && !sheetPath(url, QUrl()).isEmpty());
     if (!wellFormed) {
         reportFailure(QStringLiteral("wrong path format '%1': missing 'file:///' or 'qrc:/' ? ").arg(url.toString()));
-        return StyleSheet();
+        return std::make_shared<const StyleSheet>();
     }
 
     const QString path = sheetPath(url, m_baseUrl);
@@ -70,33 +84,33 @@ std::optional<StyleSheet> StyleSheetLoader::load(const QUrl &url) const
         const QString hint = themeHint(path);
         qCCritical(styleLog).noquote().nospace() << "CRITICAL: Style '" << path << "' not found" << hint;
         m_report(QStringLiteral("styleSheetNotFound"), QStringLiteral("Style '%1' not found.").arg(path) + hint);
-        return StyleSheet();
+        return std::make_shared<const StyleSheet>();
     }
     return read(path);
 }
 
-std::optional<StyleSheet> StyleSheetLoader::read(const QString &path) const
+std::shared_ptr<const StyleSheet> StyleSheetLoader::read(const QString &path) const
 {
     qCInfo(styleLog).noquote().nospace() << "INFO: Load style from '" << path << "' ...";
     QString error;
     const std::optional<QByteArray> text = readSheetFile(path, &error);
     if (!text) {
         reportFailure(path + u' ' + error);
-        return std::nullopt;
+        return nullptr;
     }
     if (text->size() > MaximumSheetBytes) {
         reportFailure(QStringLiteral("%1: longer than %2 MiB").arg(path).arg(MaximumSheetBytes >> 20));
-        return std::nullopt;
+        return nullptr;
     }
     try {
-        return parseSheet(std::string_view(text->constData(), std::size_t(text->size())));
+        return parsed(*text);
     } catch (const ParseException &fault) {
         reportFailure(QStringLiteral("%1: %2 at line %3 column %4: %5")
                           .arg(path, QString::fromStdString(fault.message()))
                           .arg(fault.line())
                           .arg(fault.column())
                           .arg(QString::fromStdString(fault.lineText()).trimmed()));
-        return std::nullopt;
+        return nullptr;
     }
 }
 

@@ -6,7 +6,7 @@
 #include <QtCore/QUrl>
 
 #include <functional>
-#include <optional>
+#include <memory>
 
 namespace tamble::client {
 
@@ -23,10 +23,10 @@ public:
     /// The sheet behind `url`: a file, a resource ("qrc:/…") or a relative URL. An empty URL, one of another form and a
     /// file that does not exist give an empty sheet; for a missing file the call waits a second first, since an editor
     /// may be replacing it. Nothing when the sheet cannot be read, is too long or does not parse.
-    std::optional<StyleSheet> load(const QUrl &url) const;
+    std::shared_ptr<const StyleSheet> load(const QUrl &url) const;
 
 private:
-    std::optional<StyleSheet> read(const QString &path) const;
+    std::shared_ptr<const StyleSheet> read(const QString &path) const;
     void reportFailure(const QString &message) const;
 
     QUrl m_baseUrl;
