@@ -10,46 +10,18 @@
 
 namespace {
 
-const QStringList keys = {
-    "chevron-up",    "chevron-down",  "chevron-left",
-    "chevron-right", "arrow-up",      "arrow-down",
-    "arrow-left",    "arrow-right",   "corner-flag",
-    "check",         "dash",          "plus",
-    "minus",         "close",         "clear",
-    "drag-handle",   "more",          "menu",
-    "apps",          "search",        "filter",
-    "sort-up",       "sort-down",     "edit",
-    "delete",        "copy",          "paste",
-    "undo",          "redo",          "refresh",
-    "save",          "open",          "new",
-    "import",        "export",        "settings",
-    "info",          "question",      "warning",
-    "error",         "success",       "lock",
-    "unlock",        "eye",           "eye-off",
-    "user",          "key",           "home",
-    "back",          "pin",           "unpin",
-    "window",        "fullscreen",    "zoom-in",
-    "zoom-out",      "zoom-fit",      "zoom-selection",
-    "hand",          "hand-grab",     "pointer",
-    "grid",          "snap",          "align-left",
-    "align-hcenter", "align-right",   "align-top",
-    "align-vcenter", "align-bottom",  "distribute-h",
-    "distribute-v",  "power",         "standby",
-    "mute",          "loudspeaker",   "solo",
-    "headphones",    "microphone",    "line-input",
-    "line-output",   "phantom-power", "polarity",
-    "delay",         "link",          "unlink",
-    "fader",         "meter",         "eq",
-    "shelf",         "crossover",     "fir",
-    "limiter",       "compressor",    "gate",
-    "ducker",        "agc",           "anc",
-    "matrix",        "mixer",         "amplifier",
-    "device",        "network",       "online",
-    "offline",       "temperature",   "clock",
-    "preset",        "scene",         "group",
-    "identify",      "firmware",      "theme-light",
-    "theme-dark",
-};
+const QStringList keys =
+    QStringLiteral("chevron-up chevron-down chevron-left chevron-right arrow-up arrow-down arrow-left arrow-right "
+                   "corner-flag check dash plus minus close clear drag-handle more menu apps search filter sort-up "
+                   "sort-down edit delete copy paste undo redo refresh save open new import export settings info "
+                   "question warning error success lock unlock eye eye-off user key home back pin unpin window "
+                   "fullscreen zoom-in zoom-out zoom-fit zoom-selection hand hand-grab pointer grid snap align-left "
+                   "align-hcenter align-right align-top align-vcenter align-bottom distribute-h distribute-v power "
+                   "standby mute loudspeaker solo headphones microphone line-input line-output phantom-power polarity "
+                   "delay link unlink fader meter eq shelf crossover fir limiter compressor gate ducker agc anc matrix "
+                   "mixer amplifier device network online offline temperature clock preset scene group identify "
+                   "firmware theme-light theme-dark")
+        .split(u' ');
 
 QString fileName(const QString &key, int size, int scale)
 {

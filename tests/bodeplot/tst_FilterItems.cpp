@@ -1,13 +1,7 @@
-#include "bodeplot/RBodeplot.h"
-#include "bodeplot/RBodeplotAsymmetricEqFilter.h"
-#include "bodeplot/RBodeplotAxis.h"
+#include "TambleClientControlModule.h"
 #include "bodeplot/RBodeplotCurve.h"
-#include "bodeplot/RBodeplotEqFilter.h"
 #include "bodeplot/RBodeplotFIRFilter.h"
-#include "bodeplot/RBodeplotGrid.h"
 #include "bodeplot/RBodeplotXOverFilter.h"
-#include "bodeplot/RLimiterCurve.h"
-#include "bodeplot/RSimpleCurve.h"
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
@@ -23,24 +17,9 @@ namespace {
 
 std::unique_ptr<QObject> create(QQmlEngine &engine, const QByteArray &body)
 {
-    static const bool registered = [] {
-        qmlRegisterType<RBodeplotCalculationItem>("FilterItems", 1, 0, "RBodeplotCalculationItem");
-        qmlRegisterType<RBodeplotEqFilter>("FilterItems", 1, 0, "RBodeplotEqFilter");
-        qmlRegisterType<RBodeplotAsymmetricEqFilter>("FilterItems", 1, 0, "RBodeplotAsymmetricEqFilter");
-        qmlRegisterType<RBodeplotXOverFilter>("FilterItems", 1, 0, "RBodeplotXOverFilter");
-        qmlRegisterType<RBodeplotFIRFilter>("FilterItems", 1, 0, "RBodeplotFIRFilter");
-        qmlRegisterType<RBodeplotCurve>("FilterItems", 1, 0, "RBodeplotCurveTemplate");
-        qmlRegisterType<RBodeplot>("FilterItems", 1, 0, "RBodeplotTemplate");
-        qmlRegisterType<RBodeplotGrid>("FilterItems", 1, 0, "RBodeplotGridTemplate");
-        qmlRegisterType<RBodeplotAxis>("FilterItems", 1, 0, "RBodeplotAxisTemplate");
-        qmlRegisterType<RSimpleCurve>("FilterItems", 1, 0, "RSimpleCurveTemplate");
-        qmlRegisterType<RLimiterCurve>("FilterItems", 1, 0, "RLimiterCurveTemplate");
-        return true;
-    }();
-    Q_UNUSED(registered)
-
+    TambleClientControlModule().registerTypes("TambleClient.Control");
     QQmlComponent component(&engine);
-    component.setData("import QtQuick\nimport FilterItems 1.0\n" + body, QUrl());
+    component.setData("import QtQuick\nimport TambleClient.Control 1.0\n" + body, QUrl());
     std::unique_ptr<QObject> object(component.create());
     if (!object)
         qWarning().noquote() << component.errorString();

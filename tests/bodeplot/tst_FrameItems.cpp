@@ -2,17 +2,13 @@
 #include "bodeplot/RBodeplotGrid.h"
 #include "bodeplot/RLimiterCurve.h"
 #include "bodeplot/RSimpleCurve.h"
-#include "plot/SmoothStrokeNode.h"
 #include "support/Numbers.h"
+#include "support/PaintedItem.h"
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
-#include <QtQuick/QSGFlatColorMaterial>
-#include <QtQuick/QSGGeometryNode>
-
 #include <cmath>
 #include <memory>
-#include <span>
 
 using namespace tamble::client;
 
@@ -43,36 +39,17 @@ private:
     double m_width = 2.0;
 };
 
-/// An item whose frames a test makes as the render loop would.
 template <typename Item>
-class Painted : public Item
+struct Painted : PaintedItem<Item>
 {
-public:
     Painted()
     {
         this->setSize({300.0, 100.0});
         this->setStyle(&style);
     }
 
-    void paint()
-    {
-        this->updatePolish();
-        m_node.reset(this->updatePaintNode(m_node.release(), nullptr));
-    }
-    QSGNode *node() const { return m_node.get(); }
-
     Style style;
-
-private:
-    std::unique_ptr<QSGNode> m_node;
 };
-
-/// Vertices of a curve, in the vertex type of smooth strokes.
-std::span<StrokeVertex> strokeVertices(QSGNode *node)
-{
-    auto *stroke = static_cast<SmoothStrokeNode *>(node);
-    return {static_cast<StrokeVertex *>(stroke->geometry()->vertexData()), std::size_t(stroke->usedVertexCount())};
-}
 
 QColor strokeColor(QSGNode *node)
 {
@@ -84,37 +61,11 @@ QSGGeometryNode *child(const QSGNode *node, int index)
     return static_cast<QSGGeometryNode *>(node->childAtIndex(index));
 }
 
-Points vertices(const QSGGeometryNode *node)
-{
-    Points points;
-    for (int i = 0; i < node->geometry()->vertexCount(); ++i) {
-        const QSGGeometry::Point2D &point = node->geometry()->vertexDataAsPoint2D()[i];
-        points.append({double(point.x), double(point.y)});
-    }
-    return points;
-}
-
-QColor colorOf(const QSGGeometryNode *node)
-{
-    return static_cast<QSGFlatColorMaterial *>(node->material())->color();
-}
-
-/// Writes a mark that the next rebuild of the vertices would overwrite.
-void markVertices(QSGGeometryNode *node)
-{
-    node->geometry()->vertexDataAsPoint2D()[0].set(-77.0f, -77.0f);
-}
-
-bool isMarked(const QSGGeometryNode *node)
-{
-    return vertices(node).first() == QPointF(-77, -77);
-}
-
 Points allVertices(const RBodeplotGrid &, QSGNode *node)
 {
     Points points;
     for (int i = 0; i < node->childCount(); ++i)
-        points += vertices(child(node, i));
+        points += verticesOf(child(node, i));
     return points;
 }
 
@@ -124,14 +75,6 @@ Points allVertices(const QQuickItem &, QSGNode *node)
     for (const StrokeVertex &vertex : strokeVertices(node))
         points.append({double(vertex.x), double(vertex.y)});
     return points;
-}
-
-QStringList texts(RBodeplotAxis &axis)
-{
-    QStringList all;
-    for (const QVariant &label : axis.labels())
-        all.append(label.toMap().value(QStringLiteral("text")).toString());
-    return all;
 }
 
 enum LineKind { FaintVertical, FaintHorizontal, Vertical, Horizontal, ZeroLine };
@@ -161,7 +104,7 @@ void feed(double number)
     }
 }
 
-/// Grid, axis, given curve and limiter curve as items: what they draw, signal and log.
+/// Grid, given curve and limiter curve as items: what they draw, signal and log.
 class tst_FrameItems : public QuietTest
 {
     Q_OBJECT
@@ -173,11 +116,11 @@ private Q_SLOTS:
         grid.setProperty("xAxisTickValues", QVariantList{100, 1000, 10000});
         grid.paint();
         QCOMPARE(grid.node()->childCount(), 5);
-        QCOMPARE(vertices(child(grid.node(), Vertical)).size(), 3 * verticesOfALine);
-        QCOMPARE(vertices(child(grid.node(), FaintVertical)).size(), (26 - 3) * verticesOfALine);
-        QCOMPARE(vertices(child(grid.node(), Horizontal)).size(), 3 * verticesOfALine); // -10, 0 and 10 dB
-        QCOMPARE(vertices(child(grid.node(), FaintHorizontal)).size(), 0);
-        QCOMPARE(vertices(child(grid.node(), ZeroLine)).first(), QPointF(0, 51));
+        QCOMPARE(verticesOf(child(grid.node(), Vertical)).size(), 3 * verticesOfALine);
+        QCOMPARE(verticesOf(child(grid.node(), FaintVertical)).size(), (26 - 3) * verticesOfALine);
+        QCOMPARE(verticesOf(child(grid.node(), Horizontal)).size(), 3 * verticesOfALine); // -10, 0 and 10 dB
+        QCOMPARE(verticesOf(child(grid.node(), FaintHorizontal)).size(), 0);
+        QCOMPARE(verticesOf(child(grid.node(), ZeroLine)).first(), QPointF(0, 51));
 
         const QSGNode *root = grid.node();
         markVertices(child(root, Vertical));
@@ -186,12 +129,12 @@ private Q_SLOTS:
         grid.paint();
         QCOMPARE(grid.node(), root);
         QVERIFY(isMarked(child(root, Vertical)));
-        QCOMPARE(vertices(child(root, Horizontal)).size(), 7 * verticesOfALine);
-        QCOMPARE(vertices(child(root, ZeroLine)).first(), QPointF(0, 76));
+        QCOMPARE(verticesOf(child(root, Horizontal)).size(), 7 * verticesOfALine);
+        QCOMPARE(verticesOf(child(root, ZeroLine)).first(), QPointF(0, 76));
 
         grid.setProperty("dedicatedXAxisLine", false);
         grid.paint();
-        QCOMPARE(vertices(child(root, ZeroLine)).size(), 0);
+        QCOMPARE(verticesOf(child(root, ZeroLine)).size(), 0);
     }
 
     void gridFollowsItsStyle()
@@ -211,7 +154,7 @@ private Q_SLOTS:
 
         grid->style.setProperty("lineColorXAchsis", QColor());
         grid->paint();
-        QCOMPARE(vertices(child(grid->node(), ZeroLine)).size(), 0);
+        QCOMPARE(verticesOf(child(grid->node(), ZeroLine)).size(), 0);
         grid->setStyle(nullptr);
         grid->paint();
         QVERIFY(allVertices(*grid, grid->node()).isEmpty());
@@ -229,7 +172,7 @@ private Q_SLOTS:
         grid.setProperty("xMinimum", 30.0);
         grid.paint();
         grid.paint();
-        QCOMPARE(vertices(child(grid.node(), ZeroLine)).size(), 0);
+        QCOMPARE(verticesOf(child(grid.node(), ZeroLine)).size(), 0);
 
         grid.setProperty("dedicatedXAxisLine", false);
         grid.setHeight(300.0);
@@ -242,64 +185,9 @@ private Q_SLOTS:
         grid.setProperty("yIncrement", 1e-12);
         QTest::ignoreMessage(QtWarningMsg, "RBodeplotGrid::computeLines() more than 1000 lines");
         grid.paint();
-        QCOMPARE(vertices(child(grid.node(), Horizontal)).size(), 0);
+        QCOMPARE(verticesOf(child(grid.node(), Horizontal)).size(), 0);
         grid.setHeight(200.0);
         grid.paint();
-    }
-
-    void axisLabels()
-    {
-        RBodeplotAxis axis;
-        axis.setSize({300.0, 20.0});
-        axis.setProperty("xAxisTickValues", QVariantList{200, 2000});
-        axis.setProperty("yAxisTickValues", QVariantList{100});
-        QSignalSpy changed(&axis, &RBodeplotAxis::labelsChanged);
-        QCOMPARE(axis.labels().size(), 2);
-        const QVariantMap label = axis.labels().constFirst().toMap();
-        QCOMPARE(label.keys(), QStringList({"position", "text", "value"}));
-        QCOMPARE(label.value(QStringLiteral("value")), QVariant(200.0));
-        QCOMPARE(label.value(QStringLiteral("text")), QVariant(QStringLiteral("200")));
-        QCOMPARE(label.value(QStringLiteral("position")).toDouble(), 100.0);
-
-        axis.setHeight(30.0);
-        axis.setProperty("yAxisTickValues", QVariantList{500});
-        QCOMPARE(changed.count(), 0);
-
-        axis.setProperty("horizontal", false);
-        QCOMPARE(texts(axis), QStringList{"500"});
-        QCOMPARE(changed.count(), 1);
-        axis.setProperty("minimum", 20000.0);
-        QCOMPARE(changed.count(), 2);
-        QVERIFY(axis.labels().isEmpty());
-    }
-
-    void axisLogsOnce_data()
-    {
-        const Rows<int, double, double, QByteArray> row;
-        row("no step", Linear, 20.0, 0.0, "RBodeplotAxis::updateLabels() delta must be positive");
-        row("tiny step", Linear, 20.0, 1e-9, "RBodeplotAxis::updateLabels() more than 1000 labels");
-        row("logarithm of 0", int(RBodeplotAxisScaleEnum::LOGARITHMIC), 0.0, 10.0,
-            "RBodeplotAxis::updateLabels() minimum of a logarithmic axis must be positive");
-    }
-
-    void axisLogsOnce()
-    {
-        const auto &[scale, minimum, delta, message] = Rows<int, double, double, QByteArray>::current();
-        RBodeplotAxis axis;
-        axis.setProperty("maximum", 60.0);
-        axis.setProperty("scale", scale);
-        QTest::ignoreMessage(QtWarningMsg, message);
-        axis.setProperty("minimum", minimum);
-        axis.setProperty("delta", delta);
-        axis.setSize({300.0, 20.0});
-        axis.setSize({400.0, 20.0});
-        QVERIFY(axis.labels().isEmpty());
-
-        axis.setProperty("delta", 20.0);
-        axis.setProperty("minimum", 30.0);
-        QTest::ignoreMessage(QtWarningMsg, message);
-        axis.setProperty("minimum", minimum);
-        axis.setProperty("delta", delta);
     }
 
     void curveFromEitherForm()
@@ -405,18 +293,15 @@ private Q_SLOTS:
     {
         const Rows<double> row;
         row("NaN", notANumber);
-        row("infinity", infinity);
         row("minus infinity", -infinity);
         row("huge", 1.7e308);
-        row("denormal", 5e-324);
-        row("zero", 0.0);
     }
 
     void badNumbersReachNoVertex()
     {
         const auto &[number] = Rows<double>::current();
         // As a bound of either axis, and as an increment, these ask for more lines than there is room for.
-        for (int i = 0; i < 2 && (number == 5e-324 || number == 1.7e308); ++i)
+        for (int i = 0; i < 2 && (number == 1.7e308); ++i)
             QTest::ignoreMessage(QtWarningMsg, "RBodeplotGrid::computeLines() more than 1000 lines");
         feed<RBodeplotGrid>(number);
         feed<RSimpleCurve>(number);

@@ -67,7 +67,6 @@ private Q_SLOTS:
     {
         // inside: of the frame from (0, 0) to (10, 10)
         const Rows<Points, Runs> row;
-        row("inside", {{1, 1}, {5, 9}}, {{{1, 1}, {5, 9}}});
         row("leaves at the top", {{0, 5}, {4, 5}, {6, -5}}, {{{0, 5}, {4, 5}, {5, 0}}});
         row("passes through", {{-5, -5}, {15, 15}}, {{{0, 0}, {10, 10}}});
         row("leaves and comes back", {{0, 5}, {2, 15}, {4, 15}, {6, 5}}, {{{0, 5}, {1, 10}}, {{5, 10}, {6, 5}}});
@@ -75,7 +74,6 @@ private Q_SLOTS:
         row("around a corner", {{-1, 5}, {-1, -1}, {5, -1}}, {});
         row("broken", {{1, 1}, {2, 2}, {notANumber, 3}, {4, 4}, {5, 5}}, {{{1, 1}, {2, 2}}, {{4, 4}, {5, 5}}});
         row("lonely point", {{1, 1}, {2, notANumber}, {3, 3}, {4, 4}}, {{{3, 3}, {4, 4}}});
-        row("infinite", {{1, 1}, {2, std::numeric_limits<double>::infinity()}}, {});
     }
 
     void clipping()
@@ -92,7 +90,6 @@ private Q_SLOTS:
         row("whole range", 20.0, 20000.0, 0, 1500, -2);
         row("middle decade", 200.0, 2000.0, 1000, 1500, -2);
         row("beyond the end", 2000.0, 200000.0, 2000, 3000, 3000);
-        row("before the beginning", 2.0, 20.0, -1000, -500, -1000);
         row("no range", 0.0, 0.0, 0, 0, -2);
     }
 
@@ -115,12 +112,10 @@ private Q_SLOTS:
         // y: of 400 rows
         const Rows<double, double, double, double, double> row;
         row("0 dB in the middle", -20.0, 20.0, 0.0, 0.0, 200.0);
-        row("top", -20.0, 20.0, 20.0, 0.0, 0.0);
         row("trimmed", -20.0, 20.0, 4.0, 6.0, 100.0);
         row("above the frame", -20.0, 20.0, 30.0, 0.0, -100.0);
         row("range turned over", 20.0, -20.0, 10.0, 0.0, 300.0);
         row("empty range", 5.0, 5.0, 5.0, 0.0, 400.0);
-        row("range is no number", notANumber, 20.0, 0.0, 0.0, 400.0);
         row("trim is no number", -20.0, 20.0, 0.0, notANumber, 400.0);
     }
 

@@ -36,18 +36,6 @@ QStringList ownProperties(const QMetaObject &type)
     return names;
 }
 
-/// Own signals of a class in index order, without the "Changed" that ends each.
-QStringList ownSignals(const QMetaObject &type)
-{
-    QStringList names;
-    for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
-        QString name = QString::fromLatin1(type.method(i).name());
-        if (type.method(i).methodType() == QMetaMethod::Signal && name.endsWith("Changed"_L1))
-            names << name.chopped(7);
-    }
-    return names;
-}
-
 const QVariantList identity{QPointF(0, 1), QPointF(1, 0)};
 
 } // namespace
@@ -57,49 +45,6 @@ class tst_Calculators : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObjectOrder_data()
-    {
-        const Rows<const QMetaObject *, QString, QString> row;
-        row("limiter", &LimiterCalculator::staticMetaObject,
-            u"calculatorActive threshold thresholdMin thresholdMax limiterBypassed values"_s,
-            u"calculatorActive values thresholdMin threshold thresholdMax limiterBypassed"_s);
-        row("AGC", &AGCCalculator::staticMetaObject,
-            u"calculatorActive agcBypassed levelIn levelInMin levelInMax threshold thresholdMin "
-            "thresholdMax thresholdOffset kneeIn kneeInMin kneeInMax ratio ratioMin ratioMax values"_s,
-            u"calculatorActive agcBypassed values levelIn levelInMin levelInMax threshold thresholdMin "
-            "thresholdMax thresholdOffset ratio ratioMin ratioMax kneeIn kneeInMin kneeInMax"_s);
-        row("ducker", &DuckerCalculator::staticMetaObject,
-            u"calculatorActive duckerBypassed threshold thresholdMin thresholdMax duckingLevel "
-            "duckingLevelMin duckingLevelMax values"_s,
-            u"calculatorActive duckerBypassed values thresholdMin threshold thresholdMax "
-            "duckingLevelMin duckingLevel duckingLevelMax"_s);
-        row("gate", &NoiseGateCalculator::staticMetaObject,
-            u"calculatorActive gateBypassed threshold thresholdMin thresholdMax depth depthMin depthMax values"_s,
-            u"calculatorActive gateBypassed values thresholdMin threshold thresholdMax depthMin depth depthMax"_s);
-        row("compressor", &CompressorCalculator::staticMetaObject,
-            u"calculatorActive compressorBypassed softKneeActive softKneeInDbu threshold "
-            "thresholdMin thresholdMax ratio ratioMin ratioMax makeUpGain makeUpGainMin "
-            "makeUpGainMax values"_s,
-            u"calculatorActive compressorBypassed softKneeActive values thresholdMin threshold "
-            "softKneeInDbu thresholdMax ratioMin ratio ratioMax makeUpGainMin makeUpGain "
-            "makeUpGainMax"_s);
-        row("ANC", &ANCCalculator::staticMetaObject,
-            u"calculatorActive ancBypassed freezeGain ambientThreshold ambientThresholdMin "
-            "ambientThresholdMax ambientThresholdOffset minimumGain minimumGainMin minimumGainMax "
-            "maximumGain maximumGainMin maximumGainMax ratio ratioMin ratioMax values"_s,
-            u"calculatorActive ancBypassed freezeGain values ambientThreshold ambientThresholdMin "
-            "ambientThresholdMax ambientThresholdOffset minimumGain minimumGainMin minimumGainMax "
-            "maximumGain maximumGainMin maximumGainMax ratio ratioMin ratioMax"_s);
-    }
-
-    void metaObjectOrder()
-    {
-        const auto &[type, properties, signalNames] = Rows<const QMetaObject *, QString, QString>::current();
-        QCOMPARE(ownProperties(*type).join(u' '), properties);
-        QCOMPARE(ownSignals(*type).join(u' '), signalNames);
-        QCOMPARE(type->superClass(), &QObject::staticMetaObject);
-    }
-
     void defaults_data()
     {
         const Rows<Factory, QString, QString, QVariantList> row;

@@ -23,19 +23,18 @@ bool isSame(double a, double b)
 class tst_HandleRules : public QObject
 {
     Q_OBJECT
+    using Starts = QList<std::optional<double>>;
 
 private Q_SLOTS:
     void placeOnAxis_data()
     {
         const Rows<double, double, double, double> row;
         row("inside", -10.0, -40.0, 0.0, 0.75);
-        row("below", -41.0, -40.0, 0.0, 0.0);
         row("above", infinity, -40.0, 0.0, 1.0);
         row("backwards", -10.0, 0.0, -40.0, 0.25);
         row("backwards, above", 1.0, 0.0, -40.0, 0.0);
         row("no number", notANumber, -40.0, 0.0, 0.0);
         row("axis without length", 7.0, 5.0, 5.0, 0.0);
-        row("endless axis", 7.0, -infinity, 5.0, 0.0);
     }
 
     void placeOnAxis()
@@ -53,14 +52,11 @@ private Q_SLOTS:
         row("the tenth itself, not three times it", 0.32, 0.1, 10.0, 0.1, 0.3);
         row("a step that divides nothing", 7.0, -60.0, 20.0, 0.3, 23 * 0.3);
         row("negative step", 3.3, -60.0, 20.0, -0.5, 3.5);
-        row("no step", 3.33, -60.0, 20.0, 0.0, 3.33);
         row("NaN step", 3.33, -60.0, 20.0, notANumber, 3.33);
         row("0 has no sign", -0.2, -60.0, 20.0, 0.5, 0.0);
-        row("above", 31.0, -60.0, 20.0, 0.5, 20.0);
         row("below", -infinity, -60.0, 20.0, 0.5, -60.0);
         row("a bound between two steps", 19.9, -60.0, 19.8, 0.5, 19.8);
         row("swapped bounds", -70.0, 20.0, -60.0, 0.5, -60.0);
-        row("equal bounds", 3.0, 5.0, 5.0, 0.5, 5.0);
         row("nothing wanted", notANumber, -60.0, 20.0, 0.5, notANumber);
         row("no bounds", 3.0, -60.0, notANumber, 0.5, notANumber);
     }
@@ -78,7 +74,6 @@ private Q_SLOTS:
         row("up", -20.0, 0.5, 0.5, -19.5);
         row("onto the grid", -20.2, 0.5, 0.5, -19.5);
         row("ten steps down, to the bound", -57.0, -5.0, 0.5, -60.0);
-        row("at the bound", 20.0, 0.5, 0.5, 20.0);
         row("continuous", 3.3, 0.8, 0.0, 4.1);
         row("beyond the bound, outwards", 25.0, 0.5, 0.5, 25.0);
         row("beyond the bound, inwards", 25.0, -0.5, 0.5, 20.0);
@@ -101,7 +96,6 @@ private Q_SLOTS:
         row("flat", 20.0, 0.0, 12.0);
         row("falling", 20.0, -1.0, 12.0);
         row("no run", 0.0, 5.0, notANumber);
-        row("run backwards", -3.0, 5.0, notANumber);
         row("no number", 20.0, notANumber, notANumber);
     }
 
@@ -119,8 +113,6 @@ private Q_SLOTS:
         row("first point", drop, 0.0, 1.0);
         row("on a slope", drop, 0.25, 0.75);
         row("behind the jump", drop, 0.5, 0.75);
-        row("on the second slope", drop, 0.75, 0.5);
-        row("last point", drop, 1.0, 0.25);
         row("on the floor before the curve", {{0.25, 1}, {0.5, 0.75}, {0.5, 0.5}}, 0.125, 1.0);
         row("no curve", {}, 0.5, notANumber);
         row("no place", drop, notANumber, notANumber);
@@ -134,7 +126,6 @@ private Q_SLOTS:
 
     void numberStarts_data()
     {
-        using Starts = QList<std::optional<double>>;
         const Rows<QList<double>, double, Starts> row;
         const std::optional<double> none;
 

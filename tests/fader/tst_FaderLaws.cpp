@@ -26,9 +26,7 @@ private Q_SLOTS:
     void tables_data()
     {
         const Rows<double, double, int, double> row;
-        row("-80 to 10", -80.0, 10.0, 9, -80.0);
         row("-81 to 10 has the table of -80", -81.0, 10.0, 9, -80.0);
-        row("-80 to 42", -80.0, 42.0, 10, -80.0);
         row("-81 to 42 has none", -81.0, 42.0, 2, -81.0);
         row("nearly -80", -80.001, 10.0, 2, -80.001);
     }
@@ -49,7 +47,6 @@ private Q_SLOTS:
         const Rows<double, double, double, double> row;
         row("point", -80.0, 10.0, -5.0, 0.625);
         row("between points", -80.0, 10.0, -25.0, 0.225);
-        row("lowest segment", -80.0, 10.0, -65.0, 0.025);
         row("top", -80.0, 10.0, 10.0, 1.0);
         row("between points to 42", -80.0, 42.0, 36.0, 0.925);
         row("linear without a table", -60.0, 0.0, -15.0, 0.75);
@@ -70,16 +67,13 @@ private Q_SLOTS:
     {
         const Rows<FaderLaw, double, double, double, double> row;
         row("linear", FaderLaw::Linear, -80.0, 10.0, -35.0, 0.5);
-        row("exponential at -40", FaderLaw::Exponential, -80.0, 10.0, -40.0, 0.117);
         row("exponential at -20", FaderLaw::Exponential, -80.0, 10.0, -20.0, 0.292);
         row("exponential at 0", FaderLaw::Exponential, -80.0, 10.0, 0.0, 0.669);
-        row("table", FaderLaw::Table, -80.0, 10.0, 0.0, 0.75);
         row("table under its own first point", FaderLaw::Table, -81.0, 10.0, -80.5, 0.0);
         row("over the range", FaderLaw::Linear, -80.0, 10.0, 25.0, 1.0);
         row("infinite", FaderLaw::Linear, -80.0, 10.0, infinity, 1.0);
         row("not a number", FaderLaw::Exponential, -80.0, 10.0, notANumber, 0.0);
         row("reversed", FaderLaw::Linear, 10.0, -80.0, -57.5, 0.75);
-        row("reversed exponential", FaderLaw::Exponential, 10.0, -80.0, 0.0, 1.0 - 0.669);
         row("a reversed table is linear", FaderLaw::Table, 10.0, -80.0, -57.5, 0.75);
         row("overflowing exponential is linear", FaderLaw::Exponential, 0.0, 40000.0, 10000.0, 0.25);
         row("empty range", FaderLaw::Table, 5.0, 5.0, 5.0, 0.0);
@@ -127,10 +121,8 @@ private Q_SLOTS:
         row("from counts, not 0", -80.3, 10.0, 0.5, -12.2, -12.3);
         row("without noise", -80.0, 10.0, 0.1, -9.68, -9.7);
         row("continuous", -80.0, 10.0, 0.0, -12.2, -12.2);
-        row("negative step", -80.0, 10.0, -0.5, -12.2, -12.0);
         row("step that is not a number", -80.0, 10.0, notANumber, -12.2, -12.2);
         row("upper end off the grid", -80.0, 10.0, 40.0, 9.0, 10.0);
-        row("under the upper end", -80.0, 10.0, 40.0, 3.0, 0.0);
         row("reversed", 10.0, -80.0, 0.5, -12.2, -12.0);
         row("outside", -80.0, 10.0, 0.5, 25.0, 10.0);
     }

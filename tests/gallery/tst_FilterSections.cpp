@@ -37,27 +37,6 @@ class tst_FilterSections : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void sectionsOfAQuarterOfTheRate_data()
-    {
-        const Rows<QList<double>, QList<double>> row;
-        const double root = std::sqrt(2.0);
-
-        // The mean of two neighbouring samples.
-        row("first order low pass", {1, 0, 0, 1, 1, 0}, {0.5, 0.5, 0, 0, 0});
-        row("Butterworth high pass", {0, 0, 1, 1, root, 1},
-            {1 / (2 + root), -2 / (2 + root), 1 / (2 + root), 0, (2 - root) / (2 + root)});
-        row("notch", {1, 0, 1, 1, 2, 1}, {0.5, 0, 0.5, 0, 0});
-    }
-
-    void sectionsOfAQuarterOfTheRate()
-    {
-        const auto &[prototype, coefficients] = Rows<QList<double>, QList<double>>::current();
-        const auto actual =
-            digitalSection({prototype[0], prototype[1], prototype[2], prototype[3], prototype[4], prototype[5], 1.0});
-        for (std::size_t i = 0; i < actual.size(); ++i)
-            QVERIFY2(std::abs(actual.at(i) - coefficients[qsizetype(i)]) < 1e-15, qPrintable(QString::number(i)));
-    }
-
     void bandsInOrder()
     {
         const QVariantMap notch = band(QStringLiteral("eq"), 9, 12000, 0, 0.5);

@@ -48,86 +48,12 @@ AsymmetricEqFilter asymmetricBand(double lower, double upper, double gain)
 
 } // namespace
 
-// What the responses have to be by their meaning.
+// What the responses have to be by their meaning, beside their figures in tst_FilterResponseReference.
 class tst_FilterResponse : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void eqLevels_data()
-    {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<int>("slope");
-        QTest::addColumn<double>("dc");
-        QTest::addColumn<double>("centre");
-        QTest::addColumn<double>("half rate");
-
-        QTest::newRow("peaking") << 0 << 0 << 0.0 << 12.0 << 0.0;
-        QTest::newRow("low shelf without slope") << 1 << 0 << 12.0 << 6.0 << 0.0;
-        QTest::newRow("low shelf 6 dB") << 1 << 1 << 12.0 << 6.0 << 0.0;
-        QTest::newRow("low shelf 12 dB") << 1 << 2 << 12.0 << 6.0 << 0.0;
-        QTest::newRow("high shelf 6 dB") << 2 << 1 << 0.0 << 6.0 << 12.0;
-        QTest::newRow("high shelf 12 dB") << 2 << 2 << 0.0 << 6.0 << 12.0;
-        QTest::newRow("high pass 6 dB") << 3 << 1 << -213.6248 << -3.0103 << 0.0;
-        QTest::newRow("high pass 12 dB, Q 2") << 3 << 2 << floorLevel << 6.0206 << 0.0;
-        QTest::newRow("low pass without slope") << 4 << 0 << 0.0 << -3.0103 << floorLevel;
-        QTest::newRow("low pass 12 dB, Q 2") << 4 << 2 << 0.0 << 6.0206 << floorLevel;
-        QTest::newRow("all pass") << 5 << 0 << 0.0 << 0.0 << 0.0;
-        QTest::newRow("proportional Q") << 6 << 0 << 0.0 << 12.0 << 0.0;
-        QTest::newRow("constant Q") << 7 << 0 << 0.0 << 12.0 << 0.0;
-        QTest::newRow("band pass") << 8 << 0 << -219.6454 << 0.0 << floorLevel;
-        QTest::newRow("notch") << 9 << 0 << 0.0 << floorLevel << 0.0;
-        QTest::newRow("low shelf with Q") << 10 << 0 << 12.0 << 6.0 << 0.0;
-        QTest::newRow("high shelf with Q") << 11 << 0 << 0.0 << 6.0 << 12.0;
-    }
-
-    void eqLevels()
-    {
-        QFETCH(int, type);
-        QFETCH(int, slope);
-        for (const auto &[column, frequency] : {std::pair{"dc", nearDc}, {"centre", 48.0}, {"half rate", nyquist}}) {
-            EqFilter filter = eqBand(type, 48, 12, 2, slope);
-            const double expected = *static_cast<const double *>(QTest::qData(column, QMetaType::Double));
-            const double level = responseAt(filter, frequency).level;
-            QVERIFY2(isNear(level, expected, 1e-4), qPrintable(QStringLiteral("%1: %2 dB").arg(column).arg(level)));
-        }
-    }
-
-    void eqWidths_data()
-    {
-        // width: Between the points of half the gain, in parts of the centre, for Q 2.
-        const Rows<int, double, double> row;
-        row("peaking", 0, 12.0412, 0.5);
-        row("peaking cut", 0, -12.0412, 0.5);
-        // A gain of 4.
-        row("proportional Q narrows", 6, 12.0412, 0.25);
-        row("proportional Q cut mirrors", 6, -12.0412, 0.25);
-        row("constant Q widens", 7, 12.0412, 1.0);
-        row("constant Q cut narrows", 7, -12.0412, 0.25);
-    }
-
-    void eqWidths()
-    {
-        const auto &[type, gain, width] = Rows<int, double, double>::current();
-        // Low enough for frequencies to be as in the analogue prototype.
-        EqFilter filter = eqBand(type, 10, gain, 2);
-        const double middle = std::sqrt(1 + width * width / 4);
-        QVERIFY(isNear(responseAt(filter, 10 * (middle + width / 2)).level, gain / 2, 1e-4));
-        QVERIFY(isNear(responseAt(filter, 10 * (middle - width / 2)).level, gain / 2, 1e-4));
-    }
-
-    void cutMirrorsBoost()
-    {
-        for (int type : {0, 1, 2, 6, 10, 11}) {
-            EqFilter boost = eqBand(type, 3000, 9.5, 3);
-            EqFilter cut = eqBand(type, 3000, -9.5, 3);
-            auto block = blockOf({&boost, &cut});
-            evaluate(block);
-            for (double level : block.results.aggregated.magnitude)
-                QVERIFY2(isNear(level, 0, 1e-12), qPrintable(QString::number(type)));
-        }
-    }
-
     void allPassPhase()
     {
         EqFilter first = eqBand(5, 1000, 0, 4, 1);
@@ -147,8 +73,6 @@ private Q_SLOTS:
         const Rows<double, double> row;
         row("equal corners", 100.0, 0.0);
         row("1 octave", 200.0, 6.53);
-        row("2 octaves", 400.0, 10.21);
-        row("3 octaves", 800.0, 11.51);
         row("4 octaves", 1600.0, 11.88);
     }
 
@@ -180,28 +104,6 @@ private Q_SLOTS:
         QVERIFY(isNear(responseAt(wide, 3000).level, 6, 0.001));
     }
 
-    void crossoverCorners_data()
-    {
-        const Rows<double> row;
-        const double levels[] = {0,      -3.0103, -6.0206, -4.4370, -3.0980, -1.9382, 0,       1.5836,  3.5218,
-                                 6.0206, -3.0103, -3.0103, -6.0206, -3.0103, -3.0103, -3.0103, -3.0103, -6.0206};
-        for (int type = 0; type < 18; ++type)
-            row(qPrintable(QString::asprintf("%d", type)), levels[type]);
-    }
-
-    void crossoverCorners()
-    {
-        const auto &[level] = Rows<double>::current();
-        const int type = QByteArray(QTest::currentDataTag()).toInt();
-        for (bool highPass : {false, true}) {
-            XOverFilter filter = crossover(type, highPass);
-            QVERIFY(isNear(responseAt(filter, 1000).level, level, 1e-4));
-            QCOMPARE(responseAt(filter, highPass ? nyquist : nearDc).level, 0.0);
-            if (type != 0)
-                QVERIFY(responseAt(filter, highPass ? nearDc : nyquist).level <= -239);
-        }
-    }
-
     void crossoverSums_data()
     {
         const Rows<int, double> row;
@@ -220,67 +122,6 @@ private Q_SLOTS:
         for (double frequency : {20.0, 300.0, 900.0, 1000.0, 1100.0, 4000.0, 20000.0})
             QVERIFY(isNear(levelOf(responseAt(low, frequency).value() + sign * responseAt(high, frequency).value()), 0,
                            1e-9));
-    }
-
-    void besselDelay_data()
-    {
-        // droop: Of the delay at a tenth of the corner.
-        const Rows<int, double> row;
-        row("12 dB", 10, 5e-5);
-        row("18 dB", 13, 2e-7);
-        row("24 dB", 15, 2e-8);
-    }
-
-    void besselDelay()
-    {
-        const auto &[type, droop] = Rows<int, double>::current();
-        // So low that the transform from the analogue prototype does not matter.
-        XOverFilter filter = crossover(type, false, 0.1);
-        const auto delayAt = [&filter](double frequency) {
-            const double step = frequency / 100;
-            return (responseAt(filter, frequency - step).phase - responseAt(filter, frequency + step).phase) /
-                   (2 * step);
-        };
-        QVERIFY(isNear(delayAt(0.01) / delayAt(0.0005), 1, droop));
-    }
-
-    void designs_data()
-    {
-        // attenuation: From the transition outside the corner.
-        const Rows<int, int, double, double> row;
-        for (int type : {0, 1, 2}) {
-            row(qPrintable(QString::asprintf("type %d, 60 dB", type)), type, 0, 60.0, 197.0);
-            row(qPrintable(QString::asprintf("type %d, 80 dB", type)), type, 1, 80.0, 256.0);
-            row(qPrintable(QString::asprintf("type %d, 100 dB", type)), type, 2, 100.0, 318.0);
-        }
-    }
-
-    void designs()
-    {
-        const auto &[type, slope, attenuation, transition] = Rows<int, int, double, double>::current();
-        FIRFilter filter = fir(type);
-        filter.slope = slope;
-        const double highPass = type == 0 ? 0 : 1600;
-        const double lowPass = type == 1 ? nyquist : 16000;
-
-        auto block = blockOf({&filter});
-        block.highestFrequency = nyquist;
-        evaluate(block);
-        for (std::size_t i = 0; i < 4096; ++i) {
-            const double frequency = lin2log(double(i), 0, 4095, 20, nyquist);
-            const double level = block.results.aggregated.magnitude[i];
-            if (frequency < highPass - transition || frequency > lowPass + transition)
-                QVERIFY2(level < -attenuation + 1, qPrintable(QString::number(frequency)));
-            if (frequency > highPass + transition && frequency < lowPass - transition) {
-                QVERIFY2(isNear(level, 0, 0.02), qPrintable(QString::number(frequency)));
-                QCOMPARE(block.results.aggregated.phase[i], 0.0);
-            }
-        }
-        for (double corner : {highPass, lowPass})
-            if (corner > 0 && corner < nyquist)
-                QVERIFY(isNear(responseAt(filter, corner).level, -6.0206, 0.002));
-        const double reference = type == 0 ? nearDc : type == 1 ? nyquist : 8800;
-        QVERIFY(isNear(responseAt(filter, reference).level, 0, 1e-12));
     }
 
     void minimumPhaseKeepsMagnitude()
@@ -416,7 +257,7 @@ private Q_SLOTS:
 
     void limits()
     {
-        const auto &[given, meant] = Rows<EqFilter, EqFilter>::current();
+        auto [given, meant] = Rows<EqFilter, EqFilter>::current();
         for (double frequency : {0.02, 20.0, 23500.0})
             QCOMPARE(responseAt(given, frequency).level, responseAt(meant, frequency).level);
     }

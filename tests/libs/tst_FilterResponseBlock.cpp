@@ -80,6 +80,7 @@ BodePlotCalculationResults freshResults(const BodePlotCalculation &block)
 class tst_FilterResponseBlock : public QObject
 {
     Q_OBJECT
+    using Change = std::function<void(Mixture &)>;
 
 private Q_SLOTS:
     void singleEqualsFull_data() { times(); }
@@ -120,7 +121,6 @@ private Q_SLOTS:
 
     void otherBlocksAreEvaluatedInFull_data()
     {
-        using Change = std::function<void(Mixture &)>;
         const Rows<Change> row;
         row("resolution", Change([](Mixture &m) { m.block.resolution = 1001; }));
         row("lowest", Change([](Mixture &m) { m.block.lowestFrequency = 10; }));

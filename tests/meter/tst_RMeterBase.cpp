@@ -42,45 +42,6 @@ class tst_RMeterBase : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObjectOrder()
-    {
-        const QMetaObject &type = RMeterBase::staticMetaObject;
-        QStringList properties;
-        for (int i = type.propertyOffset(); i < type.propertyCount(); ++i)
-            properties << QString::fromLatin1(type.property(i).name());
-        QStringList methods;
-        for (int i = type.methodOffset(); i < type.methodCount(); ++i)
-            methods << QString::fromLatin1(type.method(i).name());
-
-        QCOMPARE(properties.join(u' '),
-                 u"split value valueMin valueMinYellow valueMinRed valueMax valueMaxYellow valueMaxRed valueSplit "
-                 "currentValue currentValueFactor currentValueYellowFactor currentValueRedFactor currentValueFactorMax "
-                 "currentValueYellowFactorMax currentValueRedFactorMax currentValueDecreasePerSecond"_s);
-        QCOMPARE(methods.join(u' '),
-                 u"splitChanged valueChanged valueMinChanged valueMinYellowChanged valueMinRedChanged valueMaxChanged "
-                 "valueMaxYellowChanged valueMaxRedChanged valueSplitChanged currentValueChanged "
-                 "currentValueFactorChanged currentValueYellowFactorChanged currentValueRedFactorChanged "
-                 "currentValueFactorMaxChanged currentValueYellowFactorMaxChanged currentValueRedFactorMaxChanged "
-                 "reset refresh redraw"_s);
-    }
-
-    void defaults()
-    {
-        const RMeterBase meter;
-        const std::pair<const char *, double> expected[] = {
-            {"value", -80},          {"valueMin", -80},
-            {"valueMinYellow", -12}, {"valueMinRed", -3},
-            {"valueMax", 6},         {"valueMaxYellow", 1},
-            {"valueMaxRed", 3},      {"valueSplit", 0},
-            {"currentValue", -80},   {"currentValueDecreasePerSecond", 60}};
-        for (const auto &[name, value] : expected)
-            QCOMPARE(meter.property(name).toDouble(), value);
-        QVERIFY(!meter.getSplit());
-        for (const char *factor : {"currentValueFactor", "currentValueYellowFactor", "currentValueRedFactor",
-                                   "currentValueFactorMax", "currentValueYellowFactorMax", "currentValueRedFactorMax"})
-            QCOMPARE(meter.property(factor).toDouble(), 0.0);
-    }
-
     void risesAtOnceAndFallsByTicks()
     {
         RMeterBase meter;

@@ -3,12 +3,14 @@
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSaveFile>
 #include <QtCore/QTimer>
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <functional>
 
 using namespace tamble::client;
@@ -103,13 +105,27 @@ private Q_SLOTS:
         const Setup setup(fixture.write("user.style", sheet(1)));
         StyledBox box;
         QSignalSpy loads(&fixture.engine(), &StyleEngine::styleChanged);
-        for (int value = 2; value <= 9; ++value) {
-            fixture.write("user.style", sheet(value));
-            QTest::qWait(5);
+        for (int attempt = 0; attempt < 20; ++attempt) {
+            QTRY_COMPARE(box.props().number("a"), 1.0);
+            loads.clear();
+            qint64 longestGap = 0;
+            for (int value = 2; value <= 9; ++value) {
+                QElapsedTimer gap;
+                gap.start();
+                fixture.write("user.style", sheet(value));
+                QTest::qWait(5);
+                longestGap = std::max(longestGap, gap.elapsed());
+            }
+            QTRY_COMPARE(box.props().number("a"), 9.0);
+            QTest::qWait(120);
+            // A pause of more than 50 ms ends a save, and only a busy machine makes one here.
+            if (longestGap < 40) {
+                QCOMPARE(loads.count(), 1);
+                return;
+            }
+            fixture.write("user.style", sheet(1));
         }
-        QTRY_COMPARE(box.props().number("a"), 9.0);
-        QTest::qWait(120);
-        QCOMPARE(loads.count(), 1);
+        QSKIP("The machine is too busy.");
     }
 
     void otherFilesCauseNone()
