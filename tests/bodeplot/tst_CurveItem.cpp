@@ -2,8 +2,6 @@
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
-#include <QtCore/QRegularExpression>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>

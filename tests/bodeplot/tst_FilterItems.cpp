@@ -2,14 +2,11 @@
 #include "bodeplot/RBodeplotCurve.h"
 #include "bodeplot/RBodeplotFIRFilter.h"
 #include "bodeplot/RBodeplotXOverFilter.h"
+#include "support/QmlText.h"
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QMetaEnum>
-#include <QtQml/QQmlComponent>
-#include <QtQml/QQmlEngine>
-
-#include <memory>
 
 using namespace tamble::client;
 
@@ -18,12 +15,7 @@ namespace {
 std::unique_ptr<QObject> create(QQmlEngine &engine, const QByteArray &body)
 {
     TambleClientControlModule().registerTypes("TambleClient.Control");
-    QQmlComponent component(&engine);
-    component.setData("import QtQuick\nimport TambleClient.Control 1.0\n" + body, QUrl());
-    std::unique_ptr<QObject> object(component.create());
-    if (!object)
-        qWarning().noquote() << component.errorString();
-    return object;
+    return objectFrom(engine, "import QtQuick\nimport TambleClient.Control 1.0\n" + body);
 }
 
 } // namespace

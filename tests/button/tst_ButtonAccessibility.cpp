@@ -1,14 +1,11 @@
 #include "TambleClientControlModule.h"
 #include "button/Mnemonic.h"
+#include "support/QmlText.h"
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
-#include <QtCore/QRegularExpression>
-#include <QtCore/QStringList>
 #include <QtGui/QAccessible>
 #include <QtGui/private/qguiapplication_p.h>
-#include <QtQml/QQmlComponent>
-#include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
 #include <QtQuick/private/qquickaccessibleattached_p.h>
@@ -327,12 +324,8 @@ private:
 
     std::unique_ptr<QQuickItem> make(const QString &body)
     {
-        QQmlComponent component(&m_engine);
-        component.setData("import QtQuick\nimport TambleClient.Control 1.0\n" + body.toUtf8(), QUrl());
-        auto *object = component.create();
-        if (!object)
-            qWarning() << component.errorString();
-        std::unique_ptr<QQuickItem> item(qobject_cast<QQuickItem *>(object));
+        auto object = objectFrom(m_engine, "import QtQuick\nimport TambleClient.Control 1.0\n" + body.toUtf8());
+        std::unique_ptr<QQuickItem> item(qobject_cast<QQuickItem *>(object.release()));
         if (item)
             item->setParentItem(m_window.contentItem());
         return item;

@@ -1,15 +1,13 @@
 #include "ControlImageProvider.h"
+#include "support/QmlText.h"
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
-#include <QtQml/QQmlComponent>
-#include <QtQml/QQmlEngine>
 
 #include <memory>
 
@@ -149,12 +147,10 @@ private Q_SLOTS:
         for (int round = 0; round < 5; ++round) {
             QQmlEngine engine;
             engine.addImageProvider(QStringLiteral("tamble"), new ControlImageProvider(engine.baseUrl()));
-            QQmlComponent component(&engine);
-            component.setData("import QtQuick\nItem { Repeater { model: 100; Image { required property int index; "
-                              "asynchronous: true; source: 'image://tamble/ui/a_' + index } } }",
-                              QUrl());
-            const std::unique_ptr<QObject> object(component.create());
-            QVERIFY2(object, qPrintable(component.errorString()));
+            const auto object =
+                objectFrom(engine, "import QtQuick\nItem { Repeater { model: 100; Image { required property int index; "
+                                   "asynchronous: true; source: 'image://tamble/ui/a_' + index } } }");
+            QVERIFY(object);
         }
     }
 };

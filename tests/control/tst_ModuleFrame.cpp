@@ -1,5 +1,6 @@
 #include "ControlImageProvider.h"
 #include "TambleClientControlModule.h"
+#include "support/QmlText.h"
 #include "support/TestProgram.h"
 #include "workspace/RMouseEventSpy.h"
 
@@ -8,9 +9,7 @@
 #include <QtCore/QResource>
 #include <QtGui/QFontInfo>
 #include <QtGui/QPointingDevice>
-#include <QtQml/QQmlComponent>
 #include <QtQml/QQmlContext>
-#include <QtQml/QQmlEngine>
 
 #include <malloc.h>
 
@@ -36,13 +35,11 @@ void useOneEngine()
     TambleClientControlModule module;
     module.registerTypes(Uri);
     module.initializeEngine(&engine, Uri);
-    QQmlComponent component(&engine);
-    component.setData("import QtQuick\nimport TambleClient.Control 1.0\n"
-                      "Item { RMeterBase {} RLimiterCalculator { id: c } property RTheme themeObject: RTheme {}\n"
-                      "property point position: RMouseEventSpy.position; property var values: c.values }",
-                      QUrl());
-    const std::unique_ptr<QObject> object(component.create());
-    QVERIFY2(object, qPrintable(component.errorString()));
+    const auto object =
+        objectFrom(engine, "import QtQuick\nimport TambleClient.Control 1.0\n"
+                           "Item { RMeterBase {} RLimiterCalculator { id: c } property RTheme themeObject: RTheme {}\n"
+                           "property point position: RMouseEventSpy.position; property var values: c.values }");
+    QVERIFY(object);
 }
 
 } // namespace
@@ -83,13 +80,11 @@ private Q_SLOTS:
         for (const char *uri : {Uri, "Another.Uri", "Another.Uri"})
             module.registerTypes(uri);
         module.initializeEngine(&engine, Uri);
-        QQmlComponent component(&engine);
-        component.setData("import QtQml\nimport Another.Uri 1.0 as Another\nimport TambleClient.Control 1.0 as Own\n"
-                          "QtObject { property QtObject meter: Another.RMeterBase {}\n"
-                          "property bool shared: Another.RMouseEventSpy === Own.RMouseEventSpy }",
-                          QUrl());
-        const std::unique_ptr<QObject> object(component.create());
-        QVERIFY2(object, qPrintable(component.errorString()));
+        const auto object = objectFrom(
+            engine, "import QtQml\nimport Another.Uri 1.0 as Another\nimport TambleClient.Control 1.0 as Own\n"
+                    "QtObject { property QtObject meter: Another.RMeterBase {}\n"
+                    "property bool shared: Another.RMouseEventSpy === Own.RMouseEventSpy }");
+        QVERIFY(object);
         QVERIFY(object->property("shared").toBool());
     }
 
@@ -116,12 +111,10 @@ private Q_SLOTS:
         QObject *spies[2] = {};
         for (int i = 0; i < 2; ++i) {
             module.initializeEngine(&engines[i], Uri);
-            QQmlComponent component(&engines[i]);
-            component.setData(
-                "import QtQml\nimport TambleClient.Control 1.0\nQtObject { property QtObject spy: RMouseEventSpy }",
-                QUrl());
-            const std::unique_ptr<QObject> object(component.create());
-            QVERIFY2(object, qPrintable(component.errorString()));
+            const auto object = objectFrom(
+                engines[i],
+                "import QtQml\nimport TambleClient.Control 1.0\nQtObject { property QtObject spy: RMouseEventSpy }");
+            QVERIFY(object);
             spies[i] = object->property("spy").value<QObject *>();
         }
         QCOMPARE(spies[0], RMouseEventSpy::instance());

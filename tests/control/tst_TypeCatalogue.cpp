@@ -4,7 +4,6 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QMetaProperty>
-#include <QtCore/QStringList>
 #include <QtQml/QJSValue>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlContext>

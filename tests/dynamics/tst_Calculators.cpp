@@ -9,8 +9,6 @@
 #include "dynamics/LimiterCalculator.h"
 #include "dynamics/NoiseGateCalculator.h"
 
-#include <QtTest/QtTest>
-
 #include <limits>
 #include <memory>
 
@@ -129,7 +127,7 @@ private Q_SLOTS:
     void pointsStayInsideThePlot_data() { defaults_data(); }
     void pointsStayInsideThePlot()
     {
-        QFETCH(Factory, factory);
+        const Factory factory = std::get<0>(Rows<Factory, QString, QString, QVariantList>::current());
         using Limits = std::numeric_limits<double>;
         constexpr double odd[] = {Limits::quiet_NaN(),
                                   Limits::infinity(),

@@ -4,8 +4,6 @@
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
-#include <QtTest/QtTest>
-
 #include <cmath>
 
 using namespace tamble::client;

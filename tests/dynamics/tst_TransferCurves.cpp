@@ -5,8 +5,6 @@
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
-#include <QtTest/QtTest>
-
 #include <cmath>
 
 using namespace tamble::client;

@@ -4,8 +4,6 @@
 #include "CountingSource.h"
 #include "support/TestProgram.h"
 
-#include <QtTest/QtTest>
-
 #include <atomic>
 
 using namespace std::chrono_literals;

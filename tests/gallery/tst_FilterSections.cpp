@@ -3,8 +3,6 @@
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
-#include <QtTest/QtTest>
-
 #include <cmath>
 #include <complex>
 #include <numbers>

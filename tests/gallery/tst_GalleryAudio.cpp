@@ -5,7 +5,6 @@
 
 #include <QtCore/QTemporaryDir>
 #include <QtQml/QQmlEngine>
-#include <QtTest/QtTest>
 
 namespace {
 

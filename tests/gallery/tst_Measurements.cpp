@@ -6,8 +6,6 @@
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
-#include <QtTest/QtTest>
-
 #include <limits>
 
 namespace {

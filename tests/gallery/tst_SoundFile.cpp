@@ -5,7 +5,6 @@
 #include "support/TestProgram.h"
 
 #include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
 
 #include <sndfile.h>
 

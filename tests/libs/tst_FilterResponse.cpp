@@ -54,6 +54,26 @@ class tst_FilterResponse : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void slopes_data()
+    {
+        const Rows<int, int, QList<double>> row;
+        row("low shelf 6 dB", 1, 1, {12.0, 6.0, 0.0});
+        row("high shelf without slope", 2, 0, {0.0, 6.0, 12.0});
+        row("high pass without slope", 3, 0, {-213.6248, -3.0103, 0.0});
+        row("low pass 6 dB", 4, 1, {0.0, -3.0103, floorLevel});
+        row("all pass without slope", 5, 0, {0.0, 0.0, 0.0});
+    }
+
+    // Those that the reference leaves out.
+    void slopes()
+    {
+        const auto &[type, slope, levels] = Rows<int, int, QList<double>>::current();
+        EqFilter filter = eqBand(type, 48, 12, 2, slope);
+        const double frequencies[] = {nearDc, 48.0, nyquist};
+        for (int i = 0; i < 3; ++i)
+            QVERIFY2(isNear(responseAt(filter, frequencies[i]).level, levels[i], 1e-4), qPrintable(QString::number(i)));
+    }
+
     void allPassPhase()
     {
         EqFilter first = eqBand(5, 1000, 0, 4, 1);
@@ -209,7 +229,8 @@ private Q_SLOTS:
         EqFilter noType = eqBand(12, 1000, 12);
         EqFilter noGain = eqBand(10, 1000, 0);
         XOverFilter noCrossover = crossover(18, true);
-        auto block = blockOf({nullptr, &unknown, &bypassed, &noType, &noGain, &noCrossover}, 3);
+        XOverFilter through = crossover(0, false);
+        auto block = blockOf({nullptr, &unknown, &bypassed, &noType, &noGain, &noCrossover, &through}, 3);
         evaluate(block);
         for (const FilterResponse &curve : block.results.items) {
             QCOMPARE(curve.magnitude, std::vector<double>(3, 0.0));

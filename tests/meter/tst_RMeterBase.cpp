@@ -4,8 +4,6 @@
 
 #include "meter/RMeterBase.h"
 
-#include <QtTest/QtTest>
-
 #include <limits>
 
 using namespace tamble::client;

@@ -9,7 +9,6 @@
 #include "plot/RScaleHelper.h"
 
 #include <QtCore/QPointer>
-#include <QtTest/QtTest>
 
 #include <limits>
 

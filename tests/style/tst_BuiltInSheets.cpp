@@ -4,7 +4,6 @@
 #include "support/TestProgram.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QRegularExpression>
 
 namespace {
 

@@ -2,7 +2,6 @@
 
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
-#include <QtCore/QRegularExpression>
 
 // Hosts filter what they log by category, and a line without one cannot be told from their own.
 

@@ -4,7 +4,6 @@
 #include "support/TestProgram.h"
 
 #include <QtCore/QElapsedTimer>
-#include <QtCore/QRegularExpression>
 #include <QtCore/QSaveFile>
 #include <QtCore/QTimer>
 

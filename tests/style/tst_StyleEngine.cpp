@@ -1,12 +1,10 @@
 #include "StyleFixture.h"
 #include "style/StyleEngineSetup.h"
+#include "support/QmlText.h"
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtCore/QThread>
-#include <QtQml/QQmlComponent>
-#include <QtQml/QQmlEngine>
 
 using namespace tamble::client;
 
@@ -159,12 +157,11 @@ private Q_SLOTS:
         const StyleFixture fixture;
         fixture.write("mine.style", "Box { a: 1 }");
         QQmlEngine engine;
-        QQmlComponent component(&engine);
-        component.setData("import QtQuick\nimport TambleClient.Control 1.0\n"
-                          "RStyleEngineSetup { engine.styleSheetSource: 'mine.style' }",
-                          fixture.url("page.qml"));
-        const std::unique_ptr<QObject> object(component.create());
-        QVERIFY2(object, qPrintable(component.errorString()));
+        const auto object = objectFrom(engine,
+                                       "import QtQuick\nimport TambleClient.Control 1.0\n"
+                                       "RStyleEngineSetup { engine.styleSheetSource: 'mine.style' }",
+                                       fixture.url("page.qml"));
+        QVERIFY(object);
         StyledBox box;
         QCOMPARE(box.props().number("a"), 1.0);
     }

@@ -3,7 +3,6 @@
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 

@@ -1,5 +1,4 @@
 #include "StyleTestPaths.h"
-#include "style/RulePrinter.h"
 #include "style/StyleInfoText.h"
 #include "style/StyleResolver.h"
 #include "support/Rows.h"

@@ -1,10 +1,9 @@
 #include "style/ThemeSelector.h"
+#include "support/QmlText.h"
 #include "support/TestProgram.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
 #include <QtQml/QQmlContext>
-#include <QtQml/QQmlEngine>
 
 #include <memory>
 
@@ -39,9 +38,8 @@ private Q_SLOTS:
         auto selector = std::make_unique<ThemeSelector>();
         selector->setThemeComponent(&first);
 
-        QQmlComponent control(&engine);
-        control.setData("import QtQml\nQtObject { property int size: theme.size }", QUrl());
-        const std::unique_ptr<QObject> user(control.create());
+        const auto user = objectFrom(engine, "import QtQml\nQtObject { property int size: theme.size }");
+        QVERIFY(user);
         QCOMPARE(user->property("size").toInt(), 8);
 
         // Another theme takes over as soon as it is ready, and the old one goes.

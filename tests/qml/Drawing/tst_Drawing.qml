@@ -9,7 +9,7 @@ ThemedTestCase {
     id: root
     name: "Drawing"
 
-    function line(width: real, y: real, color: string): string {
+    function graph(width: real, y: real, color: string): string {
         return `RGraphPlotter { anchors.fill: parent; lineWidth: ${width}; color: '${color}'; values: [Qt.point(0, ${y}), Qt.point(1, ${y})] }`
     }
 
@@ -43,10 +43,10 @@ ThemedTestCase {
         return [
             { tag: "standing meter", content: "RMeter { width: 20; height: 100; paddingTop: 0; paddingBottom: 0; value: -37 }", pixels: [[10, 97, "#77be1e"], [10, 55, "#77be1e"], [10, 45, "#191919"], [30, 97, white]] },
             { tag: "lying meter", content: "RMeter { horizontal: true; width: 100; height: 20; value: 6 }", pixels: [[40, 10, "#77be1e"], [85, 10, "#f9af3c"], [98, 10, "#e10014"], [40, 30, white]] },
-            { tag: "wide line", content: line(4, 0.5, red), pixels: [[1, 50, red], [98, 48, red], [50, 51, red], [50, 46, white], [50, 53, white]] },
-            { tag: "thin line", content: line(1, 0.505, red), pixels: [[50, 50, red], [50, 48, white], [50, 52, white]] },
-            { tag: "faint line", content: "color: '#000000'; Item { anchors.fill: parent; opacity: 0.5; " + line(4, 0.5, "#80ff0000") + "}", pixels: [[50, 50, "#400000"], [50, 40, "#000000"]] },
-            { tag: "cut line", content: "Item { width: 50; height: 100; clip: true; Item { width: 100; height: 100; " + line(4, 0.5, red) + "} }", pixels: [[48, 50, red], [51, 50, white]] },
+            { tag: "wide line", content: graph(4, 0.5, red), pixels: [[1, 50, red], [98, 48, red], [50, 51, red], [50, 46, white], [50, 53, white]] },
+            { tag: "thin line", content: graph(1, 0.505, red), pixels: [[50, 50, red], [50, 48, white], [50, 52, white]] },
+            { tag: "faint line", content: "color: '#000000'; Item { anchors.fill: parent; opacity: 0.5; " + graph(4, 0.5, "#80ff0000") + "}", pixels: [[50, 50, "#400000"], [50, 40, "#000000"]] },
+            { tag: "cut line", content: "Item { width: 50; height: 100; clip: true; Item { width: 100; height: 100; " + graph(4, 0.5, red) + "} }", pixels: [[48, 50, red], [51, 50, white]] },
             { tag: "upright lines", content: "RLinePlotter { anchors.fill: parent; orientation: RLinePlotter.Vertical; values: [0, 0.5]; color: '#0000ff'; lineWidth: 4 }", pixels: [[0, 20, blue], [50, 80, blue], [54, 80, white]] },
             { tag: "grid", content: "RGrid { anchors.fill: parent; frameVisible: true; horizontal: RGridLayout { positions: [0.5]; color: '#00ff00'; lineWidth: 2; majorColor: '#ff0000'; majorLineWidth: 2 } }", pixels: [[50, 50, green], [50, 0, red], [99, 20, red], [50, 30, white]] },
             { tag: "plot grid", content: part("RBodeplotGridTemplate", -10) + "xIncrement: 5; yIncrement: 5; dedicatedXAxisLine: true }", pixels: [[50, 10, blue], [20, 75, green], [20, 50, red], [20, 60, white]] },
@@ -69,7 +69,7 @@ ThemedTestCase {
     }
 
     function test_changesAreDrawn() {
-        const line = scene(line(4, 0.5, "#ff0000")).children[0]
+        const line = scene(graph(4, 0.5, "#ff0000")).children[0]
         const drawn = y => String(pixelOf(grabImage(root), 50, y))
         compare(drawn(50), "#ff0000")
         line.color = "#0000ff"

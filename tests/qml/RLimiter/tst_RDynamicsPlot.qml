@@ -155,19 +155,6 @@ PanelTestCase {
         }
     }
 
-    function test_noMissingKeys_data() {
-        return sheetRows()
-    }
-    function test_noMissingKeys(data) {
-        root.sheet = data.tag
-        for (const name of root.panels) {
-            const panel = make(name + " { levelVisible: true }")
-            findChild(panel, "threshold")?.forceActiveFocus(Qt.TabFocusReason)
-            keyClick(Qt.Key_Down)
-            waitForRendering(panel, 50)
-        }
-    }
-
     function test_meters() {
         const compressor = make("RCompressor { gainReductionVisible: true; gainReduction: 6 }")
         const agc = make("RAGC { gainMeterVisible: true; gain: -6; gainRange: 12 }")
