@@ -5,12 +5,7 @@
 #include "bodeplot/RBodeplotEqFilter.h"
 #include "bodeplot/RBodeplotFIRFilter.h"
 #include "bodeplot/RBodeplotXOverFilter.h"
-
-#include <QtCore/QDebug>
-#include <QtQml/QQmlComponent>
-#include <QtQml/QQmlEngine>
-
-#include <memory>
+#include "support/QmlText.h"
 
 namespace tamble::client {
 
@@ -66,14 +61,9 @@ struct Page
             return true;
         }();
         Q_UNUSED(registered)
-        QQmlComponent component(&engine);
-        component.setData("import QtQuick\nimport CurveItems 1.0\nItem { width: 300; height: 400\n"
-                          "Curve { id: curve; objectName: 'curve'; width: 300; height: 400\n" +
-                              curveBody + "}\n" + siblings + "}",
-                          QUrl());
-        root.reset(component.create());
-        if (!root)
-            qWarning().noquote() << component.errorString();
+        root = objectFrom(engine, "import QtQuick\nimport CurveItems 1.0\nItem { width: 300; height: 400\n"
+                                  "Curve { id: curve; objectName: 'curve'; width: 300; height: 400\n" +
+                                      curveBody + "}\n" + siblings + "}");
         curve = root ? static_cast<Curve *>(root->findChild<RBodeplotCurve *>(QStringLiteral("curve"))) : nullptr;
     }
 

@@ -1,9 +1,6 @@
 #include "bodeplot/RBodeplot.h"
+#include "support/Rows.h"
 #include "support/TestProgram.h"
-
-#include <QtCore/QObject>
-#include <QtTest/QSignalSpy>
-#include <QtTest/QTest>
 
 #include <cmath>
 #include <limits>
@@ -43,163 +40,128 @@ struct Frame : RBodeplot
 
 } // namespace
 
-class tst_BodeplotFrame : public QObject
+class tst_BodeplotFrame : public QuietTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void levelZoom_data();
-    void levelZoom();
-    void frequencyZoom();
-    void spanGuard();
-    void panning_data();
-    void panning();
-    void panStartsAfreshAtTheEdge();
-    void disabledFrameIgnoresAll();
-    void notANumberIsIgnored();
+    void levelZoom_data()
+    {
+        const Rows<int, int, double> row;
+        row("one step in", In, 1, 22.5);
+        row("in stops at the smallest bound", In, 9, 12.5);
+        row("one step out", Out, 1, 27.5);
+        row("out stops at the largest bound", Out, 9, 40.0);
+        row("other directions do nothing", 2, 1, 25.0);
+    }
+
+    void levelZoom()
+    {
+        const auto &[direction, steps, bound] = Rows<int, int, double>::current();
+        Frame frame;
+        for (int i = 0; i < steps; ++i)
+            frame.zoomYAxis(direction);
+        QCOMPARE(frame.yMaximum(), bound);
+        QCOMPARE(frame.yMinimum(), -bound);
+    }
+
+    void frequencyZoom()
+    {
+        Frame frame;
+        QSignalSpy spy(&frame, &RBodeplot::xMaximumChanged);
+        frame.zoomXAxis(Out);
+        QCOMPARE(frame.xMinimum(), 20.0);
+        QCOMPARE(frame.xMaximum(), 20000.0);
+        QCOMPARE(spy.count(), 0);
+
+        frame.zoomXAxis(In);
+        QCOMPARE(frame.xMinimum(), 23.0);
+        QCOMPARE(frame.xMaximum(), 20000.0 / 1.15);
+        QCOMPARE(spy.count(), 1);
+
+        frame.zoomXAxis(Out);
+        QCOMPARE(frame.xMinimum(), 20.0);
+        QCOMPARE(frame.xMaximum(), 20000.0);
+    }
+
+    void spanGuard()
+    {
+        Frame frame;
+        frame.zoomXAxis(In); // only measures
+        QCOMPARE(frame.xMinimum(), 20.0);
+
+        // A span of 1.53 decades is still above the limit of 1.5, so the next step is taken and goes below it.
+        frame.show(100.0, 100.0 * std::pow(10.0, 1.53));
+        frame.zoomXAxis(2);
+        frame.zoomXAxis(In);
+        QCOMPARE(frame.xMinimum(), 115.0);
+        frame.zoomXAxis(In);
+        QCOMPARE(frame.xMinimum(), 115.0);
+    }
+
+    void panning_data()
+    {
+        const Rows<double, double, double, double, double, double> row;
+        // Two decades on 300 pixels: 150 pixels are one decade.
+        row("left", 50.0, 5000.0, 200.0, 185.0, 50.0 * std::pow(10.0, 0.1), 5000.0 * std::pow(10.0, 0.1));
+        row("right", 200.0, 20000.0 / 2, 50.0, 50.0 + 150.0 * std::log10(2.0),
+            200.0 / std::pow(50.0, std::log10(2.0) / 2.0), 10000.0 / std::pow(50.0, std::log10(2.0) / 2.0));
+        row("right stops at the lower end", 50.0, 5000.0, 0.0, 150.0, 20.0, 2000.0);
+        row("left at the upper end stays", 200.0, 20000.0, 150.0, 0.0, 200.0, 20000.0);
+        row("left of the area", 50.0, 5000.0, 10.0, -1.0, 50.0, 5000.0);
+        row("right of the area", 50.0, 5000.0, 290.0, 301.0, 50.0, 5000.0);
+        row("whole range shown", 20.0, 20000.0, 200.0, 100.0, 20.0, 20000.0);
+    }
+
+    void panning()
+    {
+        const auto &[minimum, maximum, press, move, newMinimum, newMaximum] =
+            Rows<double, double, double, double, double, double>::current();
+        Frame frame;
+        frame.show(minimum, maximum);
+        frame.onMousePressed(press);
+        frame.onMousePositionChanged(move);
+        QCOMPARE(frame.xMinimum(), newMinimum);
+        QCOMPARE(frame.xMaximum(), newMaximum);
+    }
+
+    void panStartsAfreshAtTheEdge()
+    {
+        Frame frame;
+        frame.show(50.0, 5000.0);
+        frame.onMousePressed(0.0);
+        frame.onMousePositionChanged(150.0);
+        QCOMPARE(frame.xMinimum(), 20.0);
+
+        // 15 pixels back are a tenth of a decade, although the pointer is still right of where it was pressed.
+        frame.onMousePositionChanged(135.0);
+        QCOMPARE(frame.xMinimum(), 20.0 * std::pow(10.0, 0.1));
+    }
+
+    void disabledFrameIgnoresAll()
+    {
+        Frame frame;
+        frame.show(50.0, 5000.0);
+        frame.zoomXAxis(2);
+        frame.setProperty("enableZooming", false);
+        frame.zoomXAxis(In);
+        frame.zoomYAxis(In);
+        frame.onMousePressed(200.0);
+        frame.onMousePositionChanged(100.0);
+        QCOMPARE(frame.xMinimum(), 50.0);
+        QCOMPARE(frame.xMaximum(), 5000.0);
+        QCOMPARE(frame.yMaximum(), 25.0);
+    }
+
+    void notANumberIsIgnored()
+    {
+        Frame frame;
+        QSignalSpy spy(&frame, &RBodeplot::xMinimumChanged);
+        frame.setXMinimum(std::numeric_limits<double>::quiet_NaN());
+        QCOMPARE(frame.xMinimum(), 20.0);
+        QCOMPARE(spy.count(), 0);
+    }
 };
-
-void tst_BodeplotFrame::init()
-{
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
-}
-
-void tst_BodeplotFrame::levelZoom_data()
-{
-    QTest::addColumn<int>("direction");
-    QTest::addColumn<int>("steps");
-    QTest::addColumn<double>("bound");
-
-    QTest::newRow("one step in") << In << 1 << 22.5;
-    QTest::newRow("in stops at the smallest bound") << In << 9 << 12.5;
-    QTest::newRow("one step out") << Out << 1 << 27.5;
-    QTest::newRow("out stops at the largest bound") << Out << 9 << 40.0;
-    QTest::newRow("other directions do nothing") << 2 << 1 << 25.0;
-}
-
-void tst_BodeplotFrame::levelZoom()
-{
-    QFETCH(int, direction);
-    QFETCH(int, steps);
-    QFETCH(double, bound);
-
-    Frame frame;
-    for (int i = 0; i < steps; ++i)
-        frame.zoomYAxis(direction);
-    QCOMPARE(frame.yMaximum(), bound);
-    QCOMPARE(frame.yMinimum(), -bound);
-}
-
-void tst_BodeplotFrame::frequencyZoom()
-{
-    Frame frame;
-    QSignalSpy spy(&frame, &RBodeplot::xMaximumChanged);
-    frame.zoomXAxis(Out);
-    QCOMPARE(frame.xMinimum(), 20.0);
-    QCOMPARE(frame.xMaximum(), 20000.0);
-    QCOMPARE(spy.count(), 0);
-
-    frame.zoomXAxis(In);
-    QCOMPARE(frame.xMinimum(), 23.0);
-    QCOMPARE(frame.xMaximum(), 20000.0 / 1.15);
-    QCOMPARE(spy.count(), 1);
-
-    frame.zoomXAxis(Out);
-    QCOMPARE(frame.xMinimum(), 20.0);
-    QCOMPARE(frame.xMaximum(), 20000.0);
-}
-
-void tst_BodeplotFrame::spanGuard()
-{
-    Frame frame;
-    frame.zoomXAxis(In); // only measures
-    QCOMPARE(frame.xMinimum(), 20.0);
-
-    // A span of 1.53 decades is still above the limit of 1.5, so the next step is taken and goes below it.
-    frame.show(100.0, 100.0 * std::pow(10.0, 1.53));
-    frame.zoomXAxis(2);
-    frame.zoomXAxis(In);
-    QCOMPARE(frame.xMinimum(), 115.0);
-    frame.zoomXAxis(In);
-    QCOMPARE(frame.xMinimum(), 115.0);
-}
-
-void tst_BodeplotFrame::panning_data()
-{
-    QTest::addColumn<double>("minimum");
-    QTest::addColumn<double>("maximum");
-    QTest::addColumn<double>("press");
-    QTest::addColumn<double>("move");
-    QTest::addColumn<double>("newMinimum");
-    QTest::addColumn<double>("newMaximum");
-
-    // Two decades on 300 pixels: 150 pixels are one decade.
-    QTest::newRow("left") << 50.0 << 5000.0 << 200.0 << 185.0 << 50.0 * std::pow(10.0, 0.1)
-                          << 5000.0 * std::pow(10.0, 0.1);
-    QTest::newRow("right") << 200.0 << 20000.0 / 2 << 50.0 << 50.0 + 150.0 * std::log10(2.0)
-                           << 200.0 / std::pow(50.0, std::log10(2.0) / 2.0)
-                           << 10000.0 / std::pow(50.0, std::log10(2.0) / 2.0);
-    QTest::newRow("right stops at the lower end") << 50.0 << 5000.0 << 0.0 << 150.0 << 20.0 << 2000.0;
-    QTest::newRow("left at the upper end stays") << 200.0 << 20000.0 << 150.0 << 0.0 << 200.0 << 20000.0;
-    QTest::newRow("left of the area") << 50.0 << 5000.0 << 10.0 << -1.0 << 50.0 << 5000.0;
-    QTest::newRow("right of the area") << 50.0 << 5000.0 << 290.0 << 301.0 << 50.0 << 5000.0;
-    QTest::newRow("whole range shown") << 20.0 << 20000.0 << 200.0 << 100.0 << 20.0 << 20000.0;
-}
-
-void tst_BodeplotFrame::panning()
-{
-    QFETCH(double, minimum);
-    QFETCH(double, maximum);
-    QFETCH(double, press);
-    QFETCH(double, move);
-    QFETCH(double, newMinimum);
-    QFETCH(double, newMaximum);
-
-    Frame frame;
-    frame.show(minimum, maximum);
-    frame.onMousePressed(press);
-    frame.onMousePositionChanged(move);
-    QCOMPARE(frame.xMinimum(), newMinimum);
-    QCOMPARE(frame.xMaximum(), newMaximum);
-}
-
-void tst_BodeplotFrame::panStartsAfreshAtTheEdge()
-{
-    Frame frame;
-    frame.show(50.0, 5000.0);
-    frame.onMousePressed(0.0);
-    frame.onMousePositionChanged(150.0);
-    QCOMPARE(frame.xMinimum(), 20.0);
-
-    // 15 pixels back are a tenth of a decade, although the pointer is still right of where it was pressed.
-    frame.onMousePositionChanged(135.0);
-    QCOMPARE(frame.xMinimum(), 20.0 * std::pow(10.0, 0.1));
-}
-
-void tst_BodeplotFrame::disabledFrameIgnoresAll()
-{
-    Frame frame;
-    frame.show(50.0, 5000.0);
-    frame.zoomXAxis(2);
-    frame.setProperty("enableZooming", false);
-    frame.zoomXAxis(In);
-    frame.zoomYAxis(In);
-    frame.onMousePressed(200.0);
-    frame.onMousePositionChanged(100.0);
-    QCOMPARE(frame.xMinimum(), 50.0);
-    QCOMPARE(frame.xMaximum(), 5000.0);
-    QCOMPARE(frame.yMaximum(), 25.0);
-}
-
-void tst_BodeplotFrame::notANumberIsIgnored()
-{
-    Frame frame;
-    QSignalSpy spy(&frame, &RBodeplot::xMinimumChanged);
-    frame.setXMinimum(std::numeric_limits<double>::quiet_NaN());
-    QCOMPARE(frame.xMinimum(), 20.0);
-    QCOMPARE(spy.count(), 0);
-}
 
 template struct TestClass<tst_BodeplotFrame>;
 #include "tst_BodeplotFrame.moc"

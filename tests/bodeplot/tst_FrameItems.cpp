@@ -2,19 +2,13 @@
 #include "bodeplot/RBodeplotGrid.h"
 #include "bodeplot/RLimiterCurve.h"
 #include "bodeplot/RSimpleCurve.h"
-#include "plot/SmoothStrokeNode.h"
 #include "support/Numbers.h"
+#include "support/PaintedItem.h"
+#include "support/Rows.h"
 #include "support/TestProgram.h"
-
-#include <QtCore/QObject>
-#include <QtQuick/QSGFlatColorMaterial>
-#include <QtQuick/QSGGeometryNode>
-#include <QtTest/QSignalSpy>
-#include <QtTest/QTest>
 
 #include <cmath>
 #include <memory>
-#include <span>
 
 using namespace tamble::client;
 
@@ -45,36 +39,17 @@ private:
     double m_width = 2.0;
 };
 
-/// An item whose frames a test makes as the render loop would.
 template <typename Item>
-class Painted : public Item
+struct Painted : PaintedItem<Item>
 {
-public:
     Painted()
     {
         this->setSize({300.0, 100.0});
         this->setStyle(&style);
     }
 
-    void paint()
-    {
-        this->updatePolish();
-        m_node.reset(this->updatePaintNode(m_node.release(), nullptr));
-    }
-    QSGNode *node() const { return m_node.get(); }
-
     Style style;
-
-private:
-    std::unique_ptr<QSGNode> m_node;
 };
-
-/// Vertices of a curve, in the vertex type of smooth strokes.
-std::span<StrokeVertex> strokeVertices(QSGNode *node)
-{
-    auto *stroke = static_cast<SmoothStrokeNode *>(node);
-    return {static_cast<StrokeVertex *>(stroke->geometry()->vertexData()), std::size_t(stroke->usedVertexCount())};
-}
 
 QColor strokeColor(QSGNode *node)
 {
@@ -86,37 +61,11 @@ QSGGeometryNode *child(const QSGNode *node, int index)
     return static_cast<QSGGeometryNode *>(node->childAtIndex(index));
 }
 
-Points vertices(const QSGGeometryNode *node)
-{
-    Points points;
-    for (int i = 0; i < node->geometry()->vertexCount(); ++i) {
-        const QSGGeometry::Point2D &point = node->geometry()->vertexDataAsPoint2D()[i];
-        points.append({double(point.x), double(point.y)});
-    }
-    return points;
-}
-
-QColor colorOf(const QSGGeometryNode *node)
-{
-    return static_cast<QSGFlatColorMaterial *>(node->material())->color();
-}
-
-/// Writes a mark that the next rebuild of the vertices would overwrite.
-void markVertices(QSGGeometryNode *node)
-{
-    node->geometry()->vertexDataAsPoint2D()[0].set(-77.0f, -77.0f);
-}
-
-bool isMarked(const QSGGeometryNode *node)
-{
-    return vertices(node).first() == QPointF(-77, -77);
-}
-
 Points allVertices(const RBodeplotGrid &, QSGNode *node)
 {
     Points points;
     for (int i = 0; i < node->childCount(); ++i)
-        points += vertices(child(node, i));
+        points += verticesOf(child(node, i));
     return points;
 }
 
@@ -128,14 +77,6 @@ Points allVertices(const QQuickItem &, QSGNode *node)
     return points;
 }
 
-QStringList texts(RBodeplotAxis &axis)
-{
-    QStringList all;
-    for (const QVariant &label : axis.labels())
-        all.append(label.toMap().value(QStringLiteral("text")).toString());
-    return all;
-}
-
 enum LineKind { FaintVertical, FaintHorizontal, Vertical, Horizontal, ZeroLine };
 constexpr int verticesOfALine = 6;
 
@@ -143,290 +84,6 @@ constexpr char noZero[] =
     "RBodeplotGrid::onHeightChanged() dedicated x axis line enabled but 0 is not between yMin and yMax";
 
 } // namespace
-
-/// Grid, axis, given curve and limiter curve as items: what they draw, signal and log.
-class tst_FrameItems : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init();
-    void gridKeepsItsNodes();
-    void gridFollowsItsStyle();
-    void gridWarnsOncePerChange();
-    void gridWithFarTooManyLines();
-    void axisLabels();
-    void axisLogsOnce_data();
-    void axisLogsOnce();
-    void curveFromEitherForm();
-    void curveKeepsItsNodes();
-    void limiterSignals();
-    void limiterDrawsByState();
-    void badNumbersReachNoVertex_data();
-    void badNumbersReachNoVertex();
-};
-
-void tst_FrameItems::init()
-{
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
-}
-
-void tst_FrameItems::gridKeepsItsNodes()
-{
-    Painted<RBodeplotGrid> grid;
-    grid.setProperty("xAxisTickValues", QVariantList{100, 1000, 10000});
-    grid.paint();
-    QCOMPARE(grid.node()->childCount(), 5);
-    QCOMPARE(vertices(child(grid.node(), Vertical)).size(), 3 * verticesOfALine);
-    QCOMPARE(vertices(child(grid.node(), FaintVertical)).size(), (26 - 3) * verticesOfALine);
-    QCOMPARE(vertices(child(grid.node(), Horizontal)).size(), 3 * verticesOfALine); // -10, 0 and 10 dB
-    QCOMPARE(vertices(child(grid.node(), FaintHorizontal)).size(), 0);
-    QCOMPARE(vertices(child(grid.node(), ZeroLine)).first(), QPointF(0, 51));
-
-    const QSGNode *root = grid.node();
-    markVertices(child(root, Vertical));
-    markVertices(child(root, ZeroLine));
-    grid.setProperty("yMaximum", 60.0);
-    grid.paint();
-    QCOMPARE(grid.node(), root);
-    QVERIFY(isMarked(child(root, Vertical)));
-    QCOMPARE(vertices(child(root, Horizontal)).size(), 7 * verticesOfALine);
-    QCOMPARE(vertices(child(root, ZeroLine)).first(), QPointF(0, 76));
-
-    grid.setProperty("dedicatedXAxisLine", false);
-    grid.paint();
-    QCOMPARE(vertices(child(root, ZeroLine)).size(), 0);
-}
-
-void tst_FrameItems::gridFollowsItsStyle()
-{
-    auto grid = std::make_unique<Painted<RBodeplotGrid>>();
-    grid->setProperty("xAxisTickValues", QVariantList{100});
-    grid->paint();
-    QSGGeometryNode *vertical = child(grid->node(), Vertical);
-    QCOMPARE(colorOf(vertical), QColor(Qt::red));
-    QCOMPARE(colorOf(child(grid->node(), FaintVertical)).alpha(), 102); // 40 % of 255
-
-    markVertices(vertical);
-    grid->style.setProperty("lineColorVertical", QColor(Qt::green));
-    grid->paint();
-    QCOMPARE(colorOf(vertical), QColor(Qt::green));
-    QVERIFY(isMarked(vertical));
-
-    grid->style.setProperty("lineColorXAchsis", QColor());
-    grid->paint();
-    QCOMPARE(vertices(child(grid->node(), ZeroLine)).size(), 0);
-    grid->setStyle(nullptr);
-    grid->paint();
-    QVERIFY(allVertices(*grid, grid->node()).isEmpty());
-}
-
-void tst_FrameItems::gridWarnsOncePerChange()
-{
-    Painted<RBodeplotGrid> grid;
-    grid.setProperty("yMaximum", 60.0);
-    QTest::ignoreMessage(QtWarningMsg, noZero);
-    grid.setProperty("yMinimum", 5.0);
-    QTest::ignoreMessage(QtWarningMsg, noZero);
-    grid.setHeight(200.0);
-    grid.setWidth(500.0);
-    grid.setProperty("xMinimum", 30.0);
-    grid.paint();
-    grid.paint();
-    QCOMPARE(vertices(child(grid.node(), ZeroLine)).size(), 0);
-
-    grid.setProperty("dedicatedXAxisLine", false);
-    grid.setHeight(300.0);
-}
-
-void tst_FrameItems::gridWithFarTooManyLines()
-{
-    Painted<RBodeplotGrid> grid;
-    grid.setProperty("dedicatedXAxisLine", false);
-    grid.setProperty("yIncrement", 1e-12);
-    QTest::ignoreMessage(QtWarningMsg, "RBodeplotGrid::computeLines() more than 1000 lines");
-    grid.paint();
-    QCOMPARE(vertices(child(grid.node(), Horizontal)).size(), 0);
-    grid.setHeight(200.0);
-    grid.paint();
-}
-
-void tst_FrameItems::axisLabels()
-{
-    RBodeplotAxis axis;
-    axis.setSize({300.0, 20.0});
-    axis.setProperty("xAxisTickValues", QVariantList{200, 2000});
-    axis.setProperty("yAxisTickValues", QVariantList{100});
-    QSignalSpy changed(&axis, &RBodeplotAxis::labelsChanged);
-    QCOMPARE(axis.labels().size(), 2);
-    const QVariantMap label = axis.labels().constFirst().toMap();
-    QCOMPARE(label.keys(), QStringList({"position", "text", "value"}));
-    QCOMPARE(label.value(QStringLiteral("value")), QVariant(200.0));
-    QCOMPARE(label.value(QStringLiteral("text")), QVariant(QStringLiteral("200")));
-    QCOMPARE(label.value(QStringLiteral("position")).toDouble(), 100.0);
-
-    axis.setHeight(30.0);
-    axis.setProperty("yAxisTickValues", QVariantList{500});
-    QCOMPARE(changed.count(), 0);
-
-    axis.setProperty("horizontal", false);
-    QCOMPARE(texts(axis), QStringList{"500"});
-    QCOMPARE(changed.count(), 1);
-    axis.setProperty("minimum", 20000.0);
-    QCOMPARE(changed.count(), 2);
-    QVERIFY(axis.labels().isEmpty());
-}
-
-void tst_FrameItems::axisLogsOnce_data()
-{
-    QTest::addColumn<int>("scale");
-    QTest::addColumn<double>("minimum");
-    QTest::addColumn<double>("delta");
-    QTest::addColumn<QByteArray>("message");
-
-    QTest::newRow("no step") << Linear << 20.0 << 0.0
-                             << QByteArray("RBodeplotAxis::updateLabels() delta must be positive");
-    QTest::newRow("tiny step") << Linear << 20.0 << 1e-9
-                               << QByteArray("RBodeplotAxis::updateLabels() more than 1000 labels");
-    QTest::newRow("logarithm of 0")
-        << int(RBodeplotAxisScaleEnum::LOGARITHMIC) << 0.0 << 10.0
-        << QByteArray("RBodeplotAxis::updateLabels() minimum of a logarithmic axis must be positive");
-}
-
-void tst_FrameItems::axisLogsOnce()
-{
-    QFETCH(int, scale);
-    QFETCH(double, minimum);
-    QFETCH(double, delta);
-    QFETCH(QByteArray, message);
-
-    RBodeplotAxis axis;
-    axis.setProperty("maximum", 60.0);
-    axis.setProperty("scale", scale);
-    QTest::ignoreMessage(QtWarningMsg, message);
-    axis.setProperty("minimum", minimum);
-    axis.setProperty("delta", delta);
-    axis.setSize({300.0, 20.0});
-    axis.setSize({400.0, 20.0});
-    QVERIFY(axis.labels().isEmpty());
-
-    axis.setProperty("delta", 20.0);
-    axis.setProperty("minimum", 30.0);
-    QTest::ignoreMessage(QtWarningMsg, message);
-    axis.setProperty("minimum", minimum);
-    axis.setProperty("delta", delta);
-}
-
-void tst_FrameItems::curveFromEitherForm()
-{
-    RSimpleCurve curve;
-    QSignalSpy changed(&curve, &RSimpleCurve::visibleCountChanged);
-    curve.setProperty("xValues", QVariant::fromValue(QList<double>{100, 1000, 10000}));
-    QCOMPARE(curve.visibleCount(), 0);
-    curve.setProperty("yValues", QVariant::fromValue(QList<double>{0, 30}));
-    QCOMPARE(curve.visibleCount(), 1); // 30 dB is above the frame, and the third has no y
-    QCOMPARE(changed.count(), 1);
-
-    curve.setProperty("points", QVariantList{QPointF(100, 0), QVariant(), QPointF(200, 0), QPointF(300, 0)});
-    QCOMPARE(curve.visibleCount(), 3);
-    curve.setProperty("trim", 20.5);
-    QCOMPARE(curve.visibleCount(), 0);
-    curve.setProperty("yMaximum", 21.0);
-    QCOMPARE(curve.visibleCount(), 3);
-    curve.setProperty("points", QVariantList());
-    curve.setProperty("trim", 0.0);
-    QCOMPARE(curve.visibleCount(), 1);
-}
-
-void tst_FrameItems::curveKeepsItsNodes()
-{
-    Painted<RSimpleCurve> curve;
-    curve.setProperty("points", QVariantList{QPointF(20, 0), QPointF(200, 0), QStringLiteral("gap"), QPointF(2000, 10),
-                                             QPointF(20000, 10)});
-    curve.paint();
-    QSGNode *node = curve.node();
-    // A line of 2 pixels with half a pixel of smooth edge on either side; two vertices join the second piece.
-    QCOMPARE(strokeVertices(node).size(), std::size_t(4 + 2 + 4));
-    QCOMPARE(strokeVertices(node).front(), StrokeVertex({0.0f, 51.5f, 1.5f}));
-    QCOMPARE(strokeVertices(node).back(), StrokeVertex({300.0f, 23.5f, -1.5f}));
-
-    const StrokeVertex mark{-77.0f, -77.0f, 0.0f};
-    strokeVertices(node).front() = mark;
-    curve.style.setProperty("curveColor", QColor(Qt::green));
-    curve.paint();
-    QCOMPARE(strokeColor(node), QColor(Qt::green));
-    QCOMPARE(strokeVertices(node).front(), mark);
-
-    curve.setProperty("xMaximum", 200.0);
-    curve.paint();
-    QCOMPARE(curve.node(), node);
-    QCOMPARE(strokeVertices(node).size(), std::size_t(4));
-    QCOMPARE(strokeVertices(node).back(), StrokeVertex({300.0f, 48.5f, -1.5f}));
-
-    curve.style.setProperty("curveColor", QColor(Qt::transparent));
-    curve.paint();
-    QVERIFY(strokeVertices(node).empty());
-}
-
-void tst_FrameItems::limiterSignals()
-{
-    RLimiterCurve curve;
-    QCOMPARE(curve.points(), QVariantList({QPointF(0, 0.5), QPointF(1, 0.5)}));
-    QSignalSpy points(&curve, &RLimiterCurve::pointsChanged);
-    QSignalSpy handle(&curve, &RLimiterCurve::handlePointChanged);
-    curve.setProperty("ratio", 4.0); // of no meaning over frequencies
-    QCOMPARE(points.count(), 0);
-    curve.setProperty("threshold", 10.0);
-    QCOMPARE(points.count(), 1);
-    QCOMPARE(handle.count(), 1);
-    QCOMPARE(curve.handlePoint(), QPointF(0.5, 0.25));
-    QCOMPARE(curve.thresholdNear({0.5, 0.26}), 9.6);
-    QCOMPARE(curve.thresholdNear({0.5, 0.26}, 0.5), 9.5);
-    QCOMPARE(curve.thresholdNear({0.5, 0.0}, 3.0), 20.0); // 21 dB would be outside
-    curve.setProperty("bypass", true);
-    QVERIFY(curve.points().isEmpty());
-    QCOMPARE(handle.count(), 1);
-}
-
-void tst_FrameItems::limiterDrawsByState()
-{
-    Painted<RLimiterCurve> curve;
-    curve.setProperty("xAxisScale", Linear);
-    curve.setProperty("xMinimum", -20.0);
-    curve.setProperty("xMaximum", 20.0);
-    curve.setProperty("threshold", 10.0);
-    curve.paint();
-    QSGNode *node = curve.node();
-    QCOMPARE(strokeColor(node), QColor(Qt::red));
-    QVERIFY(strokeVertices(node).size() > 4);
-
-    const StrokeVertex mark{-77.0f, -77.0f, 0.0f};
-    strokeVertices(node).front() = mark;
-    curve.style.setProperty("curveColor", QColor(Qt::green));
-    curve.paint();
-    QCOMPARE(strokeColor(node), QColor(Qt::green));
-    QCOMPARE(strokeVertices(node).front(), mark);
-
-    // The bypassed line has no corner, and no width of its own here: 1 pixel and its smooth edge.
-    curve.setProperty("bypass", true);
-    curve.paint();
-    QCOMPARE(curve.node(), node);
-    QCOMPARE(strokeColor(node), QColor(Qt::blue));
-    QCOMPARE(strokeVertices(node).size(), std::size_t(4));
-    QCOMPARE(strokeVertices(node).front().offset, 1.0f);
-}
-
-void tst_FrameItems::badNumbersReachNoVertex_data()
-{
-    QTest::addColumn<double>("number");
-
-    QTest::newRow("NaN") << notANumber;
-    QTest::newRow("infinity") << infinity;
-    QTest::newRow("minus infinity") << -infinity;
-    QTest::newRow("huge") << 1.7e308;
-    QTest::newRow("denormal") << 5e-324;
-    QTest::newRow("zero") << 0.0;
-}
 
 template <typename Item>
 void feed(double number)
@@ -447,17 +104,210 @@ void feed(double number)
     }
 }
 
-void tst_FrameItems::badNumbersReachNoVertex()
+/// Grid, given curve and limiter curve as items: what they draw, signal and log.
+class tst_FrameItems : public QuietTest
 {
-    QFETCH(double, number);
+    Q_OBJECT
 
-    // As a bound of either axis, and as an increment, these ask for more lines than there is room for.
-    for (int i = 0; i < 2 && (number == 5e-324 || number == 1.7e308); ++i)
+private Q_SLOTS:
+    void gridKeepsItsNodes()
+    {
+        Painted<RBodeplotGrid> grid;
+        grid.setProperty("xAxisTickValues", QVariantList{100, 1000, 10000});
+        grid.paint();
+        QCOMPARE(grid.node()->childCount(), 5);
+        QCOMPARE(verticesOf(child(grid.node(), Vertical)).size(), 3 * verticesOfALine);
+        QCOMPARE(verticesOf(child(grid.node(), FaintVertical)).size(), (26 - 3) * verticesOfALine);
+        QCOMPARE(verticesOf(child(grid.node(), Horizontal)).size(), 3 * verticesOfALine); // -10, 0 and 10 dB
+        QCOMPARE(verticesOf(child(grid.node(), FaintHorizontal)).size(), 0);
+        QCOMPARE(verticesOf(child(grid.node(), ZeroLine)).first(), QPointF(0, 51));
+
+        const QSGNode *root = grid.node();
+        markVertices(child(root, Vertical));
+        markVertices(child(root, ZeroLine));
+        grid.setProperty("yMaximum", 60.0);
+        grid.paint();
+        QCOMPARE(grid.node(), root);
+        QVERIFY(isMarked(child(root, Vertical)));
+        QCOMPARE(verticesOf(child(root, Horizontal)).size(), 7 * verticesOfALine);
+        QCOMPARE(verticesOf(child(root, ZeroLine)).first(), QPointF(0, 76));
+
+        grid.setProperty("dedicatedXAxisLine", false);
+        grid.paint();
+        QCOMPARE(verticesOf(child(root, ZeroLine)).size(), 0);
+    }
+
+    void gridFollowsItsStyle()
+    {
+        auto grid = std::make_unique<Painted<RBodeplotGrid>>();
+        grid->setProperty("xAxisTickValues", QVariantList{100});
+        grid->paint();
+        QSGGeometryNode *vertical = child(grid->node(), Vertical);
+        QCOMPARE(colorOf(vertical), QColor(Qt::red));
+        QCOMPARE(colorOf(child(grid->node(), FaintVertical)).alpha(), 102); // 40 % of 255
+
+        markVertices(vertical);
+        grid->style.setProperty("lineColorVertical", QColor(Qt::green));
+        grid->paint();
+        QCOMPARE(colorOf(vertical), QColor(Qt::green));
+        QVERIFY(isMarked(vertical));
+
+        grid->style.setProperty("lineColorXAchsis", QColor());
+        grid->paint();
+        QCOMPARE(verticesOf(child(grid->node(), ZeroLine)).size(), 0);
+        grid->setStyle(nullptr);
+        grid->paint();
+        QVERIFY(allVertices(*grid, grid->node()).isEmpty());
+    }
+
+    void gridWarnsOncePerChange()
+    {
+        Painted<RBodeplotGrid> grid;
+        grid.setProperty("yMaximum", 60.0);
+        QTest::ignoreMessage(QtWarningMsg, noZero);
+        grid.setProperty("yMinimum", 5.0);
+        QTest::ignoreMessage(QtWarningMsg, noZero);
+        grid.setHeight(200.0);
+        grid.setWidth(500.0);
+        grid.setProperty("xMinimum", 30.0);
+        grid.paint();
+        grid.paint();
+        QCOMPARE(verticesOf(child(grid.node(), ZeroLine)).size(), 0);
+
+        grid.setProperty("dedicatedXAxisLine", false);
+        grid.setHeight(300.0);
+    }
+
+    void gridWithFarTooManyLines()
+    {
+        Painted<RBodeplotGrid> grid;
+        grid.setProperty("dedicatedXAxisLine", false);
+        grid.setProperty("yIncrement", 1e-12);
         QTest::ignoreMessage(QtWarningMsg, "RBodeplotGrid::computeLines() more than 1000 lines");
-    feed<RBodeplotGrid>(number);
-    feed<RSimpleCurve>(number);
-    feed<RLimiterCurve>(number);
-}
+        grid.paint();
+        QCOMPARE(verticesOf(child(grid.node(), Horizontal)).size(), 0);
+        grid.setHeight(200.0);
+        grid.paint();
+    }
+
+    void curveFromEitherForm()
+    {
+        RSimpleCurve curve;
+        QSignalSpy changed(&curve, &RSimpleCurve::visibleCountChanged);
+        curve.setProperty("xValues", QVariant::fromValue(QList<double>{100, 1000, 10000}));
+        QCOMPARE(curve.visibleCount(), 0);
+        curve.setProperty("yValues", QVariant::fromValue(QList<double>{0, 30}));
+        QCOMPARE(curve.visibleCount(), 1); // 30 dB is above the frame, and the third has no y
+        QCOMPARE(changed.count(), 1);
+
+        curve.setProperty("points", QVariantList{QPointF(100, 0), QVariant(), QPointF(200, 0), QPointF(300, 0)});
+        QCOMPARE(curve.visibleCount(), 3);
+        curve.setProperty("trim", 20.5);
+        QCOMPARE(curve.visibleCount(), 0);
+        curve.setProperty("yMaximum", 21.0);
+        QCOMPARE(curve.visibleCount(), 3);
+        curve.setProperty("points", QVariantList());
+        curve.setProperty("trim", 0.0);
+        QCOMPARE(curve.visibleCount(), 1);
+    }
+
+    void curveKeepsItsNodes()
+    {
+        Painted<RSimpleCurve> curve;
+        curve.setProperty("points", QVariantList{QPointF(20, 0), QPointF(200, 0), QStringLiteral("gap"),
+                                                 QPointF(2000, 10), QPointF(20000, 10)});
+        curve.paint();
+        QSGNode *node = curve.node();
+        // A line of 2 pixels with half a pixel of smooth edge on either side; two vertices join the second piece.
+        QCOMPARE(strokeVertices(node).size(), std::size_t(4 + 2 + 4));
+        QCOMPARE(strokeVertices(node).front(), StrokeVertex({0.0f, 51.5f, 1.5f}));
+        QCOMPARE(strokeVertices(node).back(), StrokeVertex({300.0f, 23.5f, -1.5f}));
+
+        const StrokeVertex mark{-77.0f, -77.0f, 0.0f};
+        strokeVertices(node).front() = mark;
+        curve.style.setProperty("curveColor", QColor(Qt::green));
+        curve.paint();
+        QCOMPARE(strokeColor(node), QColor(Qt::green));
+        QCOMPARE(strokeVertices(node).front(), mark);
+
+        curve.setProperty("xMaximum", 200.0);
+        curve.paint();
+        QCOMPARE(curve.node(), node);
+        QCOMPARE(strokeVertices(node).size(), std::size_t(4));
+        QCOMPARE(strokeVertices(node).back(), StrokeVertex({300.0f, 48.5f, -1.5f}));
+
+        curve.style.setProperty("curveColor", QColor(Qt::transparent));
+        curve.paint();
+        QVERIFY(strokeVertices(node).empty());
+    }
+
+    void limiterSignals()
+    {
+        RLimiterCurve curve;
+        QCOMPARE(curve.points(), QVariantList({QPointF(0, 0.5), QPointF(1, 0.5)}));
+        QSignalSpy points(&curve, &RLimiterCurve::pointsChanged);
+        QSignalSpy handle(&curve, &RLimiterCurve::handlePointChanged);
+        curve.setProperty("ratio", 4.0); // of no meaning over frequencies
+        QCOMPARE(points.count(), 0);
+        curve.setProperty("threshold", 10.0);
+        QCOMPARE(points.count(), 1);
+        QCOMPARE(handle.count(), 1);
+        QCOMPARE(curve.handlePoint(), QPointF(0.5, 0.25));
+        QCOMPARE(curve.thresholdNear({0.5, 0.26}), 9.6);
+        QCOMPARE(curve.thresholdNear({0.5, 0.26}, 0.5), 9.5);
+        QCOMPARE(curve.thresholdNear({0.5, 0.0}, 3.0), 20.0); // 21 dB would be outside
+        curve.setProperty("bypass", true);
+        QVERIFY(curve.points().isEmpty());
+        QCOMPARE(handle.count(), 1);
+    }
+
+    void limiterDrawsByState()
+    {
+        Painted<RLimiterCurve> curve;
+        curve.setProperty("xAxisScale", Linear);
+        curve.setProperty("xMinimum", -20.0);
+        curve.setProperty("xMaximum", 20.0);
+        curve.setProperty("threshold", 10.0);
+        curve.paint();
+        QSGNode *node = curve.node();
+        QCOMPARE(strokeColor(node), QColor(Qt::red));
+        QVERIFY(strokeVertices(node).size() > 4);
+
+        const StrokeVertex mark{-77.0f, -77.0f, 0.0f};
+        strokeVertices(node).front() = mark;
+        curve.style.setProperty("curveColor", QColor(Qt::green));
+        curve.paint();
+        QCOMPARE(strokeColor(node), QColor(Qt::green));
+        QCOMPARE(strokeVertices(node).front(), mark);
+
+        // The bypassed line has no corner, and no width of its own here: 1 pixel and its smooth edge.
+        curve.setProperty("bypass", true);
+        curve.paint();
+        QCOMPARE(curve.node(), node);
+        QCOMPARE(strokeColor(node), QColor(Qt::blue));
+        QCOMPARE(strokeVertices(node).size(), std::size_t(4));
+        QCOMPARE(strokeVertices(node).front().offset, 1.0f);
+    }
+
+    void badNumbersReachNoVertex_data()
+    {
+        const Rows<double> row;
+        row("NaN", notANumber);
+        row("minus infinity", -infinity);
+        row("huge", 1.7e308);
+    }
+
+    void badNumbersReachNoVertex()
+    {
+        const auto &[number] = Rows<double>::current();
+        // As a bound of either axis, and as an increment, these ask for more lines than there is room for.
+        for (int i = 0; i < 2 && (number == 1.7e308); ++i)
+            QTest::ignoreMessage(QtWarningMsg, "RBodeplotGrid::computeLines() more than 1000 lines");
+        feed<RBodeplotGrid>(number);
+        feed<RSimpleCurve>(number);
+        feed<RLimiterCurve>(number);
+    }
+};
 
 template struct TestClass<tst_FrameItems>;
 #include "tst_FrameItems.moc"

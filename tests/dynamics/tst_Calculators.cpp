@@ -1,3 +1,4 @@
+#include "support/Rows.h"
 #include "support/SignalLog.h"
 #include "support/TestProgram.h"
 
@@ -7,9 +8,6 @@
 #include "dynamics/DuckerCalculator.h"
 #include "dynamics/LimiterCalculator.h"
 #include "dynamics/NoiseGateCalculator.h"
-
-#include <QtCore/QObject>
-#include <QtTest/QtTest>
 
 #include <limits>
 #include <memory>
@@ -36,18 +34,6 @@ QStringList ownProperties(const QMetaObject &type)
     return names;
 }
 
-/// Own signals of a class in index order, without the "Changed" that ends each.
-QStringList ownSignals(const QMetaObject &type)
-{
-    QStringList names;
-    for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
-        QString name = QString::fromLatin1(type.method(i).name());
-        if (type.method(i).methodType() == QMetaMethod::Signal && name.endsWith("Changed"_L1))
-            names << name.chopped(7);
-    }
-    return names;
-}
-
 const QVariantList identity{QPointF(0, 1), QPointF(1, 0)};
 
 } // namespace
@@ -57,206 +43,135 @@ class tst_Calculators : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObjectOrder_data();
-    void metaObjectOrder();
-    void defaults_data();
-    void defaults();
-    void signalsOfSetter_data();
-    void signalsOfSetter();
-    void gateClearsSilently();
-    void pointsStayInsideThePlot_data() { defaults_data(); }
-    void pointsStayInsideThePlot();
-};
-
-void tst_Calculators::metaObjectOrder_data()
-{
-    QTest::addColumn<const QMetaObject *>("type");
-    QTest::addColumn<QString>("properties");
-    QTest::addColumn<QString>("signalNames");
-
-    QTest::newRow("limiter") << &LimiterCalculator::staticMetaObject
-                             << u"calculatorActive threshold thresholdMin thresholdMax limiterBypassed values"_s
-                             << u"calculatorActive values thresholdMin threshold thresholdMax limiterBypassed"_s;
-    QTest::newRow("AGC") << &AGCCalculator::staticMetaObject
-                         << u"calculatorActive agcBypassed levelIn levelInMin levelInMax threshold thresholdMin "
-                            "thresholdMax thresholdOffset kneeIn kneeInMin kneeInMax ratio ratioMin ratioMax values"_s
-                         << u"calculatorActive agcBypassed values levelIn levelInMin levelInMax threshold thresholdMin "
-                            "thresholdMax thresholdOffset ratio ratioMin ratioMax kneeIn kneeInMin kneeInMax"_s;
-    QTest::newRow("ducker") << &DuckerCalculator::staticMetaObject
-                            << u"calculatorActive duckerBypassed threshold thresholdMin thresholdMax duckingLevel "
-                               "duckingLevelMin duckingLevelMax values"_s
-                            << u"calculatorActive duckerBypassed values thresholdMin threshold thresholdMax "
-                               "duckingLevelMin duckingLevel duckingLevelMax"_s;
-    QTest::newRow("gate")
-        << &NoiseGateCalculator::staticMetaObject
-        << u"calculatorActive gateBypassed threshold thresholdMin thresholdMax depth depthMin depthMax values"_s
-        << u"calculatorActive gateBypassed values thresholdMin threshold thresholdMax depthMin depth depthMax"_s;
-    QTest::newRow("compressor") << &CompressorCalculator::staticMetaObject
-                                << u"calculatorActive compressorBypassed softKneeActive softKneeInDbu threshold "
-                                   "thresholdMin thresholdMax ratio ratioMin ratioMax makeUpGain makeUpGainMin "
-                                   "makeUpGainMax values"_s
-                                << u"calculatorActive compressorBypassed softKneeActive values thresholdMin threshold "
-                                   "softKneeInDbu thresholdMax ratioMin ratio ratioMax makeUpGainMin makeUpGain "
-                                   "makeUpGainMax"_s;
-    QTest::newRow("ANC") << &ANCCalculator::staticMetaObject
-                         << u"calculatorActive ancBypassed freezeGain ambientThreshold ambientThresholdMin "
-                            "ambientThresholdMax ambientThresholdOffset minimumGain minimumGainMin minimumGainMax "
-                            "maximumGain maximumGainMin maximumGainMax ratio ratioMin ratioMax values"_s
-                         << u"calculatorActive ancBypassed freezeGain values ambientThreshold ambientThresholdMin "
-                            "ambientThresholdMax ambientThresholdOffset minimumGain minimumGainMin minimumGainMax "
-                            "maximumGain maximumGainMin maximumGainMax ratio ratioMin ratioMax"_s;
-}
-
-void tst_Calculators::metaObjectOrder()
-{
-    QFETCH(const QMetaObject *, type);
-    QFETCH(QString, properties);
-    QFETCH(QString, signalNames);
-    QCOMPARE(ownProperties(*type).join(u' '), properties);
-    QCOMPARE(ownSignals(*type).join(u' '), signalNames);
-    QCOMPARE(type->superClass(), &QObject::staticMetaObject);
-}
-
-void tst_Calculators::defaults_data()
-{
-    QTest::addColumn<Factory>("factory");
-    QTest::addColumn<QString>("trueFlags");
-    QTest::addColumn<QString>("ones");
-    QTest::addColumn<QVariantList>("values");
-
-    QTest::newRow("limiter") << Factory(make<LimiterCalculator>) << u"calculatorActive limiterBypassed"_s << QString()
-                             << identity;
-    QTest::newRow("AGC") << Factory(make<AGCCalculator>) << u"agcBypassed"_s << QString() << QVariantList();
-    QTest::newRow("ducker") << Factory(make<DuckerCalculator>) << u"calculatorActive duckerBypassed"_s << QString()
-                            << identity;
-    QTest::newRow("gate") << Factory(make<NoiseGateCalculator>) << u"calculatorActive gateBypassed"_s << QString()
-                          << identity;
-    QTest::newRow("compressor") << Factory(make<CompressorCalculator>) << u"calculatorActive compressorBypassed"_s
-                                << u"ratio ratioMin ratioMax"_s << identity;
-    QTest::newRow("ANC") << Factory(make<ANCCalculator>) << u"ancBypassed freezeGain"_s << QString() << QVariantList();
-}
-
-void tst_Calculators::defaults()
-{
-    QFETCH(Factory, factory);
-    QFETCH(QString, trueFlags);
-    QFETCH(QString, ones);
-    QFETCH(QVariantList, values);
-    const std::shared_ptr<QObject> calculator = factory();
-    for (const QString &name : ownProperties(*calculator->metaObject())) {
-        const QVariant value = calculator->property(name.toLatin1());
-        if (value.typeId() == QMetaType::Bool)
-            QCOMPARE(value.toBool(), trueFlags.split(u' ').contains(name));
-        else if (value.typeId() == QMetaType::Double)
-            QCOMPARE(value.toDouble(), ones.split(u' ').contains(name) ? 1.0 : 0.0);
-        else
-            QCOMPARE(value.toList(), values);
+    void defaults_data()
+    {
+        const Rows<Factory, QString, QString, QVariantList> row;
+        row("limiter", Factory(make<LimiterCalculator>), u"calculatorActive limiterBypassed"_s, {}, identity);
+        row("AGC", Factory(make<AGCCalculator>), u"agcBypassed"_s, {}, {});
+        row("ducker", Factory(make<DuckerCalculator>), u"calculatorActive duckerBypassed"_s, {}, identity);
+        row("gate", Factory(make<NoiseGateCalculator>), u"calculatorActive gateBypassed"_s, {}, identity);
+        row("compressor", Factory(make<CompressorCalculator>), u"calculatorActive compressorBypassed"_s,
+            u"ratio ratioMin ratioMax"_s, identity);
+        row("ANC", Factory(make<ANCCalculator>), u"ancBypassed freezeGain"_s, {}, {});
     }
-}
 
-void tst_Calculators::signalsOfSetter_data()
-{
-    QTest::addColumn<Factory>("factory");
-    QTest::addColumn<QString>("except");
-
-    // Each property announces itself but for these, which are announced by the signal of another property.
-    QTest::newRow("limiter") << Factory(make<LimiterCalculator>) << QString();
-    QTest::newRow("AGC") << Factory(make<AGCCalculator>) << u"kneeInMin:kneeIn kneeInMax:kneeIn"_s;
-    QTest::newRow("ducker") << Factory(make<DuckerCalculator>) << QString();
-    QTest::newRow("gate") << Factory(make<NoiseGateCalculator>) << QString();
-    QTest::newRow("compressor") << Factory(make<CompressorCalculator>) << QString();
-    QTest::newRow("ANC") << Factory(make<ANCCalculator>) << u"minimumGainMax:minimumGain maximumGainMax:maximumGain"_s;
-}
-
-void tst_Calculators::signalsOfSetter()
-{
-    QFETCH(Factory, factory);
-    QFETCH(QString, except);
-    const std::shared_ptr<QObject> calculator = factory();
-    SignalLog log(calculator.get());
-    const QStringList exceptions = except.split(u' ');
-    for (const QString &name : ownProperties(*calculator->metaObject())) {
-        if (name == u"values" || name.endsWith("Bypassed"_L1))
-            continue; // stays bypassed, so that the gate does not test its bounds and announces every curve
-        const QVariant old = calculator->property(name.toLatin1());
-        const QVariant changed = old.typeId() == QMetaType::Bool ? QVariant(!old.toBool()) : QVariant(5.5);
-        QString announced = name;
-        for (const QString &exception : exceptions) {
-            if (exception.startsWith(name + u':'))
-                announced = exception.section(u':', 1);
+    void defaults()
+    {
+        const auto &[factory, trueFlags, ones, values] = Rows<Factory, QString, QString, QVariantList>::current();
+        const std::shared_ptr<QObject> calculator = factory();
+        for (const QString &name : ownProperties(*calculator->metaObject())) {
+            const QVariant value = calculator->property(name.toLatin1());
+            if (value.typeId() == QMetaType::Bool)
+                QCOMPARE(value.toBool(), trueFlags.split(u' ').contains(name));
+            else if (value.typeId() == QMetaType::Double)
+                QCOMPARE(value.toDouble(), ones.split(u' ').contains(name) ? 1.0 : 0.0);
+            else
+                QCOMPARE(value.toList(), values);
         }
-        log.onSignal = [&] { QCOMPARE(calculator->property(name.toLatin1()), changed); };
-        calculator->setProperty(name.toLatin1(), changed);
-        QCOMPARE(log.take(), QStringList({u"valuesChanged"_s, announced + u"Changed"_s}));
-        calculator->setProperty(name.toLatin1(), changed);
-        QCOMPARE(log.take(), QStringList());
     }
-}
 
-void tst_Calculators::gateClearsSilently()
-{
-    NoiseGateCalculator gate;
-    gate.setThresholdMin(-60.0);
-    gate.setDepthMax(60.0);
-    gate.setDepth(20.0);
-    gate.setGateBypassed(false);
-    QCOMPARE(gate.values().size(), 4);
-
-    SignalLog log(&gate);
-    gate.setThreshold(10.0);
-    QCOMPARE(log.take(), QStringList({u"thresholdChanged"_s}));
-    QVERIFY(gate.values().isEmpty());
-    gate.setThreshold(-30.0);
-    QCOMPARE(log.take(), QStringList({u"valuesChanged"_s, u"thresholdChanged"_s}));
-    QCOMPARE(gate.values().size(), 4);
-}
-
-void tst_Calculators::pointsStayInsideThePlot()
-{
-    QFETCH(Factory, factory);
-    using Limits = std::numeric_limits<double>;
-    constexpr double odd[] = {Limits::quiet_NaN(),
-                              Limits::infinity(),
-                              -Limits::infinity(),
-                              Limits::max(),
-                              -Limits::max(),
-                              Limits::denorm_min(),
-                              0.0,
-                              -3.0};
-
-    const std::shared_ptr<QObject> calculator = factory();
-    calculator->setProperty("calculatorActive", true);
-    QStringList numbers;
-    for (const QString &name : ownProperties(*calculator->metaObject())) {
-        const QVariant value = calculator->property(name.toLatin1());
-        if (name.endsWith("Bypassed"_L1))
-            calculator->setProperty(name.toLatin1(), false);
-        else if (name == u"softKneeActive")
-            calculator->setProperty(name.toLatin1(), true);
-        else if (value.typeId() == QMetaType::Double)
-            numbers << name;
+    void signalsOfSetter_data()
+    {
+        const Rows<Factory, QString> row;
+        // Each property announces itself but for these, which are announced by the signal of another property.
+        row("limiter", Factory(make<LimiterCalculator>), {});
+        row("AGC", Factory(make<AGCCalculator>), u"kneeInMin:kneeIn kneeInMax:kneeIn"_s);
+        row("ducker", Factory(make<DuckerCalculator>), {});
+        row("gate", Factory(make<NoiseGateCalculator>), {});
+        row("compressor", Factory(make<CompressorCalculator>), {});
+        row("ANC", Factory(make<ANCCalculator>), u"minimumGainMax:minimumGain maximumGainMax:maximumGain"_s);
     }
-    // Each pair of numbers takes each pair of odd values, over an ordinary setting of the others.
-    for (const QString &first : numbers) {
-        for (const QString &second : numbers) {
-            for (const QString &name : numbers)
-                calculator->setProperty(name.toLatin1(), name.endsWith("Min"_L1)   ? -60.0
-                                                         : name.endsWith("Max"_L1) ? 20.0
-                                                                                   : 6.0);
-            for (const double a : odd) {
-                calculator->setProperty(first.toLatin1(), a);
-                for (const double b : odd) {
-                    calculator->setProperty(second.toLatin1(), b);
-                    for (const QVariant &value : calculator->property("values").toList()) {
-                        const QPointF point = value.toPointF();
-                        const bool inside = point.x() >= 0 && point.x() <= 1 && point.y() >= 0 && point.y() <= 1;
-                        QVERIFY2(inside, qPrintable(u"%1=%2 %3=%4"_s.arg(first).arg(a).arg(second).arg(b)));
+
+    void signalsOfSetter()
+    {
+        const auto &[factory, except] = Rows<Factory, QString>::current();
+        const std::shared_ptr<QObject> calculator = factory();
+        SignalLog log(calculator.get());
+        const QStringList exceptions = except.split(u' ');
+        for (const QString &name : ownProperties(*calculator->metaObject())) {
+            if (name == u"values" || name.endsWith("Bypassed"_L1))
+                continue; // stays bypassed, so that the gate does not test its bounds and announces every curve
+            const QVariant old = calculator->property(name.toLatin1());
+            const QVariant changed = old.typeId() == QMetaType::Bool ? QVariant(!old.toBool()) : QVariant(5.5);
+            QString announced = name;
+            for (const QString &exception : exceptions) {
+                if (exception.startsWith(name + u':'))
+                    announced = exception.section(u':', 1);
+            }
+            log.onSignal = [&] { QCOMPARE(calculator->property(name.toLatin1()), changed); };
+            calculator->setProperty(name.toLatin1(), changed);
+            QCOMPARE(log.take(), QStringList({u"valuesChanged"_s, announced + u"Changed"_s}));
+            calculator->setProperty(name.toLatin1(), changed);
+            QCOMPARE(log.take(), QStringList());
+        }
+    }
+
+    void gateClearsSilently()
+    {
+        NoiseGateCalculator gate;
+        gate.setThresholdMin(-60.0);
+        gate.setDepthMax(60.0);
+        gate.setDepth(20.0);
+        gate.setGateBypassed(false);
+        QCOMPARE(gate.values().size(), 4);
+
+        SignalLog log(&gate);
+        gate.setThreshold(10.0);
+        QCOMPARE(log.take(), QStringList({u"thresholdChanged"_s}));
+        QVERIFY(gate.values().isEmpty());
+        gate.setThreshold(-30.0);
+        QCOMPARE(log.take(), QStringList({u"valuesChanged"_s, u"thresholdChanged"_s}));
+        QCOMPARE(gate.values().size(), 4);
+    }
+
+    void pointsStayInsideThePlot_data() { defaults_data(); }
+    void pointsStayInsideThePlot()
+    {
+        const Factory factory = std::get<0>(Rows<Factory, QString, QString, QVariantList>::current());
+        using Limits = std::numeric_limits<double>;
+        constexpr double odd[] = {Limits::quiet_NaN(),
+                                  Limits::infinity(),
+                                  -Limits::infinity(),
+                                  Limits::max(),
+                                  -Limits::max(),
+                                  Limits::denorm_min(),
+                                  0.0,
+                                  -3.0};
+
+        const std::shared_ptr<QObject> calculator = factory();
+        calculator->setProperty("calculatorActive", true);
+        QStringList numbers;
+        for (const QString &name : ownProperties(*calculator->metaObject())) {
+            const QVariant value = calculator->property(name.toLatin1());
+            if (name.endsWith("Bypassed"_L1))
+                calculator->setProperty(name.toLatin1(), false);
+            else if (name == u"softKneeActive")
+                calculator->setProperty(name.toLatin1(), true);
+            else if (value.typeId() == QMetaType::Double)
+                numbers << name;
+        }
+        // Each pair of numbers takes each pair of odd values, over an ordinary setting of the others.
+        for (const QString &first : numbers) {
+            for (const QString &second : numbers) {
+                for (const QString &name : numbers)
+                    calculator->setProperty(name.toLatin1(), name.endsWith("Min"_L1)   ? -60.0
+                                                             : name.endsWith("Max"_L1) ? 20.0
+                                                                                       : 6.0);
+                for (const double a : odd) {
+                    calculator->setProperty(first.toLatin1(), a);
+                    for (const double b : odd) {
+                        calculator->setProperty(second.toLatin1(), b);
+                        for (const QVariant &value : calculator->property("values").toList()) {
+                            const QPointF point = value.toPointF();
+                            const bool inside = point.x() >= 0 && point.x() <= 1 && point.y() >= 0 && point.y() <= 1;
+                            QVERIFY2(inside, qPrintable(u"%1=%2 %3=%4"_s.arg(first).arg(a).arg(second).arg(b)));
+                        }
                     }
                 }
             }
         }
     }
-}
+};
 
 template struct TestClass<tst_Calculators>;
 #include "tst_Calculators.moc"

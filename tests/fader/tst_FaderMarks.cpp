@@ -1,8 +1,6 @@
 #include "fader/FaderMarks.h"
+#include "support/Rows.h"
 #include "support/TestProgram.h"
-
-#include <QtCore/QObject>
-#include <QtTest/QTest>
 
 #include <limits>
 
@@ -13,76 +11,55 @@ class tst_FaderMarks : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void automatic_data();
-    void automatic();
-    void given_data();
-    void given();
-};
-
-void tst_FaderMarks::automatic_data()
-{
-    QTest::addColumn<FaderTravel>("travel");
-    QTest::addColumn<double>("spacing");
-    QTest::addColumn<QList<double>>("levels");
-
-    const FaderTravel usual;
-    // 14 of 232 pixels are 5.43 dB, so 5 and -5 have no room.
-    QTest::newRow("usual size") << usual << 14.0 / 232.0 << QList<double>{0, -80, 10, -10, -20, -30, -40, -50, -60};
-    QTest::newRow("tall") << usual << 14.0 / 352.0 << QList<double>{0, -80, 10, 5, -5, -10, -20, -30, -40, -50, -60};
-    QTest::newRow("short") << usual << 14.0 / 72.0 << QList<double>{0, -80, -20, -40, -60};
-    QTest::newRow("no room but for 0 dB") << usual << 1.0 << QList<double>{0};
-    // The table gives -50…-80 dB the lowest twentieth.
-    QTest::newRow("table") << FaderTravel{-80.0, 10.0, FaderLaw::Table} << 0.06
-                           << QList<double>{0, -80, 10, 5, -5, -10, -20, -30};
-    QTest::newRow("ends off the list") << FaderTravel{-66.0, 12.0, FaderLaw::Linear} << 0.1
-                                       << QList<double>{0, -66, 12, -10, -20, -30, -40, -50};
-    QTest::newRow("reversed") << FaderTravel{10.0, -80.0, FaderLaw::Linear} << 0.3 << QList<double>{0, -80, -30};
-    QTest::newRow("without 0 dB") << FaderTravel{-40.0, -20.0, FaderLaw::Linear} << 0.1 << QList<double>{-40, -20, -30};
-    QTest::newRow("empty range") << FaderTravel{5.0, 5.0, FaderLaw::Linear} << 0.1 << QList<double>{};
-    QTest::newRow("no number") << FaderTravel{-80.0, std::numeric_limits<double>::quiet_NaN(), FaderLaw::Linear} << 0.1
-                               << QList<double>{};
-}
-
-void tst_FaderMarks::automatic()
-{
-    QFETCH(FaderTravel, travel);
-    QFETCH(double, spacing);
-    QFETCH(QList<double>, levels);
-    QList<double> chosen;
-    for (const FaderMark &mark : automaticMarks(travel, spacing))
-        chosen.append(mark.level);
-    QCOMPARE(chosen, levels);
-}
-
-void tst_FaderMarks::given_data()
-{
-    QTest::addColumn<QList<double>>("levels");
-    QTest::addColumn<QList<double>>("ticks");
-    QTest::addColumn<QList<double>>("labels");
-
-    QTest::newRow("crowded") << QList<double>{-12, -11, -10, 0} << QList<double>{0, -12, -11, -10}
-                             << QList<double>{0, -12};
-    QTest::newRow("0 dB and the ends go first")
-        << QList<double>{-1, 0, 9, 10} << QList<double>{0, 10, -1, 9} << QList<double>{0, 10};
-    QTest::newRow("twice the same") << QList<double>{-20, -20} << QList<double>{-20, -20} << QList<double>{-20};
-    QTest::newRow("outside of the range") << QList<double>{20, -20, -100} << QList<double>{-20} << QList<double>{-20};
-}
-
-void tst_FaderMarks::given()
-{
-    QFETCH(QList<double>, levels);
-    QFETCH(QList<double>, ticks);
-    QFETCH(QList<double>, labels);
-    QList<double> shown;
-    QList<double> labelled;
-    for (const FaderMark &mark : marksAt({}, levels, 0.06)) {
-        shown.append(mark.level);
-        if (mark.isLabelled)
-            labelled.append(mark.level);
+    void automatic_data()
+    {
+        const Rows<FaderTravel, double, QList<double>> row;
+        const FaderTravel usual;
+        // 14 of 232 pixels are 5.43 dB, so 5 and -5 have no room.
+        row("usual size", usual, 14.0 / 232.0, {0, -80, 10, -10, -20, -30, -40, -50, -60});
+        row("tall", usual, 14.0 / 352.0, {0, -80, 10, 5, -5, -10, -20, -30, -40, -50, -60});
+        row("no room but for 0 dB", usual, 1.0, {0});
+        // The table gives -50…-80 dB the lowest twentieth.
+        row("table", {-80.0, 10.0, FaderLaw::Table}, 0.06, {0, -80, 10, 5, -5, -10, -20, -30});
+        row("ends off the list", {-66.0, 12.0, FaderLaw::Linear}, 0.1, {0, -66, 12, -10, -20, -30, -40, -50});
+        row("reversed", {10.0, -80.0, FaderLaw::Linear}, 0.3, {0, -80, -30});
+        row("without 0 dB", {-40.0, -20.0, FaderLaw::Linear}, 0.1, {-40, -20, -30});
+        row("empty range", {5.0, 5.0, FaderLaw::Linear}, 0.1, {});
+        row("no number", {-80.0, std::numeric_limits<double>::quiet_NaN(), FaderLaw::Linear}, 0.1, {});
     }
-    QCOMPARE(shown, ticks);
-    QCOMPARE(labelled, labels);
-}
+
+    void automatic()
+    {
+        const auto &[travel, spacing, levels] = Rows<FaderTravel, double, QList<double>>::current();
+        QList<double> chosen;
+        for (const FaderMark &mark : automaticMarks(travel, spacing))
+            chosen.append(mark.level);
+        QCOMPARE(chosen, levels);
+    }
+
+    void given_data()
+    {
+        const Rows<QList<double>, QList<double>, QList<double>> row;
+        row("crowded", {-12, -11, -10, 0}, {0, -12, -11, -10}, {0, -12});
+        row("0 dB and the ends go first", {-1, 0, 9, 10}, {0, 10, -1, 9}, {0, 10});
+        row("twice the same", {-20, -20}, {-20, -20}, {-20});
+        row("outside of the range", {20, -20, -100}, {-20}, {-20});
+    }
+
+    void given()
+    {
+        const auto &[levels, ticks, labels] = Rows<QList<double>, QList<double>, QList<double>>::current();
+        QList<double> shown;
+        QList<double> labelled;
+        for (const FaderMark &mark : marksAt({}, levels, 0.06)) {
+            shown.append(mark.level);
+            if (mark.isLabelled)
+                labelled.append(mark.level);
+        }
+        QCOMPARE(shown, ticks);
+        QCOMPARE(labelled, labels);
+    }
+};
 
 template struct TestClass<tst_FaderMarks>;
 #include "tst_FaderMarks.moc"

@@ -3,7 +3,6 @@
 #include "support/TestProgram.h"
 
 #include <QtCore/QElapsedTimer>
-#include <QtTest/QTest>
 
 #include <exception>
 
@@ -45,26 +44,23 @@ class tst_Fuzz : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void parser();
-    void cascade();
+    void parser()
+    {
+        const Mutator mutator({TAMBLE_STYLE_SHEETS, TAMBLE_FUZZERS "/corpus"}, TAMBLE_FUZZERS "/style.dict");
+        QVERIFY(!mutator.isEmpty());
+        runFor(millisecondsPerBody, fuzzParser, [&](Random &random) { return mutator.text(random); });
+    }
+
+    void cascade()
+    {
+        runFor(millisecondsPerBody, fuzzCascade, [](Random &random) {
+            std::string bytes(600, '\0');
+            for (char &byte : bytes)
+                byte = char(random.below(256));
+            return bytes;
+        });
+    }
 };
-
-void tst_Fuzz::parser()
-{
-    const Mutator mutator({TAMBLE_STYLE_SHEETS, TAMBLE_FUZZERS "/corpus"}, TAMBLE_FUZZERS "/style.dict");
-    QVERIFY(!mutator.isEmpty());
-    runFor(millisecondsPerBody, fuzzParser, [&](Random &random) { return mutator.text(random); });
-}
-
-void tst_Fuzz::cascade()
-{
-    runFor(millisecondsPerBody, fuzzCascade, [](Random &random) {
-        std::string bytes(600, '\0');
-        for (char &byte : bytes)
-            byte = char(random.below(256));
-        return bytes;
-    });
-}
 
 template struct TestClass<tst_Fuzz>;
 #include "tst_Fuzz.moc"

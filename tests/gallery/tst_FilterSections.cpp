@@ -1,9 +1,7 @@
 #include "DigitalSection.h"
 #include "FilterSections.h"
+#include "support/Rows.h"
 #include "support/TestProgram.h"
-
-#include <QtCore/QObject>
-#include <QtTest/QtTest>
 
 #include <cmath>
 #include <complex>
@@ -37,97 +35,67 @@ class tst_FilterSections : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void sectionsOfAQuarterOfTheRate_data();
-    void sectionsOfAQuarterOfTheRate();
-    void bandsInOrder();
-    void gainsAtTheCorner_data();
-    void gainsAtTheCorner();
-    void qualityCounts();
-};
+    void bandsInOrder()
+    {
+        const QVariantMap notch = band(QStringLiteral("eq"), 9, 12000, 0, 0.5);
+        QVariantMap bypassed = notch;
+        bypassed[QStringLiteral("bypass")] = true;
+        const QVariantMap asymmetric = band(QStringLiteral("asym"), 12, 1000, 6, 1);
+        const QVariantMap linkwitz24 = band(QStringLiteral("xover"), 17, 80, 0, 0);
 
-void tst_FilterSections::sectionsOfAQuarterOfTheRate_data()
-{
-    QTest::addColumn<QList<double>>("prototype");
-    QTest::addColumn<QList<double>>("coefficients");
-    const double root = std::sqrt(2.0);
-
-    // The mean of two neighbouring samples.
-    QTest::newRow("first order low pass") << QList<double>{1, 0, 0, 1, 1, 0} << QList<double>{0.5, 0.5, 0, 0, 0};
-    QTest::newRow("Butterworth high pass")
-        << QList<double>{0, 0, 1, 1, root, 1}
-        << QList<double>{1 / (2 + root), -2 / (2 + root), 1 / (2 + root), 0, (2 - root) / (2 + root)};
-    QTest::newRow("notch") << QList<double>{1, 0, 1, 1, 2, 1} << QList<double>{0.5, 0, 0.5, 0, 0};
-}
-
-void tst_FilterSections::sectionsOfAQuarterOfTheRate()
-{
-    QFETCH(const QList<double>, prototype);
-    QFETCH(const QList<double>, coefficients);
-    const auto actual =
-        digitalSection({prototype[0], prototype[1], prototype[2], prototype[3], prototype[4], prototype[5], 1.0});
-    for (std::size_t i = 0; i < actual.size(); ++i)
-        QVERIFY2(std::abs(actual.at(i) - coefficients[qsizetype(i)]) < 1e-15, qPrintable(QString::number(i)));
-}
-
-void tst_FilterSections::bandsInOrder()
-{
-    const QVariantMap notch = band(QStringLiteral("eq"), 9, 12000, 0, 0.5);
-    QVariantMap bypassed = notch;
-    bypassed[QStringLiteral("bypass")] = true;
-    const QVariantMap asymmetric = band(QStringLiteral("asym"), 12, 1000, 6, 1);
-    const QVariantMap linkwitz24 = band(QStringLiteral("xover"), 17, 80, 0, 0);
-
-    const QVariantList sections = FilterSections().of(
-        {bypassed, asymmetric, band(QStringLiteral("fir"), 2, 0, 0, 0), linkwitz24, notch, 7}, Rate);
-    QCOMPARE(sections.size(), 5);
-    QCOMPARE(sections[2], sections[3]);
-    QVERIFY(std::abs(numbersOf(sections[4])[0] - 0.5) < 1e-15);
-    for (const QVariant &section : sections)
-        QCOMPARE(section.toList().size(), 5);
-}
-
-void tst_FilterSections::gainsAtTheCorner_data()
-{
-    QTest::addColumn<QVariantMap>("filter");
-    QTest::addColumn<double>("gain");
-
-    for (const double freq : {50.0, 1000.0, 12000.0, 20000.0}) {
-        QTest::addRow("peak of 20 dB at %g Hz", freq) << band(QStringLiteral("eq"), 0, freq, 20, 3) << 10.0;
-        QTest::addRow("low pass of Q 2 at %g Hz", freq) << band(QStringLiteral("eq"), 4, freq, 0, 2) << 2.0;
-        QTest::addRow("Linkwitz-Riley 24 dB at %g Hz", freq) << band(QStringLiteral("xover"), 17, freq, 0, 0) << 0.5;
-        QTest::addRow("6 dB at %g Hz", freq) << band(QStringLiteral("xover"), 1, freq, 0, 0) << std::sqrt(0.5);
+        const QVariantList sections = FilterSections().of(
+            {bypassed, asymmetric, band(QStringLiteral("fir"), 2, 0, 0, 0), linkwitz24, notch, 7}, Rate);
+        QCOMPARE(sections.size(), 5);
+        QCOMPARE(sections[2], sections[3]);
+        QVERIFY(std::abs(numbersOf(sections[4])[0] - 0.5) < 1e-15);
+        for (const QVariant &section : sections)
+            QCOMPARE(section.toList().size(), 5);
     }
-}
 
-void tst_FilterSections::gainsAtTheCorner()
-{
-    QFETCH(const QVariantMap, filter);
-    QFETCH(const double, gain);
-    const std::complex<double> delay =
-        std::polar(1.0, -2.0 * std::numbers::pi * filter.value(QStringLiteral("freq")).toDouble() / Rate);
-    std::complex<double> response = 1.0;
-    for (const QVariant &section : FilterSections().of({filter}, Rate)) {
-        const QList<double> numbers = numbersOf(section);
-        response *= (numbers[0] + delay * (numbers[1] + delay * numbers[2])) /
-                    (1.0 + delay * (numbers[3] + delay * numbers[4]));
-    }
-    QVERIFY2(std::abs(std::abs(response) / gain - 1.0) < 1e-9, qPrintable(QString::number(std::abs(response))));
-}
-
-void tst_FilterSections::qualityCounts()
-{
-    const FilterSections filters;
-    for (int type = -1; type <= 12; ++type) {
-        for (const int slope : {0, 1, 2}) {
-            QVariantMap filter = band(QStringLiteral("eq"), type, 1000, 6, 1);
-            filter[QStringLiteral("slope")] = slope;
-            const QVariantList sections = filters.of({filter}, Rate);
-            filter[QStringLiteral("quality")] = 3.0;
-            const bool differs = filters.of({filter}, Rate) != sections;
-            QVERIFY2(filters.qualityCounts(type, slope) == differs, qPrintable(QString::number(type)));
+    void gainsAtTheCorner_data()
+    {
+        const Rows<QVariantMap, double> row;
+        for (const double freq : {50.0, 1000.0, 12000.0, 20000.0}) {
+            row(qPrintable(QString::asprintf("peak of 20 dB at %g Hz", freq)),
+                band(QStringLiteral("eq"), 0, freq, 20, 3), 10.0);
+            row(qPrintable(QString::asprintf("low pass of Q 2 at %g Hz", freq)),
+                band(QStringLiteral("eq"), 4, freq, 0, 2), 2.0);
+            row(qPrintable(QString::asprintf("Linkwitz-Riley 24 dB at %g Hz", freq)),
+                band(QStringLiteral("xover"), 17, freq, 0, 0), 0.5);
+            row(qPrintable(QString::asprintf("6 dB at %g Hz", freq)), band(QStringLiteral("xover"), 1, freq, 0, 0),
+                std::sqrt(0.5));
         }
     }
-}
+
+    void gainsAtTheCorner()
+    {
+        const auto &[filter, gain] = Rows<QVariantMap, double>::current();
+        const std::complex<double> delay =
+            std::polar(1.0, -2.0 * std::numbers::pi * filter.value(QStringLiteral("freq")).toDouble() / Rate);
+        std::complex<double> response = 1.0;
+        for (const QVariant &section : FilterSections().of({filter}, Rate)) {
+            const QList<double> numbers = numbersOf(section);
+            response *= (numbers[0] + delay * (numbers[1] + delay * numbers[2])) /
+                        (1.0 + delay * (numbers[3] + delay * numbers[4]));
+        }
+        QVERIFY2(std::abs(std::abs(response) / gain - 1.0) < 1e-9, qPrintable(QString::number(std::abs(response))));
+    }
+
+    void qualityCounts()
+    {
+        const FilterSections filters;
+        for (int type = -1; type <= 12; ++type) {
+            for (const int slope : {0, 1, 2}) {
+                QVariantMap filter = band(QStringLiteral("eq"), type, 1000, 6, 1);
+                filter[QStringLiteral("slope")] = slope;
+                const QVariantList sections = filters.of({filter}, Rate);
+                filter[QStringLiteral("quality")] = 3.0;
+                const bool differs = filters.of({filter}, Rate) != sections;
+                QVERIFY2(filters.qualityCounts(type, slope) == differs, qPrintable(QString::number(type)));
+            }
+        }
+    }
+};
 
 template struct TestClass<tst_FilterSections>;
 #include "tst_FilterSections.moc"

@@ -3,10 +3,8 @@
 #include "FilterBank.h"
 #include "Spectrum.h"
 #include "TestSignals.h"
+#include "support/Rows.h"
 #include "support/TestProgram.h"
-
-#include <QtCore/QObject>
-#include <QtTest/QtTest>
 
 #include <limits>
 
@@ -33,241 +31,189 @@ StaticCurve levelCurve(const QList<QPointF> &points, double minimum, double maxi
 class tst_Measurements : public QObject
 {
     Q_OBJECT
+    using Sections = std::vector<BiquadCoefficients>;
 
 private Q_SLOTS:
-    void blockLevels_data();
-    void blockLevels();
-    void channelsAreApart();
-    void staticGain_data();
-    void staticGain();
-    void detectorFollows();
-    void dynamicsReading();
-    void filterSections_data();
-    void filterSections();
-    void tuningKeepsTheMemory();
-    void spectrumOfASine_data();
-    void spectrumOfASine();
-    void spectrumAverages();
-};
-
-void tst_Measurements::blockLevels_data()
-{
-    QTest::addColumn<std::vector<float>>("samples");
-    QTest::addColumn<double>("peak");
-    QTest::addColumn<double>("rms");
-    QTest::newRow("full-scale sine") << sine(1.0, 1000.0, 48000.0, 2400) << 0.0 << -3.01;
-    QTest::newRow("sine of a tenth") << sine(0.1, 1000.0, 48000.0, 2400) << -20.0 << -23.01;
-    QTest::newRow("negative direct current") << std::vector<float>(100, -0.5F) << -6.02 << -6.02;
-    QTest::newRow("one sample of four, beyond full scale") << std::vector<float>{0.0F, 2.0F, 0.0F, 0.0F} << 6.02 << 0.0;
-    QTest::newRow("silence") << std::vector<float>(100, 0.0F) << -120.0 << -120.0;
-    QTest::newRow("below the floor") << std::vector<float>(100, 1e-7F) << -120.0 << -120.0;
-    QTest::newRow("nothing") << std::vector<float>() << -120.0 << -120.0;
-    QTest::newRow("not numbers") << std::vector<float>{NotANumber, 0.5F, -Infinity, -0.5F} << -6.02 << -9.03;
-}
-
-void tst_Measurements::blockLevels()
-{
-    QFETCH(std::vector<float>, samples);
-    QFETCH(double, peak);
-    QFETCH(double, rms);
-    BlockLevel level;
-    measureLevels(samples, {&level, 1});
-    QVERIFY(isNear(level.peak, peak, 0.01));
-    QVERIFY(isNear(level.rms, rms, 0.01));
-}
-
-void tst_Measurements::channelsAreApart()
-{
-    const std::vector<float> samples{1.0F, 0.1F, 0.0F, -1.0F, 0.0F, 0.0F};
-    std::vector<BlockLevel> levels(3);
-    measureLevels(samples, levels);
-    QCOMPARE(levels[0].peak, 0.0);
-    QVERIFY(isNear(levels[1].peak, -20.0, 0.01));
-    QVERIFY(isNear(levels[1].rms, -23.01, 0.01));
-    QCOMPARE(levels[2].peak, -120.0);
-}
-
-void tst_Measurements::staticGain_data()
-{
-    const StaticCurve limiter = levelCurve({{0.0, 1.0}, {0.75, 0.25}, {1.0, 0.25}}, -40.0, 0.0);
-    const StaticCurve compressor = levelCurve({{0.0, 1.0}, {0.5, 0.5}, {1.0, 0.25}}, -80.0, 0.0);
-    // Threshold −20, ducking level 20; threshold −30, depth 20; both within −60…0.
-    const StaticCurve ducker =
-        levelCurve({{0.0, 1.0}, {2.0 / 3.0, 1.0 / 3.0}, {2.0 / 3.0, 2.0 / 3.0}, {1.0, 1.0 / 3.0}}, -60.0, 0.0);
-    const StaticCurve gate = levelCurve({{1.0 / 3.0, 1.0}, {0.5, 5.0 / 6.0}, {0.5, 0.5}, {1.0, 0.0}}, -60.0, 0.0);
-    // The same lowered by 50 instead, which is below the plot for part of the way.
-    StaticCurve deepDucker = levelCurve(
-        {{0.0, 1.0}, {2.0 / 3.0, 1.0 / 3.0}, {2.0 / 3.0, 1.0}, {5.0 / 6.0, 1.0}, {1.0, 5.0 / 6.0}}, -60.0, 0.0);
-    deepDucker.floorGain = -50.0;
-    StaticCurve deepGate = levelCurve({{0.5, 1.0}, {0.5, 0.5}, {1.0, 0.0}}, -60.0, 0.0);
-    deepGate.floorGain = -50.0;
-    // Gain −10 up to an ambient level of −40, then 1 dB per dB up to +10.
-    const StaticCurve ambience = {
-        {{0.0, 0.75}, {0.5, 0.75}, {0.75, 0.25}, {1.0, 0.25}}, -80.0, 0.0, -20.0, 20.0, StaticCurve::Meaning::Gain};
-    const double notANumber = double(NotANumber);
-
-    QTest::addColumn<StaticCurve>("curve");
-    QTest::addColumn<double>("input");
-    QTest::addColumn<double>("gain");
-    QTest::newRow("limiter below") << limiter << -25.0 << 0.0;
-    QTest::newRow("limiter above") << limiter << -4.0 << -6.0;
-    QTest::newRow("limiter beyond the plot") << limiter << 6.0 << -16.0;
-    QTest::newRow("limiter left of the plot") << limiter << -90.0 << 0.0;
-    QTest::newRow("compressor between points") << compressor << -20.0 << -10.0;
-    QTest::newRow("compressor goes on with its slope") << compressor << 20.0 << -30.0;
-    QTest::newRow("ducker at its threshold") << ducker << -20.0 << 0.0;
-    QTest::newRow("ducker above") << ducker << -10.0 << -20.0;
-    QTest::newRow("gate closed") << gate << -35.0 << -20.0;
-    QTest::newRow("gate closed, not drawn") << gate << -100.0 << -20.0;
-    QTest::newRow("gate open") << gate << -10.0 << 0.0;
-    QTest::newRow("deep ducker below") << deepDucker << -90.0 << 0.0;
-    QTest::newRow("deep ducker on the floor") << deepDucker << -15.0 << -50.0;
-    QTest::newRow("deep ducker above the floor") << deepDucker << -5.0 << -50.0;
-    QTest::newRow("deep gate closed") << deepGate << -30.0 << -50.0;
-    QTest::newRow("deep gate closed, not drawn") << deepGate << -100.0 << -50.0;
-    QTest::newRow("deep gate open") << deepGate << -29.0 << 0.0;
-    QTest::newRow("gain curve, low") << ambience << -120.0 << -10.0;
-    QTest::newRow("gain curve, rise") << ambience << -30.0 << 0.0;
-    QTest::newRow("gain curve, beyond the plot") << ambience << 30.0 << 10.0;
-    QTest::newRow("no points") << levelCurve({}, -60.0, 0.0) << -10.0 << 0.0;
-    QTest::newRow("one point") << levelCurve({{0.5, 1.0}}, -60.0, 0.0) << -10.0 << 0.0;
-    QTest::newRow("empty range") << levelCurve({{0.0, 1.0}, {1.0, 1.0}}, 0.0, 0.0) << -10.0 << 0.0;
-    QTest::newRow("range is no number") << levelCurve({{0.0, 1.0}, {1.0, 1.0}}, -60.0, notANumber) << -10.0 << 0.0;
-    QTest::newRow("point is no number") << levelCurve({{0.0, 1.0}, {1.0, notANumber}}, -60.0, 0.0) << -10.0 << 0.0;
-}
-
-void tst_Measurements::staticGain()
-{
-    QFETCH(StaticCurve, curve);
-    QFETCH(double, input);
-    QFETCH(double, gain);
-    QVERIFY(isNear(curve.gain(input), gain, 1e-9));
-}
-
-void tst_Measurements::detectorFollows()
-{
-    DynamicsChain chain(1000.0);
-    chain.setSettings({{}, 100.0, 50.0, 0.0});
-    const std::vector<float> loud(100, 1.0F);
-    const std::vector<float> silent(99, 0.0F);
-    // One time constant: 1 − 1/e of the way up, then 1/e of that after two falls of half the length.
-    QVERIFY(isNear(chain.process(loud, 1, 0).inputLevel, -3.98, 0.01));
-    chain.process(silent, 1, 0);
-    QVERIFY(isNear(chain.process(std::vector<float>(1, 0.0F), 1, 0).inputLevel, -3.98 - 2.0 * 8.686, 0.01));
-    chain.reset();
-    QCOMPARE(chain.process(silent, 1, 0).inputLevel, -120.0);
-}
-
-void tst_Measurements::dynamicsReading()
-{
-    DynamicsChain chain(48000.0);
-    const StaticCurve limiter = levelCurve({{0.0, 1.0}, {0.5, 0.5}, {1.0, 0.5}}, -60.0, 20.0);
-    chain.setSettings({limiter, 0.0, 0.0, 20.0});
-    // Full scale is 20 dBu, so a tenth of it is 0 dBu, 20 above the threshold. The other channel is not heard.
-    const DynamicsReading reading = chain.process(std::vector<float>{1.0F, 0.1F, NotANumber, -0.1F}, 2, 1);
-    QVERIFY(isNear(reading.inputLevel, 0.0, 1e-6));
-    QVERIFY(isNear(reading.outputLevel, -20.0, 1e-6));
-    QVERIFY(isNear(reading.gain, -20.0, 1e-6));
-}
-
-void tst_Measurements::filterSections_data()
-{
-    using Sections = std::vector<BiquadCoefficients>;
-    const BiquadCoefficients mean{0.5, 0.5, 0.0, 0.0, 0.0};
-    const BiquadCoefficients decay{1.0, 0.0, 0.0, -0.5, 0.0};
-    const std::vector<float> impulse{1.0F, 0.0F, 0.0F, 0.0F};
-
-    QTest::addColumn<Sections>("sections");
-    QTest::addColumn<std::vector<float>>("input");
-    QTest::addColumn<std::vector<float>>("output");
-    QTest::newRow("none") << Sections{} << impulse << impulse;
-    QTest::newRow("all of b") << Sections{{0.5, 0.25, 2.0, 0.0, 0.0}} << impulse
-                              << std::vector<float>{0.5F, 0.25F, 2.0F, 0.0F};
-    QTest::newRow("all of a") << Sections{{1.0, 0.0, 0.0, -0.5, 0.25}} << impulse
-                              << std::vector<float>{1.0F, 0.5F, 0.0F, -0.125F};
-    QTest::newRow("cascade") << Sections{mean, decay} << impulse << std::vector<float>{0.5F, 0.75F, 0.375F, 0.1875F};
-    QTest::newRow("unstable passes on") << Sections{{1.0, 0.0, 0.0, 0.0, 1.0}, mean} << impulse
-                                        << std::vector<float>{0.5F, 0.5F, 0.0F, 0.0F};
-    QTest::newRow("no number passes on") << Sections{{1.0, 0.0, double(NotANumber), 0.0, 0.0}} << impulse << impulse;
-    QTest::newRow("samples that are no numbers")
-        << Sections{decay} << std::vector<float>{1.0F, NotANumber, Infinity, 0.0F}
-        << std::vector<float>{1.0F, 0.5F, 0.25F, 0.125F};
-}
-
-void tst_Measurements::filterSections()
-{
-    QFETCH(std::vector<BiquadCoefficients>, sections);
-    QFETCH(std::vector<float>, input);
-    QFETCH(std::vector<float>, output);
-    FilterBank bank;
-    bank.setSections(sections);
-    bank.process(input);
-    QCOMPARE(input, output);
-}
-
-void tst_Measurements::tuningKeepsTheMemory()
-{
-    FilterBank bank;
-    bank.setSections(std::vector<BiquadCoefficients>{{1.0, 0.0, 0.0, -0.5, 0.0}});
-    std::vector<float> samples{1.0F};
-    bank.process(samples);
-    bank.setSections(std::vector<BiquadCoefficients>{{1.0, 0.0, 0.0, -0.25, 0.0}});
-    samples = {0.0F, 0.0F};
-    bank.process(samples);
-    QCOMPARE(samples, (std::vector<float>{0.5F, 0.125F}));
-    bank.reset();
-    bank.process(samples = {0.0F});
-    QCOMPARE(samples.front(), 0.0F);
-}
-
-void tst_Measurements::spectrumOfASine_data()
-{
-    // Bins are 48000 / 8192 = 5.859 Hz apart; band 34 is centred at 1002 Hz, band 5 at 35.6 Hz.
-    QTest::addColumn<double>("sampleRate");
-    QTest::addColumn<double>("frequencyHz");
-    QTest::addColumn<std::size_t>("band");
-    QTest::addColumn<double>("level");
-    QTest::addColumn<double>("tolerance");
-    QTest::newRow("on a bin") << 48000.0 << 996.09375 << std::size_t(34) << -6.02 << 0.01;
-    QTest::newRow("between two bins") << 48000.0 << 999.0234375 << std::size_t(34) << -6.02 - 1.42 << 0.02;
-    QTest::newRow("on a bin, low") << 48000.0 << 35.15625 << std::size_t(5) << -6.02 << 0.01;
-    QTest::newRow("other sample rate") << 8000.0 << 1000.0 << std::size_t(34) << -6.02 << 0.01;
-}
-
-void tst_Measurements::spectrumOfASine()
-{
-    QFETCH(double, sampleRate);
-    QFETCH(double, frequencyHz);
-    QFETCH(std::size_t, band);
-    QFETCH(double, level);
-    QFETCH(double, tolerance);
-    Spectrum spectrum(sampleRate);
-    spectrum.setAveragingMs(0.0);
-    spectrum.process(sine(0.5, frequencyHz, sampleRate, std::size_t(sampleRate)));
-
-    const std::vector<double> levels = spectrum.levels();
-    QCOMPARE(levels.size(), std::size_t(61));
-    QVERIFY(isNear(levels[band], level, tolerance));
-    for (std::size_t i = 0; i < levels.size(); ++i) {
-        const bool apart = i + 10 < band || i > band + 3;
-        QVERIFY2(!apart || levels[i] < -60.0, qPrintable(QStringLiteral("band %1: %2").arg(i).arg(levels[i])));
-        if (Spectrum::centreHz(i) > 0.6 * sampleRate)
-            QCOMPARE(levels[i], -120.0);
+    void blockLevels_data()
+    {
+        const Rows<std::vector<float>, double, double> row;
+        row("full-scale sine", sine(1.0, 1000.0, 48000.0, 2400), 0.0, -3.01);
+        row("negative direct current", std::vector<float>(100, -0.5F), -6.02, -6.02);
+        row("one sample of four, beyond full scale", {0.0F, 2.0F, 0.0F, 0.0F}, 6.02, 0.0);
+        row("below the floor", std::vector<float>(100, 1e-7F), -120.0, -120.0);
+        row("nothing", {}, -120.0, -120.0);
+        row("not numbers", {NotANumber, 0.5F, -Infinity, -0.5F}, -6.02, -9.03);
     }
-    spectrum.reset();
-    QCOMPARE(spectrum.levels()[band], -120.0);
-}
 
-void tst_Measurements::spectrumAverages()
-{
-    Spectrum spectrum(48000.0);
-    spectrum.setAveragingMs(0.0);
-    spectrum.process(sine(1.0, 996.09375, 48000.0, 48000));
-    // Silence for one time constant takes the power down by 1/e, once the window holds nothing else.
-    spectrum.setAveragingMs(1000.0);
-    spectrum.process(std::vector<float>(48000, 0.0F));
-    QVERIFY(isNear(spectrum.levels()[34], -4.34, 0.02));
-}
+    void blockLevels()
+    {
+        const auto &[samples, peak, rms] = Rows<std::vector<float>, double, double>::current();
+        BlockLevel level;
+        measureLevels(samples, {&level, 1});
+        QVERIFY(isNear(level.peak, peak, 0.01));
+        QVERIFY(isNear(level.rms, rms, 0.01));
+    }
+
+    void channelsAreApart()
+    {
+        const std::vector<float> samples{1.0F, 0.1F, 0.0F, -1.0F, 0.0F, 0.0F};
+        std::vector<BlockLevel> levels(3);
+        measureLevels(samples, levels);
+        QCOMPARE(levels[0].peak, 0.0);
+        QVERIFY(isNear(levels[1].peak, -20.0, 0.01));
+        QVERIFY(isNear(levels[1].rms, -23.01, 0.01));
+        QCOMPARE(levels[2].peak, -120.0);
+    }
+
+    void staticGain_data()
+    {
+        const StaticCurve limiter = levelCurve({{0.0, 1.0}, {0.75, 0.25}, {1.0, 0.25}}, -40.0, 0.0);
+        const StaticCurve compressor = levelCurve({{0.0, 1.0}, {0.5, 0.5}, {1.0, 0.25}}, -80.0, 0.0);
+        // Threshold −20, ducking level 20; threshold −30, depth 20; both within −60…0.
+        const StaticCurve ducker =
+            levelCurve({{0.0, 1.0}, {2.0 / 3.0, 1.0 / 3.0}, {2.0 / 3.0, 2.0 / 3.0}, {1.0, 1.0 / 3.0}}, -60.0, 0.0);
+        const StaticCurve gate = levelCurve({{1.0 / 3.0, 1.0}, {0.5, 5.0 / 6.0}, {0.5, 0.5}, {1.0, 0.0}}, -60.0, 0.0);
+        // The same lowered by 50 instead, which is below the plot for part of the way.
+        StaticCurve deepDucker = levelCurve(
+            {{0.0, 1.0}, {2.0 / 3.0, 1.0 / 3.0}, {2.0 / 3.0, 1.0}, {5.0 / 6.0, 1.0}, {1.0, 5.0 / 6.0}}, -60.0, 0.0);
+        deepDucker.floorGain = -50.0;
+        StaticCurve deepGate = levelCurve({{0.5, 1.0}, {0.5, 0.5}, {1.0, 0.0}}, -60.0, 0.0);
+        deepGate.floorGain = -50.0;
+        // Gain −10 up to an ambient level of −40, then 1 dB per dB up to +10.
+        const StaticCurve ambience = {
+            {{0.0, 0.75}, {0.5, 0.75}, {0.75, 0.25}, {1.0, 0.25}}, -80.0, 0.0, -20.0, 20.0, StaticCurve::Meaning::Gain};
+        const double notANumber = double(NotANumber);
+
+        const Rows<StaticCurve, double, double> row;
+        row("limiter above", limiter, -4.0, -6.0);
+        row("limiter beyond the plot", limiter, 6.0, -16.0);
+        row("compressor between points", compressor, -20.0, -10.0);
+        row("compressor goes on with its slope", compressor, 20.0, -30.0);
+        row("ducker above", ducker, -10.0, -20.0);
+        row("gate closed, not drawn", gate, -100.0, -20.0);
+        row("gate open", gate, -10.0, 0.0);
+        row("deep ducker on the floor", deepDucker, -15.0, -50.0);
+        row("deep gate closed", deepGate, -30.0, -50.0);
+        row("deep gate closed, not drawn", deepGate, -100.0, -50.0);
+        row("gain curve, low", ambience, -120.0, -10.0);
+        row("gain curve, rise", ambience, -30.0, 0.0);
+        row("gain curve, beyond the plot", ambience, 30.0, 10.0);
+        row("no points", levelCurve({}, -60.0, 0.0), -10.0, 0.0);
+        row("empty range", levelCurve({{0.0, 1.0}, {1.0, 1.0}}, 0.0, 0.0), -10.0, 0.0);
+        row("point is no number", levelCurve({{0.0, 1.0}, {1.0, notANumber}}, -60.0, 0.0), -10.0, 0.0);
+    }
+
+    void staticGain()
+    {
+        const auto &[curve, input, gain] = Rows<StaticCurve, double, double>::current();
+        QVERIFY(isNear(curve.gain(input), gain, 1e-9));
+    }
+
+    void detectorFollows()
+    {
+        DynamicsChain chain(1000.0);
+        chain.setSettings({{}, 100.0, 50.0, 0.0});
+        const std::vector<float> loud(100, 1.0F);
+        const std::vector<float> silent(99, 0.0F);
+        // One time constant: 1 − 1/e of the way up, then 1/e of that after two falls of half the length.
+        QVERIFY(isNear(chain.process(loud, 1, 0).inputLevel, -3.98, 0.01));
+        chain.process(silent, 1, 0);
+        QVERIFY(isNear(chain.process(std::vector<float>(1, 0.0F), 1, 0).inputLevel, -3.98 - 2.0 * 8.686, 0.01));
+        chain.reset();
+        QCOMPARE(chain.process(silent, 1, 0).inputLevel, -120.0);
+    }
+
+    void dynamicsReading()
+    {
+        DynamicsChain chain(48000.0);
+        const StaticCurve limiter = levelCurve({{0.0, 1.0}, {0.5, 0.5}, {1.0, 0.5}}, -60.0, 20.0);
+        chain.setSettings({limiter, 0.0, 0.0, 20.0});
+        // Full scale is 20 dBu, so a tenth of it is 0 dBu, 20 above the threshold. The other channel is not heard.
+        const DynamicsReading reading = chain.process(std::vector<float>{1.0F, 0.1F, NotANumber, -0.1F}, 2, 1);
+        QVERIFY(isNear(reading.inputLevel, 0.0, 1e-6));
+        QVERIFY(isNear(reading.outputLevel, -20.0, 1e-6));
+        QVERIFY(isNear(reading.gain, -20.0, 1e-6));
+    }
+
+    void filterSections_data()
+    {
+        const BiquadCoefficients mean{0.5, 0.5, 0.0, 0.0, 0.0};
+        const BiquadCoefficients decay{1.0, 0.0, 0.0, -0.5, 0.0};
+        const std::vector<float> impulse{1.0F, 0.0F, 0.0F, 0.0F};
+
+        const Rows<Sections, std::vector<float>, std::vector<float>> row;
+        row("all of b", {{0.5, 0.25, 2.0, 0.0, 0.0}}, impulse, {0.5F, 0.25F, 2.0F, 0.0F});
+        row("all of a", {{1.0, 0.0, 0.0, -0.5, 0.25}}, impulse, {1.0F, 0.5F, 0.0F, -0.125F});
+        row("cascade", {mean, decay}, impulse, {0.5F, 0.75F, 0.375F, 0.1875F});
+        row("unstable passes on", {{1.0, 0.0, 0.0, 0.0, 1.0}, mean}, impulse, {0.5F, 0.5F, 0.0F, 0.0F});
+        row("samples that are no numbers", {decay}, {1.0F, NotANumber, Infinity, 0.0F}, {1.0F, 0.5F, 0.25F, 0.125F});
+    }
+
+    void filterSections()
+    {
+        auto [sections, samples, output] = Rows<Sections, std::vector<float>, std::vector<float>>::current();
+        FilterBank bank;
+        bank.setSections(sections);
+        bank.process(samples);
+        QCOMPARE(samples, output);
+    }
+
+    void tuningKeepsTheMemory()
+    {
+        FilterBank bank;
+        bank.setSections(std::vector<BiquadCoefficients>{{1.0, 0.0, 0.0, -0.5, 0.0}});
+        std::vector<float> samples{1.0F};
+        bank.process(samples);
+        bank.setSections(std::vector<BiquadCoefficients>{{1.0, 0.0, 0.0, -0.25, 0.0}});
+        samples = {0.0F, 0.0F};
+        bank.process(samples);
+        QCOMPARE(samples, (std::vector<float>{0.5F, 0.125F}));
+        bank.reset();
+        bank.process(samples = {0.0F});
+        QCOMPARE(samples.front(), 0.0F);
+    }
+
+    void spectrumOfASine_data()
+    {
+        // Bins are 48000 / 8192 = 5.859 Hz apart; band 34 is centred at 1002 Hz, band 5 at 35.6 Hz.
+        const Rows<double, double, std::size_t, double, double> row;
+        row("on a bin", 48000.0, 996.09375, 34, -6.02, 0.01);
+        row("between two bins", 48000.0, 999.0234375, 34, -6.02 - 1.42, 0.02);
+        row("other sample rate", 8000.0, 1000.0, 34, -6.02, 0.01);
+    }
+
+    void spectrumOfASine()
+    {
+        const auto &[sampleRate, frequencyHz, band, level, tolerance] =
+            Rows<double, double, std::size_t, double, double>::current();
+        Spectrum spectrum(sampleRate);
+        spectrum.setAveragingMs(0.0);
+        spectrum.process(sine(0.5, frequencyHz, sampleRate, std::size_t(sampleRate)));
+
+        const std::vector<double> levels = spectrum.levels();
+        QCOMPARE(levels.size(), std::size_t(61));
+        QVERIFY(isNear(levels[band], level, tolerance));
+        for (std::size_t i = 0; i < levels.size(); ++i) {
+            const bool apart = i + 10 < band || i > band + 3;
+            QVERIFY2(!apart || levels[i] < -60.0, qPrintable(QStringLiteral("band %1: %2").arg(i).arg(levels[i])));
+            if (Spectrum::centreHz(i) > 0.6 * sampleRate)
+                QCOMPARE(levels[i], -120.0);
+        }
+        spectrum.reset();
+        QCOMPARE(spectrum.levels()[band], -120.0);
+    }
+
+    void spectrumAverages()
+    {
+        Spectrum spectrum(48000.0);
+        spectrum.setAveragingMs(0.0);
+        spectrum.process(sine(1.0, 996.09375, 48000.0, 48000));
+        // Silence for one time constant takes the power down by 1/e, once the window holds nothing else.
+        spectrum.setAveragingMs(1000.0);
+        spectrum.process(std::vector<float>(48000, 0.0F));
+        QVERIFY(isNear(spectrum.levels()[34], -4.34, 0.02));
+    }
+};
 
 template struct TestClass<tst_Measurements>;
 #include "tst_Measurements.moc"

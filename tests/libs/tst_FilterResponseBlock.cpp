@@ -1,8 +1,7 @@
 #include "libs/ResponseSupport.h"
 #include "support/AllocationCount.h"
+#include "support/Rows.h"
 #include "support/TestProgram.h"
-
-#include <QTest>
 
 #include <algorithm>
 #include <functional>
@@ -81,19 +80,163 @@ BodePlotCalculationResults freshResults(const BodePlotCalculation &block)
 class tst_FilterResponseBlock : public QObject
 {
     Q_OBJECT
+    using Change = std::function<void(Mixture &)>;
 
 private Q_SLOTS:
     void singleEqualsFull_data() { times(); }
-    void singleEqualsFull();
-    void singleLeavesOthers();
-    void otherBlocksAreEvaluatedInFull_data();
-    void otherBlocksAreEvaluatedInFull();
-    void copiesStandAlone();
+    void singleEqualsFull()
+    {
+        QFETCH(std::size_t, times);
+        Mixture mixture(times);
+        evaluate(mixture.block);
+        for (double amount : {0.25, -0.5, 1.0}) {
+            mixture.change(amount);
+            for (unsigned i = 0; i < mixture.block.items.size(); ++i)
+                single(mixture.block, i);
+            QVERIFY(equal(mixture.block.results, freshResults(mixture.block)));
+        }
+        // Neither do curves of records that were skipped as unchanged.
+        mixture.peak.gain += 1;
+        evaluate(mixture.block);
+        evaluate(mixture.block);
+        QVERIFY(equal(mixture.block.results, freshResults(mixture.block)));
+    }
+
+    void singleLeavesOthers()
+    {
+        Mixture mixture;
+        evaluate(mixture.block);
+        const BodePlotCalculationResults before = mixture.block.results;
+        mixture.change(1);
+        single(mixture.block, 4);
+        const BodePlotCalculationResults &after = mixture.block.results;
+        for (std::size_t i = 0; i < before.items.size(); ++i)
+            QCOMPARE(equal(after.items[i], before.items[i]), i != 4);
+        QVERIFY(!equal(after.aggregated, before.aggregated));
+
+        const BodePlotCalculationResults changed = after;
+        single(mixture.block, 99);
+        QVERIFY(equal(mixture.block.results, changed));
+    }
+
+    void otherBlocksAreEvaluatedInFull_data()
+    {
+        const Rows<Change> row;
+        row("resolution", Change([](Mixture &m) { m.block.resolution = 1001; }));
+        row("lowest", Change([](Mixture &m) { m.block.lowestFrequency = 10; }));
+        row("highest", Change([](Mixture &m) { m.block.highestFrequency = 40000; }));
+        row("sample rate", Change([](Mixture &m) { m.block.sampleRate = 96000; }));
+        row("sample rate for the level alone", Change([](Mixture &m) {
+                std::vector<double> level;
+                m.block.sampleRate = 96000;
+                FilterAlgorithm::calculateAggregatedLevel(m.block, level);
+            }));
+        row("one record more", Change([](Mixture &m) { m.block.items.push_back(&m.peak); }));
+        row("one record less", Change([](Mixture &m) { m.block.items.pop_back(); }));
+        row("never evaluated", Change([](Mixture &m) { m.block.results = {}; }));
+    }
+
+    void otherBlocksAreEvaluatedInFull()
+    {
+        const auto &[change] = Rows<Change>::current();
+        Mixture mixture(2);
+        evaluate(mixture.block);
+        mixture.change(1);
+        change(mixture);
+        single(mixture.block, 0);
+        QVERIFY(equal(mixture.block.results, freshResults(mixture.block)));
+    }
+
+    void copiesStandAlone()
+    {
+        Mixture mixture;
+        evaluate(mixture.block);
+        BodePlotCalculation copy = mixture.block;
+        mixture.change(1);
+        single(copy, 0);
+        QVERIFY(equal(copy.results.items[4], mixture.block.results.items[4]));
+        QVERIFY(!equal(copy.results.items[0], mixture.block.results.items[0]));
+
+        BodePlotCalculation moved = std::move(copy);
+        evaluate(moved);
+        QVERIFY(equal(moved.results, freshResults(moved)));
+        mixture.block.results = moved.results;
+        single(mixture.block, 99);
+        QVERIFY(equal(mixture.block.results, moved.results));
+    }
+
     void sumOfCurves_data() { times(); }
-    void sumOfCurves();
-    void levelAlone();
-    void pointsDoNotDependOnTheResolution();
-    void dragAllocatesNothing();
+    void sumOfCurves()
+    {
+        QFETCH(std::size_t, times);
+        Mixture mixture(times);
+        evaluate(mixture.block);
+        const BodePlotCalculationResults &results = mixture.block.results;
+        for (std::size_t i = 0; i < 1000; ++i) {
+            double level = 0;
+            double phase = 0;
+            for (const FilterResponse &curve : results.items) {
+                level += curve.magnitude[i];
+                phase += curve.phase[i];
+            }
+            QCOMPARE(results.aggregated.magnitude[i], qBound(-240.0, level, 240.0));
+            QVERIFY(std::abs(std::remainder(results.aggregated.phase[i] - phase, 360)) < 1e-9);
+        }
+    }
+
+    void levelAlone()
+    {
+        Mixture mixture;
+        std::vector<EqFilter> steep(7, eqBand(0, 30, -100, 0.5));
+        std::vector<EqFilter> back(7, eqBand(0, 30, 100, 0.5));
+        for (int i = 0; i < 7; ++i) {
+            mixture.block.items.push_back(&steep[std::size_t(i)]);
+            mixture.block.items.push_back(&back[std::size_t(i)]);
+        }
+        mixture.block.highestFrequency = 30000;
+        std::vector<double> level;
+        FilterAlgorithm::calculateAggregatedLevel(mixture.block, level);
+        QVERIFY(mixture.block.results.items.empty());
+        evaluate(mixture.block);
+        const std::vector<double> &expected = mixture.block.results.aggregated.magnitude;
+        QCOMPARE(level.size(), expected.size());
+        for (std::size_t i = 0; i < level.size(); ++i)
+            if (expected[i] > -200)
+                QVERIFY2(std::abs(level[i] - expected[i]) < 1e-9, qPrintable(QString::number(i)));
+    }
+
+    void pointsDoNotDependOnTheResolution()
+    {
+        Mixture mixture;
+        evaluate(mixture.block);
+        const BodePlotCalculationResults all = mixture.block.results;
+        for (bool last : {false, true}) {
+            mixture.block.resolution = 1;
+            mixture.block.lowestFrequency = last ? 20000 : 20;
+            evaluate(mixture.block);
+            for (std::size_t i = 0; i < all.items.size(); ++i) {
+                const std::vector<double> &curve = all.items[i].magnitude;
+                QCOMPARE(mixture.block.results.items[i].magnitude.front(), last ? curve.back() : curve.front());
+            }
+        }
+    }
+
+    void dragAllocatesNothing()
+    {
+        Mixture mixture;
+        std::vector<double> level;
+        evaluate(mixture.block);
+        FilterAlgorithm::calculateAggregatedLevel(mixture.block, level);
+        for (bool warm : {false, true}) {
+            mixture.change(1);
+            takeAllocationCount();
+            for (unsigned i = 0; i < mixture.block.items.size(); ++i)
+                single(mixture.block, i);
+            FilterAlgorithm::calculateAggregatedLevel(mixture.block, level);
+            if (warm)
+                QCOMPARE(takeAllocationCount(), std::size_t(0));
+        }
+    }
 
 private:
     static void times()
@@ -103,160 +246,6 @@ private:
             QTest::addRow("%zu", count) << count;
     }
 };
-
-void tst_FilterResponseBlock::singleEqualsFull()
-{
-    QFETCH(std::size_t, times);
-    Mixture mixture(times);
-    evaluate(mixture.block);
-    for (double amount : {0.25, -0.5, 1.0}) {
-        mixture.change(amount);
-        for (unsigned i = 0; i < mixture.block.items.size(); ++i)
-            single(mixture.block, i);
-        QVERIFY(equal(mixture.block.results, freshResults(mixture.block)));
-    }
-    // Neither do curves of records that were skipped as unchanged.
-    mixture.peak.gain += 1;
-    evaluate(mixture.block);
-    evaluate(mixture.block);
-    QVERIFY(equal(mixture.block.results, freshResults(mixture.block)));
-}
-
-void tst_FilterResponseBlock::singleLeavesOthers()
-{
-    Mixture mixture;
-    evaluate(mixture.block);
-    const BodePlotCalculationResults before = mixture.block.results;
-    mixture.change(1);
-    single(mixture.block, 4);
-    const BodePlotCalculationResults &after = mixture.block.results;
-    for (std::size_t i = 0; i < before.items.size(); ++i)
-        QCOMPARE(equal(after.items[i], before.items[i]), i != 4);
-    QVERIFY(!equal(after.aggregated, before.aggregated));
-
-    const BodePlotCalculationResults changed = after;
-    single(mixture.block, 99);
-    QVERIFY(equal(mixture.block.results, changed));
-}
-
-void tst_FilterResponseBlock::otherBlocksAreEvaluatedInFull_data()
-{
-    using Change = std::function<void(Mixture &)>;
-    QTest::addColumn<Change>("change");
-    QTest::newRow("resolution") << Change([](Mixture &m) { m.block.resolution = 1001; });
-    QTest::newRow("lowest") << Change([](Mixture &m) { m.block.lowestFrequency = 10; });
-    QTest::newRow("highest") << Change([](Mixture &m) { m.block.highestFrequency = 40000; });
-    QTest::newRow("sample rate") << Change([](Mixture &m) { m.block.sampleRate = 96000; });
-    QTest::newRow("sample rate for the level alone") << Change([](Mixture &m) {
-        std::vector<double> level;
-        m.block.sampleRate = 96000;
-        FilterAlgorithm::calculateAggregatedLevel(m.block, level);
-    });
-    QTest::newRow("one record more") << Change([](Mixture &m) { m.block.items.push_back(&m.peak); });
-    QTest::newRow("one record less") << Change([](Mixture &m) { m.block.items.pop_back(); });
-    QTest::newRow("never evaluated") << Change([](Mixture &m) { m.block.results = {}; });
-}
-
-void tst_FilterResponseBlock::otherBlocksAreEvaluatedInFull()
-{
-    QFETCH(std::function<void(Mixture &)>, change);
-    Mixture mixture(2);
-    evaluate(mixture.block);
-    mixture.change(1);
-    change(mixture);
-    single(mixture.block, 0);
-    QVERIFY(equal(mixture.block.results, freshResults(mixture.block)));
-}
-
-void tst_FilterResponseBlock::copiesStandAlone()
-{
-    Mixture mixture;
-    evaluate(mixture.block);
-    BodePlotCalculation copy = mixture.block;
-    mixture.change(1);
-    single(copy, 0);
-    QVERIFY(equal(copy.results.items[4], mixture.block.results.items[4]));
-    QVERIFY(!equal(copy.results.items[0], mixture.block.results.items[0]));
-
-    BodePlotCalculation moved = std::move(copy);
-    evaluate(moved);
-    QVERIFY(equal(moved.results, freshResults(moved)));
-    mixture.block.results = moved.results;
-    single(mixture.block, 99);
-    QVERIFY(equal(mixture.block.results, moved.results));
-}
-
-void tst_FilterResponseBlock::sumOfCurves()
-{
-    QFETCH(std::size_t, times);
-    Mixture mixture(times);
-    evaluate(mixture.block);
-    const BodePlotCalculationResults &results = mixture.block.results;
-    for (std::size_t i = 0; i < 1000; ++i) {
-        double level = 0;
-        double phase = 0;
-        for (const FilterResponse &curve : results.items) {
-            level += curve.magnitude[i];
-            phase += curve.phase[i];
-        }
-        QCOMPARE(results.aggregated.magnitude[i], qBound(-240.0, level, 240.0));
-        QVERIFY(std::abs(std::remainder(results.aggregated.phase[i] - phase, 360)) < 1e-9);
-    }
-}
-
-void tst_FilterResponseBlock::levelAlone()
-{
-    Mixture mixture;
-    std::vector<EqFilter> steep(7, eqBand(0, 30, -100, 0.5));
-    std::vector<EqFilter> back(7, eqBand(0, 30, 100, 0.5));
-    for (int i = 0; i < 7; ++i) {
-        mixture.block.items.push_back(&steep[std::size_t(i)]);
-        mixture.block.items.push_back(&back[std::size_t(i)]);
-    }
-    mixture.block.highestFrequency = 30000;
-    std::vector<double> level;
-    FilterAlgorithm::calculateAggregatedLevel(mixture.block, level);
-    QVERIFY(mixture.block.results.items.empty());
-    evaluate(mixture.block);
-    const std::vector<double> &expected = mixture.block.results.aggregated.magnitude;
-    QCOMPARE(level.size(), expected.size());
-    for (std::size_t i = 0; i < level.size(); ++i)
-        if (expected[i] > -200)
-            QVERIFY2(std::abs(level[i] - expected[i]) < 1e-9, qPrintable(QString::number(i)));
-}
-
-void tst_FilterResponseBlock::pointsDoNotDependOnTheResolution()
-{
-    Mixture mixture;
-    evaluate(mixture.block);
-    const BodePlotCalculationResults all = mixture.block.results;
-    for (bool last : {false, true}) {
-        mixture.block.resolution = 1;
-        mixture.block.lowestFrequency = last ? 20000 : 20;
-        evaluate(mixture.block);
-        for (std::size_t i = 0; i < all.items.size(); ++i) {
-            const std::vector<double> &curve = all.items[i].magnitude;
-            QCOMPARE(mixture.block.results.items[i].magnitude.front(), last ? curve.back() : curve.front());
-        }
-    }
-}
-
-void tst_FilterResponseBlock::dragAllocatesNothing()
-{
-    Mixture mixture;
-    std::vector<double> level;
-    evaluate(mixture.block);
-    FilterAlgorithm::calculateAggregatedLevel(mixture.block, level);
-    for (bool warm : {false, true}) {
-        mixture.change(1);
-        takeAllocationCount();
-        for (unsigned i = 0; i < mixture.block.items.size(); ++i)
-            single(mixture.block, i);
-        FilterAlgorithm::calculateAggregatedLevel(mixture.block, level);
-        if (warm)
-            QCOMPARE(takeAllocationCount(), std::size_t(0));
-    }
-}
 
 template struct TestClass<tst_FilterResponseBlock>;
 #include "tst_FilterResponseBlock.moc"

@@ -1,9 +1,9 @@
+#include "support/Rows.h"
 #include "support/TestProgram.h"
 
 #include <tamblecommon-math/FilterAlgorithm.h>
 
 #include <QFile>
-#include <QTest>
 
 #include <algorithm>
 #include <cmath>
@@ -109,68 +109,56 @@ class tst_FilterResponseReference : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyType_data();
-    void everyType();
-    void cleanupTestCase();
+    void everyType_data()
+    {
+        const Rows<QByteArray, QList<double>, QList<double>> row;
+        QFile file(QStringLiteral(TAMBLE_TEST_DATA "/filter/responses.txt"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        while (!file.atEnd()) {
+            const QByteArray line = file.readLine();
+            const QList<QByteArray> parts = line.split('|');
+            if (parts.size() == 3)
+                row(parts.first().constData(), parts.at(0), numbers(parts.at(1)), numbers(parts.at(2)));
+        }
+    }
+
+    void everyType()
+    {
+        const auto &[record, levels, phases] = Rows<QByteArray, QList<double>, QList<double>>::current();
+        const Fields fields = record.simplified().split(' ');
+
+        const auto filter = makeRecord(fields);
+        BodePlotCalculation block;
+        block.sampleRate = real(fields, 1);
+        block.lowestFrequency = real(fields, fields.size() - 2);
+        block.highestFrequency = real(fields, fields.size() - 1);
+        block.resolution = int(levels.size());
+        block.items = {filter.get()};
+        FilterAlgorithm::calculateBodePlotLogarithmic(block, false, 0);
+
+        const FilterResponse &curve = block.results.items.front();
+        for (qsizetype i = 0; i < levels.size(); ++i) {
+            const double level = curve.magnitude[std::size_t(i)];
+            const double phase = curve.phase[std::size_t(i)];
+            if (levels.at(i) < -120) {
+                QVERIFY2(level < -119.9, qPrintable(QStringLiteral("point %1: %2 dB").arg(i).arg(level)));
+                continue;
+            }
+            const double levelError = std::abs(level - levels.at(i));
+            const double phaseError = std::abs(std::remainder(phase - phases.at(i), 360.0));
+            QVERIFY2(levelError < 1e-6 && phaseError < 1e-6,
+                     qPrintable(QStringLiteral("point %1: %2 dB, %3 degrees").arg(i).arg(level).arg(phase)));
+            m_worstLevel = std::max(m_worstLevel, levelError);
+            m_worstPhase = std::max(m_worstPhase, phaseError);
+        }
+    }
+
+    void cleanupTestCase() { qInfo("worst differences: %.2g dB, %.2g degrees", m_worstLevel, m_worstPhase); }
 
 private:
     double m_worstLevel = 0;
     double m_worstPhase = 0;
 };
-
-void tst_FilterResponseReference::everyType_data()
-{
-    QTest::addColumn<QByteArray>("record");
-    QTest::addColumn<QList<double>>("levels");
-    QTest::addColumn<QList<double>>("phases");
-
-    QFile file(QStringLiteral(TAMBLE_TEST_DATA "/filter/responses.txt"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine();
-        const QList<QByteArray> parts = line.split('|');
-        if (parts.size() == 3)
-            QTest::newRow(parts.first().constData()) << parts.at(0) << numbers(parts.at(1)) << numbers(parts.at(2));
-    }
-}
-
-void tst_FilterResponseReference::everyType()
-{
-    QFETCH(QByteArray, record);
-    QFETCH(QList<double>, levels);
-    QFETCH(QList<double>, phases);
-    const Fields fields = record.simplified().split(' ');
-
-    const auto filter = makeRecord(fields);
-    BodePlotCalculation block;
-    block.sampleRate = real(fields, 1);
-    block.lowestFrequency = real(fields, fields.size() - 2);
-    block.highestFrequency = real(fields, fields.size() - 1);
-    block.resolution = int(levels.size());
-    block.items = {filter.get()};
-    FilterAlgorithm::calculateBodePlotLogarithmic(block, false, 0);
-
-    const FilterResponse &curve = block.results.items.front();
-    for (qsizetype i = 0; i < levels.size(); ++i) {
-        const double level = curve.magnitude[std::size_t(i)];
-        const double phase = curve.phase[std::size_t(i)];
-        if (levels.at(i) < -120) {
-            QVERIFY2(level < -119.9, qPrintable(QStringLiteral("point %1: %2 dB").arg(i).arg(level)));
-            continue;
-        }
-        const double levelError = std::abs(level - levels.at(i));
-        const double phaseError = std::abs(std::remainder(phase - phases.at(i), 360.0));
-        QVERIFY2(levelError < 1e-6 && phaseError < 1e-6,
-                 qPrintable(QStringLiteral("point %1: %2 dB, %3 degrees").arg(i).arg(level).arg(phase)));
-        m_worstLevel = std::max(m_worstLevel, levelError);
-        m_worstPhase = std::max(m_worstPhase, phaseError);
-    }
-}
-
-void tst_FilterResponseReference::cleanupTestCase()
-{
-    qInfo("worst differences: %.2g dB, %.2g degrees", m_worstLevel, m_worstPhase);
-}
 
 template struct TestClass<tst_FilterResponseReference>;
 #include "tst_FilterResponseReference.moc"

@@ -1,8 +1,6 @@
 #include "scenegraph/PictureCanvas.h"
+#include "support/Rows.h"
 #include "support/TestProgram.h"
-
-#include <QtCore/QObject>
-#include <QtTest/QTest>
 
 #include <vector>
 
@@ -35,98 +33,79 @@ class tst_PictureCanvas : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void coversEachPixelOnce_data();
-    void coversEachPixelOnce();
-    void strengths();
-    void thinLines();
-    void wholeDevicePixels_data();
-    void wholeDevicePixels();
+    void coversEachPixelOnce_data()
+    {
+        const Rows<QList<Triangle>, QString> row;
+        row("halves of a square", {{{{0, 0}, {4, 0}, {0, 4}}}, {{{4, 0}, {0, 4}, {4, 4}}}}, u"++++/++++/++++/++++"_s);
+        row("around a middle, turning either way",
+            {{{{0, 0}, {4, 0}, {1.5, 2.5}}},
+             {{{1.5, 2.5}, {4, 4}, {4, 0}}},
+             {{{4, 4}, {0, 4}, {1.5, 2.5}}},
+             {{{0, 0}, {1.5, 2.5}, {0, 4}}}},
+            u"++++/++++/++++/++++"_s);
+        row("middles decide", {{{{0.6, 0.4}, {2.6, 0.4}, {0.6, 8.0}}}}, u".++./.+../.+../.+.."_s);
+        row("cut at the picture's edges", {{{{-1e6, -1e6}, {1e6, 2.0}, {-1e6, 2.0}}}}, u"++++/++++/..../...."_s);
+        row("without area", {{{{0, 0}, {4, 4}, {2, 2}}}, {{{1, 1}, {1, 1}, {1, 1}}}}, u"..../..../..../...."_s);
+        row("far beyond any picture", {{{{-1e38, 1.0}, {1e38, 1.0}, {0.0, 1e38}}}}, u"..../++++/++++/++++"_s);
+    }
+
+    void coversEachPixelOnce()
+    {
+        const auto &[triangles, picture] = Rows<QList<Triangle>, QString>::current();
+        PictureCanvas canvas({0, 0, 4, 4}, 1.0);
+        canvas.setColor(QColor(255, 0, 0, 128));
+        for (const Triangle &triangle : triangles)
+            canvas.fillTriangle(triangle);
+        QCOMPARE(textOf(canvas.image()), picture);
+    }
+
+    void strengths()
+    {
+        // At the middles of four pixels the first value is -1.5, -0.5, 0.5 and 1.5, the second one 1.
+        const std::vector<CanvasVertex> strip{{0, 0, -2, 1}, {0, 1, -2, 1}, {4, 0, 2, 1}, {4, 1, 2, 1}};
+        const auto drawn = [&](CanvasStrength strength, const QColor &color) {
+            PictureCanvas canvas({0, 0, 4, 1}, 1.0);
+            canvas.setColor(color, strength);
+            canvas.fillStrip<CanvasVertex>(strip, [](const CanvasVertex &vertex) { return vertex; });
+            return canvas.image();
+        };
+        QCOMPARE(textOf(drawn(CanvasStrength::Coverage, Qt::black)), u".++."_s);
+        QCOMPARE(textOf(drawn(CanvasStrength::Product, Qt::black)), u"..+#"_s);
+        QCOMPARE(drawn(CanvasStrength::Full, QColor(200, 100, 0, 128)).pixelColor(0, 0).rgba(),
+                 qRgba(199, 100, 0, 128));
+    }
+
+    void thinLines()
+    {
+        PictureCanvas canvas({0, 0, 2, 2}, 2.0);
+        canvas.drawThinLines({{0.25, 0.25}, {1.75, 0.25}, {1.75, 1.75}}, true);
+        QCOMPARE(textOf(canvas.image()), u"####/...#/...#/...#"_s);
+        PictureCanvas separate({0, 0, 3, 3}, 1.0);
+        separate.drawThinLines({{0.5, 0.5}, {2.5, 0.5}, {0.5, 2.5}, {2.5, 2.5}}, false);
+        QCOMPARE(textOf(separate.image()), u"###/.../###"_s);
+    }
+
+    void wholeDevicePixels_data()
+    {
+        const Rows<QRectF, double, QRectF, QSize> row;
+        row("fractions", QRectF(-0.25, 1.0, 2.0, 1.6), 1.5, QRectF(-1.0 / 1.5, 1.0 / 1.5, 4.0 / 1.5, 2.0), QSize(4, 3));
+        row("empty", {}, 2.0, {}, QSize(0, 0));
+        row("endless", QRectF(0.0, 0.0, qInf(), 10.0), 1.0, {}, QSize(0, 0));
+        constexpr double million = 1 << 20;
+        row("far too wide", QRectF(0, 0, 32767 * million, 1000), 1.0, QRectF(0, 0, 32767 * million, million),
+            QSize(32767, 1));
+        row("too large to be sharp", QRectF(0, 0, 32768, 4096), 2.0, QRectF(0, 0, 32768, 4096), QSize(16384, 2048));
+    }
+
+    void wholeDevicePixels()
+    {
+        const auto &[asked, ratio, area, pixels] = Rows<QRectF, double, QRectF, QSize>::current();
+        PictureCanvas canvas(asked, ratio);
+        canvas.drawThinLines({{0, 0}, {1, 1}}, true);
+        QCOMPARE(canvas.area(), area);
+        QCOMPARE(canvas.image().size(), pixels);
+    }
 };
-
-void tst_PictureCanvas::coversEachPixelOnce_data()
-{
-    QTest::addColumn<QList<Triangle>>("triangles");
-    QTest::addColumn<QString>("picture");
-
-    QTest::newRow("halves of a square") << QList<Triangle>{{{{0, 0}, {4, 0}, {0, 4}}}, {{{4, 0}, {0, 4}, {4, 4}}}}
-                                        << u"++++/++++/++++/++++"_s;
-    QTest::newRow("around a middle, turning either way") << QList<Triangle>{{{{0, 0}, {4, 0}, {1.5, 2.5}}},
-                                                                            {{{1.5, 2.5}, {4, 4}, {4, 0}}},
-                                                                            {{{4, 4}, {0, 4}, {1.5, 2.5}}},
-                                                                            {{{0, 0}, {1.5, 2.5}, {0, 4}}}}
-                                                         << u"++++/++++/++++/++++"_s;
-    QTest::newRow("middles decide") << QList<Triangle>{{{{0.6, 0.4}, {2.6, 0.4}, {0.6, 8.0}}}}
-                                    << u".++./.+../.+../.+.."_s;
-    QTest::newRow("cut at the picture's edges")
-        << QList<Triangle>{{{{-1e6, -1e6}, {1e6, 2.0}, {-1e6, 2.0}}}} << u"++++/++++/..../...."_s;
-    QTest::newRow("without area") << QList<Triangle>{{{{0, 0}, {4, 4}, {2, 2}}}, {{{1, 1}, {1, 1}, {1, 1}}}}
-                                  << u"..../..../..../...."_s;
-    QTest::newRow("far beyond any picture")
-        << QList<Triangle>{{{{-1e38, 1.0}, {1e38, 1.0}, {0.0, 1e38}}}} << u"..../++++/++++/++++"_s;
-}
-
-void tst_PictureCanvas::coversEachPixelOnce()
-{
-    QFETCH(QList<Triangle>, triangles);
-    PictureCanvas canvas({0, 0, 4, 4}, 1.0);
-    canvas.setColor(QColor(255, 0, 0, 128));
-    for (const Triangle &triangle : triangles)
-        canvas.fillTriangle(triangle);
-    QTEST(textOf(canvas.image()), "picture");
-}
-
-void tst_PictureCanvas::strengths()
-{
-    // At the middles of four pixels the first value is -1.5, -0.5, 0.5 and 1.5, the second one 1.
-    const std::vector<CanvasVertex> strip{{0, 0, -2, 1}, {0, 1, -2, 1}, {4, 0, 2, 1}, {4, 1, 2, 1}};
-    const auto drawn = [&](CanvasStrength strength, const QColor &color) {
-        PictureCanvas canvas({0, 0, 4, 1}, 1.0);
-        canvas.setColor(color, strength);
-        canvas.fillStrip<CanvasVertex>(strip, [](const CanvasVertex &vertex) { return vertex; });
-        return canvas.image();
-    };
-    QCOMPARE(textOf(drawn(CanvasStrength::Coverage, Qt::black)), u".++."_s);
-    QCOMPARE(textOf(drawn(CanvasStrength::Product, Qt::black)), u"..+#"_s);
-    QCOMPARE(drawn(CanvasStrength::Full, QColor(200, 100, 0, 128)).pixelColor(0, 0).rgba(), qRgba(199, 100, 0, 128));
-}
-
-void tst_PictureCanvas::thinLines()
-{
-    PictureCanvas canvas({0, 0, 2, 2}, 2.0);
-    canvas.drawThinLines({{0.25, 0.25}, {1.75, 0.25}, {1.75, 1.75}}, true);
-    QCOMPARE(textOf(canvas.image()), u"####/...#/...#/...#"_s);
-    PictureCanvas separate({0, 0, 3, 3}, 1.0);
-    separate.drawThinLines({{0.5, 0.5}, {2.5, 0.5}, {0.5, 2.5}, {2.5, 2.5}}, false);
-    QCOMPARE(textOf(separate.image()), u"###/.../###"_s);
-}
-
-void tst_PictureCanvas::wholeDevicePixels_data()
-{
-    QTest::addColumn<QRectF>("asked");
-    QTest::addColumn<double>("ratio");
-    QTest::addColumn<QRectF>("area");
-    QTest::addColumn<QSize>("pixels");
-
-    QTest::newRow("fractions") << QRectF(-0.25, 1.0, 2.0, 1.6) << 1.5 << QRectF(-1.0 / 1.5, 1.0 / 1.5, 4.0 / 1.5, 2.0)
-                               << QSize(4, 3);
-    QTest::newRow("empty") << QRectF() << 2.0 << QRectF() << QSize(0, 0);
-    QTest::newRow("endless") << QRectF(0.0, 0.0, qInf(), 10.0) << 1.0 << QRectF() << QSize(0, 0);
-    constexpr double million = 1 << 20;
-    QTest::newRow("far too wide") << QRectF(0, 0, 32767 * million, 1000) << 1.0
-                                  << QRectF(0, 0, 32767 * million, million) << QSize(32767, 1);
-    QTest::newRow("too large to be sharp")
-        << QRectF(0, 0, 32768, 4096) << 2.0 << QRectF(0, 0, 32768, 4096) << QSize(16384, 2048);
-}
-
-void tst_PictureCanvas::wholeDevicePixels()
-{
-    QFETCH(QRectF, asked);
-    QFETCH(double, ratio);
-    PictureCanvas canvas(asked, ratio);
-    canvas.drawThinLines({{0, 0}, {1, 1}}, true);
-    QTEST(canvas.area(), "area");
-    QTEST(canvas.image().size(), "pixels");
-}
 
 template struct TestClass<tst_PictureCanvas>;
 #include "tst_PictureCanvas.moc"

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "style/SelectorTree.h"
 #include "style/StylePathPool.h"
+#include "style/StyleSheetParser.h"
 
 #include <QtCore/QString>
 
@@ -16,3 +18,23 @@ inline tamble::client::StylePathRef pathFrom(tamble::client::StylePathPool &pool
     }
     return path;
 }
+
+inline tamble::client::StyleSheet sheetFrom(const QString &text)
+{
+    return tamble::client::parseStdString(text.toStdString());
+}
+
+/// A selector tree by hand, for what no sheet text can say.
+struct HandMadeTree
+{
+    tamble::client::SelectorTree::Node node(std::initializer_list<const char *> keys)
+    {
+        tamble::client::SelectorTree::Node result = tamble::client::SelectorTree::Root;
+        for (const char *key : keys)
+            result = tree.insert(result, names.intern(key));
+        return result;
+    }
+
+    tamble::client::NameTable names;
+    tamble::client::SelectorTree tree;
+};

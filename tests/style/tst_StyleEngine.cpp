@@ -1,437 +1,240 @@
 #include "StyleFixture.h"
 #include "style/StyleEngineSetup.h"
-#include "style/UsageCountedStyleSetProps.h"
+#include "support/QmlText.h"
+#include "support/Rows.h"
 #include "support/TestProgram.h"
 
-#include <QtCore/QObject>
-#include <QtCore/QPointer>
-#include <QtCore/QRegularExpression>
 #include <QtCore/QThread>
-#include <QtGui/QFont>
-#include <QtQml/QQmlComponent>
-#include <QtQml/QQmlEngine>
-#include <QtTest/QSignalSpy>
-#include <QtTest/QTest>
-
-#include <algorithm>
-#include <array>
 
 using namespace tamble::client;
 
-class tst_StyleEngine : public QObject
+class tst_StyleEngine : public QuietTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void userSheetOverridesDefaultSheet();
-    void sourceForms_data();
-    void sourceForms();
-    void brokenSheets_data();
-    void brokenSheets();
-    void missingFileWaitsForTheEditor();
-    void setupLoadsOnce();
-    void relativeSourcesAreTheApplications();
-    void styleNamesOfADirectory();
-    void nothingOldIsSeenDuringARestyle();
-    void unusedValuesAreGivenBack();
-    void unusedNamesAreGivenBack();
-    void convertedValues_data();
-    void convertedValues();
-    void unconvertibleValuesAreLoggedOnce();
-    void missingKeyReports();
-    void fontFaces();
-    void objectsThatAreNoItems();
-};
+    void cleanup() { StyleEngine::instance()->setBaseUrl(QUrl()); }
 
-void tst_StyleEngine::init()
-{
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
-}
-
-void tst_StyleEngine::cleanup()
-{
-    StyleEngine::instance()->setBaseUrl(QUrl());
-}
-
-void tst_StyleEngine::userSheetOverridesDefaultSheet()
-{
-    const StyleFixture fixture;
-    // Its declaration stands further up than the default sheet's, which decides between different selectors only.
-    fixture.load("\n\n\nBox { a: 1; b: 1; }", "Box { a: 2; c: 2; }");
-    StyledBox box;
-    QCOMPARE(box.props().number("a"), 2.0);
-    QCOMPARE(box.props().number("b"), 1.0);
-    QCOMPARE(box.props().number("c"), 2.0);
-    QVERIFY(box.styleSet().styleInfo().contains("user stylesheet"));
-}
-
-void tst_StyleEngine::sourceForms_data()
-{
-    QTest::addColumn<QString>("source"); // %1 is the directory
-    QTest::addColumn<QString>("type");   // of the message; empty when the sheet is found
-    QTest::newRow("file URL") << "file://%1/a.style"
-                              << "";
-    QTest::newRow("relative") << "a.style"
-                              << "";
-    QTest::newRow("resource URL") << "qrc:/none.style"
-                                  << "styleSheetNotFound";
-    QTest::newRow("unknown theme") << "qrc:/style/tamble.drak.style"
-                                   << "styleSheetNotFound";
-    QTest::newRow("network") << "http://example.org/a.style"
-                             << "loadingStyleSheetFailed";
-    QTest::newRow("directory") << "file://%1"
-                               << "styleSheetNotFound";
-}
-
-void tst_StyleEngine::sourceForms()
-{
-    QFETCH(const QString, source);
-    QFETCH(const QString, type);
-    if (!type.isEmpty())
-        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression(QStringLiteral("^CRITICAL: ")));
-
-    StyleFixture fixture;
-    fixture.write("a.style", "Box { found: true }");
-    fixture.engine().setBaseUrl(fixture.url("page.qml"));
-    fixture.engine().setStyleSheetSource(QUrl(QString(source).replace("%1", fixture.path(QString()))));
-    fixture.engine().loadStyles();
-    QCOMPARE(fixture.types, type.isEmpty() ? QStringList() : QStringList(type));
-    StyledBox box;
-    QCOMPARE(box.props().isSet("found"), type.isEmpty());
-    if (source.startsWith("http")) {
-        QCOMPARE(fixture.messages.constFirst(), "Loading style sheet failed 'wrong path format 'http://example.org/"
-                                                "a.style': missing 'file:///' or 'qrc:/' ? '.");
-    }
-    if (source == "qrc:/none.style")
-        QCOMPARE(fixture.messages.constFirst(), "Style ':/none.style' not found.");
-    if (source == "qrc:/style/tamble.drak.style") {
-        QCOMPARE(fixture.messages.constFirst(), "Style ':/style/tamble.drak.style' not found. 'drak' is none of the "
-                                                "themes contrast-dark, contrast-light, dark, light");
-    }
-}
-
-void tst_StyleEngine::brokenSheets_data()
-{
-    QTest::addColumn<QString>("defaultText");
-    QTest::addColumn<QString>("userText");
-    QTest::addColumn<double>("atFirst");    // value of "a" when these are the first sheets
-    QTest::addColumn<double>("afterwards"); // and when good ones giving 7 were in force
-    QTest::newRow("user sheet") << "Box { a: 1 }"
-                                << "Box { a: 2; b: " << 1.0 << 7.0;
-    QTest::newRow("default sheet") << "Box { a: 1 } }"
-                                   << "Box { a: 2 }" << 2.0 << 7.0;
-    QTest::newRow("both") << "{"
-                          << "@x" << 0.0 << 7.0;
-    QTest::newRow("undefined variable") << "Box { a: 1 }"
-                                        << "Box { a: @nothing }" << 1.0 << 7.0;
-}
-
-void tst_StyleEngine::brokenSheets()
-{
-    QFETCH(const QString, defaultText);
-    QFETCH(const QString, userText);
-    QFETCH(const double, atFirst);
-    QFETCH(const double, afterwards);
-    const auto valueOfA = [] {
+    void userSheetOverridesDefaultSheet()
+    {
+        const StyleFixture fixture;
+        // Its declaration stands further up than the default sheet's, which decides between different selectors only.
+        fixture.load("\n\n\nBox { a: 1; b: 1; }", "Box { a: 2; c: 2; }");
         StyledBox box;
-        return box.props().isSet("a") ? box.props().number("a") : 0.0;
-    };
-    const int broken = defaultText == "{" ? 2 : 1;
-    for (int i = 0; i < 2 * broken; ++i)
-        QTest::ignoreMessage(QtCriticalMsg,
-                             QRegularExpression(QStringLiteral("^CRITICAL: loading style sheet failed:")));
-
-    StyleFixture fixture;
-    fixture.load(defaultText.toUtf8(), userText.toUtf8());
-    QCOMPARE(valueOfA(), atFirst);
-
-    fixture.load("Box { a: 7 }");
-    QSignalSpy restyled(&fixture.engine(), &StyleEngine::styleChanged);
-    fixture.load(defaultText.toUtf8(), userText.toUtf8());
-    QCOMPARE(valueOfA(), afterwards);
-    QCOMPARE(restyled.count(), 0);
-    QCOMPARE(fixture.types, QStringList(2 * broken, "loadingStyleSheetFailed"));
-    const QString message = fixture.messages.constLast();
-    QVERIFY2(message.contains(" at line 1 column ") && message.contains(".style"), qPrintable(message));
-
-    fixture.load("Box { a: 8 }");
-    QCOMPARE(valueOfA(), 8.0);
-}
-
-void tst_StyleEngine::missingFileWaitsForTheEditor()
-{
-    StyleFixture fixture;
-    fixture.engine().setStyleSheetSource(fixture.url("late.style"));
-    const std::unique_ptr<QThread> editor(QThread::create([&fixture] {
-        QThread::msleep(200);
-        fixture.write("late.style", "Box { a: 1 }");
-    }));
-    editor->start();
-    fixture.engine().loadStyles();
-    editor->wait();
-    QCOMPARE(fixture.types, QStringList());
-    StyledBox box;
-    QCOMPARE(box.props().number("a"), 1.0);
-}
-
-void tst_StyleEngine::setupLoadsOnce()
-{
-    const StyleFixture fixture;
-    const QUrl light = fixture.write("light.style", "Box { a: 1 }");
-    const QUrl dark = fixture.write("dark.style", "Box { a: 2 }");
-    const QUrl user = fixture.write("user.style", "Box { b: 3 }");
-    StyledBox box;
-    QSignalSpy loads(&fixture.engine(), &StyleEngine::styleChanged);
-
-    StyleEngineSetup setup;
-    setup.classBegin();
-    setup.setDefaultStyleSheetSource(light);
-    setup.setStyleSheetSource(user);
-    QCOMPARE(loads.count(), 0);
-    setup.componentComplete();
-    QCOMPARE(loads.count(), 1);
-    setup.setDefaultStyleSheetSource(light);
-    QCOMPARE(loads.count(), 1);
-    setup.setDefaultStyleSheetSource(dark);
-    QCOMPARE(loads.count(), 2);
-    QCOMPARE(box.props().number("a"), 2.0);
-    setup.setStyleSheetSources(light, QUrl());
-    QCOMPARE(loads.count(), 3);
-    QCOMPARE(box.props().number("a"), 1.0);
-    QVERIFY(!box.props().isSet("b"));
-    setup.onFileChanged(QString());
-    QCOMPARE(loads.count(), 4);
-}
-
-void tst_StyleEngine::relativeSourcesAreTheApplications()
-{
-    const StyleFixture fixture;
-    fixture.write("mine.style", "Box { a: 1 }");
-    QQmlEngine engine;
-    QQmlComponent component(&engine);
-    component.setData("import QtQuick\nimport TambleClient.Control 1.0\n"
-                      "RStyleEngineSetup { engine.styleSheetSource: 'mine.style' }",
-                      fixture.url("page.qml"));
-    const std::unique_ptr<QObject> object(component.create());
-    QVERIFY2(object, qPrintable(component.errorString()));
-    StyledBox box;
-    QCOMPARE(box.props().number("a"), 1.0);
-}
-
-void tst_StyleEngine::styleNamesOfADirectory()
-{
-    const StyleFixture fixture;
-    fixture.write("b.css", "Box { a: 2 }");
-    fixture.write("a.css", "Box { a: 1 }");
-    fixture.write("notes.txt", "");
-    StyleEngineSetup setup;
-    QSignalSpy listed(&setup, &StyleEngineSetup::availableStylesChanged);
-    setup.setStylePath(QUrl::fromLocalFile(fixture.path(QString())));
-    QCOMPARE(setup.availableStyles(), QStringList({"a.css", "b.css"}));
-    QCOMPARE(listed.count(), 1);
-    setup.setStyleName("b.css");
-    QCOMPARE(setup.styleSheetSource(), fixture.url("b.css"));
-    setup.componentComplete();
-    StyledBox box;
-    QCOMPARE(box.props().number("a"), 2.0);
-    setup.setStyleName("none.css");
-    QCOMPARE(setup.styleSheetSource(), fixture.url("b.css"));
-
-    fixture.write("c.css", "");
-    QTRY_COMPARE(setup.availableStyles(), QStringList({"a.css", "b.css", "c.css"}));
-    setup.setFileExtensions({"*.txt"});
-    QCOMPARE(setup.availableStyles(), QStringList({"notes.txt"}));
-}
-
-void tst_StyleEngine::nothingOldIsSeenDuringARestyle()
-{
-    const StyleFixture fixture;
-    fixture.load("Box { a: 1 } .late { a: 1 }");
-    StyledBox first;
-    StyledBox second;
-    second.styleSet().setName("late");
-    QCOMPARE(second.props().number("a"), 1.0);
-    double seen = 0;
-    QObject::connect(&first.styleSet(), &StyleSet::propsChanged, [&] { seen = second.props().number("a"); });
-    QCOMPARE(first.props().number("a"), 1.0);
-    fixture.load("Box { a: 2 } .late { a: 2 }");
-    QCOMPARE(seen, 2.0);
-}
-
-void tst_StyleEngine::unusedValuesAreGivenBack()
-{
-    const StyleFixture fixture;
-    fixture.load("Box { a: 1 }");
-    QPointer<StyleSetProps> kept;
-    QPointer<StyleSetProps> dropped;
-    StyledBox box;
-    box.styleSet().setName("first");
-    dropped = &box.props();
-    box.styleSet().setName("second");
-    kept = &box.props();
-    QVERIFY(dropped);
-    fixture.load("Box { a: 2 }");
-    QVERIFY(!dropped);
-    QVERIFY(kept);
-    QCOMPARE(kept->number("a"), 2.0);
-}
-
-void tst_StyleEngine::unusedNamesAreGivenBack()
-{
-    const StyleFixture fixture;
-    fixture.load("Box { a: 1; word: x } .n7 { b: 2 }");
-    std::array<StyledBox, 300> others; // in use all the time
-    for (std::size_t i = 0; i < others.size(); ++i) {
-        others[i].styleSet().setName(QStringLiteral("n%1").arg(i));
-        QCOMPARE(others[i].props().number("a"), 1.0);
+        QCOMPARE(box.props().number("a"), 2.0);
+        QCOMPARE(box.props().number("b"), 1.0);
+        QCOMPARE(box.props().number("c"), 2.0);
+        QVERIFY(box.styleSet().styleInfo().contains("user stylesheet"));
     }
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^WARN: Property word is not conv")));
-    others[7].props().number("word");
-    others[7].props().number("missing");
 
-    StyledBox box;
-    QList<QPointer<StyleSetProps>> seen;
-    for (int i = 0; i < 5'000; ++i) {
-        box.styleSet().setName(QStringLiteral("name%1").arg(i));
+    void sourceForms_data()
+    {
+        // source: %1 is the directory
+        // type: of the message; empty when the sheet is found
+        const Rows<QString, QString> row;
+        row("file URL", "file://%1/a.style", "");
+        row("relative", "a.style", "");
+        row("resource URL", "qrc:/none.style", "styleSheetNotFound");
+        row("unknown theme", "qrc:/style/tamble.drak.style", "styleSheetNotFound");
+        row("network", "http://example.org/a.style", "loadingStyleSheetFailed");
+        row("directory", "file://%1", "styleSheetNotFound");
+    }
+
+    void sourceForms()
+    {
+        const auto &[source, type] = Rows<QString, QString>::current();
+        if (!type.isEmpty())
+            QTest::ignoreMessage(QtCriticalMsg, QRegularExpression(QStringLiteral("^CRITICAL: ")));
+
+        StyleFixture fixture;
+        fixture.write("a.style", "Box { found: true }");
+        fixture.engine().setBaseUrl(fixture.url("page.qml"));
+        fixture.engine().setStyleSheetSource(QUrl(QString(source).replace("%1", fixture.path(QString()))));
+        fixture.engine().loadStyles();
+        QCOMPARE(fixture.types, type.isEmpty() ? QStringList() : QStringList(type));
+        StyledBox box;
+        QCOMPARE(box.props().isSet("found"), type.isEmpty());
+        if (source.startsWith("http")) {
+            QCOMPARE(fixture.messages.constFirst(), "Loading style sheet failed 'wrong path format 'http://example.org/"
+                                                    "a.style': missing 'file:///' or 'qrc:/' ? '.");
+        }
+        if (source == "qrc:/none.style")
+            QCOMPARE(fixture.messages.constFirst(), "Style ':/none.style' not found.");
+        if (source == "qrc:/style/tamble.drak.style") {
+            QCOMPARE(fixture.messages.constFirst(),
+                     "Style ':/style/tamble.drak.style' not found. 'drak' is none of the "
+                     "themes contrast-dark, contrast-light, dark, light");
+        }
+    }
+
+    void brokenSheets_data()
+    {
+        // atFirst: value of "a" when these are the first sheets
+        // afterwards: and when good ones giving 7 were in force
+        const Rows<QString, QString, double, double> row;
+        row("user sheet", "Box { a: 1 }", "Box { a: 2; b: ", 1.0, 7.0);
+        row("default sheet", "Box { a: 1 } }", "Box { a: 2 }", 2.0, 7.0);
+        row("both", "{", "@x", 0.0, 7.0);
+        row("undefined variable", "Box { a: 1 }", "Box { a: @nothing }", 1.0, 7.0);
+    }
+
+    void brokenSheets()
+    {
+        const auto &[defaultText, userText, atFirst, afterwards] = Rows<QString, QString, double, double>::current();
+        const auto valueOfA = [] {
+            StyledBox box;
+            return box.props().isSet("a") ? box.props().number("a") : 0.0;
+        };
+        const int broken = defaultText == "{" ? 2 : 1;
+        for (int i = 0; i < 2 * broken; ++i)
+            QTest::ignoreMessage(QtCriticalMsg,
+                                 QRegularExpression(QStringLiteral("^CRITICAL: loading style sheet failed:")));
+
+        StyleFixture fixture;
+        fixture.load(defaultText.toUtf8(), userText.toUtf8());
+        QCOMPARE(valueOfA(), atFirst);
+
+        fixture.load("Box { a: 7 }");
+        QSignalSpy restyled(&fixture.engine(), &StyleEngine::styleChanged);
+        fixture.load(defaultText.toUtf8(), userText.toUtf8());
+        QCOMPARE(valueOfA(), afterwards);
+        QCOMPARE(restyled.count(), 0);
+        QCOMPARE(fixture.types, QStringList(2 * broken, "loadingStyleSheetFailed"));
+        const QString message = fixture.messages.constLast();
+        QVERIFY2(message.contains(" at line 1 column ") && message.contains(".style"), qPrintable(message));
+
+        fixture.load("Box { a: 8 }");
+        QCOMPARE(valueOfA(), 8.0);
+    }
+
+    void missingFileWaitsForTheEditor()
+    {
+        StyleFixture fixture;
+        fixture.engine().setStyleSheetSource(fixture.url("late.style"));
+        const std::unique_ptr<QThread> editor(QThread::create([&fixture] {
+            QThread::msleep(200);
+            fixture.write("late.style", "Box { a: 1 }");
+        }));
+        editor->start();
+        fixture.engine().loadStyles();
+        editor->wait();
+        QCOMPARE(fixture.types, QStringList());
+        StyledBox box;
         QCOMPARE(box.props().number("a"), 1.0);
-        seen.append(&box.props());
     }
-    QVERIFY(seen.last());
-    const auto held = std::count_if(seen.cbegin(), seen.cend(), [](const auto &props) { return !props.isNull(); });
-    QVERIFY2(held <= 400, qPrintable(QString::number(held)));
-    QCOMPARE(others[7].props().number("b"), 2.0);
-    others[7].props().number("word"); // told already
-    QTest::ignoreMessage(QtWarningMsg, "WARN: Property missing not found (Box.n7)");
-    fixture.engine().reportMissingKeys();
-}
 
-void tst_StyleEngine::convertedValues_data()
-{
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QByteArray>("getter");
-    QTest::addColumn<QVariant>("expected");
-    QTest::newRow("hexadecimal colour") << "#008ccd" << QByteArray("color") << QVariant(QColor(0, 140, 205));
-    QTest::newRow("quoted colour, alpha first")
-        << "\"#20000000\"" << QByteArray("color") << QVariant(QColor(0, 0, 0, 32));
-    QTest::newRow("colour function") << "rgba(255, 0, 0, 0.5)" << QByteArray("color")
-                                     << QVariant(QColor(255, 0, 0, 128));
-    QTest::newRow("flag") << "true" << QByteArray("boolean") << QVariant(true);
-    QTest::newRow("number") << "-0.5" << QByteArray("number") << QVariant(-0.5);
-    QTest::newRow("text") << "\"a b\"" << QByteArray("string") << QVariant("a b");
-    QTest::newRow("address") << "url(qrc:/a/b.png)" << QByteArray("url") << QVariant(QUrl("qrc:/a/b.png"));
-    QTest::newRow("plain value of a text") << "bold" << QByteArray("get") << QVariant("bold");
-    QTest::newRow("plain value of a function") << "rgb(1, 2, 3)" << QByteArray("get") << QVariant(QColor(1, 2, 3));
-    QTest::newRow("plain value of several") << "1, \"b\"" << QByteArray("get") << QVariant(QVariantList{"1", "b"});
-    QTest::newRow("all values") << "1" << QByteArray("values") << QVariant(QVariantList{"1"});
-}
+    void setupLoadsOnce()
+    {
+        const StyleFixture fixture;
+        const QUrl light = fixture.write("light.style", "Box { a: 1 }");
+        const QUrl dark = fixture.write("dark.style", "Box { a: 2 }");
+        const QUrl user = fixture.write("user.style", "Box { b: 3 }");
+        StyledBox box;
+        QSignalSpy loads(&fixture.engine(), &StyleEngine::styleChanged);
 
-void tst_StyleEngine::convertedValues()
-{
-    QFETCH(const QString, value);
-    QFETCH(const QByteArray, getter);
-    QFETCH(const QVariant, expected);
-    const StyleFixture fixture;
-    fixture.load("Box { key: " + value.toUtf8() + " }");
-    StyledBox box;
-    for (int round = 0; round < 2; ++round) { // the second comes from the cache
-        QVariant result(expected.metaType());
-        const bool isAny = getter == "get" || getter == "values";
-        const QString key = QStringLiteral("key");
-        const QGenericReturnArgument returned(isAny ? "QVariant" : expected.typeName(),
-                                              isAny ? &result : result.data());
-        QMetaObject::invokeMethod(&box.props(), getter.constData(), returned, QGenericArgument("QString", &key));
-        QCOMPARE(result, expected);
+        StyleEngineSetup setup;
+        setup.classBegin();
+        setup.setDefaultStyleSheetSource(light);
+        setup.setStyleSheetSource(user);
+        QCOMPARE(loads.count(), 0);
+        setup.componentComplete();
+        QCOMPARE(loads.count(), 1);
+        setup.setDefaultStyleSheetSource(light);
+        QCOMPARE(loads.count(), 1);
+        setup.setDefaultStyleSheetSource(dark);
+        QCOMPARE(loads.count(), 2);
+        QCOMPARE(box.props().number("a"), 2.0);
+        setup.setStyleSheetSources(light, QUrl());
+        QCOMPARE(loads.count(), 3);
+        QCOMPARE(box.props().number("a"), 1.0);
+        QVERIFY(!box.props().isSet("b"));
+        setup.onFileChanged(QString());
+        QCOMPARE(loads.count(), 4);
     }
-}
 
-void tst_StyleEngine::unconvertibleValuesAreLoggedOnce()
-{
-    const StyleFixture fixture;
-    fixture.load("Box { pair: 1, 2;\n call: lighter(1);\n shape: '#ff88zz' }", "Box { word: hello }");
-    StyledBox box;
-    const auto expectLog = [&fixture](const QString &what, const char *sheet, const char *place) {
-        const QString line = QStringLiteral("WARN: Property %1 (%2 at line %3)").arg(what, fixture.path(sheet), place);
-        QTest::ignoreMessage(QtWarningMsg, qPrintable(line));
-    };
-    expectLog("word is not convertible to a 'QColor' (Box): hello is no colour", "user.style", "1 column 7");
-    expectLog("shape is not convertible to a 'QColor' (Box): #ff88zz is no colour", "default.style", "3 column 2");
-    expectLog("pair is not convertible to a 'double' (Box): \"1\", \"2\" is no number, exactly one value expected",
-              "default.style", "1 column 7");
-    expectLog("call is not convertible to a 'QColor' (Box): lighter(1) is no colour, Unsupported expression 'lighter'",
-              "default.style", "2 column 2");
-    for (int round = 0; round < 2; ++round) {
-        QCOMPARE(box.props().color("word"), QColor());
-        QCOMPARE(box.props().color("shape"), QColor());
-        QCOMPARE(box.props().number("pair"), 0.0);
-        QCOMPARE(box.props().color("call"), QColor());
+    void relativeSourcesAreTheApplications()
+    {
+        const StyleFixture fixture;
+        fixture.write("mine.style", "Box { a: 1 }");
+        QQmlEngine engine;
+        const auto object = objectFrom(engine,
+                                       "import QtQuick\nimport TambleClient.Control 1.0\n"
+                                       "RStyleEngineSetup { engine.styleSheetSource: 'mine.style' }",
+                                       fixture.url("page.qml"));
+        QVERIFY(object);
+        StyledBox box;
+        QCOMPARE(box.props().number("a"), 1.0);
     }
-    QVERIFY(static_cast<UsageCountedStyleSetProps &>(box.props()).missingKeys().empty());
-}
 
-void tst_StyleEngine::missingKeyReports()
-{
-    StyleFixture fixture;
-    QSignalSpy due(&fixture.engine(), &StyleEngine::propertiesPotentiallyMissing);
-    StyledBox box;
-    box.props().color("before");
-    QCOMPARE(due.count(), 0); // nothing was loaded yet
-    fixture.load("Box { a: 1 }");
-    QCOMPARE(due.count(), 1);
-    fixture.engine().reportMissingKeys();
-    QCOMPARE(fixture.messages, QStringList()); // the load has begun anew
+    void styleNamesOfADirectory()
+    {
+        const StyleFixture fixture;
+        fixture.write("b.css", "Box { a: 2 }");
+        fixture.write("a.css", "Box { a: 1 }");
+        fixture.write("notes.txt", "");
+        StyleEngineSetup setup;
+        QSignalSpy listed(&setup, &StyleEngineSetup::availableStylesChanged);
+        setup.setStylePath(QUrl::fromLocalFile(fixture.path(QString())));
+        QCOMPARE(setup.availableStyles(), QStringList({"a.css", "b.css"}));
+        QCOMPARE(listed.count(), 1);
+        setup.setStyleName("b.css");
+        QCOMPARE(setup.styleSheetSource(), fixture.url("b.css"));
+        setup.componentComplete();
+        StyledBox box;
+        QCOMPARE(box.props().number("a"), 2.0);
+        setup.setStyleName("none.css");
+        QCOMPARE(setup.styleSheetSource(), fixture.url("b.css"));
 
-    box.props().color("x");
-    box.props().number("x");
-    box.props().get("w");
-    box.props().values("v");
-    QVERIFY(!box.props().isSet("u"));
-    QCOMPARE(due.count(), 2); // one report is due, however many keys
-    const auto expectLog = [](const char *line) { QTest::ignoreMessage(QtWarningMsg, line); };
-    expectLog("WARN: Property w not found (Box)");
-    expectLog("WARN: Property x not found (Box)");
-    fixture.engine().reportMissingKeys();
-    QCOMPARE(fixture.messages, QStringList({"Property 'w' not found (Box)", "Property 'x' not found (Box)"}));
-    QCOMPARE(fixture.types, QStringList(2, "propertyNotFound"));
+        fixture.write("c.css", "");
+        QTRY_COMPARE(setup.availableStyles(), QStringList({"a.css", "b.css", "c.css"}));
+        setup.setFileExtensions({"*.txt"});
+        QCOMPARE(setup.availableStyles(), QStringList({"notes.txt"}));
+    }
 
-    // The next miss brings the next report, with what is still missing.
-    fixture.messages.clear();
-    box.props().color("x");
-    QCOMPARE(due.count(), 3);
-    expectLog("WARN: Property w not found (Box)");
-    expectLog("WARN: Property x not found (Box)");
-    fixture.engine().reportMissingKeys();
-    QCOMPARE(fixture.messages.count(), 2);
-}
+    void nothingOldIsSeenDuringARestyle()
+    {
+        const StyleFixture fixture;
+        fixture.load("Box { a: 1 } .late { a: 1 }");
+        StyledBox first;
+        StyledBox second;
+        second.styleSet().setName("late");
+        QCOMPARE(second.props().number("a"), 1.0);
+        double seen = 0;
+        QObject::connect(&first.styleSet(), &StyleSet::propsChanged, [&] { seen = second.props().number("a"); });
+        QCOMPARE(first.props().number("a"), 1.0);
+        fixture.load("Box { a: 2 } .late { a: 2 }");
+        QCOMPARE(seen, 2.0);
+    }
 
-void tst_StyleEngine::fontFaces()
-{
-    StyleFixture fixture;
-    QTest::ignoreMessage(QtWarningMsg,
-                         QRegularExpression(QStringLiteral("^WARN: Could not find font file .* at line 1")));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^WARN: Font url could not be resolved.")));
-    fixture.load("@font-face { src: url(none.ttf) }\n@font-face { src: url(http://example.org/a.ttf); }\n"
-                 "@font-face { src: url(qrc:/asset/fonts/Lato-Regular.ttf) }\nBox { face: \"Lato bold 14px\" }");
-    QCOMPARE(fixture.types, QStringList(2, "fontWasNotLoaded"));
-    QCOMPARE(fixture.messages, QStringList({"Could not find font file", "Font url could not be resolved."}));
-    StyledBox box;
-    QCOMPARE(box.props().font("face").family(), "Lato");
-    QCOMPARE(box.props().font("face").pixelSize(), 14);
-    QVERIFY(box.props().font("face").bold());
-}
+    void fontFaces()
+    {
+        StyleFixture fixture;
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("^WARN: Could not find font file .* at line 1")));
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("^WARN: Font url could not be resolved.")));
+        fixture.load("@font-face { src: url(none.ttf) }\n@font-face { src: url(http://example.org/a.ttf); }\n"
+                     "@font-face { src: url(qrc:/asset/fonts/Lato-Regular.ttf) }\nBox { face: \"Lato bold 14px\" }");
+        QCOMPARE(fixture.types, QStringList(2, "fontWasNotLoaded"));
+        QCOMPARE(fixture.messages, QStringList({"Could not find font file", "Font url could not be resolved."}));
+        StyledBox box;
+        QCOMPARE(box.props().font("face").family(), "Lato");
+        QCOMPARE(box.props().font("face").pixelSize(), 14);
+        QVERIFY(box.props().font("face").bold());
+    }
 
-void tst_StyleEngine::objectsThatAreNoItems()
-{
-    StyleFixture fixture;
-    fixture.load("Box QObject { a: 1 }");
-    StyledBox box;
-    QObject object(&box);
-    const StyleSet styleSet(&object);
-    QCOMPARE(fixture.types, QStringList("noParentChangeReports"));
-    QCOMPARE(fixture.messages, QStringList("Hierarchy changes for this component won't be detected"));
-    QCOMPARE(StyleSet(&object).props()->number("a"), 1.0); // placed by its object's parent
-}
+    void objectsThatAreNoItems()
+    {
+        StyleFixture fixture;
+        fixture.load("Box QObject { a: 1 }");
+        StyledBox box;
+        QObject object(&box);
+        const StyleSet styleSet(&object);
+        QCOMPARE(fixture.types, QStringList("noParentChangeReports"));
+        QCOMPARE(fixture.messages, QStringList("Hierarchy changes for this component won't be detected"));
+        QCOMPARE(StyleSet(&object).props()->number("a"), 1.0); // placed by its object's parent
+    }
+};
 
 template struct TestClass<tst_StyleEngine>;
 #include "tst_StyleEngine.moc"

@@ -1,12 +1,9 @@
 #include "style/ThemeSelector.h"
+#include "support/QmlText.h"
 #include "support/TestProgram.h"
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtQml/QQmlContext>
-#include <QtQml/QQmlEngine>
-#include <QtTest/QTest>
 
 #include <memory>
 
@@ -31,54 +28,50 @@ class tst_ThemeSelector : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void bindingsFollowTheTheme();
-    void brokenThemeChangesNothing();
+    void bindingsFollowTheTheme()
+    {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+        QQmlEngine engine;
+        QQmlComponent first(&engine);
+        first.setData(themeWith(8), QUrl());
+        QQmlComponent second(&engine);
+        auto selector = std::make_unique<ThemeSelector>();
+        selector->setThemeComponent(&first);
+
+        const auto user = objectFrom(engine, "import QtQml\nQtObject { property int size: theme.size }");
+        QVERIFY(user);
+        QCOMPARE(user->property("size").toInt(), 8);
+
+        // Another theme takes over as soon as it is ready, and the old one goes.
+        const QPointer<QObject> old = installedTheme(engine);
+        selector->setThemeComponent(&second);
+        QCOMPARE(installedTheme(engine), old.data());
+        second.setData(themeWith(12), QUrl());
+        QCOMPARE(user->property("size").toInt(), 12);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!old);
+
+        selector.reset();
+        engine.collectGarbage();
+        QVERIFY(installedTheme(engine));
+    }
+
+    void brokenThemeChangesNothing()
+    {
+        QQmlEngine engine;
+        QQmlComponent good(&engine);
+        good.setData(themeWith(8), QUrl());
+        QQmlComponent broken(&engine);
+        broken.setData("import QtQml\nQtObject { property int size: }", QUrl());
+        ThemeSelector selector;
+        selector.setThemeComponent(&good);
+
+        QObject *theme = installedTheme(engine);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^WARN: ")));
+        selector.setThemeComponent(&broken);
+        QCOMPARE(installedTheme(engine), theme);
+    }
 };
-
-void tst_ThemeSelector::bindingsFollowTheTheme()
-{
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
-    QQmlEngine engine;
-    QQmlComponent first(&engine);
-    first.setData(themeWith(8), QUrl());
-    QQmlComponent second(&engine);
-    auto selector = std::make_unique<ThemeSelector>();
-    selector->setThemeComponent(&first);
-
-    QQmlComponent control(&engine);
-    control.setData("import QtQml\nQtObject { property int size: theme.size }", QUrl());
-    const std::unique_ptr<QObject> user(control.create());
-    QCOMPARE(user->property("size").toInt(), 8);
-
-    // Another theme takes over as soon as it is ready, and the old one goes.
-    const QPointer<QObject> old = installedTheme(engine);
-    selector->setThemeComponent(&second);
-    QCOMPARE(installedTheme(engine), old.data());
-    second.setData(themeWith(12), QUrl());
-    QCOMPARE(user->property("size").toInt(), 12);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!old);
-
-    selector.reset();
-    engine.collectGarbage();
-    QVERIFY(installedTheme(engine));
-}
-
-void tst_ThemeSelector::brokenThemeChangesNothing()
-{
-    QQmlEngine engine;
-    QQmlComponent good(&engine);
-    good.setData(themeWith(8), QUrl());
-    QQmlComponent broken(&engine);
-    broken.setData("import QtQml\nQtObject { property int size: }", QUrl());
-    ThemeSelector selector;
-    selector.setThemeComponent(&good);
-
-    QObject *theme = installedTheme(engine);
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^WARN: ")));
-    selector.setThemeComponent(&broken);
-    QCOMPARE(installedTheme(engine), theme);
-}
 
 template struct TestClass<tst_ThemeSelector>;
 #include "tst_ThemeSelector.moc"

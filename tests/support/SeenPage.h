@@ -1,17 +1,13 @@
 #pragma once
 
 #include "TambleClientControlModule.h"
+#include "support/QmlText.h"
 
-#include <QtCore/QDebug>
 #include <QtGui/private/qguiapplication_p.h>
-#include <QtQml/QQmlComponent>
-#include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
-
-#include <memory>
 
 namespace tamble::client {
 
@@ -28,17 +24,13 @@ struct SeenPage
         module.registerTypes("TambleClient.Control");
         module.initializeEngine(&engine, "TambleClient.Control");
         QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
-        QQmlComponent component(&engine);
-        component.setData("import QtQuick\nimport TambleClient.Control 1.0\n"
+        root = objectFrom(engine,
+                          "import QtQuick\nimport TambleClient.Control 1.0\n"
                           "Item { RThemeSelector { themeComponent: Component { RTheme {} } }\n"
                           "RStyleEngineSetup { engine.defaultStyleSheetSource: 'qrc:/style/tamble.dark.style' }\n" +
-                              content + "}",
-                          QUrl());
-        root.reset(component.create());
+                              content + "}");
         if (root)
             qobject_cast<QQuickItem *>(root.get())->setParentItem(window.contentItem());
-        else
-            qWarning() << component.errorString();
     }
 };
 

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QtCore/QObject>
+#include <QtCore/QRegularExpression>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
 
 #include <functional>
 #include <memory>
@@ -19,6 +22,15 @@ bool add(const char *className, Maker maker);
 int run(int argc, char **argv);
 
 } // namespace TestProgram
+
+/// A class of tests in which a warning that no test expects is a failure.
+class QuietTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
+};
 
 /// Puts the class among those of its program: `template struct TestClass<tst_AxisTicks>;`
 template <typename Test>

@@ -10,23 +10,6 @@ ThemedTestCase {
     readonly property var variants: ["RButton", "RButtonIcon", "RButtonIconLabel", "RButtonIconLabelH",
         "RButtonIconLabelV", "RButtonLabelText", "RButtonSwitch", "RInconsistentButton"]
 
-    Component {
-        id: spyComponent
-        SignalSpy {}
-    }
-
-    function cleanup() {
-        root.sheet = "dark"
-    }
-
-    function make(body: string): var {
-        return createTemporaryQmlObject("import QtQuick\nimport TambleClient.Control 1.0\n" + body, root)
-    }
-
-    function spyOn(target: QtObject, signalName: string): SignalSpy {
-        return createTemporaryObject(spyComponent, root, { target: target, signalName: signalName })
-    }
-
     function variantRows(): list<var> {
         return root.variants.map(name => ({ tag: name, type: name }))
     }

@@ -7,10 +7,6 @@ ThemedTestCase {
     id: root
     name: "RAxisNumbering"
 
-    function make(body: string): var {
-        return createTemporaryQmlObject("import QtQuick\nimport TambleClient.Control 1.0\n" + body, root)
-    }
-
     function numbersOf(axis: Item): var {
         const numbers = []
         for (let i = 0; i < axis.children.length; ++i) {

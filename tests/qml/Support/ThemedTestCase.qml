@@ -13,6 +13,24 @@ TestCase {
         failOnWarning(/.*/)
     }
 
+    /*! An object from the text of its declaration; it goes with the test. */
+    function make(body: string): var {
+        return createTemporaryQmlObject("import QtQuick\nimport TambleClient.Control 1.0\n" + body, root)
+    }
+
+    function spyOn(target: var, signalName: string): SignalSpy {
+        return createTemporaryObject(spyComponent, root, { target: target, signalName: signalName })
+    }
+
+    /*! The rows of a test for each sheet of the module. */
+    function sheetRows(): list<var> {
+        return ["dark", "light", "contrast-dark", "contrast-light"].map(name => ({ tag: name }))
+    }
+
+    function cleanup() {
+        root.sheet = "dark"
+    }
+
     when: windowShown
     visible: true
     width: 400
@@ -29,5 +47,9 @@ TestCase {
     RStyleEngineSetup {
         id: setup
         engine.defaultStyleSheetSource: "qrc:/style/tamble." + root.sheet + ".style"
+    }
+    Component {
+        id: spyComponent
+        SignalSpy {}
     }
 }
