@@ -95,7 +95,9 @@ private Q_SLOTS:
         constexpr std::size_t most = 16384;
         constexpr double infinite = std::numeric_limits<double>::infinity();
         row("wide", QSizeF(1e9, 400.0), most);
+        row("wider than an int", QSizeF(4294967296.0, 400.0), most);
         row("high", QSizeF(300.0, 4294967296.0), 300);
+        row("both", QSizeF(1e300, 1e300), most);
         row("endless", QSizeF(infinite, 400.0), 0);
     }
 
@@ -127,6 +129,7 @@ private Q_SLOTS:
         const QByteArray later = "Component.onCompleted: calculationItems = ";
         row("right", children + "calculationItems: [a, b]", {});
         row("listed at last", children + later + "[b, a]", {});
+        row("as plain objects", children + "property list<QtObject> all: [a, b]; calculationItemsReference: all", {});
         row("no filter", children + later + "[a, b, curve, 5]", noFilter);
         row("null", children + later + "[null, a, b]", noFilter);
         row("only a child", children + "calculationItems: b", unlisted);

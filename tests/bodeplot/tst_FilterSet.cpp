@@ -79,6 +79,7 @@ private Q_SLOTS:
         // described: relation, motion, label and level of each handle
         const Rows<FilterRecord, QString> row;
         row("peaking", eq(0), "EQ 2 '' 6;");
+        row("shelf with Q", eq(11), "EQ 2 '' 6;");
         for (const int type : {3, 4, 5, 8, 9})
             row(qPrintable(QString::asprintf("type %d has no gain", type)), eq(type), "EQ 0 '' 0;");
         row("asymmetric", asymmetric(), "ASYMEQ1 2 '' 5;ASYMEQ2 2 '' 5;");
@@ -129,7 +130,9 @@ private Q_SLOTS:
         row("inside", 200.0, 10.0, QPointF(1.0 / 3.0, 0.25));
         row("on the edges", 20000.0, -20.0, QPointF(1.0, 1.0));
         row("above", 200.0, 21.0, QPointF(1.0 / 3.0, -1.0));
+        row("below", 200.0, -21.0, QPointF(1.0 / 3.0, 2.0));
         row("left", 19.0, 0.0, QPointF(-1.0, 0.5));
+        row("right", 21000.0, 0.0, QPointF(2.0, 0.5));
         row("no numbers", notANumber, notANumber, QPointF(-1.0, -1.0));
         row("negative frequency", -5.0, 0.0, QPointF(-1.0, 0.5));
     }
@@ -239,8 +242,10 @@ private Q_SLOTS:
         // counts: for the response
         const Rows<FilterRecord, double, double, double, bool> row;
         row("200 down reaches the upper limit", eq(0), 1.0, 200.0, 40.0, true);
+        row("stays there", eq(0), 40.0, 200.0, 40.0, true);
         row("200 up reaches the lower limit", eq(0), 1.0, -200.0, 0.4, true);
         row("half way", eq(9), 2.0, 100.0, 21.0, true);
+        row("shelf with Q", eq(10), 1.0, 300.0, 2.0, true);
         row("high pass of 12 dB", eq(3, 100, 0, 1, 2), 1.0, 100.0, 1.5, true);
         row("high pass of 6 dB", eq(3, 100, 0, 1, 1), 1.0, 100.0, 0.0, false);
         row("all pass", eq(5), 1.0, 100.0, 1.5, true);
@@ -249,6 +254,7 @@ private Q_SLOTS:
             row(qPrintable(QString::asprintf("type %d", type)), eq(type), 1.0, 100.0, 0.0, true);
         row("shelf without Q", eq(1), 1.0, 100.0, 0.0, false);
         row("asymmetric", asymmetric(), 0.5, 200.0, 2.0, true);
+        row("crossover", xOver(0), 1.0, 100.0, 0.0, false);
         row("base is no number", eq(0), notANumber, 0.0, 0.4, true);
         row("change is no number", eq(0), 1.0, notANumber, 1.0, true);
     }

@@ -293,15 +293,18 @@ private Q_SLOTS:
     {
         const Rows<double> row;
         row("NaN", notANumber);
+        row("infinity", infinity);
         row("minus infinity", -infinity);
         row("huge", 1.7e308);
+        row("denormal", 5e-324);
+        row("zero", 0.0);
     }
 
     void badNumbersReachNoVertex()
     {
         const auto &[number] = Rows<double>::current();
         // As a bound of either axis, and as an increment, these ask for more lines than there is room for.
-        for (int i = 0; i < 2 && (number == 1.7e308); ++i)
+        for (int i = 0; i < 2 && (number == 5e-324 || number == 1.7e308); ++i)
             QTest::ignoreMessage(QtWarningMsg, "RBodeplotGrid::computeLines() more than 1000 lines");
         feed<RBodeplotGrid>(number);
         feed<RSimpleCurve>(number);

@@ -67,12 +67,15 @@ private Q_SLOTS:
         row("the minimum of a logarithmic axis is left out", logarithmic(20, 20000), 0.0,
             "30 40 50 60 70 80 90 100 200 300 400 500 600 700 800 900 "
             "1000 2000 3000 4000 5000 6000 7000 8000 9000 10000");
+        row("power of ten as the minimum", logarithmic(1000, 3500), 0.0, "2000 3000");
+        row("minimum in the last digit", logarithmic(95, 250), 0.0, "100 200");
         row("fractions reach the whole number", logarithmic(0.3, 2.5), 0.0, "0.4 0.5 0.6 0.7 0.8 0.9 1 2");
         row("negative minimum is rounded up", linear(-25, 25), 10.0, "-20 -10 0 10 20");
         row("positive minimum is rounded down, below itself", linear(25, 50), 10.0, "20 30 40");
         row("multiples are labelled at the minimum only", linear(-30, 30), 10.0, "-30 -20 -10 0 10 20");
         row("fractions of a linear axis", linear(-0.3, 0.3), 0.1, "-0.3 -0.2 -0.1 0 0.1 0.2");
         row("increment beyond the range", linear(-5, 5), 1e300, "0");
+        row("values too large to count on", linear(1e18, 1e18 + 1000), 1000.0, "1e+18");
         row("reversed", linear(10, -10), 1.0, "");
         row("no number", linear(notANumber, 5), 1.0, "");
         row("infinite", logarithmic(20, infinity), 1.0, "");
@@ -94,6 +97,7 @@ private Q_SLOTS:
         row("logarithm of 0", logarithmic(0, 20000), 10.0, TickProblem::MinimumNotPositive);
         row("tiny increment", linear(-25, 25), 1e-9, TickProblem::TooManyTicks);
         row("range without end", linear(-1.7e308, 1.7e308), 1.0, TickProblem::TooManyTicks);
+        row("hundreds of decades", logarithmic(1e-300, 1e300), 1.0, TickProblem::TooManyTicks);
     }
 
     void problems()
@@ -112,6 +116,7 @@ private Q_SLOTS:
         row("number as text", {QStringLiteral("100")}, 100.0, true);
         row("a list of anything else is not empty", {QStringLiteral("x"), notANumber}, 100.0, false);
         row("rounding of the multiplication", {0.3}, 3 * 0.1, true);
+        row("zero", {0}, 0.0, true);
     }
 
     void choice()
@@ -129,6 +134,8 @@ private Q_SLOTS:
         row("linear downwards", linear(-20, 40), 20.0, Qt::Vertical, {0, 20}, {"0", "20"}, {200, 100});
         row("first value below the minimum", linear(25, 55), 10.0, Qt::Horizontal, {}, {"20", "30", "40", "50"},
             {-50, 50, 150, 250});
+        row("six digits", linear(0, 3), 1.2345678, Qt::Horizontal, {}, {"0", "1.23457", "2.46914"},
+            {0, 123.45678, 246.91356});
         row("large numbers", logarithmic(50000, 2100000), 0.0, Qt::Vertical, {100000, 2e6}, {"100000", "2e+06"},
             {300 - 300 * std::log(2.0) / std::log(42.0), 300 - 300 * std::log(40.0) / std::log(42.0)});
     }
@@ -193,6 +200,7 @@ private Q_SLOTS:
         const Rows<double, Qt::Orientation, double, double, Numbers> row;
         // On 200 x 100 pixels.
         row("one pixel", 0.251, Qt::Vertical, 1.0, 1.0, {50, 51});
+        row("two pixels around the place", 0.251, Qt::Vertical, 1.0, 2.0, {49, 51});
         row("horizontal lines count from the bottom", 0.254, Qt::Horizontal, 1.0, 1.0, {74, 75});
         row("half a pixel of a dense screen", 0.2526, Qt::Vertical, 2.0, 0.5, {50.5, 51});
         row("five quarters of a pixel become one", 0.25, Qt::Vertical, 1.25, 1.0, {49.6, 50.4});
@@ -200,6 +208,7 @@ private Q_SLOTS:
         row("inside at the bottom", 0.0, Qt::Horizontal, 1.0, 2.0, {98, 100});
         row("inside at the top", 1.0, Qt::Horizontal, 1.0, 2.0, {0, 2});
         row("no width", 0.5, Qt::Vertical, 1.0, 0.0, {});
+        row("width that is no number", 0.5, Qt::Vertical, 1.0, notANumber, {});
         row("place that is no number", notANumber, Qt::Vertical, 1.0, 1.0, {});
     }
 
@@ -230,6 +239,8 @@ private Q_SLOTS:
         row("level column", {{3.1, 5}, {3.2, 5}, {3.3, 5}, {3.9, 5}}, {{3.1, 5}, {3.9, 5}});
         row("a column that is visited twice is two", {{0.5, 1}, {0.6, 2}, {1.5, 3}, {0.6, 4}, {0.5, 5}},
             {{0.5, 1}, {0.6, 2}, {1.5, 3}, {0.6, 4}, {0.5, 5}});
+        row("columns left of the frame are columns too", {{-0.5, 1}, {-0.4, 2}, {0.5, 3}},
+            {{-0.5, 1}, {-0.4, 2}, {0.5, 3}});
     }
 
     void columns()
@@ -242,9 +253,12 @@ private Q_SLOTS:
     {
         const Rows<Points, double, FrameAxes, Lines, int> row;
         // 300 x 100 pixels: 100 Hz to 100 kHz has a decade on 100 pixels, -10 to 10 dB has 5 pixels a dB.
+        const FrameAxes levels{linear(-10, 20), linear(-10, 10)};
         const FrameAxes axes{logarithmic(100, 100000), linear(-10, 10)};
         row("logarithmic", {{100, 0}, {1000, 4}}, 0.0, axes, {{{0, 50}, {100, 30}}}, 2);
+        row("linear", {{-10, 0}, {0, -10}}, 0.0, levels, {{{0, 50}, {100, 100}}}, 2);
         row("trim", {{100, 0}, {1000, 4}}, -4.0, axes, {{{0, 70}, {100, 50}}}, 2);
+        row("cut at the left", {{10, 0}, {1000, 10}}, 0.0, axes, {{{0, 25}, {100, 0}}}, 1);
         row("cut at the top", {{100, 0}, {10000, 20}}, 0.0, axes, {{{0, 50}, {100, 0}}}, 1);
         row("cut below", {{100, 0}, {1000, -20}, {10000, 0}}, 0.0, axes,
             {{{0, 50}, {50, 100}}, {{150, 100}, {200, 50}}}, 2);
@@ -254,6 +268,7 @@ private Q_SLOTS:
         row("minus infinity is silence, not a line", {{100, 0}, {1000, -infinity}}, 0.0, axes, {}, 1);
         row("huge numbers are cut", {{1000, -1e300}, {1000, 1e300}}, 0.0, axes, {{{100, 100}, {100, 0}}}, 0);
         row("reversed frame", {{100, 0}, {1000, 0}}, 0.0, {logarithmic(1000, 100), linear(-10, 10)}, {}, 0);
+        row("trim that is no number", {{100, 0}, {1000, 0}}, notANumber, axes, {}, 0);
     }
 
     void curve()
@@ -272,6 +287,7 @@ private Q_SLOTS:
         const FrameAxes frequencies{logarithmic(20, 20000), linear(-20, 20)};
         row("brick wall", {-20, 0, false}, levels, {{0, 1}, {0.5, 0.5}, {1, 0.5}});
         row("ratio", {-20, 4, false}, levels, {{0, 1}, {0.5, 0.5}, {1, 0.375}});
+        row("endless ratio", {-20, infinity, false}, levels, {{0, 1}, {0.5, 0.5}, {1, 0.5}});
         row("expanding ratio counts as 1", {-20, 0.5, false}, levels, {{0, 1}, {0.5, 0.5}, {1, 0}});
         row("bypassed", {-20, 0, true}, levels, {{0, 1}, {1, 0}});
         row("threshold right of the frame", {30, 0, false}, levels, {{0, 1}, {1, 0}});
@@ -279,7 +295,9 @@ private Q_SLOTS:
         row("cut at the top", {0, 0, false}, lower, {{0, 1}, {0.5, 0}});
         row("level line over frequencies", {-10, 4, false}, frequencies, {{0, 0.75}, {1, 0.75}});
         row("bypassed over frequencies", {-10, 4, true}, frequencies, {});
+        row("above the frame", {21, 0, false}, frequencies, {});
         row("threshold that is no number", {notANumber, 0, false}, levels, {});
+        row("ratio that is no number", {0, notANumber, false}, levels, {});
         row("empty frame", {}, {linear(0, 0), linear(-60, 20)}, {});
     }
 

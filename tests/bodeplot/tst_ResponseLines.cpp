@@ -74,6 +74,7 @@ private Q_SLOTS:
         row("around a corner", {{-1, 5}, {-1, -1}, {5, -1}}, {});
         row("broken", {{1, 1}, {2, 2}, {notANumber, 3}, {4, 4}, {5, 5}}, {{{1, 1}, {2, 2}}, {{4, 4}, {5, 5}}});
         row("lonely point", {{1, 1}, {2, notANumber}, {3, 3}, {4, 4}}, {{{3, 3}, {4, 4}}});
+        row("infinite", {{1, 1}, {2, std::numeric_limits<double>::infinity()}}, {});
     }
 
     void clipping()
@@ -90,6 +91,7 @@ private Q_SLOTS:
         row("whole range", 20.0, 20000.0, 0, 1500, -2);
         row("middle decade", 200.0, 2000.0, 1000, 1500, -2);
         row("beyond the end", 2000.0, 200000.0, 2000, 3000, 3000);
+        row("before the beginning", 2.0, 20.0, -1000, -500, -1000);
         row("no range", 0.0, 0.0, 0, 0, -2);
     }
 
@@ -116,6 +118,7 @@ private Q_SLOTS:
         row("above the frame", -20.0, 20.0, 30.0, 0.0, -100.0);
         row("range turned over", 20.0, -20.0, 10.0, 0.0, 300.0);
         row("empty range", 5.0, 5.0, 5.0, 0.0, 400.0);
+        row("range is no number", notANumber, 20.0, 0.0, 0.0, 400.0);
         row("trim is no number", -20.0, 20.0, 0.0, notANumber, 400.0);
     }
 

@@ -73,9 +73,13 @@ private Q_SLOTS:
         row("variant without size", variants, none, "ui/b/add_9x9_pressed", 1);
         row("first directory wins", {"a.png"}, {"a_b.png"}, "ui/a_b", 1);
         row("second directory at last", {"Placeholder.png"}, {"a.png"}, "ui/a_b_c", 2);
+        row("nested folders", {"x/y/z.png"}, none, "ui/x/y/z_1", 1);
+        row("prefix alone", {".png", "Placeholder.png"}, none, "ui/", 1);
         row("empty last part", {"x/.png", "Placeholder.png"}, none, "ui/x/", 1);
         row("product", {"products/amp.png"}, none, "products/amp", 1);
+        row("further product segments", {"products/amp.png"}, none, "products/amp/rear", 1);
         row("products keep their underscores", {"products/amp.png", "Placeholder.png"}, none, "products/amp_2", 2);
+        row("product prefix alone", {"products/.png"}, none, "products/", 1);
         row("prefix case counts", {"a.png", "Placeholder.png"}, none, "UI/a", 2);
         row("placeholder of the second directory", none, placeholder, "ui/unknown", 1);
         row("empty id", placeholder, none, "", 1);
@@ -117,6 +121,13 @@ private Q_SLOTS:
         QCOMPARE(requestedSizeOf(provider, id), QSize(5, 1));
         // Trying each of them takes minutes.
         QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+    }
+
+    void noAssetDirectory()
+    {
+        const QTemporaryDir base;
+        ControlImageProvider provider(QUrl::fromLocalFile(base.path()));
+        QCOMPARE(requestedSizeOf(provider, QStringLiteral("ui/a")), QSize(0, 0));
     }
 
     void baseUrlThatIsNoLocalFile()

@@ -33,6 +33,7 @@ private Q_SLOTS:
         row("backwards, above", 1.0, 0.0, -40.0, 0.0);
         row("no number", notANumber, -40.0, 0.0, 0.0);
         row("axis without length", 7.0, 5.0, 5.0, 0.0);
+        row("endless axis", 7.0, -infinity, 5.0, 0.0);
     }
 
     void placeOnAxis()
@@ -55,6 +56,7 @@ private Q_SLOTS:
         row("below", -infinity, -60.0, 20.0, 0.5, -60.0);
         row("a bound between two steps", 19.9, -60.0, 19.8, 0.5, 19.8);
         row("swapped bounds", -70.0, 20.0, -60.0, 0.5, -60.0);
+        row("equal bounds", 3.0, 5.0, 5.0, 0.5, 5.0);
         row("nothing wanted", notANumber, -60.0, 20.0, 0.5, notANumber);
         row("no bounds", 3.0, -60.0, notANumber, 0.5, notANumber);
     }
@@ -94,6 +96,7 @@ private Q_SLOTS:
         row("flat", 20.0, 0.0, 12.0);
         row("falling", 20.0, -1.0, 12.0);
         row("no run", 0.0, 5.0, notANumber);
+        row("run backwards", -3.0, 5.0, notANumber);
         row("no number", 20.0, notANumber, notANumber);
     }
 
@@ -111,6 +114,7 @@ private Q_SLOTS:
         row("first point", drop, 0.0, 1.0);
         row("on a slope", drop, 0.25, 0.75);
         row("behind the jump", drop, 0.5, 0.75);
+        row("last point", drop, 1.0, 0.25);
         row("on the floor before the curve", {{0.25, 1}, {0.5, 0.75}, {0.5, 0.5}}, 0.125, 1.0);
         row("no curve", {}, 0.5, notANumber);
         row("no place", drop, notANumber, notANumber);

@@ -126,6 +126,8 @@ private Q_SLOTS:
         row("reversed, above gives the second target", 3.0, 0.0, -40.0, 1.0);
         row("empty range", 0.0, 0.0, 0.0, 0.0);
         row("NaN value", notANumber, -40.0, 0.0, 0.0);
+        row("NaN bound", -10.0, notANumber, 0.0, 0.0);
+        row("infinite value", infinity, -40.0, 0.0, 1.0);
         row("infinite bound", -10.0, -infinity, 0.0, 0.0);
         row("range wider than the numbers", 0.0, -1.7e308, 1.7e308, 0.0);
     }

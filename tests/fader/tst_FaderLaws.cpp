@@ -69,11 +69,13 @@ private Q_SLOTS:
         row("linear", FaderLaw::Linear, -80.0, 10.0, -35.0, 0.5);
         row("exponential at -20", FaderLaw::Exponential, -80.0, 10.0, -20.0, 0.292);
         row("exponential at 0", FaderLaw::Exponential, -80.0, 10.0, 0.0, 0.669);
+        row("table", FaderLaw::Table, -80.0, 10.0, 0.0, 0.75);
         row("table under its own first point", FaderLaw::Table, -81.0, 10.0, -80.5, 0.0);
         row("over the range", FaderLaw::Linear, -80.0, 10.0, 25.0, 1.0);
         row("infinite", FaderLaw::Linear, -80.0, 10.0, infinity, 1.0);
         row("not a number", FaderLaw::Exponential, -80.0, 10.0, notANumber, 0.0);
         row("reversed", FaderLaw::Linear, 10.0, -80.0, -57.5, 0.75);
+        row("reversed exponential", FaderLaw::Exponential, 10.0, -80.0, 0.0, 1.0 - 0.669);
         row("a reversed table is linear", FaderLaw::Table, 10.0, -80.0, -57.5, 0.75);
         row("overflowing exponential is linear", FaderLaw::Exponential, 0.0, 40000.0, 10000.0, 0.25);
         row("empty range", FaderLaw::Table, 5.0, 5.0, 5.0, 0.0);
@@ -123,6 +125,7 @@ private Q_SLOTS:
         row("continuous", -80.0, 10.0, 0.0, -12.2, -12.2);
         row("step that is not a number", -80.0, 10.0, notANumber, -12.2, -12.2);
         row("upper end off the grid", -80.0, 10.0, 40.0, 9.0, 10.0);
+        row("under the upper end", -80.0, 10.0, 40.0, 3.0, 0.0);
         row("reversed", 10.0, -80.0, 0.5, -12.2, -12.0);
         row("outside", -80.0, 10.0, 0.5, 25.0, 10.0);
     }

@@ -18,6 +18,7 @@ private Q_SLOTS:
         // 14 of 232 pixels are 5.43 dB, so 5 and -5 have no room.
         row("usual size", usual, 14.0 / 232.0, {0, -80, 10, -10, -20, -30, -40, -50, -60});
         row("tall", usual, 14.0 / 352.0, {0, -80, 10, 5, -5, -10, -20, -30, -40, -50, -60});
+        row("short", usual, 14.0 / 72.0, {0, -80, -20, -40, -60});
         row("no room but for 0 dB", usual, 1.0, {0});
         // The table gives -50…-80 dB the lowest twentieth.
         row("table", {-80.0, 10.0, FaderLaw::Table}, 0.06, {0, -80, 10, 5, -5, -10, -20, -30});

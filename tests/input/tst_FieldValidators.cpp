@@ -29,18 +29,23 @@ private Q_SLOTS:
         row("in range", "3.5", -10.0, 10.0, 1, QValidator::Acceptable);
         row("comma separates", "3,5", -10.0, 10.0, 1, QValidator::Acceptable);
         row("no digit before the separator", ".5", -10.0, 10.0, 1, QValidator::Acceptable);
+        row("on the bound", "-10", -10.0, 10.0, 1, QValidator::Acceptable);
         row("true minus", "\u22123,5", -10.0, 10.0, 1, QValidator::Acceptable);
         row("empty", "", -10.0, 10.0, 1, QValidator::Intermediate);
         row("sign alone", "-", -10.0, 10.0, 1, QValidator::Intermediate);
         row("separator alone", ",", -10.0, 10.0, 1, QValidator::Intermediate);
         row("fraction to come", "5.", -10.0, 10.0, 1, QValidator::Intermediate);
         row("above the range", "11", -10.0, 10.0, 1, QValidator::Intermediate);
+        row("below the range", "2", 20.0, 20000.0, 1, QValidator::Intermediate);
         row("blank behind", "5 ", -10.0, 10.0, 1, QValidator::Intermediate);
+        row("blank inside", "5 0", -10.0, 100.0, 1, QValidator::Invalid);
         row("second separator", "1.2,", -10.0, 10.0, 2, QValidator::Invalid);
+        row("sign in the middle", "1-", -10.0, 10.0, 2, QValidator::Invalid);
         row("exponent", "1e3", 0.0, 1e4, 2, QValidator::Invalid);
         row("minus without negative numbers", "-", 0.0, 10.0, 1, QValidator::Invalid);
         row("separator without decimals", "5.", 0.0, 10.0, 0, QValidator::Invalid);
         row("too many decimals", "0.12", 0.0, 10.0, 1, QValidator::Invalid);
+        row("any number of decimals", "0.123456", 0.0, 10.0, -1, QValidator::Acceptable);
         row("15 digits", "1234567890.12345", 0.0, infinity, 5, QValidator::Acceptable);
         row("16 digits", "12345678901.12345", 0.0, infinity, 5, QValidator::Invalid);
         row("other digits", "\u0663", 0.0, 10.0, 0, QValidator::Invalid);
@@ -61,6 +66,7 @@ private Q_SLOTS:
     {
         const Rows<QString, int, QValidator::State> row;
         row("in range", "48", 1, QValidator::Acceptable);
+        row("plus", "+48", 1, QValidator::Acceptable);
         row("outside", "97", 1, QValidator::Intermediate);
         row("larger than an int, 10 digits", "9999999999", 1, QValidator::Intermediate);
         row("11 digits", "99999999999", 1, QValidator::Invalid);
@@ -68,6 +74,7 @@ private Q_SLOTS:
         row("true minus", "\u22123", -5, QValidator::Acceptable);
         row("separator", "4.0", 1, QValidator::Invalid);
         row("blank in front", " 4", 1, QValidator::Intermediate);
+        row("hexadecimal", "0x1", 1, QValidator::Invalid);
     }
 
     void integers()
@@ -100,10 +107,13 @@ private Q_SLOTS:
     void pins_data()
     {
         const Rows<QString, bool, QValidator::State> row;
+        row("shortest", "1470", false, QValidator::Acceptable);
         row("too short", "147", false, QValidator::Intermediate);
+        row("longest", "14701470", false, QValidator::Acceptable);
         row("too long", "147014701", false, QValidator::Invalid);
         row("letter", "14a", false, QValidator::Invalid);
         row("repeated digit", "7777", false, QValidator::Intermediate);
+        row("run up", "23456", false, QValidator::Intermediate);
         row("run down", "9876", false, QValidator::Intermediate);
         row("broken run", "12346", false, QValidator::Acceptable);
         row("run where allowed", "1234", true, QValidator::Acceptable);

@@ -35,9 +35,12 @@ private Q_SLOTS:
 
         add("ascii: both ends of the range", Rule::Ascii, u" ~"_s, Acceptable);
         add("ascii: no delete", Rule::Ascii, u"\u007F"_s, Invalid, ForbiddenCharacter);
+        add("alphanumeric", Rule::Alphanumeric, u"azAZ09"_s, Acceptable);
 
         add("alphanumeric: no underscore", Rule::Alphanumeric, u"a_b"_s, Invalid, ForbiddenCharacter);
         add("alphanumeric: no foreign digit", Rule::Alphanumeric, u"\u0663"_s, Invalid, ForbiddenCharacter);
+        add("name: inner blank", Rule::Name, u"Main Hall"_s, Acceptable);
+        add("name: empty", Rule::Name, u""_s, Intermediate, TooShort);
 
         add("name: leading blank", Rule::Name, u" a"_s, Intermediate, OuterBlank);
         add("name: trailing no-break space", Rule::Name, u"a\u00A0"_s, Intermediate, OuterBlank);
@@ -57,6 +60,8 @@ private Q_SLOTS:
         const QString label63(63, u'a');
         add("dns: labels", Rule::DnsName, u"a-1.example.com"_s, Acceptable);
         add("dns: no capital", Rule::DnsName, u"Amp"_s, Invalid, ForbiddenCharacter);
+        add("dns: no underscore", Rule::DnsName, u"a_b"_s, Invalid, ForbiddenCharacter);
+        add("dns: empty", Rule::DnsName, u""_s, Intermediate, TooShort);
         add("dns: leading dot", Rule::DnsName, u".a"_s, Intermediate, EmptyLabel);
         add("dns: trailing dot", Rule::DnsName, u"a."_s, Intermediate, EmptyLabel);
         add("dns: leading hyphen", Rule::DnsName, u"a.-b"_s, Intermediate, LabelHyphen);
@@ -66,11 +71,14 @@ private Q_SLOTS:
         const QString labels192 = (label63 + u'.').repeated(3);
         add("dns: longest name", Rule::DnsName, labels192 + QString(61, u'b'), Acceptable);
         add("dns: too long", Rule::DnsName, labels192 + QString(62, u'b'), Invalid, TooLong);
+        add("cap dns: capitals", Rule::CapDnsName, u"Amp-7.Rack"_s, Acceptable);
         add("cap dns: no umlaut", Rule::CapDnsName, u"\u00C4"_s, Invalid, ForbiddenCharacter);
 
         add("hex: pairs in both cases", Rule::Hex, u"09afAF"_s, Acceptable);
+        add("hex: empty", Rule::Hex, u""_s, Acceptable);
         add("hex: half a byte", Rule::Hex, u"abc"_s, Intermediate, OddLength);
         add("hex: no g", Rule::Hex, u"ag"_s, Invalid, ForbiddenCharacter);
+        add("password: eight", Rule::Password, u"!Aa0~xyz"_s, Acceptable);
 
         add("password: seven", Rule::Password, u"!Aa0~xy"_s, Intermediate, TooShort);
         add("password: no blank", Rule::Password, u"correct horse"_s, Invalid, ForbiddenCharacter);
@@ -101,7 +109,9 @@ private Q_SLOTS:
         };
         using Rule = StringRule;
 
+        row("at the minimum", Rule::Any, {.minimumLength = 3}, u"abc"_s, {});
         row("below the minimum", Rule::Any, {.minimumLength = 3}, u"ab"_s, tooShort(3));
+        row("at the maximum", Rule::Any, {.maximumLength = 3}, u"abc"_s, {});
         row("above the maximum", Rule::Any, {.maximumLength = 3}, u"abcd"_s, tooLong(3));
         row("pairs count once", Rule::Any, {.maximumLength = 2}, u"\U0001F3A7\U0001F3A7"_s, {});
         row("bytes are those of UTF-8", Rule::Any, {.maximumBytes = 3}, u"a\u00FC"_s, {});
@@ -110,7 +120,9 @@ private Q_SLOTS:
         row("negative limits are not set", Rule::Any, {-1, -1, -1, {}}, u"abc"_s, {});
         row("minimum above maximum accepts nothing", Rule::Any, {.minimumLength = 4, .maximumLength = 2}, u"ab"_s,
             tooShort(4));
+        row("password minimum raised", Rule::Password, {.minimumLength = 10}, u"abcdefghi"_s, tooShort(10));
         row("password minimum not lowered", Rule::Password, {.minimumLength = 4}, u"abcdefg"_s, tooShort(8));
+        row("dns maximum lowered", Rule::DnsName, {.maximumLength = 5}, u"abcdef"_s, tooLong(5));
         row("dns maximum not raised", Rule::DnsName, {.maximumLength = 300}, u"a."_s.repeated(127), tooLong(253));
         row("limits apply to patterns", Rule::Pattern, {.maximumLength = 2, .pattern = StringPattern(u"a+"_s)},
             u"aaa"_s, tooLong(2));

@@ -62,6 +62,7 @@ private Q_SLOTS:
         add("bool has no unit", unit, true, u"On"_s);
         add("six digits", {}, 3.14159265, u"3.14159"_s);
         add("large number", {}, 1234567, u"1.23457e+06"_s);
+        add("negative zero", {}, -0.0, u"0"_s);
         add("float reads as its decimal", {}, 0.1f, u"0.1"_s);
         add("unit and prefix", unit, 2.5, u"~2.5\u00A0ms"_s);
         add("infinity", unit, -infinity, u"\u2212\u221E"_s);
@@ -75,6 +76,8 @@ private Q_SLOTS:
         add("entry for an int", texts, 0, u"Off"_s);
         add("entry for negative zero", texts, -0.0, u"Off"_s);
         add("entry for a fraction", texts, -3.5, u"Low"_s);
+        add("entry for a large number", texts, 1e6, u"Max"_s);
+        add("entry for a bool", texts, true, u"Yes"_s);
         add("entry for the empty text", texts, u""_s, u"unnamed"_s);
         add("entry that blanks out", texts, 7, u""_s);
         add("number near an entry", texts, 1e-9, u"1e-09\u00A0ms"_s);
@@ -95,11 +98,14 @@ private Q_SLOTS:
         const Properties unit{{u"unit"_s, u"ms"_s}};
         const Properties texts{{u"texts"_s, QVariantMap{{u"0"_s, u"Off"_s}, {u"auto"_s, u"Automatic"_s}}}};
 
+        row("own large form", {}, u"1.5e+06"_s, QVariant(1.5e6));
         row("comma and unit", unit, u"2,5 MS"_s, QVariant(2.5));
         row("bool", {}, u"on"_s, QVariant(true));
         row("entry before bool", texts, u"OFF"_s, QVariant(0.0));
         row("entry for a text", texts, u"automatic"_s, QVariant(u"auto"_s));
+        row("text as it is", {}, u"Stage left"_s, QVariant(u"Stage left"_s));
         row("a unit means numbers", unit, u"Stage left"_s, QVariant());
+        row("empty", {}, u"  "_s, QVariant());
         row("null text", {}, u"\u2013"_s, QVariant());
     }
 
@@ -130,6 +136,7 @@ private Q_SLOTS:
         add("half up", whole, 2.5, u"3"_s);
         add("half down below zero", whole, -2.5, u"-3"_s);
         add("half read as a decimal", {}, 0.05, u"0.1"_s);
+        add("far below the last digit", whole, 1e-30, u"0"_s);
         add("carry", {}, 9.96, u"10.0"_s);
         add("negative zero", {}, -0.0, u"0.0"_s);
         add("rounded to zero", {}, -0.04, u"0.0"_s);
@@ -137,12 +144,15 @@ private Q_SLOTS:
         add("decimals above range", {{u"decimals"_s, 99}}, 0.5, u"0.500000000000000"_s);
         add("decimals below range", {{u"decimals"_s, -2}}, 12.5, u"13"_s);
         add("no exponent", whole, 1e20, u"100000000000000000000"_s);
+        add("NaN", {}, notANumber, u"\u2013"_s);
         add("infinity", {{u"unit"_s, u"dB"_s}}, infinity, u"\u221E"_s);
         add("negative infinity", {}, -infinity, u"\u2212\u221E"_s);
 
         add("scale", {{u"factor"_s, 1.8}, {u"offset"_s, 32}, {u"unit"_s, u"\u00B0F"_s}}, 37, u"98.6\u00A0\u00B0F"_s);
         add("scale leaves a half", {{u"factor"_s, 100}, {u"decimals"_s, 0}}, 0.145, u"15"_s);
         add("factor 0", {{u"factor"_s, 0}}, 3, u"\u2013"_s);
+        add("factor NaN", {{u"factor"_s, notANumber}}, 3, u"\u2013"_s);
+        add("offset infinite", {{u"offset"_s, infinity}}, 3, u"\u2013"_s);
 
         add("plus", plus, 3, u"+3.0\u00A0dB"_s);
         add("no plus at zero", plus, 0.04, u"0.0\u00A0dB"_s);
@@ -153,11 +163,13 @@ private Q_SLOTS:
         add("kilo rounds to three digits", kilo, -12345, u"-12.3\u00A0kHz"_s);
         add("kilo half away from zero", kilo, 1005000, u"1010\u00A0kHz"_s);
         add("kilo carry", kilo, 9995, u"10\u00A0kHz"_s);
+        add("below kilo", kilo, 999.9, u"999.9\u00A0Hz"_s);
         add("rounded up into kilo", kilo, 999.96, u"1\u00A0kHz"_s);
         add("kilo without unit", {{u"kilo"_s, true}}, 1250, u"1.25\u00A0k"_s);
 
         add("at the minimum", bounds, -100, u"\u2212\u221E"_s);
         add("below the minimum", bounds, -infinity, u"\u2212\u221E"_s);
+        add("just above the minimum", bounds, -99.9, u"-99.9\u00A0dB"_s);
         add("beyond the maximum", bounds, 13, u"max"_s);
         add("minimum is a value, not what is shown",
             {{u"minimum"_s, 0}, {u"minimumText"_s, u"Off"_s}, {u"offset"_s, 5}}, 0, u"Off"_s);
@@ -191,11 +203,16 @@ private Q_SLOTS:
         add("outer blanks", {}, u" \t1.5\u00A0"_s, 1.5);
         add("own point", {{u"decimalPoint"_s, u"\u066B"_s}}, u"1\u066B5"_s, 1.5);
         add("typographic minus", {}, u"\u22121.5"_s, -1.5);
+        add("plus", {}, u"+.5"_s, 0.5);
+        add("trailing point", {}, u"5."_s, 5.0);
         add("two points", {}, u"1,234.5"_s, {});
         add("sign alone", {}, u"-"_s, {});
+        add("point alone", {}, u"."_s, {});
+        add("empty", {}, u""_s, {});
         add("blank after the sign", {}, u"- 5"_s, {});
         add("exponent", {}, u"1e3"_s, {});
         add("foreign digits", {}, u"\u0663"_s, {});
+        add("beyond double", {}, QString(400, u'9'), {});
 
         add("unit in any case, no blank", decibel, u"-6DB"_s, -6.0);
         add("half a unit", decibel, u"-6 d"_s, {});
@@ -205,6 +222,7 @@ private Q_SLOTS:
         add("maximum text", decibel, u"FULL"_s, 12.0);
         add("minus infinity in letters", decibel, u"-Inf dB"_s, -100.0);
         add("minus infinity as signs", decibel, u"\u2212\u221E"_s, -100.0);
+        add("infinity", decibel, u"inf"_s, 12.0);
         add("infinity without bounds", {}, u"-inf"_s, -infinity);
         add("infinity before a unit of its last letter", {{u"unit"_s, u"F"_s}}, u"-inf"_s, -infinity);
         add("infinity with a negative factor", {{u"factor"_s, -1}, {u"minimum"_s, 0}}, u"inf"_s, 0.0);
@@ -212,12 +230,15 @@ private Q_SLOTS:
 
         add("kilo with unit", hertz, u"1.25 kHz"_s, 1250.0);
         add("kilo with blanks", hertz, u"f =  1,25 K hz"_s, 1250.0);
+        add("kilo alone", hertz, u"k"_s, {});
         add("kilo exact", hertz, u"1.001k"_s, 1001.0);
         add("unit that contains k", {{u"unit"_s, u"kHz"_s}}, u"1.25 kHz"_s, 1.25);
 
         add("scale", {{u"factor"_s, 1.8}, {u"offset"_s, 32}}, u"98.6"_s, 37.0);
+        add("scale leaves no noise", {{u"factor"_s, 0.1}}, u"0.3"_s, 3.0);
         add("kilo before scale", {{u"factor"_s, 1000}}, u"2k"_s, 2.0);
         add("factor 0", {{u"factor"_s, 0}}, u"1"_s, {});
+        add("factor NaN", {{u"factor"_s, notANumber}}, u"1"_s, {});
         add("tiny factor overflows", {{u"factor"_s, 1e-300}}, u"1e300"_s, {});
         add("entry", {{u"texts"_s, QVariantMap{{u"0"_s, u"Off"_s}}}}, u"off"_s, 0.0);
     }

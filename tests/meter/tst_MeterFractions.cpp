@@ -15,6 +15,7 @@ private Q_SLOTS:
         const Rows<double, double, double, double> row;
         row("inside", -80.0, 6.0, -20.0, -20.0);
         row("below", -80.0, 6.0, -100.0, -80.0);
+        row("above", -80.0, 6.0, 20.0, 6.0);
         row("NaN", -80.0, 6.0, notANumber, -80.0);
         row("infinite", -80.0, 6.0, infinity, 6.0);
         row("reversed range ends at its maximum", 6.0, -80.0, -20.0, -80.0);
@@ -38,9 +39,11 @@ private Q_SLOTS:
         row("level and zone over the maximum", -80.0, 20.0, 0.0, 30.0, 40.0, 1.0, 1.0, -0.5);
         row("empty range", 0.0, 0.0, 0.0, 5.0, 5.0, 0.0, 0.0, 0.0);
         row("split at the maximum", -80.0, 20.0, 20.0, -30.0, -30.0, 0.5, 0.0, 0.5);
+        row("split at the minimum", -80.0, 20.0, -80.0, -30.0, -30.0, 0.5, 0.5, 0.0);
         row("NaN level", -80.0, 20.0, 0.0, notANumber, 10.0, 0.0, 0.0, 0.0);
         row("NaN minimum", notANumber, 20.0, 0.0, 5.0, 10.0, 0.0, 0.25, 0.0);
         row("infinite maximum", -80.0, infinity, 0.0, 5.0, 10.0, 0.0, 0.0, -0.125);
+        row("infinite minimum", -infinity, 20.0, 0.0, 5.0, 10.0, 0.0, 0.25, 0.0);
     }
 
     void fractions()

@@ -43,8 +43,10 @@ private Q_SLOTS:
         row("upwards", Factors{0.5, 0.7, 0.8}, false, false, 1.0, "G50-100 Y30-50 R20-30 -0-20");
         row("downwards", Factors{0.5, 0.7, 0.8}, false, true, 1.0, "G0-50 Y50-70 R70-80 -80-100");
         row("rightwards", Factors{0.5, 0.5, 0.5}, true, false, 1.0, "G0-50 -50-100");
+        row("leftwards", Factors{0.5, 0.5, 0.5}, true, true, 1.0, "G50-100 -0-50");
         row("lower zones hide higher ones", Factors{0.8, 0.5, 0.9}, true, false, 1.0, "G0-80 R80-90 -90-100");
         row("out of range", Factors{-1.0, 0.5, 7.0}, true, false, 1.0, "Y0-50 R50-100");
+        row("not a number", Factors{notANumber, notANumber, notANumber}, true, false, 1.0, "-0-100");
         row("whole pixels", Factors{0.333, 0.333, 0.333}, true, false, 1.0, "G0-33 -33-100");
         row("whole device pixels", Factors{0.333, 0.333, 0.333}, true, false, 2.0, "G0-33.5 -33.5-100");
     }

@@ -167,6 +167,8 @@ private Q_SLOTS:
     void factors()
     {
         RMeterBase meter;
+        for (const auto &[name, value] : {std::pair("valueMaxYellow", 1.0), {"valueMaxRed", 3.0}, {"valueSplit", 0.0}})
+            QCOMPARE(meter.property(name).toDouble(), value);
         meter.setValue(0.0);
         QCOMPARE(meter.getCurrentValueFactor(), 68.0 / 86.0);
         QCOMPARE(meter.getCurrentValueYellowFactor(), 77.0 / 86.0);

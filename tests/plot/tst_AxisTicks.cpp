@@ -36,6 +36,7 @@ private Q_SLOTS:
         row("zero has no sign", -0.5, 10.0, 2.0, u"0 10"_s);
         row("small values", 0.0, 2e-7, 4.0, u"0 1e-07 2e-07"_s);
         row("count 0", 0.0, 1.0, 0.0, {});
+        row("empty range", 5.0, 5.0, 10.0, {});
         row("reversed range", 6.0, -80.0, 10.0, {});
         row("NaN bound", 0.0, Limits::quiet_NaN(), 10.0, {});
         row("infinite bound", 0.0, Limits::infinity(), 10.0, {});

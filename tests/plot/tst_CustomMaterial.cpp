@@ -11,6 +11,17 @@ class tst_CustomMaterial : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void comparesByIdentity()
+    {
+        const CustomMaterial first;
+        const CustomMaterial second;
+        QVERIFY(first.flags().testFlag(QSGMaterial::Blending));
+        QCOMPARE(first.type(), second.type());
+        QCOMPARE(first.compare(&first), 0);
+        QVERIFY(first.compare(&second) != 0);
+        QVERIFY((first.compare(&second) < 0) != (second.compare(&first) < 0));
+    }
+
     void dirtyOnChangeOnly()
     {
         CustomMaterial material;

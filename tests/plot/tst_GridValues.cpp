@@ -53,10 +53,12 @@ private Q_SLOTS:
         row("multiples", {-25, 25, linear}, 10.0, 0.0, false, Values{-20, -10, 0, 10, 20});
         row("with ends", {-25, 25, linear}, 20.0, 0.0, true, Values{-25, -20, 0, 20, 25});
         row("ends that are multiples", {-20, 20, linear}, 20.0, 0.0, true, Values{-20, 0, 20});
+        row("ends only", {1, 9, linear}, 100.0, 0.0, true, Values{1, 9});
         row("origin", {0, 10, linear}, 4.0, 1.0, false, Values{1, 5, 9});
         row("rounding keeps the bound", {0, 0.7, linear}, 0.1, 0.0, false,
             Values{0, 0.1, 0.2, 0.3, 0.4, 0.5, 0.6, 0.7});
         row("backwards", {10, -10, linear}, 10.0, 0.0, false, Values{-10, 0, 10});
+        row("no multiple inside", {1, 9, linear}, 100.0, 0.0, false, Values());
         row("empty range", {1, 1, linear}, 1.0, 0.0, false, Values());
         row("logarithmic, the step does not matter", {80, 3000, logarithmic}, -1.0, 0.0, false,
             Values{80, 90, 100, 200, 300, 400, 500, 600, 700, 800, 900, 1000, 2000, 3000});
@@ -83,10 +85,13 @@ private Q_SLOTS:
         row("NaN", hundred, notANumber, 0.0, false);
         row("1001 lines", hundred, 0.1, 0.0, false);
         row("1000 lines", hundred, 0.10005, 0.0, true);
+        row("denormal", hundred, 5e-324, 0.0, false);
+        row("infinite", hundred, infinity, 0.0, false);
         row("origin without steps in between", hundred, 1.0, 1e30, false);
         row("origin with half of the steps", hundred, 1.0, 1e16, false);
         row("origin far away", hundred, 1.0, 1e15, true);
         row("infinite origin", hundred, 1.0, infinity, false);
+        row("NaN origin", hundred, 1.0, notANumber, false);
         row("range of large numbers", {1e17, 1e17 + 64, linear}, 1.0, 1e17, false);
         row("range of large numbers, wide steps", {1e17, 1e17 + 64, linear}, 32.0, 1e17, true);
     }
@@ -105,6 +110,7 @@ private Q_SLOTS:
         const AxisRange decibels{-60, 20, linear};
         row("enough room", decibels, 9, Values{-60, -50, -40, -30, -20, -10, 0, 10, 20});
         row("every 2nd", decibels, 8, Values{-60, -40, -20, 0, 20});
+        row("every 5th", decibels, 4, Values{-50, 0});
         row("every 10th", decibels, 1, Values{0});
         row("one remains", {10, 40, linear}, 1, Values{20});
         row("more than 1000 before", {0, 100000, linear}, 3, Values{0, 50000, 100000});
@@ -146,6 +152,7 @@ private Q_SLOTS:
         const Rows<double, int> row;
         row("0.1", 0.1, 1);
         row("2.5", 2.5, 1);
+        row("negative", -0.5, 1);
         row("a third", 1.0 / 3.0, 10);
         row("NaN", notANumber, 0);
         row("infinite", infinity, 0);

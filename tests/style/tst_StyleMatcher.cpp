@@ -54,6 +54,7 @@ private Q_SLOTS:
         row("class alone", ".x", "A.y x", {".x [0,1,0]"});
         row("every piece of a compound selector", "A.x::s, A.y, A::t, B.x", "A.x::s", {"A.x::s [1,1,1]"});
         row("pieces in any order", "A.y.x::t::s, A::s.x", "A.x y::s t", {"A::s.x [1,1,1]", "A.y.x::t::s [2,2,1]"});
+        row("class of another element", "A.x", "A/B.x", {});
         row("state before class before type", "A.x.y, A::s, .x, A", "A.x y::s",
             {"A [0,0,1]", ".x [0,1,0]", "A.x.y [0,2,1]", "A::s [1,0,1]"});
 
@@ -62,6 +63,7 @@ private Q_SLOTS:
         row("descendant at depth 3", "A B", "A/X/X/B", {"A B [0,0,2]"});
         row("an element is not its own ancestor", "A A, A > A", "A", {});
         row("child and descendant reach the same element", "A > B, A B", "A/B", {"A > B [0,0,2]", "A B [0,0,2]"});
+        row("descendant of a child", "A B > C", "A/X/B/C", {"A B > C [0,0,3]"});
         row("child of a descendant", "A > B C", "A/B/X/C", {"A > B C [0,0,3]"});
         row("child step counts from where the descendant matched", "A > B C", "A/X/B/C", {});
         row("class alone as ancestor", ".x B", "A.x/X/B", {".x B [0,1,1]"});

@@ -65,9 +65,12 @@ private Q_SLOTS:
         const Rows<QString, QString, bool> row;
         row("blanks only", "A/B.x y::z", "A/B.  x y ::z ", true);
         row("order of classes", "A.x y", "A.y x", false);
+        row("order of states", "A::x y", "A::y x", false);
         row("repeated class", "A.x", "A.x x", false);
         row("class or state", "A.x", "A::x", false);
+        row("words do not run together", "A.xy", "A.x y", false);
         row("other parent", "A/C", "B/C", false);
+        row("other class of the parent", "A/C", "A.x/C", false);
         row("other depth", "A", "A/A", false);
         row("case matters", "A.x", "a.x", false);
     }

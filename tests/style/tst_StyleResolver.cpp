@@ -41,6 +41,8 @@ private Q_SLOTS:
         row("later line wins over the larger column", "          A.x { k: 1 }\nA.y { k: 2 }", "A.x y", "k=2");
         row("more specific wins though earlier", "A.x { k: 1 }\nA { k: 2 }", "A.x", "k=1");
         row("later rule of the same selector", "A { k: 1; l: 1 }\nA { k: 2 }", "A", "k=2 l=1");
+        row("later declaration of a block", "A { k: 1; k: 2 }", "A", "k=2");
+        row("names are merged in order", "A { m: 1; k: 1 }\nA.x { l: 2 }", "A.x", "k=1 l=2 m=1");
         row("each name on its own", "A.x { k: 1; l: 1 }\nA.y { l: 2; m: 2 }", "A.x y", "k=1 l=2 m=2");
     }
 

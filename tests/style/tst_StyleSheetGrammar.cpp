@@ -40,6 +40,8 @@ private Q_SLOTS:
         row("blank behind the dot", "A. red {}", "1:3: syntax error, expected a class word after \".\"", "A. red {}");
         row("empty argument", "A { a: rgb(1, ) }", "1:15: syntax error, expected an argument after \",\"",
             "A { a: rgb(1, ) }");
+        row("call in a call", "A { a: f(g(1)) }", "1:11: syntax error, expected \",\" or \")\" after the argument",
+            "A { a: f(g(1)) }");
         row("font face with two sources", "@font-face { src: url(a); src: url(b) }",
             "1:27: syntax error, expected \"}\" after the source of the font",
             "@font-face { src: url(a); src: url(b) }");
@@ -47,15 +49,23 @@ private Q_SLOTS:
         row("block not closed", "A { a: b\r", "2:1: syntax error, expected a declaration or \"}\"", "");
         row("brace too many", "A {} }", "1:6: syntax error, expected a rule, a variable definition or \"@font-face\"",
             "A {} }");
+        row("semicolon twice", "A { a: b;; }", "1:10: syntax error, expected a declaration or \"}\"", "A { a: b;; }");
         row("comma at the end of values", "A { a: b, }", "1:11: syntax error, expected a value", "A { a: b, }");
         row("element of a state alone", "A ::hovered {}", "1:3: syntax error, expected \"{\"", "A ::hovered {}");
+        row("selector of a state alone", "::hovered {}",
+            "1:1: syntax error, expected a rule, a variable definition or \"@font-face\"", "::hovered {}");
         row("nothing behind the child mark", "A > {}",
             "1:5: syntax error, expected a type name or \".\" and a class word after \">\"", "A > {}");
         row("no state word", "A::1 {}", "1:4: syntax error, expected a state word after \"::\"", "A::1 {}");
         row("number with unit", "A { a: 14px; }", "1:8: syntax error, 14px is no number", "A { a: 14px; }");
         row("letters in a colour", "A {\n a: #ff88zz; }", "2:5: syntax error, #ff88zz is no colour", " a: #ff88zz; }");
+        row("letter first in a colour, no semicolon", "A { a: #z0 b: c }", "1:8: syntax error, #z0 is no colour",
+            "A { a: #z0 b: c }");
         row("letter last in a colour, no semicolon", "A { a: #0z b: c }", "1:8: syntax error, #0z is no colour",
             "A { a: #0z b: c }");
+        row("name behind quotes", "A { a: '#0'z; }",
+            "1:13: syntax error, expected \":\" after the name of the property", "A { a: '#0'z; }");
+        row("hash without digits", "A { a: #; }", "1:8: syntax error, expected a value", "A { a: #; }");
         row("quote not closed", "A {\n a: \"b;\n}\n",
             "2:5: syntax error, expected the same quote at the end of the text", " a: \"b;");
         row("comment not closed", "A {}\n /* B\n{}", "2:2: syntax error, expected \"*/\" at the end of the comment",
@@ -64,6 +74,7 @@ private Q_SLOTS:
             "2:1: syntax error, expected \",\" or \")\" after the argument", "; b: c }");
         row("definition without semicolon", "@a = 1\nA {}", "2:1: syntax error, expected \";\" after the definition",
             "A {}");
+        row("definition without value", "@a = ;", "1:6: syntax error, expected a value", "@a = ;");
         row("definition called font-face", "@font-face = 1;", "1:12: syntax error, expected \"{\"", "@font-face = 1;");
         row("font face with another key", "@font-face { url: url(a) }", "1:14: syntax error, expected \"src\"",
             "@font-face { url: url(a) }");
@@ -135,17 +146,23 @@ private Q_SLOTS:
         const std::string megabyte(1000000, 'a');
 
         row("open brackets", "A { k: " + repeated("f(", 20000), false);
+        row("open braces", repeated("A{", 20000), false);
         row("open comments", repeated("/*", 500000), false);
+        row("open quotes", "A { k: " + repeated("\"'", 500000), false);
         row("comments one after another", repeated("/**/", 300000), true);
         row("long names", megabyte + "{" + megabyte + ":" + megabyte + "}", true);
+        row("long quoted text", "A{k:'" + megabyte + "'}", true);
         row("long comment before a bracket that does not come", "A{k:a/*" + megabyte + "*/}", true);
         row("selector of many elements", repeated("A ", 200000) + "{k:v}", true);
         row("selector of many states", "A" + repeated("::s", 200000) + "{k:v}", true);
+        row("many selectors", repeated("A,", 200000) + "A{k:v}", true);
+        row("many values", "A{k:v" + repeated(",v", 200000) + "}", true);
         row("many selectors for many declarations", repeated("A,", 100000) + "A{" + repeated("k:v ", 100000) + "}",
             false);
         row("words and blanks in an argument", "A{k:f(" + repeated("a ", 300000) + ")}", true);
         row("variables that double", doubling + "A{k:@v63}", false);
         row("long variable many times", "@v='" + megabyte + "';A{k:x" + repeated(",@v", 10000) + "}", false);
+        row("bytes that are no text", "A{k:'" + std::string("\0\xff\x80\x01", 4) + "'}", true);
     }
 
     void hostileTexts()

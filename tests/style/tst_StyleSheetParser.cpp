@@ -16,12 +16,14 @@ private Q_SLOTS:
         row("type", "RButton", {"RButton"});
         row("descendant", "RAppBarButton::hovered RIcon", {"RIcon ::desc:: RAppBarButton & ::hovered"});
         row("direct child", "RPane>RText", {"RText RPane"});
+        row("blanks around the child mark", "RPane \t>\r\n RText", {"RText RPane"});
         row("class, then state", "A.red::x", {"A & .red & ::x"});
         row("state, then class", "A::x.red", {"A & ::x & .red"});
         row("class alone with state, below a class alone", ".red::x .blue", {".blue ::desc:: .red & ::x"});
         row("three elements", "A.a B > C::c", {"C & ::c B ::desc:: A & .a"});
         row("list", "A, B.b ,C", {"A", "B & .b", "C"});
         row("comment and blanks between elements", "A /* > */ B", {"B ::desc:: A"});
+        row("comment alone between elements", "A/**/B", {"B ::desc:: A"});
         row("names with hyphen, underscore and digits", "_a-1.v-1_::s2-", {"_a-1 & .v-1_ & ::s2-"});
     }
 
@@ -50,16 +52,21 @@ private Q_SLOTS:
         row("text beyond ASCII", "k: \"gr\xc3\xbcn\"; /* \xe2\x82\xac */", {QString::fromUtf8("k=[gr\xc3\xbcn]")});
         row("comments everywhere", "k/*1*/:/*2*/a/*3*/,/*4*/b/*5*/;/*6*/", {"k=[a][b]"});
         row("call", "k: rgba(0, 86 ,145,\r\n 0.5)", {"k=rgba(<0><86><145><0.5>)"});
+        row("call without arguments", "k: now(), now( )", {"k=now()now()"});
+        row("blanks before the bracket", "k: rgb (1)", {"k=rgb(<1>)"});
         row("bare words, percentages and quotes as arguments", "k: f(-5, 50%, white, ' a,b) ')",
             {"k=f(<-5><50%><white>< a,b) >)"});
         row("comments among arguments", "k: f(/*a*/1/*b*/, // c\n 2 // d\n)", {"k=f(<1/*b*/><2>)"});
+        row("argument with inner blanks", "k: f( a  b )", {"k=f(<a  b>)"});
         row("no variable in arguments", "k: f(@a)", {"k=f(<@a>)"});
         row("url without bracket is a word", "k: url, urls(1), url", {"k=[url]urls(<1>)[url]"});
         row("bare address", "k: url(qrc:/a/b.png)", {"k=url(<qrc:/a/b.png>)"});
         row("address with two slashes", "k: url( http://host//x.png ) l: url(//host/x)",
             {"k=url(<http://host//x.png>)", "l=url(<//host/x>)"});
         row("quoted address", "k: url(\"file:///x y.ttf\" )", {"k=url(<file:///x y.ttf>)"});
+        row("block comments beside an address", "k: url(/*a*/ b.png /*c*/)", {"k=url(<b.png>)"});
         row("comma divides bare addresses", "k: url(a,b), url('a,b')", {"k=url(<a><b>)url(<a,b>)"});
+        row("other address in a call", "k: f(http://host/x)", {"k=f(<http://host/x>)"});
     }
 
     void values()
@@ -80,6 +87,7 @@ private Q_SLOTS:
         row("one line", "A{b:c;d:e}", {1, 3, 1, 7});
         row("CR LF is one line end", "A {\r\n\r\n  b: c\r\n}", {3, 3});
         row("CR alone", "A {\r\r b: c;\rd: e }", {3, 2, 4, 1});
+        row("LF CR are two line ends", "A {\n\rb: c }", {3, 1});
         row("line ends in quotes and comments", "A { a: '\n\n' b: c /*\n*/ d: e }", {1, 5, 3, 3, 4, 4});
         row("the byte order mark takes no column",
             QString::fromUtf8("\xef\xbb\xbf"

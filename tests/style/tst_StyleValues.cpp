@@ -70,6 +70,7 @@ private Q_SLOTS:
         row("rgb", "rgb(0, 86, 145)", 0xff005691u);
         row("rgb clamps and takes percentages", "rgb(300, -5, 50%)", 0xffff0080u);
         row("rgb percentages may have decimals and clamp", "rgb(0.4%, 250%, -1%)", 0xff01ff00u);
+        row("rgba alpha 1", "rgba(255, 0, 0, 1)", 0xffff0000u);
         row("rgba alpha counts in 256ths", "rgba(255, 0, 0, 0.5)", 0x80ff0000u);
         row("rgba alpha below 0", "rgba(255, 0, 0, -1)", 0x00ff0000u);
         row("rgba alpha far above 1", "rgba(255, 0, 0, 1e30)", 0xffff0000u);
@@ -78,6 +79,8 @@ private Q_SLOTS:
         row("hsl hue below 0 is 0", "hsl(-120, 100%, 50%)", 0xffff0000u);
         row("hsl clamps percentages", "hsl(0, 100%, 300%)", 0xffffffffu);
         row("hsla", "hsla(240, 100%, 50%, 0.5)", 0x800000ffu);
+        row("hsla clamps alpha", "hsla(240, 100%, 50%, 7)", 0xff0000ffu);
+        row("hsb", "hsb(240, 100%, 50%)", 0xff000080u);
         row("hsba", "hsba(240, 100%, 100%, 0)", 0x000000ffu);
         row("six digits", "#008ccd", 0xff008ccdu);
         row("three digits", "#08C", 0xff0088ccu);
@@ -98,12 +101,16 @@ private Q_SLOTS:
 
         const auto wrong = [](const char *value, const char *message) { QTest::newRow(value) << value << message; };
         wrong("rgb(1, 2)", "rgb() expression expects 3 arguments");
+        wrong("rgb()", "rgb() expression expects 3 arguments");
         wrong("rgba(1, 2, 3)", "rgba() expression expects 4 arguments");
+        wrong("hsl(1, 2%, 3%, 1)", "hsl() expression expects 3 arguments");
         wrong("hsb(120, 50%)", "hsl() expression expects 3 arguments");
         wrong("hsba(120, 50%, 50%)", "hsla() expression expects 3 arguments");
         wrong("url(a, b)", "url() expression expects 1 argument");
         wrong("rgb(1, 2, 3.5)", "rgb() expression with bad value");
+        wrong("rgb(1, 2, %)", "rgb() expression with bad value");
         wrong("rgb(1, 2, 99999999999)", "rgb() expression with bad value");
+        wrong("rgba(1, 2, 3, nan)", "rgba() expression with bad value");
         wrong("rgba(1, 2, 3, 50%)", "rgba() expression with bad value");
         wrong("hsl(120, 50, 50%)", "hsl() expression with bad values");
         wrong("hsl(12.5, 50%, 50%)", "hsl() expression with bad values");
@@ -111,6 +118,7 @@ private Q_SLOTS:
         wrong("lighter(white)", "Unsupported expression 'lighter'");
         wrong("url(a)", "Not a color expression 'url'");
         wrong("12", "Not a color expression '12'");
+        wrong("#12", "Not a color expression '#12'");
     }
 
     void failures()
@@ -208,11 +216,14 @@ private Q_SLOTS:
         row("family, weight and size", "Brack Office Sans bold 14px", "Brack Office Sans", 700, QFont::StyleNormal, 14);
         row("any order", "14px italic Brack black Sans", "Brack Sans", 900, QFont::StyleItalic, 14);
         row("first word of a group counts", "demibold Brack bold", "Brack bold", 600, QFont::StyleNormal, -1);
+        row("first in the text, not in the table", "oblique italic", "italic", 400, QFont::StyleOblique, -1);
         row("case matters", "Bold ITALIC", "Bold ITALIC", 400, QFont::StyleNormal, -1);
+        row("only keywords", "regular upright 9px", "", 400, QFont::StyleNormal, 9);
         row("pixels before points", "8px Brack 10.5pt", "Brack", 400, QFont::StyleNormal, 8);
         row("no decimals in pixels", "Brack 8.5px", "Brack 8.5px", 400, QFont::StyleNormal, -1);
         row("no size at all", "Brack 0px", "Brack", 400, QFont::StyleNormal, -1);
         row("size beyond an integer", "Brack 99999999999px", "Brack", 400, QFont::StyleNormal, -1);
+        row("runs of blanks", "  Brack \t  Sans  bold ", "Brack Sans", 700, QFont::StyleNormal, -1);
         row("a tab alone does not separate", "Brack\tbold", "Brack\tbold", 400, QFont::StyleNormal, -1);
     }
 
