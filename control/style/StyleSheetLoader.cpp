@@ -22,7 +22,7 @@ constexpr unsigned long MissingFileWaitMs = 1000;
 /// A sheet as parsed before, if its text is the same: themes are switched back and forth. Throws ParseException.
 std::shared_ptr<const StyleSheet> parsed(const QByteArray &text)
 {
-    constexpr qsizetype keptBytes = 512 * 1024;
+    constexpr qsizetype keptBytes = qsizetype(512) * 1024;
     static QCache<QByteArray, std::shared_ptr<const StyleSheet>> known(keptBytes);
     if (const auto *sheet = known.object(text))
         return *sheet;
