@@ -98,7 +98,7 @@ void feed(double number)
         const QVariant before = property.read(&item);
         property.write(&item, number);
         item.paint();
-        for (const QPointF &vertex : allVertices(item, item.node()))
+        for (const QPointF &vertex : allVertices(item, item.root()))
             QVERIFY2(std::isfinite(vertex.x()) && std::isfinite(vertex.y()), property.name());
         property.write(&item, before);
     }
@@ -115,19 +115,19 @@ private Q_SLOTS:
         Painted<RBodeplotGrid> grid;
         grid.setProperty("xAxisTickValues", QVariantList{100, 1000, 10000});
         grid.paint();
-        QCOMPARE(grid.node()->childCount(), 5);
-        QCOMPARE(verticesOf(child(grid.node(), Vertical)).size(), 3 * verticesOfALine);
-        QCOMPARE(verticesOf(child(grid.node(), FaintVertical)).size(), (26 - 3) * verticesOfALine);
-        QCOMPARE(verticesOf(child(grid.node(), Horizontal)).size(), 3 * verticesOfALine); // -10, 0 and 10 dB
-        QCOMPARE(verticesOf(child(grid.node(), FaintHorizontal)).size(), 0);
-        QCOMPARE(verticesOf(child(grid.node(), ZeroLine)).first(), QPointF(0, 51));
+        QCOMPARE(grid.root()->childCount(), 5);
+        QCOMPARE(verticesOf(child(grid.root(), Vertical)).size(), 3 * verticesOfALine);
+        QCOMPARE(verticesOf(child(grid.root(), FaintVertical)).size(), (26 - 3) * verticesOfALine);
+        QCOMPARE(verticesOf(child(grid.root(), Horizontal)).size(), 3 * verticesOfALine); // -10, 0 and 10 dB
+        QCOMPARE(verticesOf(child(grid.root(), FaintHorizontal)).size(), 0);
+        QCOMPARE(verticesOf(child(grid.root(), ZeroLine)).first(), QPointF(0, 51));
 
-        const QSGNode *root = grid.node();
+        const QSGNode *root = grid.root();
         markVertices(child(root, Vertical));
         markVertices(child(root, ZeroLine));
         grid.setProperty("yMaximum", 60.0);
         grid.paint();
-        QCOMPARE(grid.node(), root);
+        QCOMPARE(grid.root(), root);
         QVERIFY(isMarked(child(root, Vertical)));
         QCOMPARE(verticesOf(child(root, Horizontal)).size(), 7 * verticesOfALine);
         QCOMPARE(verticesOf(child(root, ZeroLine)).first(), QPointF(0, 76));
@@ -142,9 +142,9 @@ private Q_SLOTS:
         auto grid = std::make_unique<Painted<RBodeplotGrid>>();
         grid->setProperty("xAxisTickValues", QVariantList{100});
         grid->paint();
-        QSGGeometryNode *vertical = child(grid->node(), Vertical);
+        QSGGeometryNode *vertical = child(grid->root(), Vertical);
         QCOMPARE(colorOf(vertical), QColor(Qt::red));
-        QCOMPARE(colorOf(child(grid->node(), FaintVertical)).alpha(), 102); // 40 % of 255
+        QCOMPARE(colorOf(child(grid->root(), FaintVertical)).alpha(), 102); // 40 % of 255
 
         markVertices(vertical);
         grid->style.setProperty("lineColorVertical", QColor(Qt::green));
@@ -154,10 +154,10 @@ private Q_SLOTS:
 
         grid->style.setProperty("lineColorXAchsis", QColor());
         grid->paint();
-        QCOMPARE(verticesOf(child(grid->node(), ZeroLine)).size(), 0);
+        QCOMPARE(verticesOf(child(grid->root(), ZeroLine)).size(), 0);
         grid->setStyle(nullptr);
         grid->paint();
-        QVERIFY(allVertices(*grid, grid->node()).isEmpty());
+        QVERIFY(allVertices(*grid, grid->root()).isEmpty());
     }
 
     void gridWarnsOncePerChange()
@@ -172,7 +172,7 @@ private Q_SLOTS:
         grid.setProperty("xMinimum", 30.0);
         grid.paint();
         grid.paint();
-        QCOMPARE(verticesOf(child(grid.node(), ZeroLine)).size(), 0);
+        QCOMPARE(verticesOf(child(grid.root(), ZeroLine)).size(), 0);
 
         grid.setProperty("dedicatedXAxisLine", false);
         grid.setHeight(300.0);
@@ -185,7 +185,7 @@ private Q_SLOTS:
         grid.setProperty("yIncrement", 1e-12);
         QTest::ignoreMessage(QtWarningMsg, "RBodeplotGrid::computeLines() more than 1000 lines");
         grid.paint();
-        QCOMPARE(verticesOf(child(grid.node(), Horizontal)).size(), 0);
+        QCOMPARE(verticesOf(child(grid.root(), Horizontal)).size(), 0);
         grid.setHeight(200.0);
         grid.paint();
     }
@@ -217,7 +217,7 @@ private Q_SLOTS:
         curve.setProperty("points", QVariantList{QPointF(20, 0), QPointF(200, 0), QStringLiteral("gap"),
                                                  QPointF(2000, 10), QPointF(20000, 10)});
         curve.paint();
-        QSGNode *node = curve.node();
+        QSGNode *node = curve.root();
         // A line of 2 pixels with half a pixel of smooth edge on either side; two vertices join the second piece.
         QCOMPARE(strokeVertices(node).size(), std::size_t(4 + 2 + 4));
         QCOMPARE(strokeVertices(node).front(), StrokeVertex({0.0f, 51.5f, 1.5f}));
@@ -232,7 +232,7 @@ private Q_SLOTS:
 
         curve.setProperty("xMaximum", 200.0);
         curve.paint();
-        QCOMPARE(curve.node(), node);
+        QCOMPARE(curve.root(), node);
         QCOMPARE(strokeVertices(node).size(), std::size_t(4));
         QCOMPARE(strokeVertices(node).back(), StrokeVertex({300.0f, 48.5f, -1.5f}));
 
@@ -269,7 +269,7 @@ private Q_SLOTS:
         curve.setProperty("xMaximum", 20.0);
         curve.setProperty("threshold", 10.0);
         curve.paint();
-        QSGNode *node = curve.node();
+        QSGNode *node = curve.root();
         QCOMPARE(strokeColor(node), QColor(Qt::red));
         QVERIFY(strokeVertices(node).size() > 4);
 
@@ -283,7 +283,7 @@ private Q_SLOTS:
         // The bypassed line has no corner, and no width of its own here: 1 pixel and its smooth edge.
         curve.setProperty("bypass", true);
         curve.paint();
-        QCOMPARE(curve.node(), node);
+        QCOMPARE(curve.root(), node);
         QCOMPARE(strokeColor(node), QColor(Qt::blue));
         QCOMPARE(strokeVertices(node).size(), std::size_t(4));
         QCOMPARE(strokeVertices(node).front().offset, 1.0f);
