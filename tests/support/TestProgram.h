@@ -11,7 +11,7 @@
 /// What a test program runs: classes that announce themselves by instantiating TestClass at their end.
 ///
 /// A program holds the classes of many folders, since building a program costs more than a class does. Its first
-/// argument names a class and the others go to Qt Test; without arguments all classes run.
+/// argument names a class and the others go to Qt Test; without one it lists the classes and fails.
 namespace TestProgram {
 
 using Maker = std::function<std::unique_ptr<QObject>()>;
