@@ -23,8 +23,8 @@ TestCase {
     }
 
     /*! The rows of a test for each sheet of the module. */
-    function sheetRows(): list<var> {
-        return ["dark", "light", "contrast-dark", "contrast-light"].map(name => ({ tag: name }))
+    function sheetRows(): var {
+        return [{ tag: "dark" }, { tag: "light" }, { tag: "contrast-dark" }, { tag: "contrast-light" }]
     }
 
     function cleanup() {
