@@ -12,10 +12,10 @@ RButtonBase {
     property alias backgroundRect: back
     property alias line: back.line
 
-    property color ssBackground: root.RStyleSet.props.background
-    property color ssColor: root.RStyleSet.props.foreground
-    property color ssLineColor: root.RStyleSet.props.line
-    property bool ssLineVisible: root.RStyleSet.props.lineVisible
+    ssBackground: root.RStyleSet.props.background
+    ssColor: root.RStyleSet.props.foreground
+    ssLineColor: root.RStyleSet.props.line
+    ssLineVisible: root.RStyleSet.props.lineVisible
 
     RStyleSet.stateHelper.hovered: root.hovered
     RStyleSet.stateHelper.pressed: root.down
