@@ -16,10 +16,12 @@ set_target_properties(tambleclient-control PROPERTIES
     INSTALL_RPATH "$ORIGIN;$ORIGIN/${to_libraries}"
 )
 
+include(cmake/PublicHeaders.cmake)
 set(libraries tambleclient-control tambleclient-common tamblecommon-common tamblecommon-math)
 install(TARGETS ${libraries}
     EXPORT TambleClientControlTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+    FILE_SET HEADERS DESTINATION ${header_directory} COMPONENT development
 )
 set(library_name ${CMAKE_SHARED_LIBRARY_PREFIX}tambleclient-control${CMAKE_SHARED_LIBRARY_SUFFIX})
 install(CODE "
@@ -42,14 +44,6 @@ install(FILES /usr/share/doc/fonts-lato/copyright
     RENAME OFL-Lato.txt
 )
 
-include(cmake/PublicHeaders.cmake)
-foreach(header IN LISTS TAMBLE_PUBLIC_HEADERS)
-    cmake_path(GET header PARENT_PATH folder)
-    install(FILES ${PROJECT_SOURCE_DIR}/control/${header}
-        DESTINATION ${header_directory}/${folder}
-        COMPONENT development
-    )
-endforeach()
 foreach(library IN ITEMS tambleclient-common tamblecommon-common tamblecommon-math)
     get_target_property(headers ${library} TAMBLE_HEADERS)
     install(FILES ${headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${library} COMPONENT development)

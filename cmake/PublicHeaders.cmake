@@ -41,3 +41,11 @@ set(TAMBLE_PUBLIC_HEADERS
 
     style/ThemeSelector.h
 )
+
+# The build target all_verify_interface_header_sets compiles each by itself, without precompiled ones that would hide a
+# missing include.
+list(TRANSFORM TAMBLE_PUBLIC_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/control/)
+target_sources(tambleclient-control
+    PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/control FILES ${TAMBLE_PUBLIC_HEADERS}
+)
+set_target_properties(tambleclient-control PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
