@@ -1,16 +1,16 @@
 # The headers that clients may include, below control/; everything else stays inside. A public header includes public ones
 # only: none of Qt's private ones and of no library that the package does not ask for.
 set(TAMBLE_PUBLIC_HEADERS
-    ControlExport.h
+    base/ControlExport.h
     TambleClientControlModule.h
 
     # Filters of a frequency-response plot, as models of a page keep them.
-    bodeplot/BodeplotEnums.h
-    bodeplot/RBodeplotAsymmetricEqFilter.h
-    bodeplot/RBodeplotCalculationItem.h
-    bodeplot/RBodeplotEqFilter.h
-    bodeplot/RBodeplotFIRFilter.h
-    bodeplot/RBodeplotXOverFilter.h
+    bodeplot/filters/BodeplotEnums.h
+    bodeplot/filters/RBodeplotAsymmetricEqFilter.h
+    bodeplot/filters/RBodeplotCalculationItem.h
+    bodeplot/filters/RBodeplotEqFilter.h
+    bodeplot/filters/RBodeplotFIRFilter.h
+    bodeplot/filters/RBodeplotXOverFilter.h
 
     # Transfer curves of dynamics processors, and what draws them.
     dynamics/AGCCalculator.h
@@ -26,20 +26,20 @@ set(TAMBLE_PUBLIC_HEADERS
     plot/Plotter.h
 
     # Fields and lists.
-    input/RMessageBox.h
-    input/RSortFilterProxyModel.h
-    input/RStringRuleValidator.h
-    input/RStringRuleValidatorRule.h
-    input/RTextFieldDoubleValidator.h
-    input/RTextFieldIntValidator.h
-    input/RTextFieldIpAddressValidator.h
-    input/RTextFieldPinValidator.h
+    screen/RMessageBox.h
+    models/RSortFilterProxyModel.h
+    fields/RStringRuleValidator.h
+    fields/RStringRuleValidatorRule.h
+    fields/RTextFieldDoubleValidator.h
+    fields/RTextFieldIntValidator.h
+    fields/RTextFieldIpAddressValidator.h
+    fields/RTextFieldPinValidator.h
 
     # A meter that is fed without QML.
     meter/MeterFractions.h
     meter/RMeterBase.h
 
-    style/ThemeSelector.h
+    style/loading/ThemeSelector.h
 )
 
 # The build target all_verify_interface_header_sets compiles each by itself, without precompiled ones that would hide a

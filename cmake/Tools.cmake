@@ -1,4 +1,4 @@
-# Build targets for the source tools: format, format-check, qml-format, qml-lint.
+# Build targets for the source tools: format, format-check, include-check, qml-format, qml-lint.
 
 find_program(TAMBLE_CLANG_FORMAT clang-format)
 
@@ -23,6 +23,13 @@ if(TAMBLE_CLANG_FORMAT)
         COMMENT "Checking the format of C++ files" VERBATIM
     )
 endif()
+
+add_custom_target(include-check
+    COMMAND ${CMAKE_COMMAND} -D CONTROL=${PROJECT_SOURCE_DIR}/control
+            -P ${PROJECT_SOURCE_DIR}/cmake/CheckIncludes.cmake
+    COMMENT "Checking what the folders of control/ include"
+    VERBATIM
+)
 
 # qmlformat without -n: with it the members would be sorted alphabetically.
 find_program(TAMBLE_QMLFORMAT qmlformat PATHS /usr/lib/qt6/bin)

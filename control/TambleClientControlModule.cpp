@@ -4,8 +4,8 @@
 #include "InterfaceFont.h"
 #include "TypeCatalogue.h"
 #include "ValueRequests.h"
-#include "button/ButtonInterface.h"
-#include "workspace/RMouseEventSpy.h"
+#include "controls/ButtonInterface.h"
+#include "pointer/RMouseEventSpy.h"
 
 #include <QtGui/QPointingDevice>
 #include <QtQml/QQmlContext>

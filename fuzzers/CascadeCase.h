@@ -1,6 +1,6 @@
 #pragma once
 
-#include "style/PropertySpec.h"
+#include "style/language/PropertySpec.h"
 
 #include <cstdint>
 #include <span>

@@ -2,9 +2,9 @@
 
 #include "ReferenceCascade.h"
 
-#include "style/StylePathPool.h"
-#include "style/StyleResolver.h"
-#include "style/StyleSheetParser.h"
+#include "style/language/StyleSheetParser.h"
+#include "style/resolution/StylePathPool.h"
+#include "style/resolution/StyleResolver.h"
 
 #include <boost/variant/get.hpp>
 

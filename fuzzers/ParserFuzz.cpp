@@ -1,10 +1,10 @@
 #include "FuzzBodies.h"
 
-#include "style/ConvertException.h"
-#include "style/ParseException.h"
-#include "style/RulePrinter.h"
-#include "style/StyleSheetParser.h"
-#include "style/ValueConversions.h"
+#include "style/language/ParseException.h"
+#include "style/language/RulePrinter.h"
+#include "style/language/StyleSheetParser.h"
+#include "style/values/ConvertException.h"
+#include "style/values/ValueConversions.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,7 +1,7 @@
 // What a benchmark harness in another program calls by name, to time a part of the library by itself. The caller keeps
 // the time; a call does nothing but the work it is named for.
 
-#include "style/StyleSheetParser.h"
+#include "style/language/StyleSheetParser.h"
 
 #include <QtCore/qglobal.h>
 

@@ -1,6 +1,6 @@
 #include "GeneratedSheet.h"
 
-#include "style/StyleSheetParser.h"
+#include "style/language/StyleSheetParser.h"
 
 #include <benchmark/benchmark.h>
 

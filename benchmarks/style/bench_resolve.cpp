@@ -1,8 +1,8 @@
 #include "GeneratedSheet.h"
 
-#include "style/StylePathPool.h"
-#include "style/StyleResolver.h"
-#include "style/StyleSheetParser.h"
+#include "style/language/StyleSheetParser.h"
+#include "style/resolution/StylePathPool.h"
+#include "style/resolution/StyleResolver.h"
 
 #include <benchmark/benchmark.h>
 

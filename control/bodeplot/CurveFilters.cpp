@@ -1,8 +1,8 @@
 #include "bodeplot/CurveFilters.h"
 
-#include "ControlLog.h"
-#include "bodeplot/RBodeplotFIRFilter.h"
-#include "bodeplot/RBodeplotPointModel.h"
+#include "base/ControlLog.h"
+#include "bodeplot/filters/RBodeplotFIRFilter.h"
+#include "bodeplot/handles/RBodeplotPointModel.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QScopedValueRollback>

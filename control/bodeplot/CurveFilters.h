@@ -1,8 +1,8 @@
 #pragma once
 
-#include "bodeplot/FilterConversion.h"
-#include "bodeplot/FilterSet.h"
-#include "bodeplot/FilterWatch.h"
+#include "bodeplot/filters/FilterConversion.h"
+#include "bodeplot/filters/FilterWatch.h"
+#include "bodeplot/handles/FilterSet.h"
 
 #include <QtCore/QBasicTimer>
 #include <QtCore/QList>

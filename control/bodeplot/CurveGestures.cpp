@@ -1,6 +1,6 @@
 #include "bodeplot/CurveFilters.h"
 
-#include "bodeplot/RBodeplotPointModel.h"
+#include "bodeplot/handles/RBodeplotPointModel.h"
 
 #include <QtCore/QTimerEvent>
 

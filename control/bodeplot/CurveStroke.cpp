@@ -1,7 +1,7 @@
 #include "bodeplot/CurveStroke.h"
 
-#include "bodeplot/StyleObject.h"
-#include "plot/SmoothStrokeNode.h"
+#include "base/StyleObject.h"
+#include "scenegraph/SmoothStrokeNode.h"
 #include "scenegraph/SoftwarePicture.h"
 
 #include <QtQuick/QQuickItem>

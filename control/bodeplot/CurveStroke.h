@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plot/SmoothStroke.h"
+#include "scenegraph/SmoothStroke.h"
 
 #include <QtCore/QList>
 #include <QtCore/QPointF>

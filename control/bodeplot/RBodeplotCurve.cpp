@@ -1,6 +1,6 @@
 #include "bodeplot/RBodeplotCurve.h"
 
-#include "bodeplot/StyleObject.h"
+#include "base/StyleObject.h"
 #include "scenegraph/SoftwarePicture.h"
 
 #include <tamblecommon-math/FilterAlgorithm.h>

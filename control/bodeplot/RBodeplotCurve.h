@@ -1,12 +1,12 @@
 #pragma once
 
-#include "ControlExport.h"
-#include "bodeplot/BodeplotEnums.h"
+#include "base/ControlExport.h"
 #include "bodeplot/CurveFilters.h"
-#include "bodeplot/RBodeplotCalculationItem.h"
-#include "bodeplot/RBodeplotPointModel.h"
-#include "bodeplot/ResponseCurveNode.h"
-#include "bodeplot/ResponseLines.h"
+#include "bodeplot/filters/BodeplotEnums.h"
+#include "bodeplot/filters/RBodeplotCalculationItem.h"
+#include "bodeplot/handles/RBodeplotPointModel.h"
+#include "bodeplot/response/ResponseCurveNode.h"
+#include "bodeplot/response/ResponseLines.h"
 
 #include <QtCore/QList>
 #include <QtCore/QPointer>

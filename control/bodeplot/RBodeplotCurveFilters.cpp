@@ -1,6 +1,6 @@
 #include "bodeplot/RBodeplotCurve.h"
 
-#include "ControlLog.h"
+#include "base/ControlLog.h"
 #include <QtCore/QScopedValueRollback>
 #include <QtQuick/QQuickWindow>
 

@@ -1,7 +1,7 @@
 #include "bodeplot/RLimiterCurve.h"
 
-#include "bodeplot/StyleObject.h"
-#include "plot/ScaleSteps.h"
+#include "base/StyleObject.h"
+#include "scale/ScaleSteps.h"
 
 #include <utility>
 

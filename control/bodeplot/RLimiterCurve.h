@@ -1,9 +1,9 @@
 #pragma once
 
-#include "ControlExport.h"
-#include "bodeplot/BodeplotEnums.h"
+#include "base/ControlExport.h"
 #include "bodeplot/CurveStroke.h"
-#include "bodeplot/LimiterLine.h"
+#include "bodeplot/filters/BodeplotEnums.h"
+#include "bodeplot/response/LimiterLine.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QVariantList>

@@ -1,6 +1,6 @@
 #include "bodeplot/RSimpleCurve.h"
 
-#include "bodeplot/StyleObject.h"
+#include "base/StyleObject.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "ControlExport.h"
-#include "bodeplot/BodeplotEnums.h"
-#include "bodeplot/CurvePixels.h"
+#include "base/ControlExport.h"
 #include "bodeplot/CurveStroke.h"
+#include "bodeplot/filters/BodeplotEnums.h"
+#include "bodeplot/response/CurvePixels.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QVariantList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ControlExport.h"
+#include "base/ControlExport.h"
 #include "dynamics/TransferCurves.h"
 
 #include <QtCore/QObject>

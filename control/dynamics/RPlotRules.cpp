@@ -2,7 +2,7 @@
 
 #include "dynamics/CompressorCurve.h"
 #include "dynamics/HandleRules.h"
-#include "dynamics/NumberPlaces.h"
+#include "scale/NumberPlaces.h"
 
 #include <QtGui/QFontMetricsF>
 

@@ -1,6 +1,6 @@
 #include "fader/FaderEdit.h"
 
-#include "decoration/PartComponents.h"
+#include "base/PartComponents.h"
 
 #include <QtCore/QVariant>
 #include <QtQml/QQmlComponent>

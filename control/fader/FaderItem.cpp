@@ -1,8 +1,8 @@
 #include "fader/FaderItem.h"
 
-#include "ControlLog.h"
+#include "base/ControlLog.h"
+#include "base/StyleTypeName.h"
 #include "fader/FaderMarks.h"
-#include "style/StyleTypeName.h"
 
 #include <QtCore/QSet>
 #include <QtCore/QStringList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ControlExport.h"
+#include "base/ControlExport.h"
 #include "fader/FaderEdit.h"
 #include "fader/FaderItem.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ControlExport.h"
+#include "base/ControlExport.h"
 #include "meter/FallingBars.h"
 #include "meter/MeterAnnouncer.h"
 #include "meter/MeterBarNode.h"

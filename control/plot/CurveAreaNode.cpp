@@ -1,7 +1,7 @@
 #include "plot/CurveAreaNode.h"
 
-#include "plot/VertexStore.h"
 #include "scenegraph/PictureCanvas.h"
+#include "scenegraph/VertexStore.h"
 
 namespace tamble::client {
 

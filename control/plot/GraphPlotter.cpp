@@ -1,7 +1,7 @@
 #include "plot/GraphPlotter.h"
 
-#include "plot/SmoothStrokeNode.h"
-#include "plot/StrokeGeometry.h"
+#include "scenegraph/SmoothStrokeNode.h"
+#include "scenegraph/StrokeGeometry.h"
 
 namespace tamble::client {
 

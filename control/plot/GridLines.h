@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plot/StrokeGeometry.h"
+#include "scenegraph/StrokeGeometry.h"
 
 #include <QtCore/QSizeF>
 #include <QtGui/QColor>

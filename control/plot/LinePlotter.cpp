@@ -1,8 +1,8 @@
 #include "plot/LinePlotter.h"
 
 #include "plot/GridLines.h"
-#include "plot/SmoothStrokeNode.h"
-#include "plot/StrokeGeometry.h"
+#include "scenegraph/SmoothStrokeNode.h"
+#include "scenegraph/StrokeGeometry.h"
 
 #include <array>
 

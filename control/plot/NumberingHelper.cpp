@@ -1,8 +1,8 @@
 #include "plot/NumberingHelper.h"
 
-#include "ControlLog.h"
-#include "plot/GridValues.h"
-#include "plot/NumberText.h"
+#include "base/ControlLog.h"
+#include "scale/GridValues.h"
+#include "scale/NumberText.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QVariantMap>

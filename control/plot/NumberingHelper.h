@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ControlExport.h"
-#include "plot/AxisScale.h"
+#include "base/ControlExport.h"
+#include "scale/AxisScale.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QString>

@@ -1,8 +1,8 @@
 #include "plot/Plotter.h"
 
-#include "plot/SmoothStrokeNode.h"
-#include "plot/StrokeNode.h"
+#include "scenegraph/SmoothStrokeNode.h"
 #include "scenegraph/SoftwarePicture.h"
+#include "scenegraph/StrokeNode.h"
 
 #include <QtQuick/QQuickWindow>
 

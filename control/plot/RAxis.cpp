@@ -1,7 +1,7 @@
 #include "plot/RAxis.h"
 
-#include "plot/AxisTicks.h"
 #include "plot/RAxisItem.h"
+#include "scale/AxisTicks.h"
 
 namespace tamble::client {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ControlExport.h"
+#include "base/ControlExport.h"
 
 #include <QtCore/QList>
 #include <QtQuick/QQuickItem>

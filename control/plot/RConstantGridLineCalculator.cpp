@@ -1,7 +1,7 @@
 #include "plot/RConstantGridLineCalculator.h"
 
-#include "ControlLog.h"
-#include "plot/GridValues.h"
+#include "base/ControlLog.h"
+#include "scale/GridValues.h"
 
 #include <QtCore/QDebug>
 

@@ -1,7 +1,7 @@
 #include "plot/RGrid.h"
 
-#include "plot/StrokeNode.h"
 #include "scenegraph/SoftwarePicture.h"
+#include "scenegraph/StrokeNode.h"
 
 #include <QtQuick/QQuickWindow>
 

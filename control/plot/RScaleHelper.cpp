@@ -1,7 +1,7 @@
 #include "plot/RScaleHelper.h"
 
-#include "ControlLog.h"
-#include "plot/ScaleSteps.h"
+#include "base/ControlLog.h"
+#include "scale/ScaleSteps.h"
 
 #include <QtCore/QDebug>
 

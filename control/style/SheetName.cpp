@@ -1,7 +1,7 @@
 #include "style/SheetName.h"
 
-#include "style/SheetFile.h"
-#include "style/StyleLocations.h"
+#include "style/loading/SheetFile.h"
+#include "style/loading/StyleLocations.h"
 
 #include <utility>
 

@@ -1,13 +1,13 @@
 #include "style/StyleEngine.h"
 
-#include "style/FontFaceLoader.h"
-#include "style/SheetFile.h"
-#include "style/StyleInfoText.h"
-#include "style/StyleLog.h"
-#include "style/StylePathPool.h"
-#include "style/StyleResolver.h"
-#include "style/StyleSheetLoader.h"
 #include "style/UsageCountedStyleSetProps.h"
+#include "style/loading/FontFaceLoader.h"
+#include "style/loading/SheetFile.h"
+#include "style/loading/StyleLog.h"
+#include "style/loading/StyleSheetLoader.h"
+#include "style/resolution/StyleInfoText.h"
+#include "style/resolution/StylePathPool.h"
+#include "style/resolution/StyleResolver.h"
 
 #include <algorithm>
 

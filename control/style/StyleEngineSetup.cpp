@@ -1,7 +1,7 @@
 #include "style/StyleEngineSetup.h"
 
 #include "style/StyleEngine.h"
-#include "style/StyleLocations.h"
+#include "style/loading/StyleLocations.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ControlExport.h"
-#include "style/SheetFileWatcher.h"
-#include "style/StylesDirWatcher.h"
+#include "base/ControlExport.h"
+#include "style/loading/SheetFileWatcher.h"
+#include "style/loading/StylesDirWatcher.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QUrl>

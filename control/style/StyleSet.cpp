@@ -1,10 +1,10 @@
 #include "style/StyleSet.h"
 
 #include "style/StyleEngine.h"
-#include "style/StyleLog.h"
-#include "style/StylePathPool.h"
 #include "style/StyleTree.h"
 #include "style/UsageCountedStyleSetProps.h"
+#include "style/loading/StyleLog.h"
+#include "style/resolution/StylePathPool.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QVariantMap>

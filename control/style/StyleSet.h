@@ -1,10 +1,10 @@
 #pragma once
 
-#include "ControlExport.h"
+#include "base/ControlExport.h"
 #include "style/PropsUser.h"
 #include "style/StateHelper.h"
-#include "style/StylePath.h"
 #include "style/StyleSetProps.h"
+#include "style/resolution/StylePath.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QVariantList>

@@ -1,13 +1,13 @@
 #include "style/StyleSetProps.h"
 
-#include "style/ConvertException.h"
-#include "style/RulePrinter.h"
 #include "style/StyleEngine.h"
-#include "style/StyleLog.h"
-#include "style/StyleResolver.h"
-#include "style/TextExcerpt.h"
-#include "style/ValueConversions.h"
-#include "style/ValueFunctions.h"
+#include "style/language/RulePrinter.h"
+#include "style/language/TextExcerpt.h"
+#include "style/loading/StyleLog.h"
+#include "style/resolution/StyleResolver.h"
+#include "style/values/ConvertException.h"
+#include "style/values/ValueConversions.h"
+#include "style/values/ValueFunctions.h"
 
 namespace tamble::client {
 

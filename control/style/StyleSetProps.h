@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ControlExport.h"
-#include "style/StylePath.h"
+#include "base/ControlExport.h"
+#include "style/resolution/StylePath.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QSet>

@@ -1,8 +1,8 @@
 #include "style/StyleTree.h"
 
-#include "style/StylePathPool.h"
+#include "base/StyleTypeName.h"
 #include "style/StyleSet.h"
-#include "style/StyleTypeName.h"
+#include "style/resolution/StylePathPool.h"
 
 #include <QtGui/QWindow>
 #include <QtQml/qqml.h>

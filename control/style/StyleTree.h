@@ -1,6 +1,6 @@
 #pragma once
 
-#include "style/StylePath.h"
+#include "style/resolution/StylePath.h"
 
 #include <QtCore/QList>
 #include <QtCore/QPointer>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "bodeplot/RBodeplotAsymmetricEqFilter.h"
 #include "bodeplot/RBodeplotCurve.h"
-#include "bodeplot/RBodeplotEqFilter.h"
-#include "bodeplot/RBodeplotFIRFilter.h"
-#include "bodeplot/RBodeplotXOverFilter.h"
+#include "bodeplot/filters/RBodeplotAsymmetricEqFilter.h"
+#include "bodeplot/filters/RBodeplotEqFilter.h"
+#include "bodeplot/filters/RBodeplotFIRFilter.h"
+#include "bodeplot/filters/RBodeplotXOverFilter.h"
 #include "support/QmlText.h"
 
 namespace tamble::client {

@@ -1,8 +1,8 @@
 #include "ControlImageProvider.h"
 #include "TambleClientControlModule.h"
+#include "pointer/RMouseEventSpy.h"
 #include "support/QmlText.h"
 #include "support/TestProgram.h"
-#include "workspace/RMouseEventSpy.h"
 
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>

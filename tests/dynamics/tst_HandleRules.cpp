@@ -1,5 +1,5 @@
 #include "dynamics/HandleRules.h"
-#include "dynamics/NumberPlaces.h"
+#include "scale/NumberPlaces.h"
 #include "support/Numbers.h"
 #include "support/Rows.h"
 #include "support/TestProgram.h"

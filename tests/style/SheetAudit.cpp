@@ -1,9 +1,9 @@
 #include "SheetAudit.h"
 
 #include "StyleTestPaths.h"
-#include "style/RulePrinter.h"
-#include "style/StyleSheetParser.h"
-#include "style/ValueConversions.h"
+#include "style/language/RulePrinter.h"
+#include "style/language/StyleSheetParser.h"
+#include "style/values/ValueConversions.h"
 #include "support/ColourMetrics.h"
 
 #include <QtCore/QFile>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "style/StylePathPool.h"
-#include "style/StyleResolver.h"
-#include "style/StyleSheet.h"
+#include "style/language/StyleSheet.h"
+#include "style/resolution/StylePathPool.h"
+#include "style/resolution/StyleResolver.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QSet>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "style/RulePrinter.h"
-#include "style/StyleSheetParser.h"
+#include "style/language/RulePrinter.h"
+#include "style/language/StyleSheetParser.h"
 
 #include <QtCore/QStringList>
 

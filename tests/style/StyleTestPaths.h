@@ -1,8 +1,8 @@
 #pragma once
 
-#include "style/SelectorTree.h"
-#include "style/StylePathPool.h"
-#include "style/StyleSheetParser.h"
+#include "style/language/SelectorTree.h"
+#include "style/language/StyleSheetParser.h"
+#include "style/resolution/StylePathPool.h"
 
 #include <QtCore/QString>
 

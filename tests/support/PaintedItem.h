@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plot/SmoothStrokeNode.h"
+#include "scenegraph/SmoothStrokeNode.h"
 
 #include <QtCore/QPointF>
 #include <QtQuick/QSGFlatColorMaterial>

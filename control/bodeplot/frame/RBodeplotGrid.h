@@ -1,0 +1,119 @@
+#pragma once
+
+#include "base/ControlExport.h"
+#include "bodeplot/filters/BodeplotEnums.h"
+#include "scenegraph/StrokeGeometry.h"
+
+#include <QtCore/QPointer>
+#include <QtCore/QVariantList>
+#include <QtGui/QColor>
+#include <QtQuick/QQuickItem>
+
+#include <array>
+
+namespace tamble::client {
+
+/// Grid lines of a frequency plot; x in Hz, y in dB, colours and widths from `style`.
+///
+/// Upright lines: `xMinimum` 20 to `xMaximum` 20000, `xAxisScale` LOGARITHMIC, `xIncrement` 0 (distance of the lines on
+/// a linear axis; 0 or less for none). Level lines: `yMinimum` -20 to `yMaximum` 20, `yAxisScale` LINEAR, `yIncrement`
+/// 10. Values missing from a tick list that is not empty are drawn at 40 % opacity. `dedicatedXAxisLine` (true) adds
+/// the 0 dB line above the others. Bounds that are not finite or do not rise draw nothing.
+///
+/// Values of the style object: lineWidthVertical, lineColorVertical, lineWidthHorizontal, lineColorHorizontal,
+/// lineWidthXAchsis, lineColorXAchsis. A missing colour draws nothing, a missing width is 1.
+class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotGrid : public QQuickItem
+{
+    Q_OBJECT
+    QML_NAMED_ELEMENT(RBodeplotGridTemplate)
+    Q_PROPERTY(QObject *style READ style WRITE setStyle NOTIFY styleChanged)
+    Q_PROPERTY(qreal xMinimum MEMBER m_xMinimum NOTIFY xMinimumChanged)
+    Q_PROPERTY(qreal xMaximum MEMBER m_xMaximum NOTIFY xMaximumChanged)
+    Q_PROPERTY(qreal yMinimum MEMBER m_yMinimum NOTIFY yMinimumChanged)
+    Q_PROPERTY(qreal yMaximum MEMBER m_yMaximum NOTIFY yMaximumChanged)
+    Q_PROPERTY(qreal xIncrement MEMBER m_xIncrement NOTIFY xIncrementChanged)
+    Q_PROPERTY(qreal yIncrement MEMBER m_yIncrement NOTIFY yIncrementChanged)
+    Q_PROPERTY(int xAxisScale MEMBER m_xAxisScale NOTIFY xAxisScaleChanged)
+    Q_PROPERTY(int yAxisScale MEMBER m_yAxisScale NOTIFY yAxisScaleChanged)
+    Q_PROPERTY(QVariantList xAxisTickValues MEMBER m_xAxisTickValues NOTIFY xAxisTickValuesChanged)
+    Q_PROPERTY(QVariantList yAxisTickValues MEMBER m_yAxisTickValues NOTIFY yAxisTickValuesChanged)
+    Q_PROPERTY(bool dedicatedXAxisLine MEMBER m_dedicatedXAxisLine NOTIFY dedicatedXAxisLineChanged)
+
+public:
+    explicit RBodeplotGrid(QQuickItem *parent = nullptr);
+
+    QObject *style() const { return m_style; }
+    void setStyle(QObject *style);
+
+public Q_SLOTS:
+    /// Reads the style object anew before the next frame; its own change signals do the same.
+    void refreshColors();
+
+Q_SIGNALS:
+    void styleChanged();
+    void xMinimumChanged();
+    void xMaximumChanged();
+    void yMinimumChanged();
+    void yMaximumChanged();
+    void xIncrementChanged();
+    void yIncrementChanged();
+    void xAxisScaleChanged();
+    void yAxisScaleChanged();
+    void xAxisTickValuesChanged();
+    void yAxisTickValuesChanged();
+    void dedicatedXAxisLineChanged();
+
+protected:
+    void componentComplete() override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
+    void updatePolish() override;
+    QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
+
+private:
+    /// Lines that share a colour, in drawing order.
+    struct LineKind
+    {
+        QColor color;
+        StrokeGeometry lines;
+
+        bool operator==(const LineKind &) const = default;
+    };
+    enum KindIndex { FaintVertical, FaintHorizontal, Vertical, Horizontal, ZeroLine, KindCount };
+    using LineKinds = std::array<LineKind, KindCount>;
+    struct LineWidths
+    {
+        double vertical = 1.0;
+        double horizontal = 1.0;
+        double zeroLine = 1.0;
+
+        bool operator==(const LineWidths &) const = default;
+    };
+
+    QSGNode *updateLines(QSGNode *oldNode) const;
+    void invalidateLines();
+    void warnWithoutZero() const;
+    bool showsZero() const;
+    void readStyle();
+    void computeLines();
+
+    QPointer<QObject> m_style;
+    qreal m_xMinimum = 20.0;
+    qreal m_xMaximum = 20000.0;
+    qreal m_yMinimum = -20.0;
+    qreal m_yMaximum = 20.0;
+    qreal m_xIncrement = 0.0;
+    qreal m_yIncrement = 10.0;
+    int m_xAxisScale = RBodeplotAxisScaleEnum::LOGARITHMIC;
+    int m_yAxisScale = RBodeplotAxisScaleEnum::LINEAR;
+    QVariantList m_xAxisTickValues;
+    QVariantList m_yAxisTickValues;
+    bool m_dedicatedXAxisLine = true;
+
+    LineWidths m_widths;
+    LineKinds m_kinds;
+    bool m_linesStale = true;
+    bool m_tooManyLinesReported = false;
+};
+
+} // namespace tamble::client

@@ -1,0 +1,286 @@
+#include "controls/RButtonBase.h"
+
+#include "base/ControlLog.h"
+#include "base/Mnemonic.h"
+#include "base/PartComponents.h"
+#include "base/StyleTypeName.h"
+#include "controls/ButtonInterface.h"
+
+#include <QtCore/QSet>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QStyleHints>
+#include <QtGui/private/qguiapplication_p.h>
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlEngine>
+#include <QtQml/qqml.h>
+#include <QtQuickTemplates2/private/qquickabstractbutton_p_p.h>
+
+namespace tamble::client {
+
+/// Knows which releases click: the template calls nextCheckState() for the others as well.
+class RButtonBasePrivate : public QQuickAbstractButtonPrivate
+{
+    Q_DECLARE_PUBLIC(RButtonBase)
+
+public:
+    bool handleRelease(const QPointF &point, ulong timestamp) override
+    {
+        Q_Q(RButtonBase);
+        q->m_clickFollows = pressed && !wasDoubleClick && !isSecondTap(timestamp);
+        const bool handled = QQuickAbstractButtonPrivate::handleRelease(point, timestamp);
+        q->m_clickFollows = true;
+        return handled;
+    }
+
+private:
+    // As the template judges.
+    bool isSecondTap(ulong timestamp)
+    {
+        return touchId != -1 && lastTouchReleaseTimestamp != 0 &&
+               qreal(timestamp) - lastTouchReleaseTimestamp <
+                   QGuiApplication::styleHints()->mouseDoubleClickInterval() &&
+               isDoubleClickConnected();
+    }
+};
+
+namespace {
+
+quint64 spaceReleasedAt = 0; // ms of the window system's clock
+
+// Sent again and again while Space is held. A button answers once, when it is let go: what it does may get loud.
+bool repeatsSpace(const QKeyEvent &event)
+{
+    if (event.key() != Qt::Key_Space || event.isAutoRepeat())
+        return event.key() == Qt::Key_Space;
+    if (event.type() == QEvent::KeyRelease)
+        spaceReleasedAt = event.timestamp();
+    // X11 under load passes repetitions off as releases and new presses, but both then have the same time. The press
+    // may reach another button, such as a question that the release has opened.
+    return event.type() == QEvent::KeyPress && event.timestamp() != 0 && event.timestamp() == spaceReleasedAt;
+}
+
+} // namespace
+
+RButtonBase::RButtonBase(QQuickItem *parent)
+    : QQuickAbstractButton(*new RButtonBasePrivate, parent)
+{}
+
+void RButtonBase::setSelectable(bool selectable)
+{
+    if (m_selectable == selectable)
+        return;
+    m_selectable = selectable;
+    announceState();
+    Q_EMIT selectableChanged();
+}
+
+void RButtonBase::setSelected(bool selected)
+{
+    if (m_selected == selected)
+        return;
+    m_selected = selected;
+    announceState();
+    Q_EMIT selectedChanged();
+}
+
+void RButtonBase::setConsistent(bool consistent)
+{
+    if (m_consistent == consistent)
+        return;
+    m_consistent = consistent;
+    announceState();
+    announce(QAccessible::DescriptionChanged);
+    Q_EMIT consistentChanged();
+}
+
+void RButtonBase::setLiteralText(bool literal)
+{
+    if (m_literalText == literal)
+        return;
+    m_literalText = literal;
+    useText();
+    Q_EMIT literalTextChanged();
+}
+
+QString RButtonBase::plainText() const
+{
+    return m_literalText ? text() : withoutMnemonic(text());
+}
+
+bool RButtonBase::event(QEvent *event)
+{
+    Q_D(const RButtonBase);
+    switch (event->type()) {
+    case QEvent::Shortcut:
+        // The template answers its key without the selection.
+        if (static_cast<QShortcutEvent *>(event)->shortcutId() != d->shortcutId)
+            break;
+        click();
+        return true;
+    case QEvent::ShortcutOverride:
+        // Before whatever Esc closes around the button.
+        if (!takesBack(*static_cast<QKeyEvent *>(event)))
+            break;
+        event->accept();
+        return true;
+    default:
+        break;
+    }
+    return QQuickAbstractButton::event(event);
+}
+
+bool RButtonBase::takesBack(const QKeyEvent &event) const
+{
+    Q_D(const RButtonBase);
+    const bool isHeldByKey = d->pressed && d->pressButtons == Qt::NoButton && d->touchId == -1;
+    return event.key() == Qt::Key_Escape && isHeldByKey;
+}
+
+void RButtonBase::keyPressEvent(QKeyEvent *event)
+{
+    Q_D(RButtonBase);
+    if (repeatsSpace(*event)) {
+        event->accept();
+    } else if (takesBack(*event)) {
+        d->handleUngrab();
+        event->accept();
+    } else {
+        QQuickAbstractButton::keyPressEvent(event);
+    }
+}
+
+void RButtonBase::keyReleaseEvent(QKeyEvent *event)
+{
+    // Without a press there is nothing to let go: it was taken back, or was another item's.
+    if (repeatsSpace(*event) || (event->key() == Qt::Key_Space && !isPressed())) {
+        event->accept();
+        return;
+    }
+    const bool isEnter = event->key() == Qt::Key_Enter || event->key() == Qt::Key_Return;
+    if (!m_enterClicks || !isEnter || event->isAutoRepeat()) {
+        QQuickAbstractButton::keyReleaseEvent(event);
+        return;
+    }
+    event->accept();
+    if (m_useCustomEvent) {
+        Q_EMIT customEventActivated();
+    } else {
+        click();
+    }
+}
+
+void RButtonBase::click()
+{
+    if (!isEnabled())
+        return;
+    nextCheckState();
+    Q_EMIT clicked();
+}
+
+void RButtonBase::nextCheckState()
+{
+    if (m_clickFollows && (m_consistent || !m_asksWhenMixed))
+        editSelection(!m_consistent || !m_selected);
+    QQuickAbstractButton::nextCheckState();
+}
+
+void RButtonBase::buttonChange(ButtonChange change)
+{
+    if (change == ButtonTextChange) {
+        useText();
+        return;
+    }
+    if (change == ButtonPressedChanged)
+        announceState();
+    QQuickAbstractButton::buttonChange(change);
+}
+
+// In place of the template, which takes a key for any "&", and reads it out.
+void RButtonBase::useText()
+{
+    const qsizetype mark = m_literalText ? -1 : mnemonicPosition(text());
+    setShortcut(mark < 0 ? QKeySequence() : QKeySequence(Qt::ALT | Qt::Key(text()[mark + 1].toUpper().unicode())));
+    clickOncePerKey();
+    announce(QAccessible::NameChanged);
+    Q_EMIT plainTextChanged();
+}
+
+void RButtonBase::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    QQuickAbstractButton::itemChange(change, data);
+    if (change == ItemVisibleHasChanged)
+        clickOncePerKey();
+}
+
+// The template takes its key anew whenever it is shown; held, that key would click again and again.
+void RButtonBase::clickOncePerKey()
+{
+    Q_D(RButtonBase);
+    if (d->shortcutId != 0)
+        QGuiApplicationPrivate::instance()->shortcutMap.setShortcutAutoRepeat(false, d->shortcutId, this);
+}
+
+// In place of the template, which makes an attached object to tell what the button's own interface tells.
+void RButtonBase::accessibilityActiveChanged(bool active)
+{
+    Q_D(RButtonBase);
+    if (!active || isIgnoredByTools(*this))
+        return;
+    // Not before: Qt makes an interface to tell of each change of what is accessible, whether or not somebody listens.
+    d->setAccessible();
+    announce(QAccessible::ObjectCreated);
+    warnAboutMissingName();
+}
+
+void RButtonBase::warnAboutMissingName() const
+{
+    static QSet<QString> warnedTypes;
+    const QString type = styleTypeName(metaObject()->className());
+    if (accessibleNameOf(*this).isEmpty() && !warnedTypes.contains(type)) {
+        warnedTypes.insert(type);
+        qCWarning(controlLog, "WARN: %s has no accessible name", qPrintable(type));
+    }
+}
+
+void RButtonBase::announce(QAccessible::Event change)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent event(this, change);
+    QAccessible::updateAccessibility(&event);
+}
+
+void RButtonBase::announceState()
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessible::State changed;
+    changed.checkable = changed.checked = changed.checkStateMixed = changed.pressed = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+// A page may bind the selection to a device, which answers late; the edit steps in front of the binding meanwhile.
+void RButtonBase::editSelection(bool selected)
+{
+    if (!m_selectable)
+        return;
+    QQmlEngine *engine = qmlEngine(this);
+    if (!m_selectionEdit && engine) {
+        QQmlComponent &component = PartComponents::of(engine).component(QStringLiteral("Shared/RValueEdit.qml"));
+        m_selectionEdit = component.createWithInitialProperties({{QStringLiteral("target"), QVariant::fromValue(this)},
+                                                                 {QStringLiteral("name"), QStringLiteral("selected")}});
+        if (m_selectionEdit)
+            m_selectionEdit->setParent(this);
+    }
+    if (m_selectionEdit) {
+        QMetaObject::invokeMethod(m_selectionEdit, "begin", Q_ARG(QVariant, selected));
+        QMetaObject::invokeMethod(m_selectionEdit, "commit");
+    } else {
+        setSelected(selected);
+    }
+    Q_EMIT selectionEdited(selected);
+}
+
+} // namespace tamble::client

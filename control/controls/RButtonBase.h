@@ -1,0 +1,110 @@
+#pragma once
+
+#include "base/ControlExport.h"
+
+#include <QtGui/QAccessible>
+#include <QtGui/QColor>
+#include <QtQml/qqmlregistration.h>
+#include <QtQuickTemplates2/private/qquickabstractbutton_p.h>
+
+namespace tamble::client {
+
+class RButtonBasePrivate;
+
+/// The behaviour of all buttons: selection, which is not the template's check state, "mixed", Enter, and mnemonics.
+/// ButtonInterface tells assistive tools about it.
+class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton
+{
+    Q_OBJECT
+    QML_NAMED_ELEMENT(RButtonBase)
+    Q_PROPERTY(bool selectable READ isSelectable WRITE setSelectable NOTIFY selectableChanged FINAL)
+    Q_PROPERTY(bool selected READ isSelected WRITE setSelected NOTIFY selectedChanged FINAL)
+    Q_PROPERTY(bool consistent READ isConsistent WRITE setConsistent NOTIFY consistentChanged FINAL)
+    Q_PROPERTY(bool useCustomEvent MEMBER m_useCustomEvent NOTIFY useCustomEventChanged FINAL)
+    Q_PROPERTY(bool asksWhenMixed MEMBER m_asksWhenMixed NOTIFY asksWhenMixedChanged FINAL)
+    Q_PROPERTY(bool enterClicks MEMBER m_enterClicks NOTIFY enterClicksChanged FINAL)
+    Q_PROPERTY(bool literalText READ literalText WRITE setLiteralText NOTIFY literalTextChanged FINAL)
+    Q_PROPERTY(QString plainText READ plainText NOTIFY plainTextChanged FINAL)
+    // Bound to the style set in QML. As native properties they are read and written by compiled bindings at half the
+    // cost of ones declared there, and a change of theme does both for every button.
+    Q_PROPERTY(QColor ssBackground MEMBER m_ssBackground NOTIFY ssBackgroundChanged)
+    Q_PROPERTY(QColor ssColor MEMBER m_ssColor NOTIFY ssColorChanged)
+    Q_PROPERTY(QColor ssLineColor MEMBER m_ssLineColor NOTIFY ssLineColorChanged)
+    Q_PROPERTY(bool ssLineVisible MEMBER m_ssLineVisible NOTIFY ssLineVisibleChanged)
+
+public:
+    explicit RButtonBase(QQuickItem *parent = nullptr);
+
+    /// Whether a click turns `selected` over, showing the edit for 300 ms before a bound value counts again; false by
+    /// default.
+    bool isSelectable() const { return m_selectable; }
+    void setSelectable(bool selectable);
+    bool isSelected() const { return m_selected; }
+    void setSelected(bool selected);
+    /// False while several devices differ in what the button stands for ("mixed"); true by default.
+    bool isConsistent() const { return m_consistent; }
+    void setConsistent(bool consistent);
+    /// Whether "&" marks no key in `text`, as in a text that comes from a device; false by default.
+    bool literalText() const { return m_literalText; }
+    void setLiteralText(bool literal);
+    /// `text` as it is shown: without the mark of its mnemonic.
+    QString plainText() const;
+
+    /// Clicks, as letting the pointer go does; a disabled button does nothing.
+    void click();
+    /// What a click does to the selection. A button that is not selectable keeps it.
+    Q_INVOKABLE void editSelection(bool selected);
+
+Q_SIGNALS:
+    void selectableChanged();
+    void selectedChanged();
+    void consistentChanged();
+    void useCustomEventChanged();
+    void asksWhenMixedChanged();
+    void enterClicksChanged();
+    void literalTextChanged();
+    void plainTextChanged();
+    void ssBackgroundChanged();
+    void ssColorChanged();
+    void ssLineColorChanged();
+    void ssLineVisibleChanged();
+    /// A click has edited the selection; sent before clicked().
+    void selectionEdited(bool selected);
+    /// Enter was released while `useCustomEvent` is set; no clicked() is sent then.
+    void customEventActivated();
+
+protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void nextCheckState() override;
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
+    void buttonChange(ButtonChange change) override;
+    void accessibilityActiveChanged(bool active) override;
+
+private:
+    Q_DECLARE_PRIVATE(RButtonBase)
+
+    bool takesBack(const QKeyEvent &event) const;
+    void useText();
+    void clickOncePerKey();
+    void announce(QAccessible::Event change);
+    void announceState();
+    void warnAboutMissingName() const;
+
+    QObject *m_selectionEdit = nullptr; // a child, made at the first click that edits
+    QColor m_ssBackground;
+    QColor m_ssColor;
+    QColor m_ssLineColor;
+    bool m_ssLineVisible = false;
+    bool m_selectable = false;
+    bool m_selected = false;
+    bool m_consistent = true;
+    bool m_useCustomEvent = false;
+    bool m_asksWhenMixed = false; // whether a click on "mixed" leaves the selection to a question that follows
+    bool m_enterClicks = true;    // whether releasing Enter clicks
+    bool m_literalText = false;
+    bool m_clickFollows = true; // false while a release is handled that clicks nothing
+};
+
+} // namespace tamble::client

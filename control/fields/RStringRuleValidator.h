@@ -1,0 +1,44 @@
+#pragma once
+
+#include "base/ControlExport.h"
+#include "fields/RStringRuleValidatorRule.h"
+
+#include <QtGui/QValidator>
+#include <QtQml/qqmlregistration.h>
+
+namespace tamble::client {
+
+/// Validates texts by one of the rules of `RStringRuleValidatorRule`.
+///
+/// Lengths count characters, `maximumBytes` counts UTF-8; 0 means no limit. `pattern` serves `RULE_PATTERN`.
+class TAMBLE_CLIENT_CONTROL_EXPORT RStringRuleValidator : public QValidator
+{
+    Q_OBJECT
+    QML_NAMED_ELEMENT(RStringRuleValidator)
+    Q_PROPERTY(int rule MEMBER m_rule NOTIFY ruleChanged)
+    Q_PROPERTY(int minimumLength MEMBER m_minimumLength NOTIFY minimumLengthChanged)
+    Q_PROPERTY(int maximumLength MEMBER m_maximumLength NOTIFY maximumLengthChanged)
+    Q_PROPERTY(int maximumBytes MEMBER m_maximumBytes NOTIFY maximumBytesChanged)
+    Q_PROPERTY(QString pattern MEMBER m_pattern NOTIFY patternChanged)
+
+public:
+    explicit RStringRuleValidator(QObject *parent = nullptr);
+
+    State validate(QString &text, int &cursor) const override;
+
+Q_SIGNALS:
+    void ruleChanged();
+    void minimumLengthChanged();
+    void maximumLengthChanged();
+    void maximumBytesChanged();
+    void patternChanged();
+
+private:
+    int m_rule = RStringRuleValidatorRule::RULE_ANY;
+    int m_minimumLength = 0;
+    int m_maximumLength = 0;
+    int m_maximumBytes = 0;
+    QString m_pattern;
+};
+
+} // namespace tamble::client

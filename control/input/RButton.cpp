@@ -1,9 +1,0 @@
-#include "input/RButton.h"
-
-namespace tamble::client {
-
-RButton::RButton(QQuickItem *parent)
-    : QQuickItem(parent)
-{}
-
-} // namespace tamble::client

@@ -1,7 +1,0 @@
-#include "style/StyleLog.h"
-
-namespace tamble::client {
-
-Q_LOGGING_CATEGORY(styleLog, "tamble.style", QtWarningMsg)
-
-} // namespace tamble::client

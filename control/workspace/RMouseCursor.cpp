@@ -1,9 +1,0 @@
-#include "workspace/RMouseCursor.h"
-
-namespace tamble::client {
-
-RMouseCursor::RMouseCursor(QQuickItem *parent)
-    : QQuickItem(parent)
-{}
-
-} // namespace tamble::client

@@ -1,9 +1,0 @@
-#include "workspace/RMouseDetection.h"
-
-namespace tamble::client {
-
-RMouseDetection::RMouseDetection(QQuickItem *parent)
-    : QQuickItem(parent)
-{}
-
-} // namespace tamble::client
