@@ -11,6 +11,7 @@ set(TAMBLE_CONTROL_FOLDERS
     style/loading
     style
     plot
+    handles
     bodeplot/filters
     bodeplot/handles
     bodeplot/frame

@@ -32,6 +32,7 @@
 #include "fields/RTextFieldIntValidator.h"
 #include "fields/RTextFieldIpAddressValidator.h"
 #include "fields/RTextFieldPinValidator.h"
+#include "handles/RHandleBase.h"
 #include "meter/RMeterBar.h"
 #include "meter/RMeterBase.h"
 #include "models/RSortFilterProxyModel.h"
@@ -312,6 +313,7 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RButtonBase>("RButtonBase");
     registrar.creatable<RControlBackground>("RControlBackground");
     registrar.creatable<RFaderBase>("RFaderBase");
+    registrar.creatable<RHandleBase>("RHandleBase");
     registrar.creatable<RMeterBar>("RMeterBar");
     registrar.creatable<RLabelBase>("RLabelBase");
     registrar.withLaterProperties<QQuickItem>();

@@ -57,13 +57,12 @@ set(unregistered
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml
     RLimiter/RGainMeter.qml
-    RLimiter/RHandleBubble.qml
-    RLimiter/RHandlePointer.qml
+    RLimiter/RLevelHandle.qml
     RLimiter/RParameterHandle.qml
-    RLimiter/RPlotHandle.qml
-    Shared/RCircleMask.qml
     Shared/RControlLine.qml
     Shared/RDynamicsPlot.qml
+    Shared/RHandleBubble.qml
+    Shared/RPlotHandle.qml
     Shared/RPopupFrame.qml
     Shared/RStyleProbe.qml
     Shared/RStyledButton.qml

@@ -35,6 +35,7 @@ CurveFilters::CurveFilters()
     connect(&m_watch, &FilterWatch::filterHeaderChanged, this, &CurveFilters::followHeader);
     connect(&m_watch, &FilterWatch::filterSelectionChanged, this, &CurveFilters::followSelection);
     connect(&m_watch, &FilterWatch::filterDestroyed, this, &CurveFilters::drop);
+    connect(&m_holds, &FilterHolds::settled, this, &CurveFilters::refresh);
 }
 
 void CurveFilters::setFilters(ConvertedFilters filters)
@@ -48,7 +49,7 @@ QStringList CurveFilters::take(ConvertedFilters filters)
 {
     FilterRecords records = std::exchange(filters.records, {});
     m_filters = std::move(filters);
-    keepEditedRecords(records);
+    m_holds.keepIn(records, m_filters.sources);
     QStringList problems = m_set.setRecords(std::move(records));
     for (std::size_t i = 0; i < m_filters.sources.size(); ++i)
         checkSlope(i);
@@ -70,7 +71,7 @@ void CurveFilters::setFrame(const HandleFrame &frame)
 
 void CurveFilters::refresh(QObject *source)
 {
-    if (isEdited(source))
+    if (m_holds.isEdited(source))
         return;
     for (std::size_t i = 0; i < m_filters.sources.size(); ++i) {
         if (m_filters.sources[i] == source)
@@ -131,6 +132,100 @@ void CurveFilters::returnHeaders(int evaluatedRecord)
         if (item && !hasHeader(*item, *record))
             item->setProperty("header", QString::fromStdString(record->header));
     }
+}
+
+HandleEdit CurveFilters::move(int handle, const QPointF &wanted)
+{
+    HandleEdit edit = m_set.move(handle, wanted);
+    if (FilterHold *hold = edit ? holdOf(handle) : nullptr)
+        hold->untoldPoint.reset();
+    if (edit && !edit.follows)
+        updateModels();
+    return edit;
+}
+
+void CurveFilters::follow(const HandleEdit &edit)
+{
+    if (!edit.follows)
+        return;
+    FilterHold *hold = m_set.follow(edit) ? holdOf(edit.handle) : nullptr;
+    if (hold)
+        hold->untoldPoint = edit.follows;
+    // The partner goes first, and both before their gain.
+    for (const int handle : {m_set.partnerOf(edit.handle), edit.handle}) {
+        if (m_set.recordOf(handle) >= 0 && handle < m_pointModels.size())
+            static_cast<RBodeplotPointModel *>(m_pointModels[handle])
+                ->setPoint(m_set.handles()[std::size_t(handle)].point);
+    }
+    updateModels();
+}
+
+HandleEdit CurveFilters::level(int handle)
+{
+    HandleEdit edit = m_set.level(handle);
+    if (FilterHold *hold = edit ? holdOf(handle) : nullptr)
+        hold->untoldPoint.reset();
+    if (edit)
+        updateModels();
+    return edit;
+}
+
+HandleEdit CurveFilters::changeQuality(int handle, double baseQuality, double change)
+{
+    HandleEdit edit = m_set.changeQuality(handle, baseQuality, change);
+    if (edit)
+        updateModels();
+    return edit;
+}
+
+FilterHold *CurveFilters::holdOf(int handle)
+{
+    const int record = m_set.recordOf(handle);
+    return record < 0 ? nullptr : m_holds.find(m_set.records()[std::size_t(record)], *m_set.relationOf(handle));
+}
+
+std::vector<int> CurveFilters::heldHandles() const
+{
+    std::vector<int> held;
+    const std::vector<FilterHandle> &handles = m_set.handles();
+    for (const FilterHold &hold : m_holds.all()) {
+        const auto found = std::ranges::find_if(handles, [&](const FilterHandle &handle) {
+            return handle.relation == hold.relation && m_set.records()[std::size_t(handle.record)] == hold.record;
+        });
+        if (found != handles.end())
+            held.push_back(int(found - handles.begin()));
+    }
+    return held;
+}
+
+void CurveFilters::hold(int handle)
+{
+    const int position = m_set.recordOf(handle);
+    if (position < 0)
+        return;
+    const auto index = std::size_t(position);
+    QObject *source = index < m_filters.sources.size() ? m_filters.sources[index] : nullptr;
+    m_holds.begin(source, m_set.records()[index], *m_set.relationOf(handle));
+}
+
+HandleEdit CurveFilters::release(int handle, int settleTimeMs)
+{
+    FilterHold *hold = holdOf(handle);
+    if (!hold)
+        return {};
+    const std::optional<QPointF> untold = hold->untoldPoint;
+    m_holds.end(*hold, settleTimeMs);
+    return untold ? move(handle, *untold) : HandleEdit();
+}
+
+HandleEdit CurveFilters::cancel(int handle)
+{
+    FilterHold *hold = holdOf(handle);
+    if (!hold)
+        return {};
+    m_set.setRecord(m_set.recordOf(handle), m_holds.restore(*hold));
+    updateModels();
+    return m_set.current(handle);
 }
 
 void CurveFilters::select(int handle)

@@ -1,23 +1,21 @@
 #pragma once
 
+#include "bodeplot/FilterHolds.h"
 #include "bodeplot/filters/FilterConversion.h"
 #include "bodeplot/filters/FilterWatch.h"
 #include "bodeplot/handles/FilterSet.h"
 
-#include <QtCore/QBasicTimer>
 #include <QtCore/QList>
 #include <QtCore/QObject>
 
-#include <optional>
 #include <vector>
 
 namespace tamble::client {
 
 /// The filters of a curve with the objects they come from, their handles as models for QML, and the selection.
 ///
-/// While a handle is held, and for a settling time afterwards, what the object of its filter says waits: a device
-/// confirms a drag late, and the handle must not jump back to old values under the pointer. Then the object counts
-/// again, whether it took the edit or refused it.
+/// While a handle is held, and for a settling time afterwards, what the object of its filter says waits. Then the
+/// object counts again, whether it took the edit or refused it.
 class CurveFilters : public QObject
 {
     Q_OBJECT
@@ -45,12 +43,14 @@ public:
     HandleEdit level(int handle);
     HandleEdit changeQuality(int handle, double baseQuality, double change);
 
+    /// The handles that are held.
+    std::vector<int> heldHandles() const;
     void hold(int handle);
-    /// Ends a hold; its filter settles for some time. Tells what an asymmetric band, which lags one step, still has to
-    /// tell.
-    HandleEdit release(int settleTimeMs);
-    /// Ends a hold with the record as it was at its beginning; nothing when no handle is held.
-    HandleEdit cancel();
+    /// Ends the hold of a handle; its filter settles for some time. Tells what an asymmetric band, which lags one step,
+    /// still has to tell.
+    HandleEdit release(int handle, int settleTimeMs);
+    /// Puts the record of a held handle back to what it was when the hold began; nothing when the handle is not held.
+    HandleEdit cancel(int handle);
 
     /// Selects a handle and its record; any other index selects none.
     void select(int handle);
@@ -62,30 +62,7 @@ Q_SIGNALS:
     /// Visibility, bypass or selection changed: other lines are shown, or in another way.
     void displayChanged();
 
-protected:
-    void timerEvent(QTimerEvent *event) override;
-
 private:
-    /// A filter that the user has edited.
-    struct Edited
-    {
-        QObject *source = nullptr;
-        FilterRecord record;
-    };
-    struct Hold : Edited
-    {
-        HandleRelation relation = HandleRelation::Eq;
-        FilterRecord before;
-        std::optional<QPointF> untoldPoint; ///< Of the handle's last move, when it was told the state before that.
-
-        bool isActive() const { return !record.isNull(); }
-    };
-    /// A hold that has ended a moment ago.
-    struct Settling : Edited
-    {
-        QBasicTimer timer;
-    };
-
     QStringList take(ConvertedFilters filters);
     void refresh(QObject *source);
     void refreshRecord(std::size_t position);
@@ -93,12 +70,7 @@ private:
     void followHeader(QObject *source);
     void followSelection(QObject *source);
     void drop(QObject *source);
-    int heldRecord() const;
-    int heldHandle() const;
-    bool isEdited(const QObject *source) const;
-    bool keepRecord(const Edited &edited, FilterRecords &records) const;
-    void keepEditedRecords(FilterRecords &records);
-    void endHold(int settleTimeMs);
+    FilterHold *holdOf(int handle);
     int findSelected() const;
     void markSelected();
     void updateModels();
@@ -108,8 +80,7 @@ private:
     FilterWatch m_watch;
     QList<QObject *> m_pointModels;
     std::vector<FilterHandle> m_modelledHandles; ///< What the models were made for.
-    Hold m_hold;
-    std::vector<Settling> m_settling;
+    FilterHolds m_holds;
     int m_selectedRecord = -1;
     int m_selectedHandle = -1; ///< -1: every handle of the selected record is.
     int m_previouslySelectedRecord = -1;

@@ -114,14 +114,23 @@ void RBodeplotCurve::holdFilterPoint(int index)
     presentFilters().hold(index);
 }
 
-void RBodeplotCurve::releaseFilterPoint()
+void RBodeplotCurve::releaseFilterPoint(int index)
 {
-    tellEdit(presentFilters().release(m_settleTime));
+    for (const int handle : index < 0 ? presentFilters().heldHandles() : std::vector{index})
+        tellEdit(presentFilters().release(handle, m_settleTime));
 }
 
-void RBodeplotCurve::cancelFilterPoint()
+void RBodeplotCurve::cancelFilterPoint(int index)
 {
-    tellEdit(presentFilters().cancel());
+    for (const int handle : index < 0 ? presentFilters().heldHandles() : std::vector{index})
+        tellEdit(presentFilters().cancel(handle));
+}
+
+void RBodeplotCurve::stepFilterPoint(int index, qreal octaves, qreal decibels)
+{
+    const FilterSet &set = presentFilters().set();
+    if (set.recordOf(index) >= 0)
+        onUserMoveFilterPoint(index, steppedPoint(set.handles()[std::size_t(index)], octaves, decibels, set.frame()));
 }
 
 void RBodeplotCurve::levelFilterPoint(int index)

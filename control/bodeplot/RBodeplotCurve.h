@@ -63,11 +63,14 @@ public:
     QList<QObject *> filterPointModels();
 
     /// While a handle is held, values that a page writes to its filter wait until the handle is released and
-    /// `settleTime` (ms, default 300) has passed.
+    /// `settleTime` (ms, default 300) has passed. Each handle has a hold of its own.
     Q_INVOKABLE void holdFilterPoint(int index);
-    Q_INVOKABLE void releaseFilterPoint();
-    /// Puts the filter of the held handle back to what it was when the hold began.
-    Q_INVOKABLE void cancelFilterPoint();
+    /// Ends the hold of a handle; -1 ends all.
+    Q_INVOKABLE void releaseFilterPoint(int index = -1);
+    /// Puts the filter of a held handle, -1 for those of all, back to what it was when the hold began.
+    Q_INVOKABLE void cancelFilterPoint(int index = -1);
+    /// Drags a handle this far from where it is, within the frame.
+    Q_INVOKABLE void stepFilterPoint(int index, qreal octaves, qreal decibels);
     /// Sets the gain of a handle's filter to 0 dB, if it has one.
     Q_INVOKABLE void levelFilterPoint(int index);
     /// The handle that follows in order of frequency, see neighbourHandle().

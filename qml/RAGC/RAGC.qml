@@ -134,7 +134,6 @@ Shared.RDynamicsPlot {
         name: "threshold"
         label: qsTr("Threshold")
         defaultValue: root.defaultThreshold
-        homeIsQuiet: false
         yEnabled: false
         xValue: root.targetLevel + root.threshold
         yValue: root.targetLevel + root.threshold / root.ratio

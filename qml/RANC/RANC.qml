@@ -161,7 +161,6 @@ Shared.RDynamicsPlot {
         label: qsTr("Ambient threshold")
         unit: root.xUnit
         defaultValue: root.defaultAmbientThreshold
-        homeIsQuiet: false
         yEnabled: false
         xValue: root.foot
         yValue: root.minimumGain

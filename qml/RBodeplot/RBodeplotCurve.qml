@@ -2,18 +2,20 @@ import QtQuick
 import TambleClient.Control 1.0
 import "../Shared" as Shared
 
-/*! Frequency response of a set of filters in a plot frame, with handles to edit them: the left button drags frequency
-    and gain, the right button Q. */
+/*! Frequency response of a set of filters in a plot frame, with handles to edit them: the left button or a finger drags
+    frequency and gain, the right button Q; arrows, PageUp and PageDown do the same, double click and End set 0 dB. */
 RBodeplotCurveTemplate {
     id: root
 
     RStyleSet.typeName: "RBodeplotCurve"
 
     /*! A handle is being dragged. */
-    property bool pressed: false
+    property bool pressed: root.heldPoints > 0
     property bool hidePoints: false
     /*! Handle that has the keyboard focus, -1 for none. */
     property int focusedPoint: -1
+    /*! How many handles are held: each finger may hold one. */
+    property int heldPoints: 0
 
     property color ssAggregatedCurve: root.RStyleSet.props.aggregatedCurve
     property color ssAggregatedArea: root.RStyleSet.props.aggregatedArea
@@ -76,33 +78,20 @@ RBodeplotCurveTemplate {
             id: handle
 
             required property var modelData
-            readonly property point place: handle.modelData.point
+            readonly property point spot: handle.modelData.point
             // What a screen reader announces beside the description.
             readonly property real value: handle.frequency
             readonly property real minimumValue: root.xMinimum
             readonly property real maximumValue: root.xMaximum
+            property real qualityAtPress: 0
 
-            /*! A step of the keys, in parts of the curve's size. */
-            function step(across: real, down: real) {
+            function hold() {
+                handle.qualityAtPress = handle.quality
                 root.holdFilterPoint(handle.index)
-                root.onUserMoveFilterPoint(handle.index, Qt.point(Math.max(0, Math.min(1, handle.place.x + across)), Math.max(0, Math.min(1, handle.place.y + down))))
-                root.releaseFilterPoint()
             }
 
-            function stepQuality(change: real) {
-                if (!handle.modelData.dragsQuality)
-                    return
-                root.holdFilterPoint(handle.index)
-                root.onUserChangeFilterPointQuality(handle.index, handle.quality, change)
-                root.releaseFilterPoint()
-            }
-
-            x: root.width * handle.place.x - width / 2
-            y: root.height * handle.place.y - height * 3 / 4
-            width: implicitWidth
-            height: implicitHeight
-            z: handle.selected ? 1 : 0
-            visible: handle.place.x >= 0 && handle.place.x <= 1 && handle.place.y >= 0 && handle.place.y <= 1
+            place: Qt.point(root.width * handle.spot.x, root.height * handle.spot.y)
+            visible: handle.spot.x >= 0 && handle.spot.x <= 1 && handle.spot.y >= 0 && handle.spot.y <= 1
             index: handle.modelData.index
             label: handle.modelData.label
             selected: handle.modelData.selected
@@ -113,129 +102,60 @@ RBodeplotCurveTemplate {
             gain: handle.modelData.gain
             hasGain: handle.modelData.hasGain
             hasQuality: handle.modelData.hasQuality
-            showQuality: pointer.changesQuality
-            Accessible.onIncreaseAction: handle.step(1 / 200, 0)
-            Accessible.onDecreaseAction: handle.step(-1 / 200, 0)
-            onActiveFocusChanged: {
-                if (handle.activeFocus)
-                    root.focusedPoint = handle.index
-                else if (root.focusedPoint === handle.index)
-                    root.focusedPoint = -1
-            }
+            showQuality: handle.turning && handle.turnable
+            rightButton: true
+            turnable: handle.modelData.dragsQuality
+            takesWheel: handle.turnable && handle.selected
+            Accessible.onIncreaseAction: handle.stepBy(1, 0)
+            Accessible.onDecreaseAction: handle.stepBy(-1, 0)
             Component.onDestruction: {
                 if (root.focusedPoint === handle.index)
                     root.focusedPoint = -1
-                if (pointer.dragging) {
+                if (handle.dragging)
+                    root.heldPoints -= 1
+                if (handle.dragging || handle.changing)
                     root.releaseFilterPoint()
-                    pointer.end()
+            }
+
+            onActiveFocusChanged: {
+                if (handle.activeFocus) {
+                    root.focusedPoint = handle.index
+                    if (!handle.dragging && !handle.selected)
+                        root.onUserSelectFilterPoint(handle.index)
+                } else if (root.focusedPoint === handle.index) {
+                    root.focusedPoint = -1
                 }
+            }
+            onDraggingChanged: root.heldPoints += handle.dragging ? 1 : -1
+            onTaken: {
+                handle.hold()
+                root.onUserSelectFilterPoint(handle.index)
+            }
+            onBegun: handle.hold()
+            onMovedTo: (x, y) => root.onUserMoveFilterPoint(handle.index, Qt.point(Math.max(0, Math.min(1, x / root.width)), Math.max(0, Math.min(1, y / root.height))))
+            onTurned: way => root.onUserChangeFilterPointQuality(handle.index, handle.qualityAtPress, way)
+            // An arrow is a sixth of an octave or half a decibel.
+            onStepped: (right, up, fine) => root.stepFilterPoint(handle.index, fine ? right * 5 / 24 : right / 6, up / 2)
+            onPaged: up => {
+                if (handle.turnable)
+                    root.onUserChangeFilterPointQuality(handle.index, handle.quality, -8 * up)
+            }
+            onEnded: root.releaseFilterPoint(handle.index)
+            onCanceled: {
+                root.cancelFilterPoint(handle.index)
+                root.releaseFilterPoint(handle.index)
+            }
+            onDropped: root.releaseFilterPoint(handle.index)
+            onResetRequested: {
+                if (!handle.hasGain)
+                    return
+                handle.open()
+                root.levelFilterPoint(handle.index)
+                handle.close()
             }
 
             Keys.onTabPressed: event => event.accepted = root.focusPoint(root.nextFilterPoint(handle.index, true))
             Keys.onBacktabPressed: event => event.accepted = root.focusPoint(root.nextFilterPoint(handle.index, false))
-            Keys.onPressed: event => {
-                const pace = event.modifiers & Qt.ShiftModifier ? 0.1 : 1
-                switch (event.key) {
-                case Qt.Key_Left:
-                    handle.step(-pace / 200, 0)
-                    break
-                case Qt.Key_Right:
-                    handle.step(pace / 200, 0)
-                    break
-                case Qt.Key_Up:
-                    handle.step(0, -pace / 100)
-                    break
-                case Qt.Key_Down:
-                    handle.step(0, pace / 100)
-                    break
-                case Qt.Key_PageUp:
-                    handle.stepQuality(-8)
-                    break
-                case Qt.Key_PageDown:
-                    handle.stepQuality(8)
-                    break
-                case Qt.Key_Escape:
-                    if (!pointer.dragging)
-                        return
-                    // First the values, so that a page that closes its undo step with `pressed` has them in it.
-                    root.cancelFilterPoint()
-                    root.releaseFilterPoint()
-                    pointer.end()
-                    break
-                default:
-                    return
-                }
-                event.accepted = true
-            }
-
-            MouseArea {
-                id: pointer
-
-                property bool dragging: false
-                property bool changesQuality: false
-                property point pressPlace
-                property real baseQuality
-
-                function end() {
-                    dragging = false
-                    changesQuality = false
-                    root.pressed = false
-                }
-
-                // Around the disc.
-                x: (parent.width - width) / 2
-                y: (parent.width - height) / 2
-                width: 44 * RThemeValues.unit
-                height: width
-                containmentMask: Shared.RCircleMask {
-                    area: pointer
-                }
-                acceptedButtons: Qt.LeftButton | Qt.RightButton
-                preventStealing: true
-                onPressed: mouse => {
-                    handle.forceActiveFocus(Qt.MouseFocusReason)
-                    pressPlace = mapToItem(root, mouse.x, mouse.y)
-                    baseQuality = handle.quality
-                    dragging = true
-                    changesQuality = mouse.button === Qt.RightButton && handle.modelData.dragsQuality
-                    root.pressed = true
-                    root.holdFilterPoint(handle.index)
-                    root.onUserSelectFilterPoint(handle.index)
-                }
-                onPositionChanged: mouse => {
-                    if (!dragging)
-                        return
-                    const place = mapToItem(root, mouse.x, mouse.y)
-                    if (changesQuality)
-                        root.onUserChangeFilterPointQuality(handle.index, baseQuality, place.y - pressPlace.y)
-                    else if (mouse.buttons & Qt.LeftButton && place !== pressPlace)
-                        root.onUserMoveFilterPoint(handle.index, Qt.point(Math.max(0, Math.min(1, place.x / root.width)), Math.max(0, Math.min(1, place.y / root.height))))
-                }
-                onReleased: {
-                    if (dragging)
-                        root.releaseFilterPoint()
-                    end()
-                }
-                onCanceled: {
-                    if (dragging) {
-                        root.cancelFilterPoint()
-                        root.releaseFilterPoint()
-                    }
-                    end()
-                }
-                onDoubleClicked: mouse => {
-                    if (mouse.button !== Qt.LeftButton || !handle.hasGain)
-                        return
-                    root.levelFilterPoint(handle.index)
-                    root.releaseFilterPoint()
-                    end()
-                }
-                onWheel: wheel => {
-                    wheel.accepted = handle.selected && (wheel.modifiers & Qt.ControlModifier) !== 0
-                    if (wheel.accepted)
-                        handle.stepQuality(-8 * wheel.angleDelta.y / 120)
-                }
-            }
         }
         // qmllint enable unqualified
     }

@@ -12,7 +12,7 @@ RLimiterCurveTemplate {
     property bool handleVisible: true
     readonly property alias handle: point
     property string label
-    /*! Step of the arrow keys and of dragging, in dB; a tenth of it with Shift, 0 for no steps while dragging. */
+    /*! Step of the arrow keys and of dragging, in dB; a fifth of it with Shift, 0 for no steps while dragging. */
     property real stepSize: 0.5
     /*! Threshold that a double click on the handle sets; undefined for none. */
     property var defaultThreshold
@@ -35,13 +35,6 @@ RLimiterCurveTemplate {
             return
         edit.update(threshold)
         root.userChangedThreshold(threshold)
-    }
-
-    /*! One finished change, as a key makes it. */
-    function commitTo(threshold: real) {
-        edit.begin(root.threshold)
-        root.moveTo(threshold)
-        root.commit()
     }
 
     function commit() {
@@ -82,107 +75,25 @@ RLimiterCurveTemplate {
         readonly property real maximumValue: root.yMaximum
         readonly property real stepSize: root.stepSize
 
-        x: root.width * root.handlePoint.x - width / 2
-        y: root.height * root.handlePoint.y - height / 2
-        width: implicitWidth
-        height: implicitHeight
+        place: Qt.point(root.width * root.handlePoint.x, root.height * root.handlePoint.y)
         visible: root.handleVisible
-        activeFocusOnTab: true
         label: root.label
         gain: root.threshold
-        selected: activeFocus || pointer.dragging
         visiblePoint: !root.bypass
-        showQuality: pointer.dragging
-        Accessible.onIncreaseAction: root.commitTo(root.thresholdMovedBy(root.stepSize))
-        Accessible.onDecreaseAction: root.commitTo(root.thresholdMovedBy(-root.stepSize))
-
-        Keys.onPressed: event => {
-            const coarse = event.modifiers & Qt.ControlModifier || event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown
-            const step = root.stepSize * (event.modifiers & Qt.ShiftModifier ? 0.1 : coarse ? 10 : 1)
-            switch (event.key) {
-            case Qt.Key_Up:
-            case Qt.Key_Right:
-            case Qt.Key_PageUp:
-                root.commitTo(root.thresholdMovedBy(step))
-                break
-            case Qt.Key_Down:
-            case Qt.Key_Left:
-            case Qt.Key_PageDown:
-                root.commitTo(root.thresholdMovedBy(-step))
-                break
-            case Qt.Key_Escape:
-                if (pointer.dragging) {
-                    pointer.cancelDrag()
-                    break
-                }
+        Accessible.onIncreaseAction: point.stepBy(0, 1)
+        Accessible.onDecreaseAction: point.stepBy(0, -1)
+        onBegun: edit.begin(root.threshold)
+        onMovedTo: (x, y, fine) => root.moveTo(root.thresholdNear(Qt.point(x / root.width, y / root.height), fine ? root.stepSize / 5 : root.stepSize))
+        onStepped: (right, up) => root.moveTo(root.thresholdMovedBy((right + up) * root.stepSize))
+        onPaged: up => root.moveTo(root.thresholdMovedBy(6 * up * root.stepSize))
+        onEnded: root.commit()
+        onCanceled: root.cancel()
+        onResetRequested: {
+            if (root.defaultThreshold === undefined)
                 return
-            default:
-                return
-            }
-            event.accepted = true
-        }
-
-        MouseArea {
-            id: pointer
-
-            property bool dragging: false
-            property bool fine: false
-            // Where the handle and the pointer were when the drag began, or went over to the other pace.
-            property point handleAnchor
-            property point pointerAnchor
-
-            function takeHold(place: point) {
-                handleAnchor = root.handlePoint
-                pointerAnchor = place
-            }
-
-            function cancelDrag() {
-                dragging = false
-                root.cancel()
-            }
-
-            anchors.centerIn: parent
-            width: 44 * RThemeValues.unit
-            height: 44 * RThemeValues.unit
-            containmentMask: Shared.RCircleMask {
-                area: pointer
-            }
-            preventStealing: true
-            onPressed: mouse => {
-                point.forceActiveFocus(Qt.MouseFocusReason)
-                fine = mouse.modifiers & Qt.ShiftModifier
-                takeHold(mapToItem(root, mouse.x, mouse.y))
-                edit.begin(root.threshold)
-                dragging = true
-            }
-            onPositionChanged: mouse => {
-                if (!dragging)
-                    return
-                const place = mapToItem(root, mouse.x, mouse.y)
-                if (fine !== Boolean(mouse.modifiers & Qt.ShiftModifier)) {
-                    fine = !fine
-                    takeHold(place)
-                }
-                const pace = fine ? 0.1 : 1
-                const wanted = Qt.point(handleAnchor.x + pace * (place.x - pointerAnchor.x) / root.width, handleAnchor.y + pace * (place.y - pointerAnchor.y) / root.height)
-                if (place !== pointerAnchor)
-                    root.moveTo(root.thresholdNear(wanted, pace * root.stepSize))
-            }
-            onReleased: {
-                if (dragging)
-                    root.commit()
-                dragging = false
-            }
-            onCanceled: {
-                if (dragging)
-                    cancelDrag()
-            }
-            onDoubleClicked: {
-                if (root.defaultThreshold === undefined)
-                    return
-                dragging = false
-                root.commitTo(root.defaultThreshold)
-            }
+            point.open()
+            root.moveTo(root.defaultThreshold)
+            point.close()
         }
     }
 }

@@ -106,7 +106,6 @@ Shared.RDynamicsPlot {
         label: qsTr("Ratio")
         valueText: qsTr("%1 : 1").arg(shown)
         defaultValue: root.defaultRatio
-        homeIsQuiet: false
         step: 0.1
         fineStep: 0.1
         xEnabled: false

@@ -63,7 +63,6 @@ Shared.RDynamicsPlot {
         name: "duckingLevel"
         label: qsTr("Ducking")
         defaultValue: root.defaultDuckingLevel
-        homeIsQuiet: false
         xEnabled: false
         xValue: root.thresholdMax
         yValue: root.thresholdMax - root.duckingLevel

@@ -48,7 +48,6 @@ Shared.RDynamicsPlot {
         label: qsTr("Threshold")
         unit: root.xUnit
         defaultValue: root.defaultThreshold
-        homeIsQuiet: false
         yEnabled: false
         xValue: root.threshold
         yValue: root.threshold
@@ -66,7 +65,6 @@ Shared.RDynamicsPlot {
         name: "depth"
         label: qsTr("Depth")
         defaultValue: root.defaultDepth
-        homeIsQuiet: false
         xEnabled: false
         xValue: root.threshold
         yValue: root.threshold - root.depth

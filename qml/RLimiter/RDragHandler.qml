@@ -4,7 +4,7 @@ import "../Shared" as Shared
 
 /*! Draggable handle at a point of a plot, which its parent fills. The page writes what the user changes to its device;
     until that answers, the handle shows the edited point. */
-RPlotHandle {
+RLevelHandle {
     id: root
 
     /*! Where a double click or the End key leads; undefined leaves that coordinate. */
@@ -40,8 +40,7 @@ RPlotHandle {
     /*! A coordinate this many steps further. */
     function steppedValue(value: real, count: real, fine: bool, from: real, to: real): real {
         const step = Math.abs(root.stepSize) || Math.abs(to - from) / 100
-        const size = fine ? step / 10 : step
-        return RPlotRules.steppedValue(value, count * size, from, to, Math.abs(root.stepSize) > 0 ? size : 0)
+        return RPlotRules.steppedValue(value, count * step, from, to, Math.abs(root.stepSize) > 0 ? (fine ? step / 5 : step) : 0)
     }
 
     valueText: root.xEnabled && root.yEnabled ? qsTr("%1 / %2").arg(root.numberText(root.xValue)).arg(root.numberText(root.yValue)) : root.numberText(root.value)
@@ -51,7 +50,7 @@ RPlotHandle {
         xEdit.begin(root.xValue)
         yEdit.begin(root.yValue)
     }
-    onMovedTo: (x, y) => root.moveTo(x, y)
+    onDrawnTo: (x, y) => root.moveTo(x, y)
     onStepped: (right, up, fine) => {
         const x = root.yEnabled ? right : right + up
         const y = root.xEnabled ? up : right + up

@@ -3,7 +3,7 @@ import TambleClient.Control 1.0
 import "../Shared" as Shared
 
 /*! Handle of one parameter of a dynamics panel. Keys step the parameter, the pointer moves its point of the plot. */
-RPlotHandle {
+RLevelHandle {
     id: root
 
     required property Shared.RDynamicsPlot plot
@@ -12,8 +12,6 @@ RPlotHandle {
     required property string name
     property var defaultValue
     property string unit: "dB"
-    /*! Whether the Home key may lead to the lower bound: not where that is the louder one. */
-    property bool homeIsQuiet: true
     /*! Rounding while dragging, and with Shift; 0 for none. */
     property real step: root.plot.dragStep
     property real fineStep: root.step / 5
@@ -65,11 +63,11 @@ RPlotHandle {
     bubbleText: qsTr("%1 %2").arg(root.label).arg(root.valueText)
 
     onBegun: valueEdit.begin(root.value)
-    onMovedTo: (x, y, fine) => root.edit(RPlotRules.limitedValue(root.valueAt(x, y), root.minimum, root.maximum, fine ? root.fineStep : root.step))
+    onDrawnTo: (x, y, fine) => root.edit(RPlotRules.limitedValue(root.valueAt(x, y), root.minimum, root.maximum, fine ? root.fineStep : root.step))
     onStepped: (right, up, fine) => {
-        const rounding = Math.abs(fine ? root.fineStep : root.step)
-        const size = rounding || (fine ? root.stepSize / 5 : root.stepSize)
-        root.edit(RPlotRules.steppedValue(root.value, (right + up) * size, root.minimum, root.maximum, rounding))
+        // A step of Shift is the fine one, which a handle may have chosen for itself.
+        const size = fine ? Math.abs(root.fineStep) * 5 || root.stepSize : root.stepSize
+        root.edit(RPlotRules.steppedValue(root.value, (right + up) * size, root.minimum, root.maximum, Math.abs(fine ? root.fineStep : root.step)))
     }
     onEnded: {
         valueEdit.commit()
@@ -80,10 +78,6 @@ RPlotHandle {
         root.edit(valueEdit.valueAtBegin)
         valueEdit.cancel()
         root.plot.editCanceled()
-    }
-    onHomeRequested: {
-        if (root.homeIsQuiet)
-            root.editAtOnce(root.minimumValue)
     }
     onResetRequested: {
         if (root.defaultValue !== undefined)

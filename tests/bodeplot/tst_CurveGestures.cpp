@@ -75,11 +75,11 @@ private Q_SLOTS:
         page.filter(0)->setProperty("gain", 5.0);
         QCOMPARE(curve->handle(0)->gain(), 5.0);
 
-        // Another type, missed during a hold, leaves the handles alone until the next event.
+        // Another type, missed during a hold, leaves the handles alone until that has settled.
         curve->holdFilterPoint(0);
         page.filter(0)->setProperty("type", 3);
         page.filter(0)->setProperty("freq", 300.0);
-        curve->holdFilterPoint(-1);
+        curve->releaseFilterPoint(0);
         QCOMPARE(curve->handle(0)->moveMode(), HandleMotion::Both);
         QTRY_COMPARE(curve->handle(0)->moveMode(), HandleMotion::Horizontal);
 

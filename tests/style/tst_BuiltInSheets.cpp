@@ -57,8 +57,8 @@ QStringList difference(const QSet<QString> &a, const QSet<QString> &b)
 
 } // namespace
 
-/// The built-in sheets: the format of light and dark, their content against independent tables, and what people can make
-/// out on them.
+/// The built-in sheets: the format of light and dark, their content against independent tables, and what people can
+/// make out on them.
 class tst_BuiltInSheets : public QObject
 {
     Q_OBJECT

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <functional>
 #include <iterator>
 #include <utility>
@@ -128,6 +129,22 @@ QPointF handlePoint(const FilterHandle &handle, const HandleFrame &frame)
     if (!handle.visible)
         return {beforeFrame, beforeFrame};
     return {handleX(handle.frequencyHz, frame), handleY(handle.gainDb, frame)};
+}
+
+QPointF steppedPoint(const FilterHandle &handle, double octaves, double decibels, const HandleFrame &frame)
+{
+    // From the point, since the values of an asymmetric band are one step late. A direction without a step keeps its
+    // place, which a way there and back through Hz or dB might round.
+    QPointF point = handle.point;
+    if (octaves != 0.0) {
+        const double frequency = frequencyAt(point.x(), frame) * std::exp2(octaves);
+        point.setX(handleX(std::clamp(frequency, frame.xMinimum, std::max(frame.xMinimum, frame.xMaximum)), frame));
+    }
+    if (decibels != 0.0) {
+        const double level = levelAt(point.y(), frame) + decibels;
+        point.setY(handleY(std::clamp(level, frame.yMinimum, std::max(frame.yMinimum, frame.yMaximum)), frame));
+    }
+    return point;
 }
 
 bool sameHandleKinds(const std::vector<FilterHandle> &a, const std::vector<FilterHandle> &b)

@@ -58,6 +58,9 @@ HandleProblem appendHandles(const tamble::common::CalculationItem *record, int p
 /// Point of a handle in the frame: a handle that is not visible is outside it in both directions.
 QPointF handlePoint(const FilterHandle &handle, const HandleFrame &frame);
 
+/// Where a drag leads that moves a handle by octaves to the right and by decibels upwards; within the frame.
+QPointF steppedPoint(const FilterHandle &handle, double octaves, double decibels, const HandleFrame &frame);
+
 /// Whether both lists have the same number and kinds of handles.
 bool sameHandleKinds(const std::vector<FilterHandle> &a, const std::vector<FilterHandle> &b);
 

@@ -226,14 +226,15 @@ ThemedTestCase {
         return [
             { tag: "up", key: Qt.Key_Up, modifiers: Qt.NoModifier, threshold: 10.5 },
             { tag: "down", key: Qt.Key_Down, modifiers: Qt.NoModifier, threshold: 9.5 },
-            { tag: "fine", key: Qt.Key_Left, modifiers: Qt.ShiftModifier, threshold: 9.95 },
-            { tag: "page", key: Qt.Key_PageDown, modifiers: Qt.NoModifier, threshold: 5 }
+            { tag: "fine", key: Qt.Key_Left, modifiers: Qt.ShiftModifier, threshold: 9.9 },
+            { tag: "page", key: Qt.Key_PageDown, modifiers: Qt.NoModifier, threshold: 7 }
         ]
     }
     function test_thresholdKeys(row) {
         const frame = make({})
         frame.limiter.handle.forceActiveFocus()
         keyClick(row.key, row.modifiers)
+        frame.limiter.handle.close()
         compare(committed.signalArguments.map(args => args[0]), [row.threshold])
         compare(frame.limiter.threshold, row.threshold)
     }

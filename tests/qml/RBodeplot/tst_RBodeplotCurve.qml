@@ -219,10 +219,12 @@ ThemedTestCase {
 
     function test_keys_data() {
         return [
-            { tag: "right", key: Qt.Key_Right, x: 201.5, y: 200 },
-            { tag: "left, fine", key: Qt.Key_Left, modifiers: Qt.ShiftModifier, x: 199.85, y: 200 },
-            { tag: "up", key: Qt.Key_Up, x: 200, y: 196 },
-            { tag: "down, fine", key: Qt.Key_Down, modifiers: Qt.ShiftModifier, x: 200, y: 200.4 }
+            { tag: "right", key: Qt.Key_Right, octaves: 1 / 6, gain: 0 },
+            { tag: "left, fine", key: Qt.Key_Left, modifiers: Qt.ShiftModifier, octaves: -1 / 24, gain: 0 },
+            { tag: "right, coarse", key: Qt.Key_Right, modifiers: Qt.ControlModifier, octaves: 1, gain: 0 },
+            { tag: "up", key: Qt.Key_Up, octaves: 0, gain: 0.5 },
+            { tag: "down, fine", key: Qt.Key_Down, modifiers: Qt.ShiftModifier, octaves: 0, gain: -0.1 },
+            { tag: "up, coarse", key: Qt.Key_Up, modifiers: Qt.ControlModifier, octaves: 0, gain: 3 }
         ]
     }
 
@@ -231,9 +233,16 @@ ThemedTestCase {
         const band = handles(curve)[0]
         band.forceActiveFocus()
         keyClick(data.key, data.modifiers === undefined ? Qt.NoModifier : data.modifiers)
-        fuzzyCompare(band.x + band.width / 2, data.x, 1e-3)
-        fuzzyCompare(band.y + band.height * 0.75, data.y, 1e-3)
+        fuzzyCompare(curve.calculationItems[0].freq, 2000 * Math.pow(2, data.octaves), 1e-3)
+        fuzzyCompare(curve.calculationItems[0].gain, data.gain, 1e-6)
+        // 300 pixels are three decades, 400 are 40 dB.
+        fuzzyCompare(band.x + band.width / 2, 200 + 100 * Math.log10(2) * data.octaves, 1e-3)
+        fuzzyCompare(band.y + band.height * 0.75, 200 - 10 * data.gain, 1e-3)
         compare(changed.count, 1)
+        keyClick(Qt.Key_Home)
+        compare(changed.count, 1)
+        keyClick(Qt.Key_End)
+        compare(curve.calculationItems[0].gain, 0)
     }
 
     function test_asymmetricBandFollowsEveryKey() {
@@ -242,10 +251,11 @@ ThemedTestCase {
         waitForRendering(curve)
         const upper = handles(curve)[1]
         upper.forceActiveFocus()
-        for (let i = 1; i <= 3; ++i) {
+        for (let i = 1; i <= 2; ++i) {
             keyClick(Qt.Key_Right)
-            tryVerify(() => Math.abs(curve.asymmetric.freq2 - 2000 * Math.pow(10, 1.5 * i / 100)) < 0.01, 1000, "settled")
-            fuzzyCompare(upper.x + upper.width / 2, 200 + 1.5 * i, 1e-3)
+            keyClick(Qt.Key_Right)
+            tryVerify(() => Math.abs(curve.asymmetric.freq2 - 2000 * Math.pow(2, i / 3)) < 0.01, 1000, "settled")
+            fuzzyCompare(upper.x + upper.width / 2, 200 + 100 * Math.log10(2) * i / 3, 1e-3)
         }
     }
 
@@ -261,10 +271,81 @@ ThemedTestCase {
         const [band, pass] = handles(curve)
         keyClick(Qt.Key_Tab)
         verify(pass.activeFocus)
+        compare(selected.signalArguments.map(args => args[0]), [1], "the focus selects")
         keyClick(Qt.Key_Tab)
         verify(band.activeFocus)
         keyClick(Qt.Key_Backtab)
         verify(pass.activeFocus)
+    }
+
+    function test_eachFingerHoldsAHandle() {
+        const curve = make()
+        const [band, pass] = handles(curve)
+        const filters = curve.calculationItems
+        const touch = touchEvent(curve)
+        touch.press(0, curve, 200, 195).commit()
+        touch.stationary(0).press(1, curve, 100, 195).commit()
+        compare([band.dragging, pass.dragging, curve.heldPoints], [true, true, 2])
+        touch.move(0, curve, 150, 100).move(1, curve, 50, 195).commit()
+        // Movements of fingers come with the next frame.
+        tryVerify(() => Math.abs(filters[0].freq - 20 * Math.pow(10, 1.5)) < 0.01)
+        fuzzyCompare(filters[1].freq, 20 * Math.pow(10, 0.5), 0.01)
+        touch.release(0, curve, 150, 100).stationary(1).commit()
+        compare([band.dragging, pass.dragging, curve.pressed], [false, true, true])
+        filters[1].freq = 5000
+        fuzzyCompare(pass.frequency, 20 * Math.pow(10, 0.5), 0.01, "still held")
+        curve.cancelFilterPoint(1)
+        fuzzyCompare(filters[1].freq, 200, 0.01)
+        touch.release(1, curve, 50, 195).commit()
+        compare(curve.pressed, false)
+    }
+
+    function test_tellsWhatIsDragged() {
+        const curve = make()
+        const band = handles(curve)[0]
+        mousePress(curve, 200, 195)
+        mouseMove(curve, 100, 100)
+        compare(findChild(band, "bubble").text, "200 Hz, +10.0 dB")
+        mouseRelease(curve, 100, 100)
+        tryVerify(() => findChild(band, "bubble") === null)
+        mousePress(curve, 100, 95, Qt.RightButton)
+        mouseMove(curve, 100, 295, -1, Qt.RightButton)
+        compare(findChild(band, "bubble").text, "Q 40.0")
+        mouseRelease(curve, 100, 295, Qt.RightButton)
+    }
+
+    // The second click on handles that lie on each other leads to the other one, unless it becomes a double click.
+    function test_clickLeadsToTheHandleBeneath() {
+        const curve = make()
+        curve.calculationItems[1].freq = 2000
+        const [band, pass] = handles(curve)
+        mouseClick(curve, 200, 190)
+        compare([band.activeFocus, pass.activeFocus], [false, true], "the one on top")
+        wait(Application.styleHints.mouseDoubleClickInterval + 50)
+        mouseClick(curve, 200, 190)
+        compare(pass.activeFocus, true)
+        tryCompare(band, "activeFocus", true)
+        compare(band.selected, true)
+        mousePress(curve, 200, 190)
+        mouseMove(curve, 150, 190)
+        compare([band.dragging, pass.dragging], [true, false], "the one touched last")
+        mouseRelease(curve, 150, 190)
+    }
+
+    function test_discsStayInThePlot_data() {
+        return [
+            { tag: "lowest frequency, top", frequency: 20, gain: 20, x: 12, y: 24 },
+            { tag: "highest frequency", frequency: 20000, gain: 0, x: -12, y: 0 },
+            { tag: "in between", frequency: 1000, gain: 0, x: 0, y: 0 }
+        ]
+    }
+
+    function test_discsStayInThePlot(data: var) {
+        const curve = make()
+        curve.calculationItems[0].freq = data.frequency
+        curve.calculationItems[0].gain = data.gain
+        const band = handles(curve)[0]
+        compare([band.discX, band.discY], [data.x, data.y])
     }
 
     function test_wheelChangesTheQualityWithControlOnly() {

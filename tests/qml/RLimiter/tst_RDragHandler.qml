@@ -73,10 +73,10 @@ ThemedTestCase {
         keyClick(Qt.Key_Right)
         keyClick(Qt.Key_Down)
         keyClick(Qt.Key_Up, Qt.ShiftModifier)
-        compare([handle.xValue, handle.yValue], [2, -1.8])
+        compare([handle.xValue, handle.yValue], [2, -1.6])
         keyClick(Qt.Key_Escape)
         compare([handle.xValue, handle.yValue], [0, 0])
-        compare(log, ["dragged 2 0", "dragged 2 -2", "dragged 2 -1.8", "dragged 0 0", "canceled"])
+        compare(log, ["dragged 2 0", "dragged 2 -2", "dragged 2 -1.6", "dragged 0 0", "canceled"])
         log.length = 0
         mouseDoubleClickSequence(handle.parent, handle.x + 8, handle.y + 8)
         compare([handle.xValue, handle.yValue], [5, 0])
@@ -88,7 +88,7 @@ ThemedTestCase {
         return [
             { tag: "negative", body: "stepSize: -0.5", x: 0.5 },
             { tag: "continuous", body: "stepSize: 0; xFrom: -61.3", x: 0.813 },
-            { tag: "continuous, fine", body: "stepSize: 0; xFrom: -61.3", modifiers: Qt.ShiftModifier, x: 0.0813 },
+            { tag: "continuous, fine", body: "stepSize: 0; xFrom: -61.3", modifiers: Qt.ShiftModifier, x: 0.1626 },
             { tag: "no number", body: "stepSize: NaN", x: 0.8 },
             { tag: "on the key pad", body: "", modifiers: Qt.KeypadModifier, x: 0.5 },
             { tag: "of the window", body: "", modifiers: Qt.AltModifier, x: 0 },

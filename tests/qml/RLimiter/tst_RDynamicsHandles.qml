@@ -9,23 +9,23 @@ PanelTestCase {
 
     function handleRows(): list<var> {
         return [
-            { tag: "limiter", panel: "RLimiter", parameter: "threshold", dx: -30, dy: 30, value: -10, first: -5, up: 0.5, page: -5, home: -60 },
-            { tag: "limiter, across the diagonal", panel: "RLimiter", parameter: "threshold", dx: -30, dy: 0, value: -5, first: -2.5, up: 0.5, page: -5, home: -60 },
-            { tag: "compressor threshold, rounded", panel: "RCompressor", parameter: "threshold", dx: -31, dy: 0, value: -10.5, first: -5, up: 0.5, page: -5, home: -60 },
-            { tag: "compressor ratio", panel: "RCompressor", parameter: "ratio", dx: 0, dy: -30, value: 1.3, first: 2, up: 4.1, page: 3, home: 4 },
-            { tag: "compressor gain", panel: "RCompressor", parameter: "makeUpGain", dx: 0, dy: -30, value: 10, first: 5, up: 0.5, page: 0, home: 0 },
-            { tag: "AGC target", panel: "RAGC", parameter: "levelIn", dx: -30, dy: 30, value: -10, first: -5, up: 0.5, page: -5, home: -20 },
-            { tag: "AGC threshold", panel: "RAGC", parameter: "threshold", dx: -30, dy: 0, value: -30, first: -25, up: -19.5, page: -25, home: -20 },
-            { tag: "AGC knee", panel: "RAGC", parameter: "kneeIn", dx: -12, dy: 0, value: 10, first: 8, up: 6.5, page: 1, home: 0 },
-            { tag: "AGC ratio", panel: "RAGC", parameter: "ratio", dx: 0, dy: -10, value: 2, first: 2.4, up: 3.1, page: 2, home: 1 },
-            { tag: "ANC minimum gain", panel: "RANC", parameter: "minimumGain", dx: 0, dy: -30, value: -5, first: -7.5, up: -9.5, page: -15, home: -20 },
-            { tag: "ANC maximum gain", panel: "RANC", parameter: "maximumGain", dx: 0, dy: 30, value: 5, first: 7.5, up: 10.5, page: 5, home: -20 },
-            { tag: "ANC threshold", panel: "RANC", parameter: "ambientThreshold", dx: 30, dy: 0, value: -10, first: -15, up: -19.5, page: -25, home: -20 },
-            { tag: "ANC ratio", panel: "RANC", parameter: "ratio", dx: -30, dy: 0, value: 2, first: 1.3, up: 1.1, page: 0.1, home: 0.1 },
-            { tag: "ducker threshold", panel: "RDucker", parameter: "threshold", dx: -30, dy: 0, value: -10, first: -5, up: 0.5, page: -5, home: -60 },
-            { tag: "ducking", panel: "RDucker", parameter: "duckingLevel", dx: 0, dy: 30, value: 30, first: 25, up: 20.5, page: 15, home: 20 },
-            { tag: "gate threshold", panel: "RGate", parameter: "threshold", dx: -30, dy: 0, value: -10, first: -5, up: 0.5, page: -5, home: 0 },
-            { tag: "gate depth", panel: "RGate", parameter: "depth", dx: 0, dy: -30, value: 30, first: 35, up: 40.5, page: 35, home: 40 },
+            { tag: "limiter", panel: "RLimiter", parameter: "threshold", dx: -30, dy: 30, value: -10, first: -5, up: 0.5, page: -3 },
+            { tag: "limiter, across the diagonal", panel: "RLimiter", parameter: "threshold", dx: -30, dy: 0, value: -5, first: -2.5, up: 0.5, page: -3 },
+            { tag: "compressor threshold, rounded", panel: "RCompressor", parameter: "threshold", dx: -31, dy: 0, value: -10.5, first: -5, up: 0.5, page: -3 },
+            { tag: "compressor ratio", panel: "RCompressor", parameter: "ratio", dx: 0, dy: -30, value: 1.3, first: 2, up: 4.1, page: 3.4 },
+            { tag: "compressor gain", panel: "RCompressor", parameter: "makeUpGain", dx: 0, dy: -30, value: 10, first: 5, up: 0.5, page: 0 },
+            { tag: "AGC target", panel: "RAGC", parameter: "levelIn", dx: -30, dy: 30, value: -10, first: -5, up: 0.5, page: -3 },
+            { tag: "AGC threshold", panel: "RAGC", parameter: "threshold", dx: -30, dy: 0, value: -30, first: -25, up: -19.5, page: -23 },
+            { tag: "AGC knee", panel: "RAGC", parameter: "kneeIn", dx: -12, dy: 0, value: 10, first: 8, up: 6.5, page: 3 },
+            { tag: "AGC ratio", panel: "RAGC", parameter: "ratio", dx: 0, dy: -10, value: 2, first: 2.4, up: 3.1, page: 2.4 },
+            { tag: "ANC minimum gain", panel: "RANC", parameter: "minimumGain", dx: 0, dy: -30, value: -5, first: -7.5, up: -9.5, page: -13 },
+            { tag: "ANC maximum gain", panel: "RANC", parameter: "maximumGain", dx: 0, dy: 30, value: 5, first: 7.5, up: 10.5, page: 7 },
+            { tag: "ANC threshold", panel: "RANC", parameter: "ambientThreshold", dx: 30, dy: 0, value: -10, first: -15, up: -19.5, page: -23 },
+            { tag: "ANC ratio", panel: "RANC", parameter: "ratio", dx: -30, dy: 0, value: 2, first: 1.3, up: 1.1, page: 0.4 },
+            { tag: "ducker threshold", panel: "RDucker", parameter: "threshold", dx: -30, dy: 0, value: -10, first: -5, up: 0.5, page: -3 },
+            { tag: "ducking", panel: "RDucker", parameter: "duckingLevel", dx: 0, dy: 30, value: 30, first: 25, up: 20.5, page: 17 },
+            { tag: "gate threshold", panel: "RGate", parameter: "threshold", dx: -30, dy: 0, value: -10, first: -5, up: 0.5, page: -3 },
+            { tag: "gate depth", panel: "RGate", parameter: "depth", dx: 0, dy: -30, value: 30, first: 35, up: 40.5, page: 37 },
         ]
     }
 
@@ -93,7 +93,7 @@ PanelTestCase {
         keyClick(Qt.Key_End)
         compare(panel[data.parameter], start, "the end key leads to the default, never to the loudest")
         keyClick(Qt.Key_Home)
-        compare(panel[data.parameter], data.home)
+        compare(panel[data.parameter], start)
     }
 
     function test_dragStep_data() {
@@ -162,17 +162,6 @@ PanelTestCase {
         panel.Keys.escapePressed.connect(() => passedOn += 1)
         keyClick(Qt.Key_Escape)
         compare(passedOn, 1, "with nothing to take back")
-    }
-
-    function test_paceChangesWithoutAJump() {
-        const panel = make("RDucker { threshold: -20 }")
-        const centre = centreOf(panel, "threshold")
-        mousePress(panel, centre.x, centre.y, Qt.LeftButton, Qt.ShiftModifier)
-        mouseMove(panel, centre.x + 30, centre.y)
-        compare(panel.threshold, -19, "a tenth until Shift is known to be released")
-        mouseMove(panel, centre.x + 60, centre.y)
-        compare(panel.threshold, -9)
-        mouseRelease(panel, centre.x + 60, centre.y)
     }
 
     function test_deviceAnswersLate() {

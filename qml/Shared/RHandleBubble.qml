@@ -1,6 +1,5 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
 
 /*! Bubble with the value of a handle: above it, or below where the plot ends. */
 Rectangle {
@@ -8,8 +7,7 @@ Rectangle {
 
     required property Item handle
     property alias text: label.text
-
-    property color ssColor: textStyle.RStyleSet.props.foreground
+    property alias ssColor: label.color
 
     readonly property real gap: 6 * RThemeValues.unit
     readonly property bool fitsAbove: root.handle.y >= root.height + root.gap
@@ -22,14 +20,9 @@ Rectangle {
     height: label.implicitHeight + 4 * RThemeValues.unit
     radius: 2 * RThemeValues.unit
 
-    Shared.RStyleProbe {
-        id: textStyle
-        type: "RButton"
-    }
     RText {
         id: label
         anchors.centerIn: parent
-        color: root.ssColor
         font.pixelSize: RThemeValues.fontSizeS
     }
 }

@@ -1,0 +1,55 @@
+import QtQuick
+import TambleClient.Control 1.0
+import "../Shared" as Shared
+
+/*! Handle in a plot of levels, which its parent fills. What a gesture changes is told by signals and up to the kinds of
+    handles. */
+Shared.RPlotHandle {
+    id: root
+
+    /*! Ranges of the plot; the handle stands at the nearest edge when its values are outside. */
+    property real xFrom: -60
+    property real xTo: 20
+    property real yFrom: -60
+    property real yTo: 20
+    property real xValue: 0
+    property real yValue: 0
+    property bool xEnabled: true
+    property bool yEnabled: true
+
+    // For assistive tools.
+    property real value: root.xEnabled ? root.xValue : root.yValue
+    property real minimumValue: root.xEnabled ? Math.min(root.xFrom, root.xTo) : Math.min(root.yFrom, root.yTo)
+    property real maximumValue: root.xEnabled ? Math.max(root.xFrom, root.xTo) : Math.max(root.yFrom, root.yTo)
+    property real stepSize: 0.5
+
+    /*! The pointer has drawn the handle to these levels, which may lie outside. */
+    signal drawnTo(real x, real y, bool fine)
+    /*! An assistive tool asks for this value. */
+    signal valueRequested(real value)
+
+    /*! For assistive tools, which would else write the property. */
+    function requestValue(value: var) {
+        if (!root.readOnly && !root.dragging)
+            root.valueRequested(value)
+    }
+
+    /*! A coordinate or parameter, or a dash where it is no number. */
+    function numberText(value: real): string {
+        if (!isFinite(value))
+            return isNaN(value) ? "–" : value < 0 ? "−∞" : "∞"
+        return value.toFixed(1).replace(/^-0\.0$/, "0.0")
+    }
+
+    place: root.parent ? Qt.point(RPlotRules.placeOnAxis(root.xValue, root.xFrom, root.xTo) * root.parent.width,
+        (1 - RPlotRules.placeOnAxis(root.yValue, root.yFrom, root.yTo)) * root.parent.height) : Qt.point(0, 0)
+    discSize: 16 * RThemeValues.unit
+    activeFocusOnTab: true
+    Accessible.name: root.label !== "" ? root.label : qsTr("Handle")
+    Accessible.onIncreaseAction: if (!root.readOnly) root.stepBy(0, 1)
+    Accessible.onDecreaseAction: if (!root.readOnly) root.stepBy(0, -1)
+
+    onMovedTo: (x, y, fine) => root.drawnTo(root.xEnabled ? RPlotRules.levelAtPlace(x / root.parent.width, root.xFrom, root.xTo) : root.xValue,
+        root.yEnabled ? RPlotRules.levelAtPlace(1 - y / root.parent.height, root.yFrom, root.yTo) : root.yValue, fine)
+    onPaged: up => root.stepped(0, 6 * up, false)
+}
