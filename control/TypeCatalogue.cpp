@@ -1,5 +1,7 @@
 #include "TypeCatalogue.h"
 
+#include "base/PartComponents.h"
+#include "base/PendingValue.h"
 #include "bodeplot/RBodeplotCurve.h"
 #include "bodeplot/RLimiterCurve.h"
 #include "bodeplot/RSimpleCurve.h"
@@ -316,6 +318,7 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RHandleBase>("RHandleBase");
     registrar.creatable<RMeterBar>("RMeterBar");
     registrar.creatable<RLabelBase>("RLabelBase");
+    registrar.creatable<PendingValue>("RPendingValue");
     registrar.withLaterProperties<QQuickItem>();
     registrar.withLaterProperties<QQuickControl>();
     registrar.withLaterProperties<QQuickAbstractButton>();
@@ -329,6 +332,19 @@ void registerInternals(const Registrar &registrar)
     registrar.singletons("Shared", {"RThemeValues"});
 }
 
+// Where native items find their parts.
+void registerParts()
+{
+    const auto name = [](Part part, const char *file) {
+        setPartSource(part, QUrl(QStringLiteral("qrc:/qml/") + QLatin1String(file)));
+    };
+    name(Part::ValueBinding, "Shared/RValueBinding.qml");
+    name(Part::ControlLine, "Shared/RControlLine.qml");
+    name(Part::FocusFrame, "Shared/RFocusRectangle.qml");
+    name(Part::LabelLine, "RLabel/RLabelLine.qml");
+    name(Part::ToolTip, "Shared/RToolTip.qml");
+}
+
 } // namespace
 
 void registerCatalogue(const char *uri)
@@ -338,6 +354,7 @@ void registerCatalogue(const char *uri)
     qRegisterMetaType<QHash<QUuid, QRectF>>("QHash<QUuid,QRectF>");
 
     const Registrar registrar(uri);
+    registerParts();
     registerBars(registrar);
     registerBodeplot(registrar);
     registerPlotHelpersAndCalculators(registrar);

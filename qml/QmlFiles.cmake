@@ -67,7 +67,7 @@ set(unregistered
     Shared/RStyleProbe.qml
     Shared/RStyledButton.qml
     Shared/RToolTip.qml
-    Shared/RValueEdit.qml
+    Shared/RValueBinding.qml
 )
 
 foreach(list IN ITEMS registered singletons unregistered)

@@ -1,10 +1,27 @@
 #include "base/PartComponents.h"
 
-#include <QtCore/QUrl>
+#include "base/ControlLog.h"
+
+#include <QtCore/QHash>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 
 namespace tamble::client {
+
+namespace {
+
+std::array<QUrl, partCount> &partSources()
+{
+    static std::array<QUrl, partCount> sources;
+    return sources;
+}
+
+} // namespace
+
+void setPartSource(Part part, const QUrl &file)
+{
+    partSources()[std::size_t(part)] = file;
+}
 
 PartComponents::PartComponents(QQmlEngine *engine)
     : QObject(engine)
@@ -22,12 +39,17 @@ PartComponents &PartComponents::of(QQmlEngine *engine)
     return *components;
 }
 
-QQmlComponent &PartComponents::component(const QString &file)
+QObject *PartComponents::make(Part part, QObject *owner, const QVariantMap &initialProperties)
 {
-    QQmlComponent *&component = m_components[file];
+    QQmlComponent *&component = m_components[std::size_t(part)];
     if (!component)
-        component = new QQmlComponent(m_engine, QUrl(QStringLiteral("qrc:/qml/") + file), this);
-    return *component;
+        component = new QQmlComponent(m_engine, partSources()[std::size_t(part)], this);
+    QObject *made = component->createWithInitialProperties(initialProperties);
+    if (made)
+        made->setParent(owner);
+    else
+        qCWarning(controlLog).noquote() << component->errorString();
+    return made;
 }
 
 } // namespace tamble::client

@@ -1,28 +1,43 @@
 #pragma once
 
-#include <QtCore/QHash>
 #include <QtCore/QObject>
-#include <QtCore/QString>
+#include <QtCore/QUrl>
+#include <QtCore/QVariantMap>
+
+#include <array>
 
 class QQmlComponent;
 class QQmlEngine;
 
 namespace tamble::client {
 
-/// The QML files from which native items make parts of themselves, each compiled once per engine, which owns this.
+/// What native items make of themselves when it is first needed. How a part looks is said in QML.
+enum class Part {
+    ValueBinding, ///< Holds back a page's binding while a user's edit is shown.
+    ControlLine,  ///< The bar of a control's background.
+    FocusFrame,   ///< The frame of a control's background while it has the focus.
+    LabelLine,    ///< The line of a label.
+    ToolTip,
+};
+constexpr std::size_t partCount = 5;
+
+/// Names the QML file of a part, for all engines.
+void setPartSource(Part part, const QUrl &file);
+
+/// The parts' components, each compiled once per engine, which owns this.
 class PartComponents : public QObject
 {
 public:
     static PartComponents &of(QQmlEngine *engine);
 
-    /// The component of a file below qrc:/qml/.
-    QQmlComponent &component(const QString &file);
+    /// Makes a part as a child of `owner`; null, with a log line, when its file has a fault.
+    QObject *make(Part part, QObject *owner, const QVariantMap &initialProperties);
 
 private:
     explicit PartComponents(QQmlEngine *engine);
 
     QQmlEngine *m_engine;
-    QHash<QString, QQmlComponent *> m_components; // children
+    std::array<QQmlComponent *, partCount> m_components{}; // children
 };
 
 } // namespace tamble::client

@@ -2,7 +2,7 @@
 
 #include "base/ControlLog.h"
 #include "base/Mnemonic.h"
-#include "base/PartComponents.h"
+#include "base/PendingValue.h"
 #include "base/StyleTypeName.h"
 #include "controls/ButtonInterface.h"
 
@@ -266,20 +266,10 @@ void RButtonBase::editSelection(bool selected)
 {
     if (!m_selectable)
         return;
-    QQmlEngine *engine = qmlEngine(this);
-    if (!m_selectionEdit && engine) {
-        QQmlComponent &component = PartComponents::of(engine).component(QStringLiteral("Shared/RValueEdit.qml"));
-        m_selectionEdit = component.createWithInitialProperties({{QStringLiteral("target"), QVariant::fromValue(this)},
-                                                                 {QStringLiteral("name"), QStringLiteral("selected")}});
-        if (m_selectionEdit)
-            m_selectionEdit->setParent(this);
-    }
-    if (m_selectionEdit) {
-        QMetaObject::invokeMethod(m_selectionEdit, "begin", Q_ARG(QVariant, selected));
-        QMetaObject::invokeMethod(m_selectionEdit, "commit");
-    } else {
-        setSelected(selected);
-    }
+    if (!m_pendingSelection)
+        m_pendingSelection = new PendingValue(this, QStringLiteral("selected"));
+    m_pendingSelection->show(selected);
+    m_pendingSelection->commit();
     Q_EMIT selectionEdited(selected);
 }
 

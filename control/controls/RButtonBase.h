@@ -9,6 +9,7 @@
 
 namespace tamble::client {
 
+class PendingValue;
 class RButtonBasePrivate;
 
 /// The behaviour of all buttons: selection, which is not the template's check state, "mixed", Enter, and mnemonics.
@@ -92,7 +93,7 @@ private:
     void announceState();
     void warnAboutMissingName() const;
 
-    QObject *m_selectionEdit = nullptr; // a child, made at the first click that edits
+    PendingValue *m_pendingSelection = nullptr; // a child, made at the first click that edits
     QColor m_ssBackground;
     QColor m_ssColor;
     QColor m_ssLineColor;

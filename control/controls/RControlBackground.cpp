@@ -1,9 +1,5 @@
 #include "controls/RControlBackground.h"
 
-#include "base/ControlLog.h"
-#include "base/PartComponents.h"
-
-#include <QtQml/QQmlComponent>
 #include <QtQml/QQmlContext>
 #include <QtQml/QQmlEngine>
 #include <QtQml/QQmlInfo>
@@ -28,7 +24,7 @@ void RControlBackground::setLineVisible(bool visible)
 QQuickRectangle *RControlBackground::line()
 {
     if (!m_line)
-        m_line = qobject_cast<QQuickRectangle *>(makePart("Shared/RControlLine.qml"));
+        m_line = qobject_cast<QQuickRectangle *>(makePart(Part::ControlLine));
     return m_line;
 }
 
@@ -38,27 +34,17 @@ void RControlBackground::setFocusVisible(bool visible)
         return;
     m_focusVisible = visible;
     if (visible && !m_focusFrame)
-        m_focusFrame = makePart("Shared/RFocusRectangle.qml");
+        m_focusFrame = makePart(Part::FocusFrame);
     if (m_focusFrame)
         m_focusFrame->setVisible(visible);
     Q_EMIT focusVisibleChanged();
 }
 
-QQuickItem *RControlBackground::makePart(const char *file)
+QQuickItem *RControlBackground::makePart(Part part)
 {
     QQmlEngine *engine = qmlEngine(this);
-    if (!engine)
-        return nullptr;
-    QQmlComponent &component = PartComponents::of(engine).component(QString::fromLatin1(file));
-    auto *part = qobject_cast<QQuickItem *>(component.beginCreate(engine->rootContext()));
-    if (!part) {
-        qCWarning(controlLog).noquote() << component.errorString();
-        return nullptr;
-    }
-    part->setParent(this);
-    part->setParentItem(this);
-    component.completeCreate();
-    return part;
+    const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue<QQuickItem *>(this)}};
+    return engine ? qobject_cast<QQuickItem *>(PartComponents::of(engine).make(part, this, properties)) : nullptr;
 }
 
 } // namespace tamble::client

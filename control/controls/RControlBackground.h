@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ControlExport.h"
+#include "base/PartComponents.h"
 
 #include <QtGui/QColor>
 #include <QtQml/qqmlregistration.h>
@@ -44,7 +45,7 @@ Q_SIGNALS:
     void focusVisibleChanged();
 
 private:
-    QQuickItem *makePart(const char *file);
+    QQuickItem *makePart(Part part);
 
     QColor m_lineColor;
     Qt::Edge m_lineEdge = Qt::BottomEdge;

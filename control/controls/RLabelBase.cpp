@@ -2,7 +2,6 @@
 
 #include "base/ControlLog.h"
 #include "base/Mnemonic.h"
-#include "base/PartComponents.h"
 
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlContext>
@@ -125,7 +124,7 @@ void RLabelBase::hoverEnterEvent(QHoverEvent *event)
 {
     QQuickLabel::hoverEnterEvent(event);
     if (!m_toolTip)
-        m_toolTip = makePart("Shared/RToolTip.qml");
+        m_toolTip = makePart(Part::ToolTip);
     if (m_toolTip) {
         m_toolTip->setProperty("text", plainCaption());
         m_toolTip->setProperty("visible", true);
@@ -184,7 +183,7 @@ void RLabelBase::takeShortcut(QChar key)
 void RLabelBase::updateLine()
 {
     if (m_lineVisible && !m_line)
-        m_line = makePart("RLabel/RLabelLine.qml");
+        m_line = makePart(Part::LabelLine);
     if (m_line) {
         m_line->setProperty("visible", m_lineVisible);
         m_line->setProperty("color", m_lineColor);
@@ -197,19 +196,11 @@ void RLabelBase::focusBuddy(Qt::FocusReason reason)
         m_buddy->forceActiveFocus(reason);
 }
 
-QObject *RLabelBase::makePart(const char *file)
+QObject *RLabelBase::makePart(Part part)
 {
     QQmlEngine *engine = qmlEngine(this);
-    if (!engine)
-        return nullptr;
-    QQmlComponent &component = PartComponents::of(engine).component(QString::fromLatin1(file));
-    QObject *part =
-        component.createWithInitialProperties({{QStringLiteral("parent"), QVariant::fromValue<QQuickItem *>(this)}});
-    if (part)
-        part->setParent(this);
-    else
-        qCWarning(controlLog).noquote() << component.errorString();
-    return part;
+    const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue<QQuickItem *>(this)}};
+    return engine ? PartComponents::of(engine).make(part, this, properties) : nullptr;
 }
 
 } // namespace tamble::client

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ControlExport.h"
+#include "base/PartComponents.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QColor>
@@ -69,7 +70,7 @@ private:
     void takeShortcut(QChar key);
     void updateLine();
     void focusBuddy(Qt::FocusReason reason);
-    QObject *makePart(const char *file);
+    QObject *makePart(Part part);
 
     QString m_caption;
     QString m_givenName; // to the buddy

@@ -7,6 +7,7 @@
 #include <QtQuick/private/qquickaccessibleattached_p.h>
 
 #include <cmath>
+#include <utility>
 
 namespace tamble::client {
 
@@ -33,19 +34,22 @@ bool SteppedFader::canEdit() const
     return !isReadOnly() && isEnabled() && travel().isUsable();
 }
 
+PendingValue &SteppedFader::pending()
+{
+    if (!m_pending)
+        m_pending = new PendingValue(this, QStringLiteral("value"));
+    return *m_pending;
+}
+
 void SteppedFader::edit(double level)
 {
     // The first edit while devices differ sets them all, even to the level that is shown.
     if (level == value() && (m_editing || isConsistent()))
         return;
-    if (!m_editing) {
-        m_levelBefore = value();
-        m_editing = true;
-        m_edit.show(level);
+    const bool begins = !std::exchange(m_editing, true);
+    pending().show(level);
+    if (begins)
         Q_EMIT editingChanged();
-    } else {
-        m_edit.show(level);
-    }
     if (live())
         Q_EMIT valueEdited(value());
 }
@@ -56,7 +60,8 @@ void SteppedFader::finish()
     if (!m_editing)
         return;
     m_editing = false;
-    m_edit.settle(m_settleTime);
+    pending().setSettleTime(m_settleTime);
+    pending().commit();
     const double level = value();
     Q_EMIT editingChanged();
     if (!live())
@@ -68,8 +73,8 @@ void SteppedFader::takeBack()
 {
     m_stepsEnd.stop();
     m_editing = false;
-    const double level = m_levelBefore;
-    m_edit.takeBack();
+    const double level = pending().valueAtBegin().toDouble();
+    pending().cancel();
     Q_EMIT editingChanged();
     if (live())
         Q_EMIT valueEdited(level);

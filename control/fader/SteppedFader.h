@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/ControlExport.h"
-#include "fader/FaderEdit.h"
+#include "base/PendingValue.h"
 #include "fader/FaderItem.h"
 
 #include <QtCore/QBasicTimer>
@@ -60,6 +60,7 @@ protected:
     void reset();
 
 private:
+    PendingValue &pending();
     void takeBack();
     void step(double delta);
     double stepFor(Qt::KeyboardModifiers modifiers) const;
@@ -71,10 +72,9 @@ private:
     bool m_wheelNeedsFocus = true;
     bool m_editing = false;
 
-    FaderEdit m_edit{this};
-    double m_levelBefore = 0.0;
-    QBasicTimer m_stepsEnd; // runs since the last step
-    int m_wheelRest = 0;    // eighths of a degree short of a step
+    PendingValue *m_pending = nullptr; // a child, made at the first edit
+    QBasicTimer m_stepsEnd;            // runs since the last step
+    int m_wheelRest = 0;               // eighths of a degree short of a step
 };
 
 } // namespace tamble::client

@@ -1,6 +1,5 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
 
 /*! Threshold of a limiter in a plot frame, with a handle to move it. The page writes what the user changes to its
     device; until that answers, the curve shows the edited threshold. */
@@ -33,7 +32,7 @@ RLimiterCurveTemplate {
     function moveTo(threshold: real) {
         if (isNaN(threshold) || threshold === root.threshold)
             return
-        edit.update(threshold)
+        edit.show(threshold)
         root.userChangedThreshold(threshold)
     }
 
@@ -62,7 +61,7 @@ RLimiterCurveTemplate {
         readonly property real bypassCurveLineWidth: RThemeValues.unit
     }
 
-    Shared.RValueEdit {
+    RPendingValue {
         id: edit
         target: root
         name: "threshold"
@@ -82,7 +81,7 @@ RLimiterCurveTemplate {
         visiblePoint: !root.bypass
         Accessible.onIncreaseAction: point.stepBy(0, 1)
         Accessible.onDecreaseAction: point.stepBy(0, -1)
-        onBegun: edit.begin(root.threshold)
+        onBegun: edit.begin()
         onMovedTo: (x, y, fine) => root.moveTo(root.thresholdNear(Qt.point(x / root.width, y / root.height), fine ? root.stepSize / 5 : root.stepSize))
         onStepped: (right, up) => root.moveTo(root.thresholdMovedBy((right + up) * root.stepSize))
         onPaged: up => root.moveTo(root.thresholdMovedBy(6 * up * root.stepSize))

@@ -1,6 +1,5 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
 
 /*! Draggable handle at a point of a plot, which its parent fills. The page writes what the user changes to its device;
     until that answers, the handle shows the edited point. */
@@ -25,8 +24,8 @@ RLevelHandle {
     function edit(x: real, y: real) {
         if (isNaN(x) || isNaN(y) || x === root.xValue && y === root.yValue)
             return
-        xEdit.update(x)
-        yEdit.update(y)
+        xEdit.show(x)
+        yEdit.show(y)
         root.dragged(x, y)
     }
 
@@ -47,8 +46,8 @@ RLevelHandle {
     bubbleText: root.label !== "" ? root.label : root.valueText
 
     onBegun: {
-        xEdit.begin(root.xValue)
-        yEdit.begin(root.yValue)
+        xEdit.begin()
+        yEdit.begin()
     }
     onDrawnTo: (x, y) => root.moveTo(x, y)
     onStepped: (right, up, fine) => {
@@ -75,13 +74,13 @@ RLevelHandle {
     }
     onValueRequested: value => root.moveAtOnce(root.xEnabled ? value : root.xValue, root.xEnabled ? root.yValue : value)
 
-    Shared.RValueEdit {
+    RPendingValue {
         id: xEdit
         target: root
         name: "xValue"
         settleTime: root.settleTime
     }
-    Shared.RValueEdit {
+    RPendingValue {
         id: yEdit
         target: root
         name: "yValue"

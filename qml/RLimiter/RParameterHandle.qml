@@ -36,7 +36,7 @@ RLevelHandle {
     function edit(value: real) {
         if (isNaN(value) || value === root.value)
             return
-        valueEdit.update(value)
+        valueEdit.show(value)
         root.edited(value)
     }
 
@@ -62,7 +62,7 @@ RLevelHandle {
     valueText: qsTr("%1 %2").arg(root.shown).arg(root.unit)
     bubbleText: qsTr("%1 %2").arg(root.label).arg(root.valueText)
 
-    onBegun: valueEdit.begin(root.value)
+    onBegun: valueEdit.begin()
     onDrawnTo: (x, y, fine) => root.edit(RPlotRules.limitedValue(root.valueAt(x, y), root.minimum, root.maximum, fine ? root.fineStep : root.step))
     onStepped: (right, up, fine) => {
         // A step of Shift is the fine one, which a handle may have chosen for itself.
@@ -85,7 +85,7 @@ RLevelHandle {
     }
     onValueRequested: value => root.editAtOnce(value)
 
-    Shared.RValueEdit {
+    RPendingValue {
         id: valueEdit
         target: root.target
         name: root.name
