@@ -17,6 +17,7 @@ set(TAMBLE_PUBLIC_HEADERS
     dynamics/ANCCalculator.h
     dynamics/CompressorCalculator.h
     dynamics/CompressorCurve.h
+    dynamics/CurveCalculator.h
     dynamics/DuckerCalculator.h
     dynamics/LimiterCalculator.h
     dynamics/NoiseGateCalculator.h

@@ -1,11 +1,6 @@
 #pragma once
 
-#include "base/ControlExport.h"
-#include "dynamics/TransferCurves.h"
-
-#include <QtCore/QObject>
-#include <QtCore/QVariantList>
-#include <QtQml/qqmlregistration.h>
+#include "dynamics/CurveCalculator.h"
 
 namespace tamble::client {
 
@@ -14,10 +9,7 @@ namespace tamble::client {
 /// Levels are in dB, `threshold` is relative to `levelIn`, `ratio` is a plain factor. The bounds of `levelIn`, `kneeIn`
 /// and `ratio` serve the controls around the plot and do not enter the curve. Inactive and bypassed by default, all
 /// numbers 0. A change of `kneeInMin` or `kneeInMax` is announced by `kneeInChanged`; pages rely on it.
-///
-/// `values` holds the corner points as QPointF, x 0 (left) to 1 (right), y 0 (top) to 1 (bottom). Each setter rebuilds
-/// them at once, so `valuesChanged` precedes the signal of the property that was set.
-class TAMBLE_CLIENT_CONTROL_EXPORT AGCCalculator : public QObject
+class TAMBLE_CLIENT_CONTROL_EXPORT AGCCalculator : public tamble::client::CurveCalculator
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RAGCCalculator)
@@ -42,36 +34,38 @@ public:
     explicit AGCCalculator(QObject *parent = nullptr);
 
     bool calculatorActive() const { return m_parameters.active; }
-    void setCalculatorActive(bool calculatorActive);
+    void setCalculatorActive(bool value) { assign(m_parameters.active, value, &Self::calculatorActiveChanged); }
     bool agcBypassed() const { return m_parameters.bypassed; }
-    void setAgcBypassed(bool agcBypassed);
+    void setAgcBypassed(bool value) { assign(m_parameters.bypassed, value, &Self::agcBypassedChanged); }
     double levelIn() const { return m_parameters.levelIn; }
-    void setLevelIn(double levelIn);
+    void setLevelIn(double value) { assign(m_parameters.levelIn, value, &Self::levelInChanged); }
     double levelInMin() const { return m_parameters.levelInMin; }
-    void setLevelInMin(double levelInMin);
+    void setLevelInMin(double value) { assign(m_parameters.levelInMin, value, &Self::levelInMinChanged); }
     double levelInMax() const { return m_parameters.levelInMax; }
-    void setLevelInMax(double levelInMax);
+    void setLevelInMax(double value) { assign(m_parameters.levelInMax, value, &Self::levelInMaxChanged); }
     double threshold() const { return m_parameters.threshold; }
-    void setThreshold(double threshold);
+    void setThreshold(double value) { assign(m_parameters.threshold, value, &Self::thresholdChanged); }
     double thresholdMin() const { return m_parameters.thresholdMin; }
-    void setThresholdMin(double thresholdMin);
+    void setThresholdMin(double value) { assign(m_parameters.thresholdMin, value, &Self::thresholdMinChanged); }
     double thresholdMax() const { return m_parameters.thresholdMax; }
-    void setThresholdMax(double thresholdMax);
+    void setThresholdMax(double value) { assign(m_parameters.thresholdMax, value, &Self::thresholdMaxChanged); }
     double thresholdOffset() const { return m_parameters.thresholdOffset; }
-    void setThresholdOffset(double thresholdOffset);
+    void setThresholdOffset(double value)
+    {
+        assign(m_parameters.thresholdOffset, value, &Self::thresholdOffsetChanged);
+    }
     double kneeIn() const { return m_parameters.kneeIn; }
-    void setKneeIn(double kneeIn);
+    void setKneeIn(double value) { assign(m_parameters.kneeIn, value, &Self::kneeInChanged); }
     double kneeInMin() const { return m_parameters.kneeInMin; }
-    void setKneeInMin(double kneeInMin);
+    void setKneeInMin(double value) { assign(m_parameters.kneeInMin, value, &Self::kneeInChanged); }
     double kneeInMax() const { return m_parameters.kneeInMax; }
-    void setKneeInMax(double kneeInMax);
+    void setKneeInMax(double value) { assign(m_parameters.kneeInMax, value, &Self::kneeInChanged); }
     double ratio() const { return m_parameters.ratio; }
-    void setRatio(double ratio);
+    void setRatio(double value) { assign(m_parameters.ratio, value, &Self::ratioChanged); }
     double ratioMin() const { return m_parameters.ratioMin; }
-    void setRatioMin(double ratioMin);
+    void setRatioMin(double value) { assign(m_parameters.ratioMin, value, &Self::ratioMinChanged); }
     double ratioMax() const { return m_parameters.ratioMax; }
-    void setRatioMax(double ratioMax);
-    QVariantList values() const { return m_values; }
+    void setRatioMax(double value) { assign(m_parameters.ratioMax, value, &Self::ratioMaxChanged); }
 
 Q_SIGNALS:
     void calculatorActiveChanged();
@@ -92,11 +86,11 @@ Q_SIGNALS:
     void kneeInMaxChanged();
 
 private:
-    friend struct CalculatorSetter;
-    void recompute();
+    using Self = AGCCalculator;
+    std::optional<CurvePoints> curve() const override;
+    void tellValues() override { Q_EMIT valuesChanged(); }
 
     AgcParameters m_parameters;
-    QVariantList m_values;
 };
 
 } // namespace tamble::client

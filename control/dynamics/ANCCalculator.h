@@ -1,11 +1,6 @@
 #pragma once
 
-#include "base/ControlExport.h"
-#include "dynamics/TransferCurves.h"
-
-#include <QtCore/QObject>
-#include <QtCore/QVariantList>
-#include <QtQml/qqmlregistration.h>
+#include "dynamics/CurveCalculator.h"
 
 namespace tamble::client {
 
@@ -14,10 +9,7 @@ namespace tamble::client {
 /// Levels and gains are in dB, `ratio` in dB of gain per dB of ambient level. `freezeGain`, `minimumGainMax` and
 /// `maximumGainMin` do not enter the curve. Inactive, bypassed and frozen by default, all numbers 0. A change of
 /// `minimumGainMax` or `maximumGainMax` is announced by `minimumGainChanged` or `maximumGainChanged`; pages rely on it.
-///
-/// `values` holds the corner points as QPointF, x 0 (left) to 1 (right), y 0 (top) to 1 (bottom). Each setter rebuilds
-/// them at once, so `valuesChanged` precedes the signal of the property that was set.
-class TAMBLE_CLIENT_CONTROL_EXPORT ANCCalculator : public QObject
+class TAMBLE_CLIENT_CONTROL_EXPORT ANCCalculator : public tamble::client::CurveCalculator
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RANCCalculator)
@@ -46,38 +38,49 @@ public:
     explicit ANCCalculator(QObject *parent = nullptr);
 
     bool calculatorActive() const { return m_parameters.active; }
-    void setCalculatorActive(bool calculatorActive);
+    void setCalculatorActive(bool value) { assign(m_parameters.active, value, &Self::calculatorActiveChanged); }
     bool ancBypassed() const { return m_parameters.bypassed; }
-    void setAncBypassed(bool ancBypassed);
+    void setAncBypassed(bool value) { assign(m_parameters.bypassed, value, &Self::ancBypassedChanged); }
     bool freezeGain() const { return m_parameters.freezeGain; }
-    void setFreezeGain(bool freezeGain);
+    void setFreezeGain(bool value) { assign(m_parameters.freezeGain, value, &Self::freezeGainChanged); }
     double ambientThreshold() const { return m_parameters.ambientThreshold; }
-    void setAmbientThreshold(double ambientThreshold);
+    void setAmbientThreshold(double value)
+    {
+        assign(m_parameters.ambientThreshold, value, &Self::ambientThresholdChanged);
+    }
     double ambientThresholdMin() const { return m_parameters.ambientThresholdMin; }
-    void setAmbientThresholdMin(double ambientThresholdMin);
+    void setAmbientThresholdMin(double value)
+    {
+        assign(m_parameters.ambientThresholdMin, value, &Self::ambientThresholdMinChanged);
+    }
     double ambientThresholdMax() const { return m_parameters.ambientThresholdMax; }
-    void setAmbientThresholdMax(double ambientThresholdMax);
+    void setAmbientThresholdMax(double value)
+    {
+        assign(m_parameters.ambientThresholdMax, value, &Self::ambientThresholdMaxChanged);
+    }
     double ambientThresholdOffset() const { return m_parameters.ambientThresholdOffset; }
-    void setAmbientThresholdOffset(double ambientThresholdOffset);
+    void setAmbientThresholdOffset(double value)
+    {
+        assign(m_parameters.ambientThresholdOffset, value, &Self::ambientThresholdOffsetChanged);
+    }
     double minimumGain() const { return m_parameters.minimumGain; }
-    void setMinimumGain(double minimumGain);
+    void setMinimumGain(double value) { assign(m_parameters.minimumGain, value, &Self::minimumGainChanged); }
     double minimumGainMin() const { return m_parameters.minimumGainMin; }
-    void setMinimumGainMin(double minimumGainMin);
+    void setMinimumGainMin(double value) { assign(m_parameters.minimumGainMin, value, &Self::minimumGainMinChanged); }
     double minimumGainMax() const { return m_parameters.minimumGainMax; }
-    void setMinimumGainMax(double minimumGainMax);
+    void setMinimumGainMax(double value) { assign(m_parameters.minimumGainMax, value, &Self::minimumGainChanged); }
     double maximumGain() const { return m_parameters.maximumGain; }
-    void setMaximumGain(double maximumGain);
+    void setMaximumGain(double value) { assign(m_parameters.maximumGain, value, &Self::maximumGainChanged); }
     double maximumGainMin() const { return m_parameters.maximumGainMin; }
-    void setMaximumGainMin(double maximumGainMin);
+    void setMaximumGainMin(double value) { assign(m_parameters.maximumGainMin, value, &Self::maximumGainMinChanged); }
     double maximumGainMax() const { return m_parameters.maximumGainMax; }
-    void setMaximumGainMax(double maximumGainMax);
+    void setMaximumGainMax(double value) { assign(m_parameters.maximumGainMax, value, &Self::maximumGainChanged); }
     double ratio() const { return m_parameters.ratio; }
-    void setRatio(double ratio);
+    void setRatio(double value) { assign(m_parameters.ratio, value, &Self::ratioChanged); }
     double ratioMin() const { return m_parameters.ratioMin; }
-    void setRatioMin(double ratioMin);
+    void setRatioMin(double value) { assign(m_parameters.ratioMin, value, &Self::ratioMinChanged); }
     double ratioMax() const { return m_parameters.ratioMax; }
-    void setRatioMax(double ratioMax);
-    QVariantList values() const { return m_values; }
+    void setRatioMax(double value) { assign(m_parameters.ratioMax, value, &Self::ratioMaxChanged); }
 
 Q_SIGNALS:
     void calculatorActiveChanged();
@@ -99,11 +102,11 @@ Q_SIGNALS:
     void ratioMaxChanged();
 
 private:
-    friend struct CalculatorSetter;
-    void recompute();
+    using Self = ANCCalculator;
+    std::optional<CurvePoints> curve() const override;
+    void tellValues() override { Q_EMIT valuesChanged(); }
 
     AncParameters m_parameters;
-    QVariantList m_values;
 };
 
 } // namespace tamble::client

@@ -1,11 +1,7 @@
 #pragma once
 
-#include "base/ControlExport.h"
 #include "dynamics/CompressorCurve.h"
-
-#include <QtCore/QObject>
-#include <QtCore/QVariantList>
-#include <QtQml/qqmlregistration.h>
+#include "dynamics/CurveCalculator.h"
 
 namespace tamble::client {
 
@@ -14,10 +10,7 @@ namespace tamble::client {
 /// Levels are in dB, `softKneeInDbu` is the width of the knee, `ratio` the factor n of n : 1. `thresholdMin` and
 /// `thresholdMax` bound the plotted range on both axes; the other bounds do not enter the curve. Active and bypassed
 /// by default, hard knee, ratios 1, all levels 0.
-///
-/// `values` holds the corner points as QPointF, x 0 (left) to 1 (right), y 0 (top) to 1 (bottom). Each setter rebuilds
-/// them at once, so `valuesChanged` precedes the signal of the property that was set.
-class TAMBLE_CLIENT_CONTROL_EXPORT CompressorCalculator : public QObject
+class TAMBLE_CLIENT_CONTROL_EXPORT CompressorCalculator : public tamble::client::CurveCalculator
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RCompressorCalculator)
@@ -41,32 +34,31 @@ public:
     explicit CompressorCalculator(QObject *parent = nullptr);
 
     bool calculatorActive() const { return m_parameters.active; }
-    void setCalculatorActive(bool calculatorActive);
+    void setCalculatorActive(bool value) { assign(m_parameters.active, value, &Self::calculatorActiveChanged); }
     bool compressorBypassed() const { return m_parameters.bypassed; }
-    void setCompressorBypassed(bool compressorBypassed);
+    void setCompressorBypassed(bool value) { assign(m_parameters.bypassed, value, &Self::compressorBypassedChanged); }
     bool softKneeActive() const { return m_parameters.softKneeActive; }
-    void setSoftKneeActive(bool softKneeActive);
+    void setSoftKneeActive(bool value) { assign(m_parameters.softKneeActive, value, &Self::softKneeActiveChanged); }
     double softKneeInDbu() const { return m_parameters.softKneeInDbu; }
-    void setSoftKneeInDbu(double softKneeInDbu);
+    void setSoftKneeInDbu(double value) { assign(m_parameters.softKneeInDbu, value, &Self::softKneeInDbuChanged); }
     double threshold() const { return m_parameters.threshold; }
-    void setThreshold(double threshold);
+    void setThreshold(double value) { assign(m_parameters.threshold, value, &Self::thresholdChanged); }
     double thresholdMin() const { return m_parameters.thresholdMin; }
-    void setThresholdMin(double thresholdMin);
+    void setThresholdMin(double value) { assign(m_parameters.thresholdMin, value, &Self::thresholdMinChanged); }
     double thresholdMax() const { return m_parameters.thresholdMax; }
-    void setThresholdMax(double thresholdMax);
+    void setThresholdMax(double value) { assign(m_parameters.thresholdMax, value, &Self::thresholdMaxChanged); }
     double ratio() const { return m_parameters.ratio; }
-    void setRatio(double ratio);
+    void setRatio(double value) { assign(m_parameters.ratio, value, &Self::ratioChanged); }
     double ratioMin() const { return m_parameters.ratioMin; }
-    void setRatioMin(double ratioMin);
+    void setRatioMin(double value) { assign(m_parameters.ratioMin, value, &Self::ratioMinChanged); }
     double ratioMax() const { return m_parameters.ratioMax; }
-    void setRatioMax(double ratioMax);
+    void setRatioMax(double value) { assign(m_parameters.ratioMax, value, &Self::ratioMaxChanged); }
     double makeUpGain() const { return m_parameters.makeUpGain; }
-    void setMakeUpGain(double makeUpGain);
+    void setMakeUpGain(double value) { assign(m_parameters.makeUpGain, value, &Self::makeUpGainChanged); }
     double makeUpGainMin() const { return m_parameters.makeUpGainMin; }
-    void setMakeUpGainMin(double makeUpGainMin);
+    void setMakeUpGainMin(double value) { assign(m_parameters.makeUpGainMin, value, &Self::makeUpGainMinChanged); }
     double makeUpGainMax() const { return m_parameters.makeUpGainMax; }
-    void setMakeUpGainMax(double makeUpGainMax);
-    QVariantList values() const { return m_values; }
+    void setMakeUpGainMax(double value) { assign(m_parameters.makeUpGainMax, value, &Self::makeUpGainMaxChanged); }
 
 Q_SIGNALS:
     void calculatorActiveChanged();
@@ -85,11 +77,11 @@ Q_SIGNALS:
     void makeUpGainMaxChanged();
 
 private:
-    friend struct CalculatorSetter;
-    void recompute();
+    using Self = CompressorCalculator;
+    std::optional<CurvePoints> curve() const override;
+    void tellValues() override { Q_EMIT valuesChanged(); }
 
     CompressorParameters m_parameters;
-    QVariantList m_values;
 };
 
 } // namespace tamble::client

@@ -1,11 +1,6 @@
 #pragma once
 
-#include "base/ControlExport.h"
-#include "dynamics/TransferCurves.h"
-
-#include <QtCore/QObject>
-#include <QtCore/QVariantList>
-#include <QtQml/qqmlregistration.h>
+#include "dynamics/CurveCalculator.h"
 
 namespace tamble::client {
 
@@ -13,10 +8,7 @@ namespace tamble::client {
 ///
 /// Levels are in dB; `thresholdMin` and `thresholdMax` bound the plotted range on both axes. Active and bypassed by
 /// default, all levels 0.
-///
-/// `values` holds the corner points as QPointF, x 0 (left) to 1 (right), y 0 (top) to 1 (bottom). Each setter rebuilds
-/// them at once, so `valuesChanged` precedes the signal of the property that was set.
-class TAMBLE_CLIENT_CONTROL_EXPORT DuckerCalculator : public QObject
+class TAMBLE_CLIENT_CONTROL_EXPORT DuckerCalculator : public tamble::client::CurveCalculator
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RDuckerCalculator)
@@ -34,22 +26,27 @@ public:
     explicit DuckerCalculator(QObject *parent = nullptr);
 
     bool calculatorActive() const { return m_parameters.active; }
-    void setCalculatorActive(bool calculatorActive);
+    void setCalculatorActive(bool value) { assign(m_parameters.active, value, &Self::calculatorActiveChanged); }
     bool duckerBypassed() const { return m_parameters.bypassed; }
-    void setDuckerBypassed(bool duckerBypassed);
+    void setDuckerBypassed(bool value) { assign(m_parameters.bypassed, value, &Self::duckerBypassedChanged); }
     double threshold() const { return m_parameters.threshold; }
-    void setThreshold(double threshold);
+    void setThreshold(double value) { assign(m_parameters.threshold, value, &Self::thresholdChanged); }
     double thresholdMin() const { return m_parameters.thresholdMin; }
-    void setThresholdMin(double thresholdMin);
+    void setThresholdMin(double value) { assign(m_parameters.thresholdMin, value, &Self::thresholdMinChanged); }
     double thresholdMax() const { return m_parameters.thresholdMax; }
-    void setThresholdMax(double thresholdMax);
+    void setThresholdMax(double value) { assign(m_parameters.thresholdMax, value, &Self::thresholdMaxChanged); }
     double duckingLevel() const { return m_parameters.duckingLevel; }
-    void setDuckingLevel(double duckingLevel);
+    void setDuckingLevel(double value) { assign(m_parameters.duckingLevel, value, &Self::duckingLevelChanged); }
     double duckingLevelMin() const { return m_parameters.duckingLevelMin; }
-    void setDuckingLevelMin(double duckingLevelMin);
+    void setDuckingLevelMin(double value)
+    {
+        assign(m_parameters.duckingLevelMin, value, &Self::duckingLevelMinChanged);
+    }
     double duckingLevelMax() const { return m_parameters.duckingLevelMax; }
-    void setDuckingLevelMax(double duckingLevelMax);
-    QVariantList values() const { return m_values; }
+    void setDuckingLevelMax(double value)
+    {
+        assign(m_parameters.duckingLevelMax, value, &Self::duckingLevelMaxChanged);
+    }
 
 Q_SIGNALS:
     void calculatorActiveChanged();
@@ -63,11 +60,11 @@ Q_SIGNALS:
     void duckingLevelMaxChanged();
 
 private:
-    friend struct CalculatorSetter;
-    void recompute();
+    using Self = DuckerCalculator;
+    std::optional<CurvePoints> curve() const override;
+    void tellValues() override { Q_EMIT valuesChanged(); }
 
     DuckerParameters m_parameters;
-    QVariantList m_values;
 };
 
 } // namespace tamble::client

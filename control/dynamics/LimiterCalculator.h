@@ -1,11 +1,6 @@
 #pragma once
 
-#include "base/ControlExport.h"
-#include "dynamics/TransferCurves.h"
-
-#include <QtCore/QObject>
-#include <QtCore/QVariantList>
-#include <QtQml/qqmlregistration.h>
+#include "dynamics/CurveCalculator.h"
 
 namespace tamble::client {
 
@@ -13,10 +8,7 @@ namespace tamble::client {
 ///
 /// Levels are in dB; `thresholdMin` and `thresholdMax` bound the plotted range on both axes. Active and bypassed by
 /// default, all levels 0.
-///
-/// `values` holds the corner points as QPointF, x 0 (left) to 1 (right), y 0 (top) to 1 (bottom). Each setter rebuilds
-/// them at once, so `valuesChanged` precedes the signal of the property that was set.
-class TAMBLE_CLIENT_CONTROL_EXPORT LimiterCalculator : public QObject
+class TAMBLE_CLIENT_CONTROL_EXPORT LimiterCalculator : public tamble::client::CurveCalculator
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RLimiterCalculator)
@@ -31,16 +23,15 @@ public:
     explicit LimiterCalculator(QObject *parent = nullptr);
 
     bool calculatorActive() const { return m_parameters.active; }
-    void setCalculatorActive(bool calculatorActive);
+    void setCalculatorActive(bool value) { assign(m_parameters.active, value, &Self::calculatorActiveChanged); }
     double threshold() const { return m_parameters.threshold; }
-    void setThreshold(double threshold);
+    void setThreshold(double value) { assign(m_parameters.threshold, value, &Self::thresholdChanged); }
     double thresholdMin() const { return m_parameters.thresholdMin; }
-    void setThresholdMin(double thresholdMin);
+    void setThresholdMin(double value) { assign(m_parameters.thresholdMin, value, &Self::thresholdMinChanged); }
     double thresholdMax() const { return m_parameters.thresholdMax; }
-    void setThresholdMax(double thresholdMax);
+    void setThresholdMax(double value) { assign(m_parameters.thresholdMax, value, &Self::thresholdMaxChanged); }
     bool limiterBypassed() const { return m_parameters.bypassed; }
-    void setLimiterBypassed(bool limiterBypassed);
-    QVariantList values() const { return m_values; }
+    void setLimiterBypassed(bool value) { assign(m_parameters.bypassed, value, &Self::limiterBypassedChanged); }
 
 Q_SIGNALS:
     void calculatorActiveChanged();
@@ -51,11 +42,11 @@ Q_SIGNALS:
     void limiterBypassedChanged();
 
 private:
-    friend struct CalculatorSetter;
-    void recompute();
+    using Self = LimiterCalculator;
+    std::optional<CurvePoints> curve() const override;
+    void tellValues() override { Q_EMIT valuesChanged(); }
 
     LimiterParameters m_parameters;
-    QVariantList m_values;
 };
 
 } // namespace tamble::client

@@ -1,11 +1,6 @@
 #pragma once
 
-#include "base/ControlExport.h"
-#include "dynamics/TransferCurves.h"
-
-#include <QtCore/QObject>
-#include <QtCore/QVariantList>
-#include <QtQml/qqmlregistration.h>
+#include "dynamics/CurveCalculator.h"
 
 namespace tamble::client {
 
@@ -13,10 +8,7 @@ namespace tamble::client {
 ///
 /// Levels are in dB; `thresholdMin` and `thresholdMax` bound the plotted range on both axes. Active and bypassed by
 /// default, all levels 0. A threshold or depth outside its bounds empties `values` without `valuesChanged`.
-///
-/// `values` holds the corner points as QPointF, x 0 (left) to 1 (right), y 0 (top) to 1 (bottom). Each setter rebuilds
-/// them at once, so `valuesChanged` precedes the signal of the property that was set.
-class TAMBLE_CLIENT_CONTROL_EXPORT NoiseGateCalculator : public QObject
+class TAMBLE_CLIENT_CONTROL_EXPORT NoiseGateCalculator : public tamble::client::CurveCalculator
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RNoiseGateCalculator)
@@ -34,22 +26,21 @@ public:
     explicit NoiseGateCalculator(QObject *parent = nullptr);
 
     bool calculatorActive() const { return m_parameters.active; }
-    void setCalculatorActive(bool calculatorActive);
+    void setCalculatorActive(bool value) { assign(m_parameters.active, value, &Self::calculatorActiveChanged); }
     bool gateBypassed() const { return m_parameters.bypassed; }
-    void setGateBypassed(bool gateBypassed);
+    void setGateBypassed(bool value) { assign(m_parameters.bypassed, value, &Self::gateBypassedChanged); }
     double threshold() const { return m_parameters.threshold; }
-    void setThreshold(double threshold);
+    void setThreshold(double value) { assign(m_parameters.threshold, value, &Self::thresholdChanged); }
     double thresholdMin() const { return m_parameters.thresholdMin; }
-    void setThresholdMin(double thresholdMin);
+    void setThresholdMin(double value) { assign(m_parameters.thresholdMin, value, &Self::thresholdMinChanged); }
     double thresholdMax() const { return m_parameters.thresholdMax; }
-    void setThresholdMax(double thresholdMax);
+    void setThresholdMax(double value) { assign(m_parameters.thresholdMax, value, &Self::thresholdMaxChanged); }
     double depth() const { return m_parameters.depth; }
-    void setDepth(double depth);
+    void setDepth(double value) { assign(m_parameters.depth, value, &Self::depthChanged); }
     double depthMin() const { return m_parameters.depthMin; }
-    void setDepthMin(double depthMin);
+    void setDepthMin(double value) { assign(m_parameters.depthMin, value, &Self::depthMinChanged); }
     double depthMax() const { return m_parameters.depthMax; }
-    void setDepthMax(double depthMax);
-    QVariantList values() const { return m_values; }
+    void setDepthMax(double value) { assign(m_parameters.depthMax, value, &Self::depthMaxChanged); }
 
 Q_SIGNALS:
     void calculatorActiveChanged();
@@ -63,11 +54,11 @@ Q_SIGNALS:
     void depthMaxChanged();
 
 private:
-    friend struct CalculatorSetter;
-    void recompute();
+    using Self = NoiseGateCalculator;
+    std::optional<CurvePoints> curve() const override;
+    void tellValues() override { Q_EMIT valuesChanged(); }
 
     GateParameters m_parameters;
-    QVariantList m_values;
 };
 
 } // namespace tamble::client
