@@ -63,9 +63,9 @@ QStringList CurveFilters::take(ConvertedFilters filters)
     return problems;
 }
 
-void CurveFilters::setFrame(const HandleFrame &frame)
+void CurveFilters::setAxes(const PlotAxes &axes)
 {
-    m_set.setFrame(frame);
+    m_set.setAxes(axes);
     updateModels();
 }
 

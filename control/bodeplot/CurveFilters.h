@@ -33,7 +33,7 @@ public:
     int previouslySelectedRecord() const { return m_previouslySelectedRecord; }
 
     void setFilters(ConvertedFilters filters);
-    void setFrame(const HandleFrame &frame);
+    void setAxes(const PlotAxes &axes);
     /// Tells the objects of evaluated FIR filters what the headers of their records have become; see allRecords.
     void returnHeaders(int evaluatedRecord);
 

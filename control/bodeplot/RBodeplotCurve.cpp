@@ -130,7 +130,7 @@ void RBodeplotCurve::stepFilterPoint(int index, qreal octaves, qreal decibels)
 {
     const FilterSet &set = presentFilters().set();
     if (set.recordOf(index) >= 0)
-        onUserMoveFilterPoint(index, steppedPoint(set.handles()[std::size_t(index)], octaves, decibels, set.frame()));
+        onUserMoveFilterPoint(index, steppedPoint(set.handles()[std::size_t(index)], octaves, decibels, set.axes()));
 }
 
 void RBodeplotCurve::levelFilterPoint(int index)
@@ -168,17 +168,17 @@ void RBodeplotCurve::onHeightChanged()
 
 void RBodeplotCurve::onXMinOrMaxChanged()
 {
-    updateHandleFrame();
+    updateHandleAxes();
 }
 
 void RBodeplotCurve::onYMinOrMaxChanged()
 {
-    updateHandleFrame();
+    updateHandleAxes();
 }
 
-void RBodeplotCurve::updateHandleFrame()
+void RBodeplotCurve::updateHandleAxes()
 {
-    m_filters.setFrame({m_xMinimum, m_xMaximum, m_yMinimum, m_yMaximum});
+    m_filters.setAxes({{m_xMinimum, m_xMaximum, AxisScale::Logarithmic}, {m_yMinimum, m_yMaximum, AxisScale::Linear}});
     requestLines();
 }
 
@@ -256,7 +256,7 @@ void RBodeplotCurve::updateScaledCurve()
 void RBodeplotCurve::componentComplete()
 {
     QQuickItem::componentComplete();
-    m_filters.setFrame({m_xMinimum, m_xMaximum, m_yMinimum, m_yMaximum});
+    m_filters.setAxes({{m_xMinimum, m_xMaximum, AxisScale::Logarithmic}, {m_yMinimum, m_yMaximum, AxisScale::Linear}});
     onCalculationItemsChanged();
     tellOfUnlistedFilters();
 }

@@ -154,7 +154,7 @@ private:
     void requestLines();
     void evaluate();
     void updateScaledCurve();
-    void updateHandleFrame();
+    void updateHandleAxes();
     void tellEdit(const HandleEdit &edit);
 
     QPointer<QObject> m_style;

@@ -34,7 +34,7 @@ QVariantList RLimiterCurve::points() const
 
 qreal RLimiterCurve::thresholdNear(const QPointF &normalised, qreal step) const
 {
-    const FrameAxes frame = axes();
+    const PlotAxes frame = axes();
     return thresholdInside(snapped(client::thresholdNear(normalised, frame), step), frame);
 }
 
@@ -90,7 +90,7 @@ void RLimiterCurve::updateLine()
         Q_EMIT handlePointChanged();
 }
 
-FrameAxes RLimiterCurve::axes() const
+PlotAxes RLimiterCurve::axes() const
 {
     return {{m_xMinimum, m_xMaximum, axisScale(m_xAxisScale)}, {m_yMinimum, m_yMaximum, AxisScale::Linear}};
 }

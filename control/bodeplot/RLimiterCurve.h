@@ -80,7 +80,7 @@ protected:
 
 private:
     void updateLine();
-    FrameAxes axes() const;
+    PlotAxes axes() const;
     LimiterRule rule() const { return {m_threshold, m_ratio, m_bypass}; }
 
     QPointer<QObject> m_style;

@@ -98,7 +98,7 @@ void RSimpleCurve::invalidateCurve()
         Q_EMIT visibleCountChanged();
 }
 
-FrameAxes RSimpleCurve::axes() const
+PlotAxes RSimpleCurve::axes() const
 {
     return {{m_xMinimum, m_xMaximum, axisScale(m_xAxisScale)}, {m_yMinimum, m_yMaximum, axisScale(m_yAxisScale)}};
 }

@@ -69,7 +69,7 @@ protected:
 private:
     void collectPoints();
     void invalidateCurve();
-    FrameAxes axes() const;
+    PlotAxes axes() const;
 
     QPointer<QObject> m_style;
     qreal m_xMinimum = 20.0;

@@ -1,21 +1,22 @@
 #include "dynamics/RPlotRules.h"
 
 #include "dynamics/CompressorCurve.h"
-#include "dynamics/HandleRules.h"
+#include "dynamics/HandleValues.h"
+#include "scale/AxisRange.h"
 #include "scale/NumberPlaces.h"
 
 #include <QtGui/QFontMetricsF>
 
 namespace tamble::client {
 
-double RPlotRules::placeOnAxis(double level, double from, double to) const
+double RPlotRules::placeOf(double level, double from, double to) const
 {
-    return tamble::client::placeOnAxis(level, from, to);
+    return AxisRange{from, to}.toPosition(level);
 }
 
-double RPlotRules::levelAtPlace(double place, double from, double to) const
+double RPlotRules::levelAt(double place, double from, double to) const
 {
-    return tamble::client::levelAtPlace(place, from, to);
+    return AxisRange{from, to}.valueAt(place);
 }
 
 double RPlotRules::limitedValue(double wanted, double minimum, double maximum, double step) const

@@ -19,8 +19,10 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RPlotRules : public QObject
 public:
     using QObject::QObject;
 
-    Q_INVOKABLE double placeOnAxis(double level, double from, double to) const;
-    Q_INVOKABLE double levelAtPlace(double place, double from, double to) const;
+    /// Place of a level on an axis, 0 at `from` to 1 at `to`: the nearest end when the level is outside.
+    Q_INVOKABLE double placeOf(double level, double from, double to) const;
+    /// Level at a place; places outside of 0 to 1 give levels outside of the axis.
+    Q_INVOKABLE double levelAt(double place, double from, double to) const;
     Q_INVOKABLE double limitedValue(double wanted, double minimum, double maximum, double step) const;
     Q_INVOKABLE double steppedValue(double value, double change, double minimum, double maximum, double step) const;
     Q_INVOKABLE double ratioOfLine(double run, double rise, double highest) const;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/ControlExport.h"
-#include "scale/AxisScale.h"
+#include "scale/AxisRange.h"
 
 #include <QtCore/QList>
 #include <QtCore/QObject>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "scale/AxisScale.h"
+#include "scale/AxisRange.h"
 
 #include <optional>
 

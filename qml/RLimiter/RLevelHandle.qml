@@ -41,15 +41,15 @@ Shared.RPlotHandle {
         return value.toFixed(1).replace(/^-0\.0$/, "0.0")
     }
 
-    place: root.parent ? Qt.point(RPlotRules.placeOnAxis(root.xValue, root.xFrom, root.xTo) * root.parent.width,
-        (1 - RPlotRules.placeOnAxis(root.yValue, root.yFrom, root.yTo)) * root.parent.height) : Qt.point(0, 0)
+    place: root.parent ? Qt.point(RPlotRules.placeOf(root.xValue, root.xFrom, root.xTo) * root.parent.width,
+        (1 - RPlotRules.placeOf(root.yValue, root.yFrom, root.yTo)) * root.parent.height) : Qt.point(0, 0)
     discSize: 16 * RThemeValues.unit
     activeFocusOnTab: true
     Accessible.name: root.label !== "" ? root.label : qsTr("Handle")
     Accessible.onIncreaseAction: if (!root.readOnly) root.stepBy(0, 1)
     Accessible.onDecreaseAction: if (!root.readOnly) root.stepBy(0, -1)
 
-    onMovedTo: (x, y, fine) => root.drawnTo(root.xEnabled ? RPlotRules.levelAtPlace(x / root.parent.width, root.xFrom, root.xTo) : root.xValue,
-        root.yEnabled ? RPlotRules.levelAtPlace(1 - y / root.parent.height, root.yFrom, root.yTo) : root.yValue, fine)
+    onMovedTo: (x, y, fine) => root.drawnTo(root.xEnabled ? RPlotRules.levelAt(x / root.parent.width, root.xFrom, root.xTo) : root.xValue,
+        root.yEnabled ? RPlotRules.levelAt(1 - y / root.parent.height, root.yFrom, root.yTo) : root.yValue, fine)
     onPaged: up => root.stepped(0, 6 * up, false)
 }

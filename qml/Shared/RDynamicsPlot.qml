@@ -137,7 +137,7 @@ FocusScope {
         sourceComponent: Rectangle {
             objectName: "level"
 
-            readonly property real place: RPlotRules.placeOnAxis(root.inputLevel, root.xFrom, root.xTo)
+            readonly property real place: RPlotRules.placeOf(root.inputLevel, root.xFrom, root.xTo)
             readonly property real placeOnCurve: RPlotRules.heightOfCurve(root.points, place)
 
             x: grid.x + place * grid.width - width / 2

@@ -1,6 +1,6 @@
 #include "bodeplot/frame/FrameGridLines.h"
 
-#include "bodeplot/frame/FrameAxes.h"
+#include "scale/PlotAxes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -38,7 +38,7 @@ GridPlaces gridPlaces(const AxisRange &axis, double increment, const TickChoice 
     places.problem = ticks.problem;
     for (const double value : ticks.values) {
         if (value > axis.from && value < axis.to)
-            (choice.contains(value) ? places.full : places.faint).append(placeOnAxis(axis, value));
+            (choice.contains(value) ? places.full : places.faint).append(axis.place(value));
     }
     return places;
 }

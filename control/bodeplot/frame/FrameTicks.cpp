@@ -1,7 +1,7 @@
 #include "bodeplot/frame/FrameTicks.h"
 
-#include "bodeplot/frame/FrameAxes.h"
 #include "scale/NumberText.h"
+#include "scale/PlotAxes.h"
 
 #include <tamblecommon-math/ScaleMappings.h>
 
@@ -78,7 +78,7 @@ FrameTicks frameTicks(const AxisRange &axis, double increment)
     const bool isLogarithmic = axis.scale == AxisScale::Logarithmic;
     if (isLogarithmic && axis.from <= 0.0)
         return {{}, TickProblem::MinimumNotPositive};
-    if (!isShowable(axis))
+    if (!axis.isShowable())
         return {};
     return isLogarithmic ? logarithmicTicks(axis) : linearTicks(axis, increment);
 }
@@ -109,7 +109,7 @@ QList<FrameLabel> frameLabels(const AxisRange &axis, const QList<double> &values
     for (const double value : values) {
         if (!choice.contains(value))
             continue;
-        const double place = placeOnAxis(axis, value);
+        const double place = axis.place(value);
         const double position = length * (orientation == Qt::Horizontal ? place : 1.0 - place);
         labels.append({value, numberText(value, -1, AxisScale::Linear), position});
     }

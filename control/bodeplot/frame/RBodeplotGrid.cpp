@@ -2,8 +2,8 @@
 
 #include "base/ControlLog.h"
 #include "base/StyleObject.h"
-#include "bodeplot/frame/FrameAxes.h"
 #include "bodeplot/frame/FrameGridLines.h"
+#include "scale/PlotAxes.h"
 #include "scenegraph/SoftwarePicture.h"
 #include "scenegraph/StrokeNode.h"
 
@@ -122,7 +122,7 @@ void RBodeplotGrid::warnWithoutZero() const
 bool RBodeplotGrid::showsZero() const
 {
     const AxisRange levels{m_yMinimum, m_yMaximum, axisScale(m_yAxisScale)};
-    return isShowable(levels) && levels.contains(0.0);
+    return levels.isShowable() && levels.contains(0.0);
 }
 
 void RBodeplotGrid::readStyle()
@@ -144,7 +144,7 @@ void RBodeplotGrid::computeLines()
     const AxisRange levels{m_yMinimum, m_yMaximum, axisScale(m_yAxisScale)};
     const GridPlaces vertical = gridPlaces(frequencies, m_xIncrement, TickChoice(m_xAxisTickValues));
     const GridPlaces horizontal = gridPlaces(levels, m_yIncrement, TickChoice(m_yAxisTickValues));
-    const QList<double> zero = m_dedicatedXAxisLine && showsZero() ? QList{placeOnAxis(levels, 0.0)} : QList<double>();
+    const QList<double> zero = m_dedicatedXAxisLine && showsZero() ? QList{levels.place(0.0)} : QList<double>();
 
     const GridCanvas canvas{size(), window() ? window()->effectiveDevicePixelRatio() : 1.0};
     m_kinds[Vertical].lines = crispLines(vertical.full, Qt::Vertical, canvas, m_widths.vertical);

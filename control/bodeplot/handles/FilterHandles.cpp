@@ -124,25 +124,25 @@ HandleProblem appendHandles(const CalculationItem *record, int position, std::ve
     return HandleProblem::None;
 }
 
-QPointF handlePoint(const FilterHandle &handle, const HandleFrame &frame)
+QPointF handlePoint(const FilterHandle &handle, const PlotAxes &axes)
 {
     if (!handle.visible)
         return {beforeFrame, beforeFrame};
-    return {handleX(handle.frequencyHz, frame), handleY(handle.gainDb, frame)};
+    return {handleX(handle.frequencyHz, axes), handleY(handle.gainDb, axes)};
 }
 
-QPointF steppedPoint(const FilterHandle &handle, double octaves, double decibels, const HandleFrame &frame)
+QPointF steppedPoint(const FilterHandle &handle, double octaves, double decibels, const PlotAxes &axes)
 {
     // From the point, since the values of an asymmetric band are one step late. A direction without a step keeps its
     // place, which a way there and back through Hz or dB might round.
     QPointF point = handle.point;
     if (octaves != 0.0) {
-        const double frequency = frequencyAt(point.x(), frame) * std::exp2(octaves);
-        point.setX(handleX(std::clamp(frequency, frame.xMinimum, std::max(frame.xMinimum, frame.xMaximum)), frame));
+        const double frequency = axes.x.valueAt(point.x()) * std::exp2(octaves);
+        point.setX(handleX(std::clamp(frequency, axes.x.from, std::max(axes.x.from, axes.x.to)), axes));
     }
     if (decibels != 0.0) {
-        const double level = levelAt(point.y(), frame) + decibels;
-        point.setY(handleY(std::clamp(level, frame.yMinimum, std::max(frame.yMinimum, frame.yMaximum)), frame));
+        const double level = axes.y.valueAt(1.0 - point.y()) + decibels;
+        point.setY(handleY(std::clamp(level, axes.y.from, std::max(axes.y.from, axes.y.to)), axes));
     }
     return point;
 }

@@ -56,10 +56,10 @@ HandleProblem appendHandles(const tamble::common::CalculationItem *record, int p
                             std::vector<FilterHandle> &handles);
 
 /// Point of a handle in the frame: a handle that is not visible is outside it in both directions.
-QPointF handlePoint(const FilterHandle &handle, const HandleFrame &frame);
+QPointF handlePoint(const FilterHandle &handle, const PlotAxes &axes);
 
 /// Where a drag leads that moves a handle by octaves to the right and by decibels upwards; within the frame.
-QPointF steppedPoint(const FilterHandle &handle, double octaves, double decibels, const HandleFrame &frame);
+QPointF steppedPoint(const FilterHandle &handle, double octaves, double decibels, const PlotAxes &axes);
 
 /// Whether both lists have the same number and kinds of handles.
 bool sameHandleKinds(const std::vector<FilterHandle> &a, const std::vector<FilterHandle> &b);

@@ -76,9 +76,9 @@ QString FilterSet::setRecord(int position, FilterRecord record)
     return now != before ? problemText(now, index) : QString();
 }
 
-void FilterSet::setFrame(const HandleFrame &frame)
+void FilterSet::setAxes(const PlotAxes &axes)
 {
-    m_frame = frame;
+    m_axes = axes;
     placeHandles();
 }
 
@@ -142,7 +142,7 @@ QStringList FilterSet::makeHandles()
 void FilterSet::placeHandles()
 {
     for (FilterHandle &handle : m_handles)
-        handle.point = handlePoint(handle, m_frame);
+        handle.point = handlePoint(handle, m_axes);
 }
 
 QString FilterSet::indexProblem(const char *method, int handle) const
@@ -168,7 +168,7 @@ HandleEdit FilterSet::move(int handle, const QPointF &wanted)
     if (!std::isfinite(wanted.x()) || !std::isfinite(wanted.y()))
         return refused();
 
-    const QPointF limited(wanted.x(), limitedHandleY(wanted.y(), m_frame));
+    const QPointF limited(wanted.x(), limitedHandleY(wanted.y(), m_axes));
     FilterHandle &moved = m_handles[std::size_t(handle)];
     CalculationItem *record = m_records[std::size_t(moved.record)].data();
     if (auto *eq = dynamic_cast<EqFilter *>(record))
@@ -187,11 +187,11 @@ HandleEdit FilterSet::moveEq(FilterHandle &handle, EqFilter &record, const QPoin
     // A parameter that the drag does not move keeps its value, which a handle outside the frame could not tell.
     if (handle.motion != HandleMotion::Vertical) {
         handle.point.setX(wanted.x());
-        record.freq = frequencyAt(wanted.x(), m_frame);
+        record.freq = m_axes.x.valueAt(wanted.x());
     }
     if (handle.motion != HandleMotion::Horizontal) {
         handle.point.setY(wanted.y());
-        record.gain = levelAt(wanted.y(), m_frame);
+        record.gain = m_axes.y.valueAt(1.0 - wanted.y());
     }
     handle.frequencyHz = record.freq;
     handle.gainDb = record.gain;
@@ -201,7 +201,7 @@ HandleEdit FilterSet::moveEq(FilterHandle &handle, EqFilter &record, const QPoin
 HandleEdit FilterSet::moveXOver(FilterHandle &handle, XOverFilter &record, const QPointF &wanted) const
 {
     handle.point.setX(wanted.x());
-    record.freq = frequencyAt(wanted.x(), m_frame);
+    record.freq = m_axes.x.valueAt(wanted.x());
     handle.frequencyHz = record.freq;
     return editOf(handle);
 }
@@ -228,7 +228,7 @@ HandleEdit FilterSet::moveFir(int index, FIRFilter &record, const QPointF &wante
         x = std::clamp(x, 0.0, 1.0); // a partner outside the frame does not pull this handle out as well
     }
     handle.point.setX(x);
-    handle.frequencyHz = frequencyAt(x, m_frame);
+    handle.frequencyHz = m_axes.x.valueAt(x);
     (highPass ? record.freqHP : record.freqLP) = handle.frequencyHz;
     return editOf(handle);
 }
@@ -238,7 +238,7 @@ HandleEdit FilterSet::moveAsymmetric(int index, AsymmetricEqFilter &record, cons
     FilterHandle &handle = m_handles[std::size_t(index)];
     double &frequency = handle.relation == HandleRelation::AsymmetricSecond ? record.freq2 : record.freq;
     if (isInWidth(handle.point.x()))
-        frequency = frequencyAt(handle.point.x(), m_frame);
+        frequency = m_axes.x.valueAt(handle.point.x());
     handle.frequencyHz = frequency;
     HandleEdit edit = editOf(handle);
     edit.follows = wanted;
@@ -253,7 +253,7 @@ bool FilterSet::follow(const HandleEdit &edit)
     if (!record)
         return false;
     FilterHandle &handle = m_handles[std::size_t(edit.handle)];
-    record->gain = levelAt(edit.follows->y(), m_frame);
+    record->gain = m_axes.y.valueAt(1.0 - edit.follows->y());
     handle.gainDb = record->gain;
     if (const int partner = partnerOf(edit.handle); partner >= 0) {
         FilterHandle &other = m_handles[std::size_t(partner)];
@@ -277,7 +277,7 @@ HandleEdit FilterSet::level(int handle)
         if (levelled.record != position)
             continue;
         levelled.gainDb = 0.0;
-        levelled.point.setY(handlePoint(levelled, m_frame).y());
+        levelled.point.setY(handlePoint(levelled, m_axes).y());
     }
     return current(handle);
 }

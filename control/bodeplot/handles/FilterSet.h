@@ -34,14 +34,14 @@ class FilterSet
 public:
     const FilterRecords &records() const { return m_records; }
     const std::vector<FilterHandle> &handles() const { return m_handles; }
-    const HandleFrame &frame() const { return m_frame; }
+    const PlotAxes &axes() const { return m_axes; }
 
     /// Takes new records and makes their handles anew; returns a log line for each record without one.
     QStringList setRecords(FilterRecords records);
     /// Exchanges one record; returns a log line when it has no handle, unless the old one had none for that reason.
     QString setRecord(int position, FilterRecord record);
     /// Moves all handles to where their filters are in another frame.
-    void setFrame(const HandleFrame &frame);
+    void setAxes(const PlotAxes &axes);
 
     /// Record of a handle, -1 for an index without handle.
     int recordOf(int handle) const;
@@ -79,7 +79,7 @@ private:
 
     FilterRecords m_records;
     std::vector<FilterHandle> m_handles;
-    HandleFrame m_frame;
+    PlotAxes m_axes;
 };
 
 } // namespace tamble::client

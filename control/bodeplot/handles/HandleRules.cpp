@@ -22,35 +22,25 @@ constexpr double pixelsToLimit = 200.0;
 
 } // namespace
 
-double handleX(double frequencyHz, const HandleFrame &frame)
+double handleX(double frequencyHz, const PlotAxes &axes)
 {
-    if (frequencyHz >= frame.xMinimum && frequencyHz <= frame.xMaximum)
-        return log2lin(frequencyHz, frame.xMinimum, frame.xMaximum, 0.0, 1.0);
-    return frequencyHz > frame.xMaximum ? behindFrame : beforeFrame;
+    if (frequencyHz >= axes.x.from && frequencyHz <= axes.x.to)
+        return log2lin(frequencyHz, axes.x.from, axes.x.to, 0.0, 1.0);
+    return frequencyHz > axes.x.to ? behindFrame : beforeFrame;
 }
 
-double handleY(double levelDb, const HandleFrame &frame)
+double handleY(double levelDb, const PlotAxes &axes)
 {
-    if (levelDb >= frame.yMinimum && levelDb <= frame.yMaximum)
-        return lin2lin(levelDb, frame.yMinimum, frame.yMaximum, 1.0, 0.0);
-    return levelDb < frame.yMinimum ? behindFrame : beforeFrame;
+    if (levelDb >= axes.y.from && levelDb <= axes.y.to)
+        return lin2lin(levelDb, axes.y.from, axes.y.to, 1.0, 0.0);
+    return levelDb < axes.y.from ? behindFrame : beforeFrame;
 }
 
-double frequencyAt(double x, const HandleFrame &frame)
-{
-    return lin2log(x, 0.0, 1.0, frame.xMinimum, frame.xMaximum);
-}
-
-double levelAt(double y, const HandleFrame &frame)
-{
-    return lin2lin(y, 1.0, 0.0, frame.yMinimum, frame.yMaximum);
-}
-
-double limitedHandleY(double y, const HandleFrame &frame)
+double limitedHandleY(double y, const PlotAxes &axes)
 {
     // A frame that runs backwards has its +12 dB below its -18 dB.
-    const double top = lin2lin(highestHandleLevel, frame.yMinimum, frame.yMaximum, 1.0, 0.0);
-    const double bottom = lin2lin(lowestHandleLevel, frame.yMinimum, frame.yMaximum, 1.0, 0.0);
+    const double top = lin2lin(highestHandleLevel, axes.y.from, axes.y.to, 1.0, 0.0);
+    const double bottom = lin2lin(lowestHandleLevel, axes.y.from, axes.y.to, 1.0, 0.0);
     return std::clamp(y, std::min(top, bottom), std::max(top, bottom));
 }
 

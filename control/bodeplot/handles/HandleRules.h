@@ -1,21 +1,10 @@
 #pragma once
 
-#include <QtCore/QPointF>
+#include "scale/PlotAxes.h"
 
 #include <optional>
 
 namespace tamble::client {
-
-/// The part of a frequency plot in which handles are placed: frequencies in Hz, levels in dB.
-struct HandleFrame
-{
-    double xMinimum = 20.0;
-    double xMaximum = 20000.0;
-    double yMinimum = -20.0;
-    double yMaximum = 20.0;
-
-    bool operator==(const HandleFrame &) const = default;
-};
 
 // Positions are normalised: x from 0 (left) to 1 (right), y from 0 (top) to 1 (bottom).
 
@@ -27,17 +16,12 @@ constexpr double behindFrame = 2.0;
 constexpr double firHandleDistance = 0.03;
 
 /// x of a frequency, `beforeFrame` or `behindFrame` for one that is not visible (NaN too).
-double handleX(double frequencyHz, const HandleFrame &frame);
+double handleX(double frequencyHz, const PlotAxes &axes);
 /// y of a level, `beforeFrame` or `behindFrame` for one that is not visible (NaN too).
-double handleY(double levelDb, const HandleFrame &frame);
-
-/// Frequency at a normalised x, Hz.
-double frequencyAt(double x, const HandleFrame &frame);
-/// Level at a normalised y, dB.
-double levelAt(double y, const HandleFrame &frame);
+double handleY(double levelDb, const PlotAxes &axes);
 
 /// Keeps a dragged handle between +12 dB and -18 dB, whatever the frame shows.
-double limitedHandleY(double y, const HandleFrame &frame);
+double limitedHandleY(double y, const PlotAxes &axes);
 
 /// Highest Q that a gesture can give an equaliser band of the type; none when its Q cannot be dragged.
 std::optional<double> qualityLimit(int eqType, int slope);

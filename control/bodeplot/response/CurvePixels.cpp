@@ -10,7 +10,7 @@ namespace tamble::client {
 namespace {
 
 /// The curve in pixels, not cut, in pieces without interruption.
-QList<QList<QPointF>> unbrokenPieces(const SampledCurve &curve, const FrameAxes &axes, const QSizeF &size)
+QList<QList<QPointF>> unbrokenPieces(const SampledCurve &curve, const PlotAxes &axes, const QSizeF &size)
 {
     QList<QList<QPointF>> pieces(1);
     for (qsizetype i = 0; i < curve.points.size(); ++i) {
@@ -38,7 +38,7 @@ void appendColumn(QList<QPointF> &reduced, QList<QPointF>::const_iterator first,
 
 } // namespace
 
-int visibleCount(const SampledCurve &curve, const FrameAxes &axes)
+int visibleCount(const SampledCurve &curve, const PlotAxes &axes)
 {
     int count = 0;
     for (qsizetype i = 0; axes.isShowable() && i < curve.points.size(); ++i)
@@ -60,7 +60,7 @@ QList<QPointF> reducedToColumns(const QList<QPointF> &pixels)
     return reduced;
 }
 
-QList<QList<QPointF>> curvePixels(const SampledCurve &curve, const FrameAxes &axes, const QSizeF &size)
+QList<QList<QPointF>> curvePixels(const SampledCurve &curve, const PlotAxes &axes, const QSizeF &size)
 {
     QList<QList<QPointF>> lines;
     if (!axes.isShowable() || size.isEmpty())

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bodeplot/frame/FrameAxes.h"
+#include "scale/PlotAxes.h"
 
 #include <QtCore/QList>
 #include <QtCore/QPointF>
@@ -19,7 +19,7 @@ struct SampledCurve
 };
 
 /// Number of points inside the frame.
-int visibleCount(const SampledCurve &curve, const FrameAxes &axes);
+int visibleCount(const SampledCurve &curve, const PlotAxes &axes);
 
 /// Thins neighbouring points that share a pixel column to the column's lowest and highest, in their order.
 QList<QPointF> reducedToColumns(const QList<QPointF> &pixels);
@@ -28,6 +28,6 @@ QList<QPointF> reducedToColumns(const QList<QPointF> &pixels);
 ///
 /// A coordinate that is not finite, or not above 0 on a logarithmic axis, interrupts the line. A frame that shows
 /// nothing and an empty size give no lines.
-QList<QList<QPointF>> curvePixels(const SampledCurve &curve, const FrameAxes &axes, const QSizeF &size);
+QList<QList<QPointF>> curvePixels(const SampledCurve &curve, const PlotAxes &axes, const QSizeF &size);
 
 } // namespace tamble::client

@@ -19,13 +19,13 @@ double limitedLevel(const LimiterRule &rule, double level)
     return rule.threshold + (level - rule.threshold) * slope;
 }
 
-bool isOverFrequencies(const FrameAxes &axes)
+bool isOverFrequencies(const PlotAxes &axes)
 {
     return axes.x.scale == AxisScale::Logarithmic;
 }
 
 /// The line in axis units, from the left edge of the frame to the right one.
-QList<QPointF> uncutLine(const LimiterRule &rule, const FrameAxes &axes)
+QList<QPointF> uncutLine(const LimiterRule &rule, const PlotAxes &axes)
 {
     if (isOverFrequencies(axes)) {
         if (rule.bypass)
@@ -40,7 +40,7 @@ QList<QPointF> uncutLine(const LimiterRule &rule, const FrameAxes &axes)
 }
 
 /// The thresholds whose handle is inside the frame.
-std::optional<AxisRange> thresholdRange(const FrameAxes &axes)
+std::optional<AxisRange> thresholdRange(const PlotAxes &axes)
 {
     if (!axes.isShowable())
         return std::nullopt;
@@ -57,7 +57,7 @@ double keptInside(double normalised)
 
 } // namespace
 
-QList<QPointF> limiterLine(const LimiterRule &rule, const FrameAxes &axes)
+QList<QPointF> limiterLine(const LimiterRule &rule, const PlotAxes &axes)
 {
     if (!axes.isShowable() || !std::isfinite(rule.threshold) || std::isnan(rule.ratio))
         return {};
@@ -69,7 +69,7 @@ QList<QPointF> limiterLine(const LimiterRule &rule, const FrameAxes &axes)
     return pieces.value(0);
 }
 
-QPointF limiterHandle(const LimiterRule &rule, const FrameAxes &axes)
+QPointF limiterHandle(const LimiterRule &rule, const PlotAxes &axes)
 {
     const double level = std::isfinite(rule.threshold) ? rule.threshold : axes.y.from;
     const QPointF onDiagonal = axes.toNormalised({level, level});
@@ -77,7 +77,7 @@ QPointF limiterHandle(const LimiterRule &rule, const FrameAxes &axes)
     return axes.isShowable() ? QPointF(x, keptInside(onDiagonal.y())) : QPointF();
 }
 
-double thresholdInside(double wanted, const FrameAxes &axes)
+double thresholdInside(double wanted, const PlotAxes &axes)
 {
     const std::optional<AxisRange> range = thresholdRange(axes);
     if (!range || std::isnan(wanted))
@@ -85,7 +85,7 @@ double thresholdInside(double wanted, const FrameAxes &axes)
     return std::clamp(wanted, range->from, range->to);
 }
 
-double thresholdMovedBy(double threshold, double difference, const FrameAxes &axes)
+double thresholdMovedBy(double threshold, double difference, const PlotAxes &axes)
 {
     const std::optional<AxisRange> range = thresholdRange(axes);
     const double wanted = threshold + difference;
@@ -94,7 +94,7 @@ double thresholdMovedBy(double threshold, double difference, const FrameAxes &ax
     return std::clamp(wanted, std::min(range->from, threshold), std::max(range->to, threshold));
 }
 
-double thresholdNear(const QPointF &normalised, const FrameAxes &axes)
+double thresholdNear(const QPointF &normalised, const PlotAxes &axes)
 {
     if (std::isnan(normalised.x()) || std::isnan(normalised.y()))
         return std::numeric_limits<double>::quiet_NaN();

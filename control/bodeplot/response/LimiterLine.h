@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bodeplot/frame/FrameAxes.h"
+#include "scale/PlotAxes.h"
 
 #include <QtCore/QList>
 #include <QtCore/QPointF>
@@ -23,21 +23,21 @@ struct LimiterRule
 /// Over input levels (linear x axis) it is the identity up to the threshold and the limited slope above, or the
 /// identity alone while bypassed. Over frequencies (logarithmic x axis) it is a level line at the threshold, or nothing
 /// while bypassed. A threshold or ratio that is not a number and a frame that shows nothing give no points.
-QList<QPointF> limiterLine(const LimiterRule &rule, const FrameAxes &axes);
+QList<QPointF> limiterLine(const LimiterRule &rule, const PlotAxes &axes);
 
 /// Normalised place of the handle: on the line at the threshold, over frequencies in the middle; kept inside the frame.
-QPointF limiterHandle(const LimiterRule &rule, const FrameAxes &axes);
+QPointF limiterHandle(const LimiterRule &rule, const PlotAxes &axes);
 
 /// The threshold nearest to a wanted one whose handle is inside the frame. NaN for a frame that shows nothing, or input
 /// and output levels without a common part.
-double thresholdInside(double wanted, const FrameAxes &axes);
+double thresholdInside(double wanted, const PlotAxes &axes);
 
 /// A threshold moved by a difference in dB as far as the frame allows; one outside the frame is not moved further out,
 /// nor made to jump inside. NaN as above.
-double thresholdMovedBy(double threshold, double difference, const FrameAxes &axes);
+double thresholdMovedBy(double threshold, double difference, const PlotAxes &axes);
 
 /// The threshold inside the frame that puts the handle nearest to a normalised point: over frequencies the level of the
 /// point, over input levels the mean of its input and output level. NaN as above.
-double thresholdNear(const QPointF &normalised, const FrameAxes &axes);
+double thresholdNear(const QPointF &normalised, const PlotAxes &axes);
 
 } // namespace tamble::client

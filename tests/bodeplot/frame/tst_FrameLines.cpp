@@ -251,10 +251,10 @@ private Q_SLOTS:
 
     void curve_data()
     {
-        const Rows<Points, double, FrameAxes, Lines, int> row;
+        const Rows<Points, double, PlotAxes, Lines, int> row;
         // 300 x 100 pixels: 100 Hz to 100 kHz has a decade on 100 pixels, -10 to 10 dB has 5 pixels a dB.
-        const FrameAxes levels{linear(-10, 20), linear(-10, 10)};
-        const FrameAxes axes{logarithmic(100, 100000), linear(-10, 10)};
+        const PlotAxes levels{linear(-10, 20), linear(-10, 10)};
+        const PlotAxes axes{logarithmic(100, 100000), linear(-10, 10)};
         row("logarithmic", {{100, 0}, {1000, 4}}, 0.0, axes, {{{0, 50}, {100, 30}}}, 2);
         row("linear", {{-10, 0}, {0, -10}}, 0.0, levels, {{{0, 50}, {100, 100}}}, 2);
         row("trim", {{100, 0}, {1000, 4}}, -4.0, axes, {{{0, 70}, {100, 50}}}, 2);
@@ -273,7 +273,7 @@ private Q_SLOTS:
 
     void curve()
     {
-        const auto &[points, trim, axes, lines, visible] = Rows<Points, double, FrameAxes, Lines, int>::current();
+        const auto &[points, trim, axes, lines, visible] = Rows<Points, double, PlotAxes, Lines, int>::current();
         QCOMPARE(inWords(curvePixels({points, trim}, axes, {300.0, 100.0})), inWords(lines));
         QCOMPARE(visibleCount({points, trim}, axes), visible);
         QVERIFY(curvePixels({points, trim}, axes, {300.0, 0.0}).isEmpty());
@@ -281,10 +281,10 @@ private Q_SLOTS:
 
     void limiter_data()
     {
-        const Rows<LimiterRule, FrameAxes, Points> row;
-        const FrameAxes levels{linear(-60, 20), linear(-60, 20)};
-        const FrameAxes lower{linear(-60, 20), linear(-60, -20)};
-        const FrameAxes frequencies{logarithmic(20, 20000), linear(-20, 20)};
+        const Rows<LimiterRule, PlotAxes, Points> row;
+        const PlotAxes levels{linear(-60, 20), linear(-60, 20)};
+        const PlotAxes lower{linear(-60, 20), linear(-60, -20)};
+        const PlotAxes frequencies{logarithmic(20, 20000), linear(-20, 20)};
         row("brick wall", {-20, 0, false}, levels, {{0, 1}, {0.5, 0.5}, {1, 0.5}});
         row("ratio", {-20, 4, false}, levels, {{0, 1}, {0.5, 0.5}, {1, 0.375}});
         row("endless ratio", {-20, infinity, false}, levels, {{0, 1}, {0.5, 0.5}, {1, 0.5}});
@@ -303,15 +303,15 @@ private Q_SLOTS:
 
     void limiter()
     {
-        const auto &[rule, axes, points] = Rows<LimiterRule, FrameAxes, Points>::current();
+        const auto &[rule, axes, points] = Rows<LimiterRule, PlotAxes, Points>::current();
         QCOMPARE(inWords(limiterLine(rule, axes)), inWords(points));
     }
 
     void limiterHandle_data()
     {
-        const Rows<FrameAxes, double, QPointF, QPointF, double> row;
-        const FrameAxes levels{linear(-60, 20), linear(-60, 20)};
-        const FrameAxes frequencies{logarithmic(20, 20000), linear(-20, 20)};
+        const Rows<PlotAxes, double, QPointF, QPointF, double> row;
+        const PlotAxes levels{linear(-60, 20), linear(-60, 20)};
+        const PlotAxes frequencies{logarithmic(20, 20000), linear(-20, 20)};
         row("level", frequencies, 10.0, QPointF(0.5, 0.25), QPointF(0.9, 0.75), -10.0);
         row("level stays in the frame", frequencies, 30.0, QPointF(0.5, 0), QPointF(0.5, 1.5), -20.0);
         // The pointer is at -40 dB of input and 0 dB of output.
@@ -326,7 +326,7 @@ private Q_SLOTS:
     void limiterHandle()
     {
         const auto &[axes, threshold, handle, pointer, moved] =
-            Rows<FrameAxes, double, QPointF, QPointF, double>::current();
+            Rows<PlotAxes, double, QPointF, QPointF, double>::current();
         QCOMPARE(tamble::client::limiterHandle({threshold, 0.0, false}, axes), handle);
         QCOMPARE(thresholdNear(pointer, axes), moved);
     }
@@ -344,7 +344,7 @@ private Q_SLOTS:
     void thresholdSteps()
     {
         const auto &[threshold, difference, moved] = Rows<double, double, double>::current();
-        QCOMPARE(thresholdMovedBy(threshold, difference, FrameAxes()), moved);
+        QCOMPARE(thresholdMovedBy(threshold, difference, PlotAxes()), moved);
     }
 };
 

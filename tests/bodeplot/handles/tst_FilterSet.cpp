@@ -176,9 +176,9 @@ private Q_SLOTS:
     {
         FilterSet set = setOf({eq(0)});
         set.move(0, {2.0 / 3.0, 0.375});
-        set.setFrame({200.0, 2000.0, -10.0, 10.0});
+        set.setAxes({{200.0, 2000.0, AxisScale::Logarithmic}, {-10.0, 10.0}});
         QCOMPARE(set.handles().front().point, QPointF(1.0, 0.25));
-        set.setFrame({20.0, 200.0, -4.0, 4.0});
+        set.setAxes({{20.0, 200.0, AxisScale::Logarithmic}, {-4.0, 4.0}});
         QCOMPARE(set.handles().front().point, QPointF(2.0, -1.0));
         QCOMPARE(recordIn<EqFilterExtended>(set).freq, 2000.0);
     }
@@ -216,7 +216,7 @@ private Q_SLOTS:
     {
         const auto &[record, frequency] = Rows<FilterRecord, double>::current();
         FilterSet set = setOf({record});
-        set.setFrame({100.0, 20000.0, 2.0, 20.0});
+        set.setAxes({{100.0, 20000.0, AxisScale::Logarithmic}, {2.0, 20.0}});
         const HandleEdit edit = set.level(0);
         QCOMPARE(bool(edit), frequency > 0.0);
         QCOMPARE(edit.frequencyHz, frequency);

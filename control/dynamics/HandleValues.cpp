@@ -1,4 +1,4 @@
-#include "dynamics/HandleRules.h"
+#include "dynamics/HandleValues.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,17 +21,6 @@ double rounded(double value, double step)
 }
 
 } // namespace
-
-double placeOnAxis(double level, double from, double to)
-{
-    const double place = (level - from) / (to - from);
-    return std::isnan(place) || from == to ? 0.0 : std::clamp(place, 0.0, 1.0);
-}
-
-double levelAtPlace(double place, double from, double to)
-{
-    return from + place * (to - from);
-}
 
 double limitedValue(double wanted, double minimum, double maximum, double step)
 {

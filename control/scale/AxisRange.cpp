@@ -1,9 +1,10 @@
-#include "scale/AxisScale.h"
+#include "scale/AxisRange.h"
 
 #include <tamblecommon-math/ScaleMappings.h>
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace tamble::client {
 
@@ -24,6 +25,23 @@ bool AxisRange::contains(double value) const
     return value >= lowest() && value <= highest();
 }
 
+double AxisRange::place(double value) const
+{
+    const bool isLogarithmic = scale == AxisScale::Logarithmic;
+    if (!isShowable() || !std::isfinite(value) || (isLogarithmic && value <= 0.0))
+        return std::numeric_limits<double>::quiet_NaN();
+    constexpr double farOutside = 1e6;
+    const double place =
+        isLogarithmic ? common::log2lin(value, from, to, 0.0, 1.0) : common::lin2lin(value, from, to, 0.0, 1.0);
+    return std::clamp(place, -farOutside, farOutside);
+}
+
+double AxisRange::valueAt(double position) const
+{
+    return scale == AxisScale::Logarithmic ? common::lin2log(position, 0.0, 1.0, from, to)
+                                           : common::lin2lin(position, 0.0, 1.0, from, to);
+}
+
 double AxisRange::toPosition(double value) const
 {
     if (!isUsable() || std::isnan(value))
@@ -39,10 +57,7 @@ double AxisRange::toValue(double position) const
 {
     if (!isUsable() || std::isnan(position))
         return from;
-    const double inside = std::clamp(position, 0.0, 1.0);
-    const double value = scale == AxisScale::Logarithmic ? common::lin2log(inside, 0.0, 1.0, from, to)
-                                                         : common::lin2lin(inside, 0.0, 1.0, from, to);
-    return std::clamp(value, lowest(), highest());
+    return std::clamp(valueAt(std::clamp(position, 0.0, 1.0)), lowest(), highest());
 }
 
 QList<double> AxisRange::toPositions(const QList<double> &values) const

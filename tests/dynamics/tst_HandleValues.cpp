@@ -1,4 +1,4 @@
-#include "dynamics/HandleRules.h"
+#include "dynamics/HandleValues.h"
 #include "scale/NumberPlaces.h"
 #include "support/Numbers.h"
 #include "support/Rows.h"
@@ -18,32 +18,12 @@ bool isSame(double a, double b)
 
 } // namespace
 
-class tst_HandleRules : public QObject
+class tst_HandleValues : public QObject
 {
     Q_OBJECT
     using Starts = QList<std::optional<double>>;
 
 private Q_SLOTS:
-    void placeOnAxis_data()
-    {
-        const Rows<double, double, double, double> row;
-        row("inside", -10.0, -40.0, 0.0, 0.75);
-        row("above", infinity, -40.0, 0.0, 1.0);
-        row("backwards", -10.0, 0.0, -40.0, 0.25);
-        row("backwards, above", 1.0, 0.0, -40.0, 0.0);
-        row("no number", notANumber, -40.0, 0.0, 0.0);
-        row("axis without length", 7.0, 5.0, 5.0, 0.0);
-        row("endless axis", 7.0, -infinity, 5.0, 0.0);
-    }
-
-    void placeOnAxis()
-    {
-        const auto &[level, from, to, expected] = Rows<double, double, double, double>::current();
-        QCOMPARE(tamble::client::placeOnAxis(level, from, to), expected);
-        if (expected > 0.0 && expected < 1.0)
-            QCOMPARE(levelAtPlace(expected, from, to), level);
-    }
-
     void limitedValue_data()
     {
         const Rows<double, double, double, double, double> row;
@@ -151,5 +131,5 @@ private Q_SLOTS:
     }
 };
 
-template struct TestClass<tst_HandleRules>;
-#include "tst_HandleRules.moc"
+template struct TestClass<tst_HandleValues>;
+#include "tst_HandleValues.moc"

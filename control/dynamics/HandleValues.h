@@ -4,15 +4,7 @@
 
 namespace tamble::client {
 
-// What the handles of a dynamics plot do with levels, ratios and places. Levels are in dB, places on an axis run from 0
-// at its `from` to 1 at its `to`, and an axis may run backwards.
-
-/// Place of a level on an axis, for a handle: the nearest end when the level is outside, 0 when it cannot be placed
-/// (not a number, or an axis without a length).
-double placeOnAxis(double level, double from, double to);
-
-/// Level at a place on an axis; places outside of 0…1 give levels outside of it.
-double levelAtPlace(double place, double from, double to);
+// What the handles of a dynamics plot make of a parameter; levels are in dB.
 
 /// A wanted value of a parameter as a handle may send it: the multiple of `step` (0 or not a number: not rounded)
 /// nearest to it, then limited to the bounds, which are swapped when they are given in the wrong order.
