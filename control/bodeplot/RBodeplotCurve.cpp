@@ -6,6 +6,7 @@
 #include <tamblecommon-math/FilterAlgorithm.h>
 
 #include <QtCore/QDebug>
+#include <QtCore/QScopedValueRollback>
 #include <QtQuick/QQuickWindow>
 
 #include <algorithm>
@@ -27,6 +28,8 @@ RBodeplotCurve::RBodeplotCurve(QQuickItem *parent)
 {
     setFlag(ItemHasContents);
     connectProperties();
+    connect(&m_lists, &FilterLists::itemsChanged, this, &RBodeplotCurve::calculationItemsChanged);
+    connect(&m_lists, &FilterLists::referenceChanged, this, &RBodeplotCurve::calculationItemsReferenceChanged);
     connect(&m_filters, &CurveFilters::pointModelsChanged, this, &RBodeplotCurve::tellPointModels);
     connect(&m_filters, &CurveFilters::recordChanged, this, &RBodeplotCurve::requestEvaluation);
     connect(&m_filters, &CurveFilters::displayChanged, this, &RBodeplotCurve::requestLines);
@@ -35,8 +38,7 @@ RBodeplotCurve::RBodeplotCurve(QQuickItem *parent)
 RBodeplotCurve::~RBodeplotCurve()
 {
     // The members go one after the other and must not be told of each other's end.
-    for (RBodeplotCalculationItem *item : std::as_const(m_calculationItems))
-        item->disconnect(this);
+    m_lists.disconnect(this);
     m_filters.disconnect(this);
 }
 
@@ -81,6 +83,77 @@ void RBodeplotCurve::refreshColors()
     read.saturation.nearAxis = styleWidth(style, "areaSaturationNearxAchsis");
     if (std::exchange(m_curveStyle, read) != read)
         update();
+}
+
+QQmlListProperty<RBodeplotCalculationItem> RBodeplotCurve::calculationItems()
+{
+    return m_lists.items();
+}
+
+QQmlListReference RBodeplotCurve::calculationItemsReference()
+{
+    return m_lists.reference();
+}
+
+void RBodeplotCurve::setCalculationItemsReference(const QQmlListReference &reference)
+{
+    m_lists.setReference(reference);
+}
+
+void RBodeplotCurve::requestConversion()
+{
+    if (!isComponentComplete() || std::exchange(m_listIsStale, true))
+        return;
+    if (window())
+        polish();
+    else
+        QMetaObject::invokeMethod(this, &RBodeplotCurve::updatePolish, Qt::QueuedConnection);
+}
+
+CurveFilters &RBodeplotCurve::presentFilters()
+{
+    // What asks may be a binding, or a gesture on a handle that goes with the old list: it must be through before other
+    // handles are told of.
+    const QScopedValueRollback asked(m_tellsHandlesLater, true);
+    if (m_listIsStale)
+        convertFilters();
+    return m_filters;
+}
+
+QList<QObject *> RBodeplotCurve::filterPointModels()
+{
+    return presentFilters().pointModels();
+}
+
+void RBodeplotCurve::tellPointModels()
+{
+    if (m_tellsHandlesLater)
+        QMetaObject::invokeMethod(this, &RBodeplotCurve::filterPointModelsChanged, Qt::QueuedConnection);
+    else
+        Q_EMIT filterPointModelsChanged();
+}
+
+void RBodeplotCurve::convertFilters()
+{
+    m_listIsStale = false;
+    if (!isComponentComplete())
+        return;
+    m_filters.setFilters(m_lists.converted());
+}
+
+void RBodeplotCurve::onCalculationItemsChanged()
+{
+    convertFilters();
+    evaluate();
+}
+
+void RBodeplotCurve::refresh(const QList<QSharedPointer<tamble::common::CalculationItem>> &data)
+{
+    ConvertedFilters filters;
+    filters.records.assign(data.begin(), data.end());
+    m_listIsStale = false;
+    m_filters.setFilters(std::move(filters));
+    evaluate();
 }
 
 void RBodeplotCurve::selectFilterPoint(int index)
@@ -258,7 +331,7 @@ void RBodeplotCurve::componentComplete()
     QQuickItem::componentComplete();
     m_filters.setAxes({{m_xMinimum, m_xMaximum, AxisScale::Logarithmic}, {m_yMinimum, m_yMaximum, AxisScale::Linear}});
     onCalculationItemsChanged();
-    tellOfUnlistedFilters();
+    m_lists.tellOfUnlisted();
 }
 
 void RBodeplotCurve::itemChange(ItemChange change, const ItemChangeData &value)

@@ -2,8 +2,8 @@
 
 #include "base/ControlExport.h"
 #include "bodeplot/CurveFilters.h"
+#include "bodeplot/FilterLists.h"
 #include "bodeplot/filters/BodeplotEnums.h"
-#include "bodeplot/filters/RBodeplotCalculationItem.h"
 #include "bodeplot/handles/RBodeplotPointModel.h"
 #include "bodeplot/response/ResponseCurveNode.h"
 #include "bodeplot/response/ResponseLines.h"
@@ -133,16 +133,7 @@ protected:
     const ResponseLines &lines() const { return m_lines; }
 
 private:
-    using ItemList = QQmlListProperty<RBodeplotCalculationItem>;
     enum class Evaluation { None, One, All };
-
-    static void appendItem(ItemList *list, RBodeplotCalculationItem *item);
-    static qsizetype itemCount(ItemList *list);
-    static RBodeplotCalculationItem *itemAt(ItemList *list, qsizetype index);
-    static void clearItems(ItemList *list);
-    void forgetItem(QObject *item);
-    bool isListed(QObject *filter) const;
-    void tellOfUnlistedFilters();
 
     void connectProperties();
     void requestConversion();
@@ -168,10 +159,8 @@ private:
     qreal m_samplerate = 48000.0;
     int m_resolution = 4096;
     int m_settleTime = 300;
-    QList<RBodeplotCalculationItem *> m_calculationItems;
-    QQmlListReference m_calculationItemsReference;
-    bool m_hasToldOfNoFilter = false;
 
+    FilterLists m_lists{this};
     CurveFilters m_filters;
     bool m_listIsStale = false; ///< m_filters is still that of an earlier list.
     bool m_tellsHandlesLater = false;

@@ -96,7 +96,7 @@ private Q_SLOTS:
         const int updates = page.curve->updateCount();
         page.filter(0)->setProperty("gain", page.filter(0)->property("gain"));
         page.curve->refreshColors();
-        QTest::qWait(50);
+        QCoreApplication::processEvents();
         QCOMPARE(page.curve->updateCount(), updates);
     }
 

@@ -247,7 +247,7 @@ private Q_SLOTS:
         page.curve->onUserMoveFilterPoint(0, {2.0 / 3.0, 0.5});
         page.curve->setProperty("settleTime", 0);
         page.curve->releaseFilterPoint();
-        QTest::qWait(10);
+        QCoreApplication::processEvents();
         QCOMPARE(band->freq, 2000.0);
         page.curve->onCalculationItemsChanged();
         QCOMPARE(page.curve->handle(0)->property("label"), "LP");
