@@ -1,5 +1,7 @@
 #include "controls/TintMaterial.h"
 
+#include "scenegraph/UniformWriter.h"
+
 #include <QtQuick/QSGMaterialShader>
 #include <QtQuick/QSGTexture>
 
@@ -31,14 +33,10 @@ public:
 
     bool updateUniformData(RenderState &state, QSGMaterial *newMaterial, QSGMaterial *) override
     {
-        char *block = state.uniformData()->data();
-        if (state.isMatrixDirty()) {
-            const QMatrix4x4 matrix = state.combinedMatrix();
-            std::memcpy(block, matrix.constData(), sizeof UniformBlock::matrix);
-        }
+        writeMatrixAndOpacity(state, offsetof(UniformBlock, opacity));
         const QVector4D color = static_cast<TintMaterial *>(newMaterial)->premultipliedColor();
-        const float tail[] = {color.x(), color.y(), color.z(), color.w(), state.opacity()};
-        std::memcpy(block + offsetof(UniformBlock, tint), tail, sizeof tail);
+        const float tint[] = {color.x(), color.y(), color.z(), color.w()};
+        std::memcpy(state.uniformData()->data() + offsetof(UniformBlock, tint), tint, sizeof tint);
         return true;
     }
 

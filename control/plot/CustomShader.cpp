@@ -1,8 +1,7 @@
 #include "plot/CustomShader.h"
 
 #include "plot/CustomMaterial.h"
-
-#include <QtGui/QMatrix4x4>
+#include "scenegraph/UniformWriter.h"
 
 #include <cstring>
 
@@ -16,21 +15,10 @@ CustomShader::CustomShader()
 
 bool CustomShader::updateUniformData(RenderState &state, QSGMaterial *newMaterial, QSGMaterial *oldMaterial)
 {
-    char *block = state.uniformData()->data();
-    bool written = false;
-    if (state.isMatrixDirty()) {
-        const QMatrix4x4 matrix = state.combinedMatrix();
-        std::memcpy(block, matrix.constData(), sizeof(CurveUniformBlock::matrix));
-        written = true;
-    }
-    if (state.isOpacityDirty()) {
-        const float opacity = state.opacity();
-        std::memcpy(block + offsetof(CurveUniformBlock, opacity), &opacity, sizeof opacity);
-        written = true;
-    }
+    bool written = writeMatrixAndOpacity(state, offsetof(CurveUniformBlock, opacity));
     auto *material = static_cast<CustomMaterial *>(newMaterial);
     if (newMaterial != oldMaterial || material->isDirty()) {
-        writeFields(block, material->fields());
+        writeFields(state.uniformData()->data(), material->fields());
         material->clearDirty();
         written = true;
     }

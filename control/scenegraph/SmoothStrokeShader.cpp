@@ -1,8 +1,7 @@
 #include "scenegraph/SmoothStrokeShader.h"
 
 #include "scenegraph/SmoothStrokeMaterial.h"
-
-#include <QtGui/QMatrix4x4>
+#include "scenegraph/UniformWriter.h"
 
 #include <cstring>
 
@@ -16,21 +15,10 @@ SmoothStrokeShader::SmoothStrokeShader()
 
 bool SmoothStrokeShader::updateUniformData(RenderState &state, QSGMaterial *newMaterial, QSGMaterial *oldMaterial)
 {
-    char *block = state.uniformData()->data();
-    bool written = false;
-    if (state.isMatrixDirty()) {
-        const QMatrix4x4 matrix = state.combinedMatrix();
-        std::memcpy(block, matrix.constData(), sizeof(StrokeUniformBlock::matrix));
-        written = true;
-    }
-    if (state.isOpacityDirty()) {
-        const float opacity = state.opacity();
-        std::memcpy(block + offsetof(StrokeUniformBlock, opacity), &opacity, sizeof opacity);
-        written = true;
-    }
+    bool written = writeMatrixAndOpacity(state, offsetof(StrokeUniformBlock, opacity));
     auto *material = static_cast<SmoothStrokeMaterial *>(newMaterial);
     if (newMaterial != oldMaterial || material->isDirty()) {
-        writeFields(block, *material);
+        writeFields(state.uniformData()->data(), *material);
         material->clearDirty();
         written = true;
     }

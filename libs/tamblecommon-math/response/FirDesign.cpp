@@ -29,19 +29,6 @@ double windowShape(int slope)
     }
 }
 
-// The modified Bessel function I0 by its power series.
-double besselI0(double x)
-{
-    const double quarter = x * x / 4;
-    double term = 1;
-    double sum = 1;
-    for (int j = 1; term > 1e-17 * sum; ++j) {
-        term *= quarter / (static_cast<double>(j) * j);
-        sum += term;
-    }
-    return sum;
-}
-
 } // namespace
 
 int usableTaps(const FIRFilter &filter)
@@ -90,7 +77,7 @@ void computeHalf(const FirDesign &design, std::vector<double> &half)
 {
     const int middle = (design.taps - 1) / 2;
     half.resize(static_cast<std::size_t>(middle) + 1);
-    const double scale = 1 / besselI0(design.windowShape);
+    const double scale = 1 / std::cyl_bessel_i(0.0, design.windowShape);
     // The product of sine and cosine does not cancel for narrow bands, as a difference of two sines would.
     half[0] = design.hi - design.lo;
     double gain = half[0];
@@ -99,7 +86,7 @@ void computeHalf(const FirDesign &design, std::vector<double> &half)
         const double ideal = 2 / (pi * m) * std::sin(pi * (design.hi - design.lo) * m / 2) *
                              std::cos(pi * (design.hi + design.lo) * m / 2);
         const double x = m / middle;
-        half[i] = ideal * besselI0(design.windowShape * std::sqrt((1 - x) * (1 + x))) * scale;
+        half[i] = ideal * std::cyl_bessel_i(0.0, design.windowShape * std::sqrt((1 - x) * (1 + x))) * scale;
         gain += 2 * half[i] * std::cos(pi * design.reference * m);
     }
     for (double &tap : half)
