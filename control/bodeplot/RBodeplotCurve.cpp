@@ -251,8 +251,13 @@ void RBodeplotCurve::onYMinOrMaxChanged()
 
 void RBodeplotCurve::updateHandleAxes()
 {
-    m_filters.setAxes({{m_xMinimum, m_xMaximum, AxisScale::Logarithmic}, {m_yMinimum, m_yMaximum, AxisScale::Linear}});
+    m_filters.setAxes(axes());
     requestLines();
+}
+
+PlotAxes RBodeplotCurve::axes() const
+{
+    return {{m_xMinimum, m_xMaximum, AxisScale::Logarithmic}, {m_yMinimum, m_yMaximum, AxisScale::Linear}};
 }
 
 void RBodeplotCurve::onTrimChanged()
@@ -308,14 +313,8 @@ void RBodeplotCurve::updateScaledCurve()
         m_shownRecords[i] = !m_hideIndividualCurves && recordDisplay(records[i].data()).visible;
 
     ResponseLines::Settings settings;
-    settings.view = {m_xMinimum,
-                     m_xMaximum,
-                     m_yMinimum,
-                     m_yMaximum,
-                     size(),
-                     int(m_calculation.results.aggregated.magnitude.size()),
-                     m_calculation.lowestFrequency,
-                     m_calculation.highestFrequency};
+    settings.view = {axes(), size(), int(m_calculation.results.aggregated.magnitude.size()),
+                     m_calculation.lowestFrequency, m_calculation.highestFrequency};
     settings.phase = m_spectrum == RBodeplotSpectrumEnum::PHASE;
     settings.trim = m_trim;
     if (const auto outside = m_lines.update(m_calculation.results, settings, m_shownRecords)) {
@@ -329,7 +328,7 @@ void RBodeplotCurve::updateScaledCurve()
 void RBodeplotCurve::componentComplete()
 {
     QQuickItem::componentComplete();
-    m_filters.setAxes({{m_xMinimum, m_xMaximum, AxisScale::Logarithmic}, {m_yMinimum, m_yMaximum, AxisScale::Linear}});
+    m_filters.setAxes(axes());
     onCalculationItemsChanged();
     m_lists.tellOfUnlisted();
 }

@@ -146,6 +146,7 @@ private:
     void evaluate();
     void updateScaledCurve();
     void updateHandleAxes();
+    PlotAxes axes() const;
     void tellEdit(const HandleEdit &edit);
 
     QPointer<QObject> m_style;

@@ -24,9 +24,9 @@ int toIndex(double position)
 
 LevelScale::LevelScale(const ResponseView &view, double offset)
     : m_offset(offset)
-    , m_base(view.yMinimum)
-    , m_top(view.yMaximum)
-    , m_range(view.yMaximum - view.yMinimum)
+    , m_base(view.axes.y.from)
+    , m_top(view.axes.y.to)
+    , m_range(view.axes.y.to - view.axes.y.from)
     , m_bottom(view.rows())
     , m_constant(!std::isfinite(offset) || !std::isfinite(m_range) || m_range == 0.0)
 {}
@@ -36,8 +36,8 @@ void columnSamples(const ResponseView &view, std::vector<int> &samples)
     const auto index = [&](double frequencyHz) {
         return toIndex(log2lin(frequencyHz, view.lowest, view.highest, 0.0, view.resolution));
     };
-    const int start = index(view.xMinimum);
-    const int end = index(view.xMaximum);
+    const int start = index(view.axes.x.from);
+    const int end = index(view.axes.x.to);
     const int columns = view.columns();
     samples.resize(std::size_t(columns));
     for (int i = 0; i < columns; ++i)

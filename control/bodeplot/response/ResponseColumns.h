@@ -1,5 +1,7 @@
 #pragma once
 
+#include "scale/PlotAxes.h"
+
 #include <QtCore/QSizeF>
 
 #include <algorithm>
@@ -14,10 +16,7 @@ namespace tamble::client {
 /// frequency, from `lowest` to `highest` Hz.
 struct ResponseView
 {
-    double xMinimum = 20.0;
-    double xMaximum = 20000.0;
-    double yMinimum = -20.0;
-    double yMaximum = 20.0;
+    PlotAxes axes;
     QSizeF size;
     int resolution = 4096;
     double lowest = 20.0;
@@ -38,8 +37,8 @@ private:
     static bool isDrawable(double length) { return length >= 1.0 && std::isfinite(length); }
 };
 
-/// Pixel y of a value: `yMaximum` is 0, `yMinimum` the number of rows. A range that is empty or not finite puts
-/// everything to the bottom.
+/// Pixel y of a value: the upper end of the axis is 0, the lower one the number of rows. A range that is empty or not
+/// finite puts everything to the bottom.
 class LevelScale
 {
 public:

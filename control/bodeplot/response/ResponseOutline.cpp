@@ -101,8 +101,8 @@ public:
     {
         using tamble::common::log2lin;
         const double width = view.size.width();
-        m_first = log2lin(view.lowest, view.xMinimum, view.xMaximum, 0.0, width);
-        const double last = log2lin(view.highest, view.xMinimum, view.xMaximum, 0.0, width);
+        m_first = log2lin(view.lowest, view.axes.x.from, view.axes.x.to, 0.0, width);
+        const double last = log2lin(view.highest, view.axes.x.from, view.axes.x.to, 0.0, width);
         m_step = (last - m_first) / std::max(1.0, double(curve.values.size()) - 1.0);
     }
 

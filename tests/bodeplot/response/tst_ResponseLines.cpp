@@ -99,8 +99,8 @@ private Q_SLOTS:
     {
         const auto &[xMinimum, xMaximum, first, middle, outside] = Rows<double, double, int, int, int>::current();
         ResponseView view = viewOf(100.9, 50.0);
-        view.xMinimum = xMinimum;
-        view.xMaximum = xMaximum;
+        view.axes.x.from = xMinimum;
+        view.axes.x.to = xMaximum;
         const Drawn drawn(std::vector<double>(3000, 0.0), view);
         QCOMPARE(drawn.samples.size(), std::size_t(100));
         QCOMPARE(drawn.samples[0], first);
@@ -126,8 +126,8 @@ private Q_SLOTS:
     {
         const auto &[minimum, maximum, value, trim, y] = Rows<double, double, double, double, double>::current();
         ResponseView view = viewOf(100.0, 400.0);
-        view.yMinimum = minimum;
-        view.yMaximum = maximum;
+        view.axes.y.from = minimum;
+        view.axes.y.to = maximum;
         QCOMPARE(LevelScale(view, trim)(value), y);
     }
 
@@ -188,18 +188,18 @@ private Q_SLOTS:
     void lineEndsWithTheComputedRange()
     {
         ResponseView view = viewOf(400.0, 40.0);
-        view.xMinimum = 2.0;
-        view.xMaximum = 20000.0;
+        view.axes.x.from = 2.0;
+        view.axes.x.to = 20000.0;
         const Drawn wide(std::vector<double>(4096, 0.0), view);
         QCOMPARE(wide.outline.points.front().x(), 100.0);
         QCOMPARE(wide.outline.points.back().x(), 400.0);
 
-        view.xMinimum = 30000.0;
-        view.xMaximum = 40000.0;
+        view.axes.x.from = 30000.0;
+        view.axes.x.to = 40000.0;
         QVERIFY(Drawn(std::vector<double>(4096, 0.0), view).outline.points.empty());
 
-        view.xMinimum = 20000.0;
-        view.xMaximum = 20.0;
+        view.axes.x.from = 20000.0;
+        view.axes.x.to = 20.0;
         const Drawn backwards({0.0, 10.0}, view);
         QCOMPARE(backwards.outline.points.front(), QPointF(400.0, 20.0));
         QCOMPARE(backwards.outline.points.back(), QPointF(0.0, 10.0));
@@ -208,8 +208,8 @@ private Q_SLOTS:
     void wrappedPhaseHasNoSmear()
     {
         ResponseView view = viewOf(300.0, 360.0);
-        view.yMinimum = -180.0;
-        view.yMaximum = 180.0;
+        view.axes.y.from = -180.0;
+        view.axes.y.to = 180.0;
         // 150 to 210 degrees: over the top half way between the second and the third value; then back.
         const Drawn drawn({120.0, 150.0, -150.0, 150.0}, view, true);
         QCOMPARE(drawn.outline.ends, (std::vector<std::size_t>{3, 6, 8}));
