@@ -3,7 +3,7 @@
 #include "dynamics/CompressorCurve.h"
 #include "dynamics/HandleValues.h"
 #include "scale/AxisRange.h"
-#include "scale/NumberPlaces.h"
+#include "scale/LabelRoom.h"
 
 #include <QtGui/QFontMetricsF>
 
@@ -59,7 +59,7 @@ QVariantList RPlotRules::shownNumbers(const QVariantList &labels, const QFont &f
 {
     const QFontMetricsF metrics(font);
     QStringList texts;
-    QList<NumberSpan> spans;
+    QList<LabelSpan> spans;
     for (const QVariant &label : labels) {
         const QVariantMap entry = label.toMap();
         texts.append(entry.value(QStringLiteral("text")).toString());

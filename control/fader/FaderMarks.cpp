@@ -1,8 +1,10 @@
 #include "fader/FaderMarks.h"
 
+#include "scale/LabelRoom.h"
+
 #include <algorithm>
 #include <array>
-#include <cmath>
+#include <utility>
 
 namespace tamble::client {
 
@@ -10,14 +12,18 @@ namespace {
 
 constexpr std::array roundLevels{40.0, 30.0, 20.0, 10.0, 5.0, -5.0, -10.0, -20.0, -30.0, -40.0, -50.0, -60.0, -80.0};
 
-// Distances are compared with a little room: a spacing of exactly a twelfth of the travel must fit twelve times.
-constexpr double tolerance = 1e-6;
-
-bool hasRoom(const std::vector<FaderMark> &marks, double position, double spacing)
+// Labels of levels with the room that they take along the travel, in the order of their importance.
+std::vector<FaderMark> labelled(std::vector<FaderMark> marks, double spacing)
 {
-    return std::none_of(marks.begin(), marks.end(), [=](const FaderMark &mark) {
-        return mark.isLabelled && std::abs(mark.position - position) < spacing - tolerance;
-    });
+    QList<LabelSpan> spans;
+    for (const FaderMark &mark : marks)
+        spans.append({mark.position, 0.0});
+    // With a little room: a spacing of exactly a twelfth of the travel must fit twelve times.
+    constexpr double tolerance = 1e-6;
+    const QList<bool> shown = labelsWithRoom(spans, spacing - tolerance);
+    for (std::size_t i = 0; i < marks.size(); ++i)
+        marks[i].isLabelled = shown[qsizetype(i)];
+    return marks;
 }
 
 } // namespace
@@ -30,10 +36,11 @@ std::vector<FaderMark> automaticMarks(const FaderTravel &travel, double spacing)
     std::vector<double> levels{0.0, travel.from, travel.to};
     levels.insert(levels.end(), roundLevels.begin(), roundLevels.end());
     for (const double level : levels) {
-        const double position = travel.position(level);
-        if (travel.contains(level) && hasRoom(marks, position, spacing))
-            marks.push_back({level, position, true});
+        if (travel.contains(level))
+            marks.push_back({level, travel.position(level), false});
     }
+    marks = labelled(std::move(marks), spacing);
+    std::erase_if(marks, [](const FaderMark &mark) { return !mark.isLabelled; });
     return marks;
 }
 
@@ -46,12 +53,10 @@ std::vector<FaderMark> marksAt(const FaderTravel &travel, const QList<double> &l
     std::stable_partition(ordered.begin(), ordered.end(),
                           [&](double level) { return level == 0.0 || level == travel.from || level == travel.to; });
     for (const double level : ordered) {
-        if (!travel.contains(level))
-            continue;
-        const double position = travel.position(level);
-        marks.push_back({level, position, hasRoom(marks, position, spacing)});
+        if (travel.contains(level))
+            marks.push_back({level, travel.position(level), false});
     }
-    return marks;
+    return labelled(std::move(marks), spacing);
 }
 
 } // namespace tamble::client

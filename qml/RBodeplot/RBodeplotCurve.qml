@@ -14,8 +14,11 @@ RBodeplotCurveTemplate {
     property bool hidePoints: false
     /*! Handle that has the keyboard focus, -1 for none. */
     property int focusedPoint: -1
-    /*! How many handles are held: each finger may hold one. */
+    /*! A gesture, of a pointer or of keys, has changed a filter and is not over. */
+    readonly property bool editing: root.changingPoints > 0
+    /*! How many handles are held, each by a finger of its own, and how many are being changed. */
     property int heldPoints: 0
+    property int changingPoints: 0
 
     property color ssAggregatedCurve: root.RStyleSet.props.aggregatedCurve
     property color ssAggregatedArea: root.RStyleSet.props.aggregatedArea
@@ -113,6 +116,8 @@ RBodeplotCurveTemplate {
                     root.focusedPoint = -1
                 if (handle.dragging)
                     root.heldPoints -= 1
+                if (handle.changing)
+                    root.changingPoints -= 1
                 if (handle.dragging || handle.changing)
                     root.releaseFilterPoint()
             }
@@ -127,6 +132,7 @@ RBodeplotCurveTemplate {
                 }
             }
             onDraggingChanged: root.heldPoints += handle.dragging ? 1 : -1
+            onChangingChanged: root.changingPoints += handle.changing ? 1 : -1
             onTaken: {
                 handle.hold()
                 root.onUserSelectFilterPoint(handle.index)

@@ -1,5 +1,7 @@
 #include "bodeplot/frame/FrameTicks.h"
 
+#include "scale/LabelRoom.h"
+
 #include "scale/NumberText.h"
 #include "scale/PlotAxes.h"
 
@@ -69,8 +71,6 @@ int rank(const FrameLabel &label)
     return digit == 2.0 || digit == 5.0 ? 1 : 2;
 }
 
-constexpr int rankCount = 3;
-
 } // namespace
 
 FrameTicks frameTicks(const AxisRange &axis, double increment)
@@ -118,25 +118,10 @@ QList<FrameLabel> frameLabels(const AxisRange &axis, const QList<double> &values
 
 QList<bool> readableLabels(const QList<FrameLabel> &labels, const QList<double> &extents, double gap)
 {
-    QList<bool> readable(labels.size(), false);
-    const auto touches = [&](qsizetype one, qsizetype other) {
-        const double needed = (extents.value(one) + extents.value(other)) / 2.0 + gap;
-        return std::abs(labels[one].position - labels[other].position) < needed;
-    };
-    const auto isFree = [&](qsizetype candidate) {
-        for (qsizetype i = 0; i < labels.size(); ++i) {
-            if (readable[i] && touches(candidate, i))
-                return false;
-        }
-        return true;
-    };
-    for (int importance = 0; importance < rankCount; ++importance) {
-        for (qsizetype i = 0; i < labels.size(); ++i) {
-            if (rank(labels[i]) == importance)
-                readable[i] = isFree(i);
-        }
-    }
-    return readable;
+    QList<LabelSpan> spans;
+    for (qsizetype i = 0; i < labels.size(); ++i)
+        spans.append({labels[i].position, extents.value(i), rank(labels[i])});
+    return labelsWithRoom(spans, gap);
 }
 
 } // namespace tamble::client

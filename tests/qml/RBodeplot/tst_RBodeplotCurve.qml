@@ -233,6 +233,7 @@ ThemedTestCase {
         const band = handles(curve)[0]
         band.forceActiveFocus()
         keyClick(data.key, data.modifiers === undefined ? Qt.NoModifier : data.modifiers)
+        compare(curve.editing, true)
         fuzzyCompare(curve.calculationItems[0].freq, 2000 * Math.pow(2, data.octaves), 1e-3)
         fuzzyCompare(curve.calculationItems[0].gain, data.gain, 1e-6)
         // 300 pixels are three decades, 400 are 40 dB.
@@ -243,6 +244,7 @@ ThemedTestCase {
         compare(changed.count, 1)
         keyClick(Qt.Key_End)
         compare(curve.calculationItems[0].gain, 0)
+        tryCompare(curve, "editing", false)
     }
 
     function test_asymmetricBandFollowsEveryKey() {
