@@ -82,8 +82,8 @@ namespace tamble::client {
 
 namespace {
 
-constexpr int MajorVersion = 1;
-constexpr int MinorVersion = 0;
+constexpr int majorVersion = 1;
+constexpr int minorVersion = 0;
 
 /// Registers names under one URI. Composites are given by their folder below qrc:/qml/.
 class Registrar
@@ -96,13 +96,13 @@ public:
     template <typename T>
     void creatable(const char *name) const
     {
-        qmlRegisterType<T>(m_uri, MajorVersion, MinorVersion, name);
+        qmlRegisterType<T>(m_uri, majorVersion, minorVersion, name);
     }
 
     template <typename T>
     void uncreatable(const char *name, const char *reason) const
     {
-        qmlRegisterUncreatableType<T>(m_uri, MajorVersion, MinorVersion, name, QString::fromLatin1(reason));
+        qmlRegisterUncreatableType<T>(m_uri, majorVersion, minorVersion, name, QString::fromLatin1(reason));
     }
 
     template <typename T>
@@ -110,19 +110,19 @@ public:
     {
         // Compiled QML looks the holder up by its pointer type, which that registration leaves out.
         qRegisterMetaType<T *>();
-        qmlRegisterUncreatableMetaObject(T::staticMetaObject, m_uri, MajorVersion, MinorVersion, name, QString());
+        qmlRegisterUncreatableMetaObject(T::staticMetaObject, m_uri, majorVersion, minorVersion, name, QString());
     }
 
     /// Gives native types that derive from one of Qt's the properties that its later versions brought.
     template <typename T>
     void withLaterProperties() const
     {
-        qmlRegisterRevision<T, 0>(m_uri, MajorVersion, MinorVersion);
+        qmlRegisterRevision<T, 0>(m_uri, majorVersion, minorVersion);
     }
 
     void composite(const char *folder, const char *name, const char *file) const
     {
-        qmlRegisterType(fileUrl(folder, file), m_uri, MajorVersion, MinorVersion, name);
+        qmlRegisterType(fileUrl(folder, file), m_uri, majorVersion, minorVersion, name);
     }
 
     void composites(const char *folder, std::initializer_list<const char *> names) const
@@ -141,13 +141,13 @@ public:
     void singletons(const char *folder, std::initializer_list<const char *> names) const
     {
         for (const char *name : names)
-            qmlRegisterSingletonType(fileUrl(folder, name), m_uri, MajorVersion, MinorVersion, name);
+            qmlRegisterSingletonType(fileUrl(folder, name), m_uri, majorVersion, minorVersion, name);
     }
 
     template <typename T>
     void singleton(const char *name) const
     {
-        qmlRegisterSingletonType<T>(m_uri, MajorVersion, MinorVersion, name,
+        qmlRegisterSingletonType<T>(m_uri, majorVersion, minorVersion, name,
                                     [](QQmlEngine *, QJSEngine *) -> QObject * { return new T; });
     }
 
@@ -290,7 +290,7 @@ void registerInputHelpers(const Registrar &registrar)
     registrar.creatable<RTextFieldIntValidator>("RTextFieldIntValidator");
     registrar.creatable<RTextFieldPinValidator>("RTextFieldPinValidator");
     registrar.creatable<RTextFieldIpAddressValidator>("RTextFieldIpAddressValidator");
-    qmlRegisterSingletonType<RMouseEventSpy>(registrar.uri(), MajorVersion, MinorVersion, "RMouseEventSpy",
+    qmlRegisterSingletonType<RMouseEventSpy>(registrar.uri(), majorVersion, minorVersion, "RMouseEventSpy",
                                              [](QQmlEngine *, QJSEngine *) -> QObject * {
                                                  // All engines share the spy, so none may delete it.
                                                  QObject *spy = RMouseEventSpy::instance();

@@ -5,11 +5,11 @@
 
 namespace {
 
-constexpr std::array Types{"A", "B", "C", "D"};
-constexpr std::array Classes{"x", "y", "z"};
-constexpr std::array States{"s", "t"};
-constexpr std::array Names{"k", "l", "m"};
-constexpr std::array Gaps{" ", " ", "\n", "\n", "\n", "\r\n", "\n   ", " /* A { k: no } */ ", " // .x { k: no }\n"};
+constexpr std::array types{"A", "B", "C", "D"};
+constexpr std::array classes{"x", "y", "z"};
+constexpr std::array states{"s", "t"};
+constexpr std::array names{"k", "l", "m"};
+constexpr std::array gaps{" ", " ", "\n", "\n", "\n", "\r\n", "\n   ", " /* A { k: no } */ ", " // .x { k: no }\n"};
 
 class Choices
 {
@@ -69,7 +69,7 @@ private:
         const std::size_t declarationCount = 1 + m_choices.below(3);
         for (std::size_t i = 0; i < declarationCount; ++i)
             writeDeclaration(rule.declarations.emplace_back());
-        m_sheet.text += '}' + m_choices.oneOf(Gaps);
+        m_sheet.text += '}' + m_choices.oneOf(gaps);
     }
 
     /// A new one or, so that rules meet, one of an earlier rule.
@@ -92,7 +92,7 @@ private:
     {
         for (std::size_t i = 0; i < selector.elements.size(); ++i) {
             if (i > 0)
-                m_sheet.text += selector.isChild[i - 1] ? " > " : m_choices.oneOf(Gaps);
+                m_sheet.text += selector.isChild[i - 1] ? " > " : m_choices.oneOf(gaps);
             for (const std::string &piece : selector.elements[i])
                 m_sheet.text += piece;
         }
@@ -101,16 +101,16 @@ private:
     SelectorElement element()
     {
         SelectorElement pieces;
-        pieces.push_back(m_choices.below(4) == 0 ? '.' + m_choices.oneOf(Classes) : m_choices.oneOf(Types));
+        pieces.push_back(m_choices.below(4) == 0 ? '.' + m_choices.oneOf(classes) : m_choices.oneOf(types));
         for (std::size_t more = m_choices.below(6) / 2; more > 0; --more)
-            pieces.push_back(m_choices.below(2) == 0 ? '.' + m_choices.oneOf(Classes) : "::" + m_choices.oneOf(States));
+            pieces.push_back(m_choices.below(2) == 0 ? '.' + m_choices.oneOf(classes) : "::" + m_choices.oneOf(states));
         return pieces;
     }
 
     void writeDeclaration(Declaration &declaration)
     {
-        m_sheet.text += m_choices.oneOf(Gaps);
-        declaration.name = m_choices.oneOf(Names);
+        m_sheet.text += m_choices.oneOf(gaps);
+        declaration.name = m_choices.oneOf(names);
         declaration.value = m_valuePrefix + std::to_string(++m_declarationCount);
         declaration.position = endOfText();
         m_sheet.text += declaration.name + ':' + declaration.value + ';';
@@ -147,9 +147,9 @@ std::vector<PathElement> path(Choices &choices)
 {
     std::vector<PathElement> result(1 + choices.below(5));
     for (PathElement &element : result) {
-        element.typeName = choices.below(6) == 0 ? "Unknown" : choices.oneOf(Types);
-        element.classes = words(choices, Classes);
-        element.states = words(choices, States);
+        element.typeName = choices.below(6) == 0 ? "Unknown" : choices.oneOf(types);
+        element.classes = words(choices, classes);
+        element.states = words(choices, states);
     }
     return result;
 }

@@ -45,7 +45,7 @@ std::vector<ParsedRule> rulesOf(const StyleSheet &sheet)
         if (tree.declarations(node).empty())
             continue;
         ParsedRule &rule = rules.emplace_back();
-        for (SelectorTree::Node step = node; step != SelectorTree::Root; step = tree.parent(step))
+        for (SelectorTree::Node step = node; step != SelectorTree::root; step = tree.parent(step))
             rule.keys.emplace_back(sheet.names().text(tree.key(step)));
         for (const PropertySpec *declaration : tree.declarations(node))
             rule.declarations.emplace_back(declaration->name, declaration->values);

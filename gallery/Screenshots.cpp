@@ -13,9 +13,9 @@
 
 namespace {
 
-constexpr int FrameTimeout = 5000; // ms; a frame of the longest page takes less than one second
+constexpr int frameTimeout = 5000; // ms; a frame of the longest page takes less than one second
 /// Just after a beat three seconds into the signal: the meters are up and the averages have settled.
-constexpr int BlocksBeforePicture = 62;
+constexpr int blocksBeforePicture = 62;
 
 // Deferred deletions and polishes of the page that was just loaded come before its picture.
 void settle()
@@ -29,7 +29,7 @@ void waitForFrame(QQuickWindow &window)
 {
     QEventLoop loop;
     QObject::connect(&window, &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
-    QTimer::singleShot(FrameTimeout, &loop, &QEventLoop::quit);
+    QTimer::singleShot(frameTimeout, &loop, &QEventLoop::quit);
     window.update();
     loop.exec();
 }
@@ -63,7 +63,7 @@ QString writeScreenshots(QQuickWindow &window, GalleryAudio &audio, const PageLi
         for (const QString &page : pages) {
             window.setProperty("currentPage", int(allPages.indexOf(page)));
             audio.rewind();
-            audio.advance(BlocksBeforePicture);
+            audio.advance(blocksBeforePicture);
             const QString file = QStringLiteral("%1/%2-%3.png").arg(directory, page, theme);
             if (const QString error = writeScreenshot(window, shortest, file); !error.isEmpty())
                 return error;

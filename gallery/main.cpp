@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int UsageError = 2;
+constexpr int usageError = 2;
 
 int fail(const QString &message, int exitCode)
 {
@@ -33,7 +33,7 @@ int main(int argc, char **argv)
 {
     const GalleryOptions options = optionsFrom(argc, argv);
     if (!options.error.isEmpty())
-        return fail(options.error, UsageError);
+        return fail(options.error, usageError);
     if (options.help) {
         QTextStream(stdout) << options.helpText;
         return 0;
@@ -46,7 +46,7 @@ int main(int argc, char **argv)
     if (firstPage < 0) {
         return fail(QStringLiteral("there is no page \"%1\"; the pages are: %2")
                         .arg(options.page, pages.names().join(QStringLiteral(", "))),
-                    UsageError);
+                    usageError);
     }
 
     const QGuiApplication application(argc, argv);

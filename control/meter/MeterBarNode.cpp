@@ -9,21 +9,21 @@ namespace tamble::client {
 
 namespace {
 
-constexpr int SegmentCount = int(std::tuple_size_v<MeterSegments>);
-constexpr int VerticesPerSegment = 4;
-constexpr int IndicesPerSegment = 6;
+constexpr int segmentCount = int(std::tuple_size_v<MeterSegments>);
+constexpr int verticesPerSegment = 4;
+constexpr int indicesPerSegment = 6;
 
 } // namespace
 
 MeterBarNode::MeterBarNode()
-    : m_geometry(QSGGeometry::defaultAttributes_ColoredPoint2D(), SegmentCount * VerticesPerSegment,
-                 SegmentCount * IndicesPerSegment)
+    : m_geometry(QSGGeometry::defaultAttributes_ColoredPoint2D(), segmentCount * verticesPerSegment,
+                 segmentCount * indicesPerSegment)
 {
     m_geometry.setDrawingMode(QSGGeometry::DrawTriangles);
     quint16 *index = m_geometry.indexDataAsUShort();
-    for (int segment = 0; segment < SegmentCount; ++segment) {
+    for (int segment = 0; segment < segmentCount; ++segment) {
         for (const int corner : {0, 1, 2, 2, 1, 3})
-            *index++ = quint16(segment * VerticesPerSegment + corner);
+            *index++ = quint16(segment * verticesPerSegment + corner);
     }
     setGeometry(&m_geometry);
     setMaterial(&m_material);
@@ -53,9 +53,9 @@ void MeterBarNode::setBar(const MeterSegments &segments, float breadth, bool hor
 void MeterBarNode::paint(PictureCanvas &canvas) const
 {
     const QSGGeometry::ColoredPoint2D *vertex = m_geometry.vertexDataAsColoredPoint2D();
-    for (int segment = 0; segment < SegmentCount; ++segment, vertex += VerticesPerSegment) {
+    for (int segment = 0; segment < segmentCount; ++segment, vertex += verticesPerSegment) {
         canvas.setColor(QColor::fromRgba(qUnpremultiply(qRgba(vertex->r, vertex->g, vertex->b, vertex->a))));
-        canvas.fillStrip(std::span(vertex, VerticesPerSegment), [](const QSGGeometry::ColoredPoint2D &corner) {
+        canvas.fillStrip(std::span(vertex, verticesPerSegment), [](const QSGGeometry::ColoredPoint2D &corner) {
             return CanvasVertex{.x = corner.x, .y = corner.y};
         });
     }

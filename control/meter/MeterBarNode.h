@@ -9,7 +9,7 @@
 
 namespace tamble::client {
 
-using MeterColors = std::array<QColor, MeterZoneCount>;
+using MeterColors = std::array<QColor, meterZoneCount>;
 
 /// A meter's bar as coloured rectangles. Its own node each, but one material, so that walls of meters are drawn at
 /// once.

@@ -28,7 +28,7 @@ public:
         const double green = cut(factors.green);
         const double yellow = std::max(green, cut(factors.yellow));
         const double red = std::max(yellow, cut(factors.red));
-        const std::array<double, MeterZoneCount + 1> edges = {0.0, green, yellow, red, 1.0};
+        const std::array<double, meterZoneCount + 1> edges = {0.0, green, yellow, red, 1.0};
         constexpr std::array zones = {MeterZone::Green, MeterZone::Yellow, MeterZone::Red, MeterZone::Ground};
         for (std::size_t i = 0; i < zones.size(); ++i) {
             const float begin = position(backward ? 1.0 - edges.at(i) : edges.at(i));

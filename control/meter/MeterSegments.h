@@ -8,7 +8,7 @@ namespace tamble::client {
 
 /// What lies between two positions of a meter's bar.
 enum class MeterZone { Ground, Green, Yellow, Red };
-constexpr std::size_t MeterZoneCount = 4;
+constexpr std::size_t meterZoneCount = 4;
 
 /// Lit fractions of one section, each counted from the section's origin; those outside 0…1 are cut, NaN counts as 0.
 struct SectionFactors
@@ -36,7 +36,7 @@ struct MeterSegment
 };
 
 /// A bar cut into the segments that a reader sees, without gaps or overlaps. Unused segments are empty.
-using MeterSegments = std::array<MeterSegment, 2 * MeterZoneCount>;
+using MeterSegments = std::array<MeterSegment, 2 * meterZoneCount>;
 
 /// The segments of a bar of `length` pixels with one section. Higher zones lie behind lower ones. Edges are rounded to
 /// device pixels, of which `pixelRatio` make one pixel.

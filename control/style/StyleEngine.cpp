@@ -122,7 +122,7 @@ void StyleEngine::dropUnused()
         m_propsByPath.emplace(m_props[i]->path().get(), i);
         m_props[i]->releaseResolved();
     }
-    m_mostProps = std::max(StylePathPool::MinimumGrowth, 2 * m_props.size());
+    m_mostProps = std::max(StylePathPool::minimumGrowth, 2 * m_props.size());
     m_resolver.reset();
     StylePathPool::instance().collect();
     if (m_sheet)

@@ -22,13 +22,13 @@ public:
         : m_styleSet(styleSet)
         , m_item(item)
     {
-        QQuickItemPrivate::get(m_item)->addItemChangeListener(this, Changes);
+        QQuickItemPrivate::get(m_item)->addItemChangeListener(this, changes);
     }
 
     ~ItemListener() override
     {
         if (m_item)
-            QQuickItemPrivate::get(m_item)->removeItemChangeListener(this, Changes);
+            QQuickItemPrivate::get(m_item)->removeItemChangeListener(this, changes);
     }
 
     Q_DISABLE_COPY_MOVE(ItemListener)
@@ -40,7 +40,7 @@ public:
     void itemDestroyed(QQuickItem *) override { m_item = nullptr; }
 
 private:
-    static constexpr QQuickItemPrivate::ChangeTypes Changes = QQuickItemPrivate::Parent | QQuickItemPrivate::Destroyed;
+    static constexpr QQuickItemPrivate::ChangeTypes changes = QQuickItemPrivate::Parent | QQuickItemPrivate::Destroyed;
 
     StyleSet &m_styleSet;
     QQuickItem *m_item;

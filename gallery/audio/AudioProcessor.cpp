@@ -9,7 +9,7 @@ namespace {
 
 std::size_t framesPerBlock(int sampleRate)
 {
-    const std::chrono::duration<double> length = AudioProcessor::NominalBlockLength;
+    const std::chrono::duration<double> length = AudioProcessor::nominalBlockLength;
     return std::size_t(std::max(std::lround(sampleRate * length.count()), 1L));
 }
 
@@ -85,7 +85,7 @@ void AudioProcessor::rewind()
         tap.spectrum.reset();
     }
     m_snapshot = {};
-    m_snapshot.levels.assign(std::size_t(m_channels), {FloorDb, FloorDb});
+    m_snapshot.levels.assign(std::size_t(m_channels), {floorDb, floorDb});
 }
 
 int AudioProcessor::wrapped(int channel) const

@@ -34,7 +34,7 @@ class AudioProcessor
 {
 public:
     /// Length of a block, as near as whole frames allow; the meters on screen tick at the same rate.
-    static constexpr std::chrono::milliseconds NominalBlockLength{50};
+    static constexpr std::chrono::milliseconds nominalBlockLength{50};
 
     /// Begins at the first frame of `source`, which must not be null.
     explicit AudioProcessor(std::unique_ptr<AudioSource> source);

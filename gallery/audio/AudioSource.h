@@ -11,8 +11,8 @@ class AudioSource
 {
 public:
     /// The most channels and the highest rate that a source may have, so that a block stays of a sane size.
-    static constexpr int MaximumChannels = 256;
-    static constexpr int MaximumSampleRate = 768000;
+    static constexpr int maximumChannels = 256;
+    static constexpr int maximumSampleRate = 768000;
 
     AudioSource() = default;
     AudioSource(const AudioSource &) = delete;

@@ -8,10 +8,10 @@
 
 namespace {
 
-constexpr double Tau = 2.0 * std::numbers::pi;
-constexpr double BeatSeconds = 0.5;
-constexpr double BarSeconds = 4.0 * BeatSeconds;
-constexpr int Bars = 4;
+constexpr double tau = 2.0 * std::numbers::pi;
+constexpr double beatSeconds = 0.5;
+constexpr double barSeconds = 4.0 * beatSeconds;
+constexpr int bars = 4;
 
 /// A minor, F major, C major, G major.
 struct Harmony
@@ -19,7 +19,7 @@ struct Harmony
     double bassHz;
     std::array<double, 3> chordHz;
 };
-constexpr std::array<Harmony, Bars> Harmonies{{
+constexpr std::array<Harmony, bars> harmonies{{
     {55.00, {220.00, 261.63, 329.63}},
     {43.65, {220.00, 261.63, 349.23}},
     {65.41, {196.00, 261.63, 329.63}},
@@ -35,18 +35,18 @@ double pluck(double time, double attack, double decay)
 /// The pitch falls from 150 to 48 Hz, which is what makes it a drum.
 double kick(double time)
 {
-    constexpr double Low = 48.0;
-    constexpr double Drop = 102.0;
-    constexpr double Speed = 30.0;
-    const double beat = std::fmod(time, BeatSeconds);
-    const double phase = Low * beat + Drop / Speed * (1.0 - std::exp(-Speed * beat));
-    return std::sin(Tau * phase) * pluck(beat, 0.002, 0.11);
+    constexpr double low = 48.0;
+    constexpr double drop = 102.0;
+    constexpr double speed = 30.0;
+    const double beat = std::fmod(time, beatSeconds);
+    const double phase = low * beat + drop / speed * (1.0 - std::exp(-speed * beat));
+    return std::sin(tau * phase) * pluck(beat, 0.002, 0.11);
 }
 
 double bass(double time, const Harmony &harmony)
 {
-    const double eighth = std::fmod(time, BeatSeconds / 2.0);
-    const double phase = Tau * harmony.bassHz * std::fmod(time, BarSeconds);
+    const double eighth = std::fmod(time, beatSeconds / 2.0);
+    const double phase = tau * harmony.bassHz * std::fmod(time, barSeconds);
     const double tone = std::sin(phase) + 0.5 * std::sin(2.0 * phase) + 0.3 * std::sin(3.0 * phase);
     return 0.7 * tone * pluck(eighth, 0.006, 0.16);
 }
@@ -60,8 +60,8 @@ public:
         const double noise = 2.0 * double(m_random() - std::minstd_rand::min()) / double(std::minstd_rand::max()) - 1.0;
         const double bright = 0.5 * (noise - m_previous);
         m_previous = noise;
-        const double step = std::fmod(time, BeatSeconds / 2.0);
-        const bool open = std::fmod(time, BeatSeconds) >= BeatSeconds / 2.0;
+        const double step = std::fmod(time, beatSeconds / 2.0);
+        const bool open = std::fmod(time, beatSeconds) >= beatSeconds / 2.0;
         return bright * pluck(step, 0.001, open ? 0.07 : 0.02) * (open ? 1.0 : 0.5);
     }
 
@@ -72,17 +72,17 @@ private:
 
 double chord(double time, const Harmony &harmony)
 {
-    const double bar = std::fmod(time, BarSeconds);
+    const double bar = std::fmod(time, barSeconds);
     double sum = 0.0;
     for (const double frequency : harmony.chordHz)
-        sum += std::sin(Tau * frequency * bar) + 0.3 * std::sin(2.0 * Tau * frequency * bar);
+        sum += std::sin(tau * frequency * bar) + 0.3 * std::sin(2.0 * tau * frequency * bar);
     // Swells over the bar and is gone at its end, so that chords never jump.
-    return 0.3 * sum * std::sin(std::numbers::pi * bar / BarSeconds);
+    return 0.3 * sum * std::sin(std::numbers::pi * bar / barSeconds);
 }
 
 BiquadCoefficients bandPass(double frequency, double quality)
 {
-    const double angle = Tau * frequency / StemSampleRate;
+    const double angle = tau * frequency / stemSampleRate;
     const double alpha = std::sin(angle) / (2.0 * quality);
     return {alpha / (1.0 + alpha), 0.0, -alpha / (1.0 + alpha), -2.0 * std::cos(angle) / (1.0 + alpha),
             (1.0 - alpha) / (1.0 + alpha)};
@@ -94,30 +94,30 @@ class Voice
 public:
     double next(double time)
     {
-        const auto beat = std::size_t(time / BeatSeconds);
+        const auto beat = std::size_t(time / beatSeconds);
         if (beat != m_beat)
             startVowel(beat);
-        const double pitch = 140.0 + 30.0 * std::sin(Tau * time / BarSeconds) + 3.0 * std::sin(Tau * 5.5 * time);
-        m_phase = std::fmod(m_phase + pitch / StemSampleRate, 1.0);
+        const double pitch = 140.0 + 30.0 * std::sin(tau * time / barSeconds) + 3.0 * std::sin(tau * 5.5 * time);
+        m_phase = std::fmod(m_phase + pitch / stemSampleRate, 1.0);
         const double saw = 2.0 * m_phase - 1.0;
         const double sum =
             m_formants[0].process(saw) + 0.6 * m_formants[1].process(saw) + 0.3 * m_formants[2].process(saw);
-        const bool rests = time >= (Bars - 1) * BarSeconds || beat % 4 == 3;
-        return rests ? 0.0 : 2.2 * sum * std::sin(std::numbers::pi * std::fmod(time, BeatSeconds) / BeatSeconds);
+        const bool rests = time >= (bars - 1) * barSeconds || beat % 4 == 3;
+        return rests ? 0.0 : 2.2 * sum * std::sin(std::numbers::pi * std::fmod(time, beatSeconds) / beatSeconds);
     }
 
 private:
     void startVowel(std::size_t beat)
     {
-        constexpr std::array<std::array<double, 3>, 4> FormantsHz{{
+        constexpr std::array<std::array<double, 3>, 4> formantsHz{{
             {730.0, 1090.0, 2440.0}, // a
             {530.0, 1840.0, 2480.0}, // e
             {270.0, 2290.0, 3010.0}, // i
             {570.0, 840.0, 2410.0},  // o
         }};
-        const auto &formantsHz = FormantsHz[beat * 3 % FormantsHz.size()];
+        const auto &formants = formantsHz[beat * 3 % formantsHz.size()];
         for (std::size_t i = 0; i < m_formants.size(); ++i)
-            m_formants[i].setCoefficients(bandPass(formantsHz[i], 8.0));
+            m_formants[i].setCoefficients(bandPass(formants[i], 8.0));
         m_beat = beat;
     }
 
@@ -130,14 +130,14 @@ private:
 
 std::vector<StemFrame> renderBandStems()
 {
-    std::vector<StemFrame> frames(std::size_t(Bars * BarSeconds * StemSampleRate));
+    std::vector<StemFrame> frames(std::size_t(bars * barSeconds * stemSampleRate));
     Hats hats;
     Voice voice;
     for (std::size_t i = 0; i < frames.size(); ++i) {
-        const double time = double(i) / StemSampleRate;
-        const Harmony &harmony = Harmonies[std::size_t(time / BarSeconds)];
+        const double time = double(i) / stemSampleRate;
+        const Harmony &harmony = harmonies[std::size_t(time / barSeconds)];
         const double pad = chord(time, harmony);
-        const double pan = std::sin(Tau * time / (2.0 * BarSeconds));
+        const double pan = std::sin(tau * time / (2.0 * barSeconds));
         frames[i] = {float(kick(time)),
                      float(bass(time, harmony)),
                      float(hats.next(time)),

@@ -7,7 +7,7 @@ BlockClock::Clock::time_point BlockClock::nextDue() const
 
 int BlockClock::takeDue(Clock::time_point now)
 {
-    if (now - nextDue() > LongestDelay) {
+    if (now - nextDue() > longestDelay) {
         restart(now);
         return 1;
     }

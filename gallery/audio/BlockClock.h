@@ -9,7 +9,7 @@ public:
     using Clock = std::chrono::steady_clock;
 
     /// After a delay longer than this (a suspended computer) the missed blocks are left out instead of hurried through.
-    static constexpr std::chrono::milliseconds LongestDelay{500};
+    static constexpr std::chrono::milliseconds longestDelay{500};
 
     BlockClock(std::chrono::duration<double> blockLength, Clock::time_point now)
         : m_blockLength(blockLength)

@@ -2,7 +2,7 @@
 
 #include <span>
 
-/// Levels of one channel over one block, in dB below full scale: `FloorDb` for silence, above 0 for samples beyond
+/// Levels of one channel over one block, in dB below full scale: `floorDb` for silence, above 0 for samples beyond
 /// full scale. The RMS value of a full-scale sine is −3 dB.
 struct BlockLevel
 {

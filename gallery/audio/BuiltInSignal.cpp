@@ -9,11 +9,11 @@ namespace {
 struct Channel
 {
     const char *name;
-    std::array<float, StemCount> gains; ///< of kick, bass, hats, chords left and right, voice
+    std::array<float, stemCount> gains; ///< of kick, bass, hats, chords left and right, voice
 };
 
 // Levels chosen by ear of a meter: quiet zones stay green, the mixes reach yellow on every beat and red on some.
-constexpr std::array<Channel, 12> Channels{{
+constexpr std::array<Channel, 12> channels{{
     {"Kick", {0.80F, 0.0F, 0.0F, 0.0F, 0.0F, 0.0F}},
     {"Bass", {0.0F, 0.50F, 0.0F, 0.0F, 0.0F, 0.0F}},
     {"Hats", {0.0F, 0.0F, 0.40F, 0.0F, 0.0F, 0.0F}},
@@ -32,7 +32,7 @@ class BuiltInSignal : public AudioSource
 {
 public:
     QString name() const override { return QStringLiteral("Built-in signal"); }
-    int sampleRate() const override { return StemSampleRate; }
+    int sampleRate() const override { return stemSampleRate; }
     QStringList channelNames() const override;
     void read(std::span<float> samples) override;
     void rewind() override { m_frame = 0; }
@@ -45,7 +45,7 @@ private:
 QStringList BuiltInSignal::channelNames() const
 {
     QStringList names;
-    for (const Channel &channel : Channels)
+    for (const Channel &channel : channels)
         names.append(QString::fromLatin1(channel.name));
     return names;
 }
@@ -54,12 +54,12 @@ void BuiltInSignal::read(std::span<float> samples)
 {
     if (m_stems.empty())
         m_stems = renderBandStems();
-    for (; !samples.empty(); samples = samples.subspan(Channels.size())) {
+    for (; !samples.empty(); samples = samples.subspan(channels.size())) {
         const StemFrame &stems = m_stems[m_frame];
-        for (std::size_t channel = 0; channel < Channels.size(); ++channel) {
+        for (std::size_t channel = 0; channel < channels.size(); ++channel) {
             float sum = 0.0F;
-            for (std::size_t stem = 0; stem < StemCount; ++stem)
-                sum += Channels[channel].gains[stem] * stems[stem];
+            for (std::size_t stem = 0; stem < stemCount; ++stem)
+                sum += channels[channel].gains[stem] * stems[stem];
             samples[channel] = sum;
         }
         m_frame = (m_frame + 1) % m_stems.size();

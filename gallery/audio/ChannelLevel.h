@@ -37,5 +37,5 @@ Q_SIGNALS:
 
 private:
     QString m_name;
-    BlockLevel m_level{FloorDb, FloorDb};
+    BlockLevel m_level{floorDb, floorDb};
 };

@@ -25,7 +25,7 @@ DynamicsReading DynamicsChain::process(std::span<const float> samples, int chann
         m_envelope += (magnitude > m_envelope ? attack : release) * (magnitude - m_envelope);
         loudest = std::max(loudest, m_envelope);
     }
-    const double floor = m_settings.fullScale + FloorDb;
+    const double floor = m_settings.fullScale + floorDb;
     const double input = m_settings.fullScale + amplitudeToDb(loudest);
     const double gain = m_settings.curve.gain(input);
     return {input, std::max(input + gain, floor), gain};

@@ -72,5 +72,5 @@ private:
     double m_attack = 5.0;
     double m_release = 150.0;
     double m_fullScale = 0.0;
-    DynamicsReading m_reading{FloorDb, FloorDb, 0.0};
+    DynamicsReading m_reading{floorDb, floorDb, 0.0};
 };

@@ -64,9 +64,9 @@ QString reasonAgainst(const SF_INFO &info)
 {
     if (info.channels < 1)
         return QStringLiteral("it has no channels");
-    if (info.channels > AudioSource::MaximumChannels)
-        return QStringLiteral("it has %1 channels, more than %2").arg(info.channels).arg(AudioSource::MaximumChannels);
-    if (info.samplerate < 1 || info.samplerate > AudioSource::MaximumSampleRate)
+    if (info.channels > AudioSource::maximumChannels)
+        return QStringLiteral("it has %1 channels, more than %2").arg(info.channels).arg(AudioSource::maximumChannels);
+    if (info.samplerate < 1 || info.samplerate > AudioSource::maximumSampleRate)
         return QStringLiteral("its sample rate is %1 Hz").arg(info.samplerate);
     if (info.frames < 1)
         return QStringLiteral("it holds no sound");

@@ -29,7 +29,7 @@ std::vector<float> hannWindow(std::size_t size)
 
 double Spectrum::centreHz(std::size_t index)
 {
-    return LowestHz * std::pow(HighestHz / LowestHz, double(index) / double(BandCount - 1));
+    return lowestHz * std::pow(highestHz / lowestHz, double(index) / double(bandCount - 1));
 }
 
 Spectrum::Spectrum(double sampleRate)
@@ -59,7 +59,7 @@ void Spectrum::process(std::span<const float> samples)
 
 std::vector<double> Spectrum::levels() const
 {
-    std::vector<double> levels(BandCount);
+    std::vector<double> levels(bandCount);
     for (std::size_t i = 0; i < levels.size(); ++i)
         levels[i] = powerToDb(bandPower(i));
     return levels;

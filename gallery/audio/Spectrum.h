@@ -9,11 +9,11 @@ class Spectrum
 {
 public:
     /// Centres of the lowest and the highest band in Hz.
-    static constexpr double LowestHz = 20.0;
-    static constexpr double HighestHz = 20000.0;
+    static constexpr double lowestHz = 20.0;
+    static constexpr double highestHz = 20000.0;
 
     /// Number of bands, which makes each about a sixth of an octave wide.
-    static constexpr std::size_t BandCount = 61;
+    static constexpr std::size_t bandCount = 61;
 
     /// Centre of band `index` in Hz.
     static double centreHz(std::size_t index);
@@ -28,7 +28,7 @@ public:
     void process(std::span<const float> samples);
 
     /// Level of each band in dB: that of its strongest component, where a full-scale sine counts 0 (down to −1.4 when
-    /// it lies between two bins of the transform). Bands above half the sample rate and silence give `FloorDb`.
+    /// it lies between two bins of the transform). Bands above half the sample rate and silence give `floorDb`.
     std::vector<double> levels() const;
 
     /// Forgets the past of the signal.

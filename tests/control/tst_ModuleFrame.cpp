@@ -164,16 +164,16 @@ private Q_SLOTS:
     void enginesComeAndGo()
     {
         // Qt's own caches grow for some three hundred engines, and then come and go in steps of 40 KB.
-        constexpr int WarmUp = 400;
-        constexpr int Rounds = 200;
-        for (int i = 0; i < WarmUp; ++i)
+        constexpr int warmUp = 400;
+        constexpr int rounds = 200;
+        for (int i = 0; i < warmUp; ++i)
             useOneEngine();
         const size_t before = allocatedBytes();
-        for (int i = 0; i < Rounds; ++i)
+        for (int i = 0; i < rounds; ++i)
             useOneEngine();
         const size_t after = allocatedBytes();
         // An engine that left a type, a provider or its rules behind would cost hundreds of bytes each time.
-        const double growthPerEngine = (double(after) - double(before)) / Rounds;
+        const double growthPerEngine = (double(after) - double(before)) / rounds;
         QVERIFY2(growthPerEngine < 250, qPrintable(QStringLiteral("%1 bytes per engine").arg(growthPerEngine)));
     }
 };

@@ -11,7 +11,7 @@ using tamble::common::response::Section;
 
 namespace {
 
-constexpr double Rate = 48000.0;
+constexpr double rate = 48000.0;
 
 QVariantMap band(const QString &kind, int type, double freq, double gain, double quality)
 {
@@ -44,7 +44,7 @@ private Q_SLOTS:
         const QVariantMap linkwitz24 = band(QStringLiteral("xover"), 17, 80, 0, 0);
 
         const QVariantList sections = FilterSections().of(
-            {bypassed, asymmetric, band(QStringLiteral("fir"), 2, 0, 0, 0), linkwitz24, notch, 7}, Rate);
+            {bypassed, asymmetric, band(QStringLiteral("fir"), 2, 0, 0, 0), linkwitz24, notch, 7}, rate);
         QCOMPARE(sections.size(), 5);
         QCOMPARE(sections[2], sections[3]);
         QVERIFY(std::abs(numbersOf(sections[4])[0] - 0.5) < 1e-15);
@@ -71,9 +71,9 @@ private Q_SLOTS:
     {
         const auto &[filter, gain] = Rows<QVariantMap, double>::current();
         const std::complex<double> delay =
-            std::polar(1.0, -2.0 * std::numbers::pi * filter.value(QStringLiteral("freq")).toDouble() / Rate);
+            std::polar(1.0, -2.0 * std::numbers::pi * filter.value(QStringLiteral("freq")).toDouble() / rate);
         std::complex<double> response = 1.0;
-        for (const QVariant &section : FilterSections().of({filter}, Rate)) {
+        for (const QVariant &section : FilterSections().of({filter}, rate)) {
             const QList<double> numbers = numbersOf(section);
             response *= (numbers[0] + delay * (numbers[1] + delay * numbers[2])) /
                         (1.0 + delay * (numbers[3] + delay * numbers[4]));
@@ -88,9 +88,9 @@ private Q_SLOTS:
             for (const int slope : {0, 1, 2}) {
                 QVariantMap filter = band(QStringLiteral("eq"), type, 1000, 6, 1);
                 filter[QStringLiteral("slope")] = slope;
-                const QVariantList sections = filters.of({filter}, Rate);
+                const QVariantList sections = filters.of({filter}, rate);
                 filter[QStringLiteral("quality")] = 3.0;
-                const bool differs = filters.of({filter}, Rate) != sections;
+                const bool differs = filters.of({filter}, rate) != sections;
                 QVERIFY2(filters.qualityCounts(type, slope) == differs, qPrintable(QString::number(type)));
             }
         }

@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr float NotANumber = std::numeric_limits<float>::quiet_NaN();
-constexpr float Infinity = std::numeric_limits<float>::infinity();
+constexpr float notANumber = std::numeric_limits<float>::quiet_NaN();
+constexpr float infinity = std::numeric_limits<float>::infinity();
 
 bool isNear(double actual, double expected, double tolerance)
 {
@@ -42,7 +42,7 @@ private Q_SLOTS:
         row("one sample of four, beyond full scale", {0.0F, 2.0F, 0.0F, 0.0F}, 6.02, 0.0);
         row("below the floor", std::vector<float>(100, 1e-7F), -120.0, -120.0);
         row("nothing", {}, -120.0, -120.0);
-        row("not numbers", {NotANumber, 0.5F, -Infinity, -0.5F}, -6.02, -9.03);
+        row("not numbers", {notANumber, 0.5F, -infinity, -0.5F}, -6.02, -9.03);
     }
 
     void blockLevels()
@@ -82,7 +82,6 @@ private Q_SLOTS:
         // Gain −10 up to an ambient level of −40, then 1 dB per dB up to +10.
         const StaticCurve ambience = {
             {{0.0, 0.75}, {0.5, 0.75}, {0.75, 0.25}, {1.0, 0.25}}, -80.0, 0.0, -20.0, 20.0, StaticCurve::Meaning::Gain};
-        const double notANumber = double(NotANumber);
 
         const Rows<StaticCurve, double, double> row;
         row("limiter above", limiter, -4.0, -6.0);
@@ -129,7 +128,7 @@ private Q_SLOTS:
         const StaticCurve limiter = levelCurve({{0.0, 1.0}, {0.5, 0.5}, {1.0, 0.5}}, -60.0, 20.0);
         chain.setSettings({limiter, 0.0, 0.0, 20.0});
         // Full scale is 20 dBu, so a tenth of it is 0 dBu, 20 above the threshold. The other channel is not heard.
-        const DynamicsReading reading = chain.process(std::vector<float>{1.0F, 0.1F, NotANumber, -0.1F}, 2, 1);
+        const DynamicsReading reading = chain.process(std::vector<float>{1.0F, 0.1F, notANumber, -0.1F}, 2, 1);
         QVERIFY(isNear(reading.inputLevel, 0.0, 1e-6));
         QVERIFY(isNear(reading.outputLevel, -20.0, 1e-6));
         QVERIFY(isNear(reading.gain, -20.0, 1e-6));
@@ -146,7 +145,7 @@ private Q_SLOTS:
         row("all of a", {{1.0, 0.0, 0.0, -0.5, 0.25}}, impulse, {1.0F, 0.5F, 0.0F, -0.125F});
         row("cascade", {mean, decay}, impulse, {0.5F, 0.75F, 0.375F, 0.1875F});
         row("unstable passes on", {{1.0, 0.0, 0.0, 0.0, 1.0}, mean}, impulse, {0.5F, 0.5F, 0.0F, 0.0F});
-        row("samples that are no numbers", {decay}, {1.0F, NotANumber, Infinity, 0.0F}, {1.0F, 0.5F, 0.25F, 0.125F});
+        row("samples that are no numbers", {decay}, {1.0F, notANumber, infinity, 0.0F}, {1.0F, 0.5F, 0.25F, 0.125F});
     }
 
     void filterSections()

@@ -7,13 +7,13 @@ namespace {
 
 using Expressions = std::span<const char *const>;
 
-constexpr std::array Numbers{"NaN",    "Infinity",   "-Infinity",  "0",           "-0",         "-1",    "1",
+constexpr std::array numbers{"NaN",    "Infinity",   "-Infinity",  "0",           "-0",         "-1",    "1",
                              "2",      "7.5",        "0.001",      "-60",         "20000",      "100",   "1e9",
                              "-1e9",   "4294967296", "2147483647", "-2147483648", "2147483648", "1e17",  "1e308",
                              "-1e308", "5e-324",     "16385",      "12",          "3",          "0.5",   "-0.001",
                              "4",      "5",          "6",          "10",          "1e-9",       "65536", "48000"};
 
-constexpr std::array Texts{"''",
+constexpr std::array texts{"''",
                            "'abc'",
                            "'-80.5 dB'",
                            "'a'.repeat(100000)",
@@ -31,7 +31,7 @@ constexpr std::array Texts{"''",
                            "'image://tamble/ui/a_b'",
                            "'RButton'"};
 
-constexpr std::array Lists{"[]",
+constexpr std::array lists{"[]",
                            "[NaN, Infinity, -Infinity]",
                            "[null, undefined, {}]",
                            "[0, 1, 1e9, -1, 4294967296]",
@@ -43,7 +43,7 @@ constexpr std::array Lists{"[]",
                            "[objects[0], objects[1], null]",
                            "objects"};
 
-constexpr std::array Others{"null",
+constexpr std::array others{"null",
                             "undefined",
                             "true",
                             "false",
@@ -57,9 +57,9 @@ constexpr std::array Others{"null",
                             "Qt.rgba(NaN, 2, -1, 0.5)",
                             "({ value: 1, text: 'x', position: NaN, frequency: 1e9, gain: Infinity })"};
 
-constexpr std::array Flags{"true", "false"};
+constexpr std::array flags{"true", "false"};
 
-constexpr std::array Sizes{"0", "1", "0.5", "40", "100", "300", "16385", "1e9", "4294967296", "-5", "NaN", "Infinity"};
+constexpr std::array sizes{"0", "1", "0.5", "40", "100", "300", "16385", "1e9", "4294967296", "-5", "NaN", "Infinity"};
 
 QString object(Random &random, std::size_t objectCount)
 {
@@ -72,22 +72,22 @@ Expressions fitting(const QMetaProperty &property)
     const QMetaType type = property.metaType();
     switch (type.id()) {
     case QMetaType::Bool:
-        return Flags;
+        return flags;
     case QMetaType::Int:
     case QMetaType::UInt:
     case QMetaType::Float:
     case QMetaType::Double:
-        return Numbers;
+        return numbers;
     case QMetaType::QString:
     case QMetaType::QUrl:
     case QMetaType::QColor:
-        return Texts;
+        return texts;
     default:
         break;
     }
     if (type.flags().testFlag(QMetaType::PointerToQObject))
         return {};
-    return QByteArray(type.name()).contains("List") ? Expressions(Lists) : Expressions(Others);
+    return QByteArray(type.name()).contains("List") ? Expressions(lists) : Expressions(others);
 }
 
 } // namespace
@@ -98,12 +98,12 @@ QString hostileValue(Random &random, const QMetaProperty &property, std::size_t 
         const Expressions values = fitting(property);
         return values.empty() ? object(random, objectCount) : QString::fromLatin1(random.oneOf(values));
     }
-    const std::array<Expressions, 4> kinds{Numbers, Texts, Lists, Others};
+    const std::array<Expressions, 4> kinds{numbers, texts, lists, others};
     const std::size_t kind = random.below(kinds.size() + 1);
     return kind == kinds.size() ? object(random, objectCount) : QString::fromLatin1(random.oneOf(kinds.at(kind)));
 }
 
 QString hostileSize(Random &random)
 {
-    return QString::fromLatin1(random.oneOf(Sizes));
+    return QString::fromLatin1(random.oneOf(sizes));
 }

@@ -26,7 +26,7 @@ inline std::string dumpOf(const StyleValue &value)
 inline std::string chainOf(const StyleSheet &sheet, SelectorTree::Node node)
 {
     std::string result;
-    for (; node != SelectorTree::Root; node = sheet.tree().parent(node))
+    for (; node != SelectorTree::root; node = sheet.tree().parent(node))
         result = std::string(sheet.names().text(sheet.tree().key(node))) + (result.empty() ? "" : " ") + result;
     return result;
 }

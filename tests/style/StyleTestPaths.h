@@ -29,7 +29,7 @@ struct HandMadeTree
 {
     tamble::client::SelectorTree::Node node(std::initializer_list<const char *> keys)
     {
-        tamble::client::SelectorTree::Node result = tamble::client::SelectorTree::Root;
+        tamble::client::SelectorTree::Node result = tamble::client::SelectorTree::root;
         for (const char *key : keys)
             result = tree.insert(result, names.intern(key));
         return result;

@@ -205,7 +205,7 @@ private Q_SLOTS:
     void contrast()
     {
         const auto &[theme, textFloor, forMoreContrast] = Rows<QString, double, bool>::current();
-        constexpr double MarkFloor = 3.0;
+        constexpr double markFloor = 3.0;
         SheetAudit sheet(sheetText(theme));
         const ContrastPairs table = contrastPairs(dataFile("contrast-pairs.txt"));
         QStringList failures;
@@ -222,7 +222,7 @@ private Q_SLOTS:
                     continue;
                 }
                 ++checked;
-                if (reading.ratio < (pair.kind == "text" ? textFloor : MarkFloor))
+                if (reading.ratio < (pair.kind == "text" ? textFloor : markFloor))
                     failures.append(pair.row + ": " + reading.place + ' ' + QString::number(reading.ratio, 'f', 2));
             }
         }

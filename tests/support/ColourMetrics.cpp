@@ -11,12 +11,12 @@ namespace {
 using Triple = std::array<double, 3>;
 using Matrix = std::array<Triple, 3>;
 
-constexpr Matrix Unchanged = {{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}};
-constexpr Matrix WithoutGreenCones = {
+constexpr Matrix unchanged = {{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}};
+constexpr Matrix withoutGreenCones = {
     {{0.367322, 0.860646, -0.227968}, {0.280085, 0.672501, 0.047413}, {-0.011820, 0.042940, 0.968881}}};
-constexpr Matrix WithoutRedCones = {
+constexpr Matrix withoutRedCones = {
     {{0.152286, 1.052583, -0.204868}, {0.114503, 0.786281, 0.099216}, {-0.003882, -0.048116, 1.051998}}};
-constexpr Matrix LinearRgbToXyz = {
+constexpr Matrix linearRgbToXyz = {
     {{0.4124564, 0.3575761, 0.1804375}, {0.2126729, 0.7151522, 0.0721750}, {0.0193339, 0.1191920, 0.9503041}}};
 constexpr Triple WhiteD65 = {0.95047, 1.0, 1.08883};
 
@@ -42,13 +42,13 @@ Triple linearRgb(const QColor &colour)
 
 double labCurve(double value)
 {
-    constexpr double Knee = 6.0 / 29.0;
-    return value > Knee * Knee * Knee ? std::cbrt(value) : value / (3 * Knee * Knee) + 4.0 / 29.0;
+    constexpr double knee = 6.0 / 29.0;
+    return value > knee * knee * knee ? std::cbrt(value) : value / (3 * knee * knee) + 4.0 / 29.0;
 }
 
 Triple lab(const Triple &rgb)
 {
-    Triple xyz = product(LinearRgbToXyz, rgb);
+    Triple xyz = product(linearRgbToXyz, rgb);
     for (std::size_t i = 0; i < 3; ++i)
         xyz[i] = labCurve(xyz[i] / WhiteD65[i]);
     return {116 * xyz[1] - 16, 500 * (xyz[0] - xyz[1]), 200 * (xyz[1] - xyz[2])};
@@ -56,9 +56,9 @@ Triple lab(const Triple &rgb)
 
 Triple seen(const QColor &colour, ColourVision vision)
 {
-    const Matrix &matrix = vision == ColourVision::Deuteranopia ? WithoutGreenCones
-                           : vision == ColourVision::Protanopia ? WithoutRedCones
-                                                                : Unchanged;
+    const Matrix &matrix = vision == ColourVision::Deuteranopia ? withoutGreenCones
+                           : vision == ColourVision::Protanopia ? withoutRedCones
+                                                                : unchanged;
     Triple rgb = product(matrix, linearRgb(colour));
     for (double &component : rgb)
         component = std::clamp(component, 0.0, 1.0);

@@ -29,7 +29,7 @@ NameId NameTable::intern(std::string_view name)
 NameId NameTable::find(std::string_view name) const
 {
     const auto known = m_ids.find({name, hashOf(name)});
-    return known == m_ids.end() ? Unknown : known->second;
+    return known == m_ids.end() ? unknown : known->second;
 }
 
 } // namespace tamble::client

@@ -15,7 +15,7 @@ using NameId = std::uint32_t;
 class NameTable
 {
 public:
-    static constexpr NameId Unknown = 0xffffffff;
+    static constexpr NameId unknown = 0xffffffff;
 
     NameTable() = default;
     NameTable(NameTable &&) = default;
@@ -23,7 +23,7 @@ public:
 
     /// The number of `name`, which is added when it is new.
     NameId intern(std::string_view name);
-    /// The number of `name`, or Unknown when the sheet never mentions it.
+    /// The number of `name`, or unknown when the sheet never mentions it.
     NameId find(std::string_view name) const;
     std::string_view text(NameId id) const { return m_texts[id]; }
     /// How many names there are; their numbers are all below.

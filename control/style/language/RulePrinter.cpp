@@ -72,7 +72,7 @@ std::string declarationText(const PropertySpec &declaration)
 std::string selectorText(const NameTable &names, const SelectorTree &tree, SelectorTree::Node node)
 {
     std::vector<std::string_view> keys; // from the innermost element outward
-    for (; tree.parent(node) != SelectorTree::None; node = tree.parent(node))
+    for (; tree.parent(node) != SelectorTree::none; node = tree.parent(node))
         keys.push_back(names.text(tree.key(node)));
     std::reverse(keys.begin(), keys.end());
 
@@ -80,9 +80,9 @@ std::string selectorText(const NameTable &names, const SelectorTree &tree, Selec
     std::vector<std::string_view> joins;
     std::string_view join = " > ";
     for (const std::string_view key : keys) {
-        if (key == SelectorTree::SameElementKey) {
+        if (key == SelectorTree::sameElementKey) {
             join = {};
-        } else if (key == SelectorTree::DescendantKey) {
+        } else if (key == SelectorTree::descendantKey) {
             join = " ";
         } else {
             if (elements.empty() || !join.empty()) {

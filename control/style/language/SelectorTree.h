@@ -25,16 +25,16 @@ class SelectorTree
 {
 public:
     using Node = std::uint32_t;
-    static constexpr Node Root = 0;
-    static constexpr Node None = 0xffffffff;
+    static constexpr Node root = 0;
+    static constexpr Node none = 0xffffffff;
 
-    static constexpr std::string_view SameElementKey = "&";
-    static constexpr std::string_view DescendantKey = "::desc::";
+    static constexpr std::string_view sameElementKey = "&";
+    static constexpr std::string_view descendantKey = "::desc::";
 
     SelectorTree();
 
-    /// The child of `parent` behind `key`, or None.
-    Node child(Node parent, NameId key) const { return m_children.value(stepOf(parent, key), None); }
+    /// The child of `parent` behind `key`, or none.
+    Node child(Node parent, NameId key) const { return m_children.value(stepOf(parent, key), none); }
     /// The child of `parent` behind `key`, made when there is none.
     Node insert(Node parent, NameId key);
 
@@ -45,16 +45,16 @@ public:
 
     /// How many nodes there are, the root included.
     Node nodeCount() const { return Node(m_nodes.size()); }
-    /// The node that `node` is a child of; None for the root.
+    /// The node that `node` is a child of; none for the root.
     Node parent(Node node) const { return m_nodes[node].parent; }
-    /// The key behind which `node` stands; NameTable::Unknown for the root.
+    /// The key behind which `node` stands; NameTable::unknown for the root.
     NameId key(Node node) const { return m_nodes[node].key; }
 
 private:
     struct NodeData
     {
-        Node parent = None;
-        NameId key = NameTable::Unknown;
+        Node parent = none;
+        NameId key = NameTable::unknown;
         std::vector<const PropertySpec *> declarations;
     };
 

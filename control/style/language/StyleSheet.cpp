@@ -21,9 +21,9 @@ public:
     {
         std::unordered_map<const PropertySpec *, const PropertySpec *>
             copies; // rules with several selectors share theirs
-        std::vector<SelectorTree::Node> nodes(sheet.tree().nodeCount(), SelectorTree::Root);
+        std::vector<SelectorTree::Node> nodes(sheet.tree().nodeCount(), SelectorTree::root);
         for (SelectorTree::Node node = 0; node < sheet.tree().nodeCount(); ++node) {
-            if (node != SelectorTree::Root)
+            if (node != SelectorTree::root)
                 nodes[node] =
                     m_target.m_tree.insert(nodes[sheet.tree().parent(node)],
                                            m_target.m_names.intern(sheet.names().text(sheet.tree().key(node))));
@@ -51,13 +51,13 @@ public:
     static HiddenNames hiddenNames(const StyleSheet &under, const StyleSheet &over)
     {
         HiddenNames hidden;
-        std::vector<SelectorTree::Node> nodes(over.tree().nodeCount(), SelectorTree::Root);
+        std::vector<SelectorTree::Node> nodes(over.tree().nodeCount(), SelectorTree::root);
         for (SelectorTree::Node node = 1; node < over.tree().nodeCount(); ++node) {
             const SelectorTree::Node parent = nodes[over.tree().parent(node)];
             const NameId key = under.names().find(over.names().text(over.tree().key(node)));
-            const bool reachable = parent != SelectorTree::None && key != NameTable::Unknown;
-            nodes[node] = reachable ? under.tree().child(parent, key) : SelectorTree::None;
-            if (nodes[node] == SelectorTree::None || under.tree().declarations(nodes[node]).empty())
+            const bool reachable = parent != SelectorTree::none && key != NameTable::unknown;
+            nodes[node] = reachable ? under.tree().child(parent, key) : SelectorTree::none;
+            if (nodes[node] == SelectorTree::none || under.tree().declarations(nodes[node]).empty())
                 continue;
             for (const PropertySpec *declaration : over.tree().declarations(node))
                 hidden[nodes[node]].insert(declaration->name);

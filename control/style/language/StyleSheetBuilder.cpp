@@ -13,12 +13,12 @@ namespace {
 
 // What all references of a sheet together may expand to. A few lines of definitions that double one another would
 // otherwise fill the memory; a sheet of one megabyte made of nothing but references to single values needs 10 MB.
-constexpr std::size_t MaximumExpandedBytes = std::size_t(64) << 20;
+constexpr std::size_t maximumExpandedBytes = std::size_t(64) << 20;
 
 // A block of declarations is attached to each selector before it, so that the two lengths multiply.
-constexpr std::size_t MaximumAttachments = std::size_t(16) << 20;
+constexpr std::size_t maximumAttachments = std::size_t(16) << 20;
 
-constexpr std::string_view NameCharacters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-";
+constexpr std::string_view nameCharacters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-";
 
 std::size_t bytesOf(const StyleValue &value)
 {
@@ -34,8 +34,8 @@ std::size_t bytesOf(const StyleValue &value)
 
 StyleSheetBuilder::StyleSheetBuilder(std::string_view text)
     : m_text(text)
-    , m_sameElement(m_sheet.m_names.intern(SelectorTree::SameElementKey))
-    , m_descendant(m_sheet.m_names.intern(SelectorTree::DescendantKey))
+    , m_sameElement(m_sheet.m_names.intern(SelectorTree::sameElementKey))
+    , m_descendant(m_sheet.m_names.intern(SelectorTree::descendantKey))
 {
     m_declarationOffsets.reserve(text.size() / 32);
 }
@@ -68,7 +68,7 @@ void StyleSheetBuilder::endSelector()
 {
     // From the innermost element, which stands last in the text, outward; within an element in the order of the text.
     SelectorTree &tree = m_sheet.m_tree;
-    SelectorTree::Node node = SelectorTree::Root;
+    SelectorTree::Node node = SelectorTree::root;
     auto end = m_pieces.cend();
     while (end != m_pieces.cbegin()) {
         auto begin = end - 1;
@@ -90,7 +90,7 @@ void StyleSheetBuilder::endSelector()
 void StyleSheetBuilder::beginDeclaration(std::string_view name)
 {
     m_attachments += m_nodes.size();
-    if (m_attachments > MaximumAttachments)
+    if (m_attachments > maximumAttachments)
         throw ruleError("Too many declarations for too many selectors", name);
     PropertySpec &declaration = m_sheet.m_declarations.emplace_back();
     declaration.name = name;
@@ -120,7 +120,7 @@ void StyleSheetBuilder::addReference(std::string_view name)
         throw ruleError("Undefined variable", name);
     for (const StyleValue &value : definition->second)
         m_expandedBytes += bytesOf(value);
-    if (m_expandedBytes > MaximumExpandedBytes)
+    if (m_expandedBytes > maximumExpandedBytes)
         throw ruleError("Too long expansion of variable", name);
     m_values->insert(m_values->end(), definition->second.cbegin(), definition->second.cend());
 }
@@ -151,7 +151,7 @@ ParseException StyleSheetBuilder::syntaxError(const char *place, std::string_vie
 {
     const std::string_view rest = m_text.substr(offsetOf(place));
     if (rest.starts_with('#')) {
-        const std::size_t end = std::min(rest.find_first_not_of(NameCharacters, 1), rest.size());
+        const std::size_t end = std::min(rest.find_first_not_of(nameCharacters, 1), rest.size());
         if (end > 1)
             return faultAt(place, cutAround(rest.substr(0, end), 0) + " is no colour");
     }

@@ -6,8 +6,8 @@ namespace tamble::client {
 
 namespace {
 
-constexpr std::size_t MaximumBytes = 200;
-constexpr std::string_view Ellipsis = "...";
+constexpr std::size_t maximumBytes = 200;
+constexpr std::string_view ellipsis = "...";
 
 bool isWithinCharacter(std::string_view text, std::size_t place)
 {
@@ -18,9 +18,9 @@ bool isWithinCharacter(std::string_view text, std::size_t place)
 
 std::string cutAround(std::string_view text, std::size_t place)
 {
-    if (text.size() <= MaximumBytes)
+    if (text.size() <= maximumBytes)
         return std::string(text);
-    const std::size_t room = MaximumBytes - 2 * Ellipsis.size();
+    const std::size_t room = maximumBytes - 2 * ellipsis.size();
     std::size_t begin = std::min(place - std::min(place, room / 2), text.size() - room);
     std::size_t end = begin + room;
     // No more than the three bytes that a character can have behind its first: other text is not UTF-8 at all.
@@ -29,9 +29,9 @@ std::string cutAround(std::string_view text, std::size_t place)
     for (int i = 0; i < 3 && isWithinCharacter(text, end); ++i)
         --end;
 
-    std::string result(begin > 0 ? Ellipsis : std::string_view());
+    std::string result(begin > 0 ? ellipsis : std::string_view());
     result.append(text.substr(begin, end - begin));
-    return result.append(end < text.size() ? Ellipsis : std::string_view());
+    return result.append(end < text.size() ? ellipsis : std::string_view());
 }
 
 } // namespace tamble::client

@@ -36,7 +36,7 @@ std::optional<QByteArray> readSheetFile(const QString &path, QString *error)
 {
     QFile file(path);
     if (isSheetFile(path) && file.open(QFile::ReadOnly | QFile::Unbuffered))
-        return file.read(MaximumSheetBytes + 1);
+        return file.read(maximumSheetBytes + 1);
     if (error)
         *error = file.errorString();
     return std::nullopt;

@@ -9,7 +9,7 @@
 namespace tamble::client {
 
 /// No sheet is longer. A longer file was named by mistake, and one without end would fill the memory.
-constexpr qint64 MaximumSheetBytes = qint64(16) << 20;
+constexpr qint64 maximumSheetBytes = qint64(16) << 20;
 
 /// The path of the file or resource behind `url`, which may be relative to `baseUrl`; empty when it is neither.
 QString sheetPath(const QUrl &url, const QUrl &baseUrl);
@@ -18,7 +18,7 @@ QString sheetPath(const QUrl &url, const QUrl &baseUrl);
 /// end.
 bool isSheetFile(const QString &path);
 
-/// The bytes of the sheet at `path`, or one more than MaximumSheetBytes of a longer file. Nothing when there is no
+/// The bytes of the sheet at `path`, or one more than maximumSheetBytes of a longer file. Nothing when there is no
 /// sheet or it cannot be opened; `error` then tells why.
 std::optional<QByteArray> readSheetFile(const QString &path, QString *error = nullptr);
 

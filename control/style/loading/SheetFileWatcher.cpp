@@ -15,8 +15,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto SettleTime = 50ms;
-constexpr auto LongestSettleTime = 500ms;
+constexpr auto settleTime = 50ms;
+constexpr auto longestSettleTime = 500ms;
 
 // Times of modification are too coarse to tell two saves within milliseconds apart. What a file holds beyond the length
 // of a sheet makes no difference, since neither is used.
@@ -59,8 +59,8 @@ void SheetFileWatcher::setFiles(const QStringList &files)
 void SheetFileWatcher::settle()
 {
     if (!m_settle.isActive())
-        m_longestSettle.setRemainingTime(LongestSettleTime);
-    m_settle.start(std::min(SettleTime, std::chrono::milliseconds(m_longestSettle.remainingTime())));
+        m_longestSettle.setRemainingTime(longestSettleTime);
+    m_settle.start(std::min(settleTime, std::chrono::milliseconds(m_longestSettle.remainingTime())));
 }
 
 // A watch on a file ends when the file is replaced, and none can be set on a missing one; hence the directories too.

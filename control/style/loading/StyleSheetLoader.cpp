@@ -17,7 +17,7 @@ namespace tamble::client {
 
 namespace {
 
-constexpr unsigned long MissingFileWaitMs = 1000;
+constexpr unsigned long missingFileWaitMs = 1000;
 
 /// A sheet as parsed before, if its text is the same: themes are switched back and forth. Throws ParseException.
 std::shared_ptr<const StyleSheet> parsed(const QByteArray &text)
@@ -55,7 +55,7 @@ QString themeHint(const QString &path)
 bool appears(const QString &path)
 {
     if (!isSheetFile(path))
-        QThread::msleep(MissingFileWaitMs);
+        QThread::msleep(missingFileWaitMs);
     return isSheetFile(path);
 }
 
@@ -98,8 +98,8 @@ std::shared_ptr<const StyleSheet> StyleSheetLoader::read(const QString &path) co
         reportFailure(path + u' ' + error);
         return nullptr;
     }
-    if (text->size() > MaximumSheetBytes) {
-        reportFailure(QStringLiteral("%1: longer than %2 MiB").arg(path).arg(MaximumSheetBytes >> 20));
+    if (text->size() > maximumSheetBytes) {
+        reportFailure(QStringLiteral("%1: longer than %2 MiB").arg(path).arg(maximumSheetBytes >> 20));
         return nullptr;
     }
     try {

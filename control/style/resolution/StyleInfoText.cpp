@@ -13,7 +13,7 @@ namespace tamble::client {
 namespace {
 
 // A selector with repeated words can match in millions of ways, each of which says the same.
-constexpr std::uint32_t MaximumRepetitions = 8;
+constexpr std::uint32_t maximumRepetitions = 8;
 
 } // namespace
 
@@ -27,7 +27,7 @@ QString styleInfoText(const StyleSheet &sheet, const StylePath &path)
         std::string rule = "// specificity: " + match.specificity.text() + '\n' + ruleText(sheet, match.node);
         if (!rule.ends_with('\n'))
             rule += '\n';
-        for (std::uint32_t i = 0; i < std::min(match.routes, MaximumRepetitions); ++i)
+        for (std::uint32_t i = 0; i < std::min(match.routes, maximumRepetitions); ++i)
             text += rule;
     }
     return QString::fromStdString(text);

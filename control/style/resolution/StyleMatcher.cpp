@@ -13,7 +13,7 @@ namespace tamble::client {
 namespace {
 
 /// Up to here looking them all up is as quick as anything.
-constexpr std::size_t FewWords = 32;
+constexpr std::size_t fewWords = 32;
 
 /// Sorts by key and counts repetitions.
 void makeDistinct(std::vector<MatchWord> &words)
@@ -45,8 +45,8 @@ bool isTypeName(const QString &name)
 StyleMatcher::StyleMatcher(const NameTable &names, const SelectorTree &tree)
     : m_names(names)
     , m_tree(tree)
-    , m_sameElement(names.find(SelectorTree::SameElementKey))
-    , m_descendant(names.find(SelectorTree::DescendantKey))
+    , m_sameElement(names.find(SelectorTree::sameElementKey))
+    , m_descendant(names.find(SelectorTree::descendantKey))
 {}
 
 std::vector<MatchWord> StyleMatcher::words(const StyleElement &element) const
@@ -61,7 +61,7 @@ std::vector<MatchWord> StyleMatcher::words(const StyleElement &element) const
         const char *const end = encoder.appendToBuffer(std::ranges::copy(mark, begin).out, word);
         const NameId key = m_names.find({begin, end});
         // A word that spells out one of the tree's own keys is none of the sheet's words.
-        if (key != NameTable::Unknown && key != m_sameElement && key != m_descendant)
+        if (key != NameTable::unknown && key != m_sameElement && key != m_descendant)
             result.push_back({key, 1, weight});
     };
     if (isTypeName(element.typeName))
@@ -78,7 +78,7 @@ void StyleMatcher::match(const MatchElement &innermost, std::vector<StyleMatch> 
 {
     matches.clear();
     m_candidates.clear();
-    matchWords({SelectorTree::Root, &innermost, {}, 1}, SelectorTree::Root, innermost);
+    matchWords({SelectorTree::root, &innermost, {}, 1}, SelectorTree::root, innermost);
     for (std::size_t i = 0; i < m_candidates.size(); ++i) { // NOLINT(modernize-loop-convert): the list grows meanwhile
         const Candidate candidate = m_candidates[i];
         continueFrom(candidate, matches);
@@ -89,7 +89,7 @@ void StyleMatcher::continueFrom(const Candidate &candidate, std::vector<StyleMat
 {
     record(candidate, candidate.node, matches);
 
-    if (const SelectorTree::Node same = child(candidate.node, m_sameElement); same != SelectorTree::None) {
+    if (const SelectorTree::Node same = child(candidate.node, m_sameElement); same != SelectorTree::none) {
         record(candidate, same, matches);
         matchWords(candidate, same, *candidate.element);
     }
@@ -97,7 +97,7 @@ void StyleMatcher::continueFrom(const Candidate &candidate, std::vector<StyleMat
     if (!candidate.element->parent)
         return;
     matchWords(candidate, candidate.node, *candidate.element->parent);
-    if (const SelectorTree::Node descendant = child(candidate.node, m_descendant); descendant != SelectorTree::None) {
+    if (const SelectorTree::Node descendant = child(candidate.node, m_descendant); descendant != SelectorTree::none) {
         // The nearest ancestor that fits any selector behind the step ends the search for all of them.
         const MatchElement *ancestor = candidate.element->nearestKnown;
         while (ancestor && !matchWords(candidate, descendant, *ancestor))
@@ -114,7 +114,7 @@ bool StyleMatcher::matchWords(const Candidate &from, SelectorTree::Node node, co
             {next, &element, from.specificity + word.weight, saturatedProduct(from.routes, word.count)});
     };
     // An element may have as many words as the sheet has nodes, so the fewer of the two are gone through.
-    if (element.words.size() > FewWords && childrenOf(node).size() < element.words.size()) {
+    if (element.words.size() > fewWords && childrenOf(node).size() < element.words.size()) {
         for (const SelectorTree::Node next : childrenOf(node)) {
             const auto word = std::ranges::lower_bound(element.words, m_tree.key(next), {}, &MatchWord::key);
             if (word != element.words.end() && word->key == m_tree.key(next))
@@ -122,7 +122,7 @@ bool StyleMatcher::matchWords(const Candidate &from, SelectorTree::Node node, co
         }
     } else {
         for (const MatchWord &word : element.words) {
-            if (const auto next = child(node, word.key); next != SelectorTree::None)
+            if (const auto next = child(node, word.key); next != SelectorTree::none)
                 add(next, word);
         }
     }
@@ -139,7 +139,7 @@ const std::vector<SelectorTree::Node> &StyleMatcher::childrenOf(SelectorTree::No
 {
     if (m_children.empty()) {
         m_children.resize(m_tree.nodeCount());
-        for (SelectorTree::Node child = SelectorTree::Root + 1; child < m_tree.nodeCount(); ++child)
+        for (SelectorTree::Node child = SelectorTree::root + 1; child < m_tree.nodeCount(); ++child)
             m_children[m_tree.parent(child)].push_back(child);
     }
     return m_children[node];

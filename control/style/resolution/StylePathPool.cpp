@@ -126,7 +126,7 @@ void StylePathPool::collect()
 
     if (!unused.empty())
         dropUnusedElements();
-    m_mostPaths = std::max(MinimumGrowth, 2 * m_paths.size());
+    m_mostPaths = std::max(minimumGrowth, 2 * m_paths.size());
 }
 
 void StylePathPool::dropUnusedElements()

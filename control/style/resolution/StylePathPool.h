@@ -31,7 +31,7 @@ public:
     void collect();
 
     /// Fewer are not worth a search for those that can go.
-    static constexpr std::size_t MinimumGrowth = 512;
+    static constexpr std::size_t minimumGrowth = 512;
 
     /// How many paths and how many distinct elements are held.
     std::size_t pathCount() const { return m_paths.size(); }
@@ -98,7 +98,7 @@ private:
 
     std::unordered_set<PooledElement, ElementHash, ElementEqual> m_elements;
     std::unordered_set<StylePath, PathHash, PathEqual> m_paths;
-    std::size_t m_mostPaths = MinimumGrowth;
+    std::size_t m_mostPaths = minimumGrowth;
 };
 
 } // namespace tamble::client

@@ -9,8 +9,8 @@ using namespace tamble::client;
 
 namespace {
 
-constexpr int Out = RBodeplotZoomEnum::ZOOM_OUT;
-constexpr int In = RBodeplotZoomEnum::ZOOM_IN;
+constexpr int out = RBodeplotZoomEnum::ZOOM_OUT;
+constexpr int in = RBodeplotZoomEnum::ZOOM_IN;
 
 /// A frame as the component of the module sets it up, 300 pixels wide.
 struct Frame : RBodeplot
@@ -48,10 +48,10 @@ private Q_SLOTS:
     void levelZoom_data()
     {
         const Rows<int, int, double> row;
-        row("one step in", In, 1, 22.5);
-        row("in stops at the smallest bound", In, 9, 12.5);
-        row("one step out", Out, 1, 27.5);
-        row("out stops at the largest bound", Out, 9, 40.0);
+        row("one step in", in, 1, 22.5);
+        row("in stops at the smallest bound", in, 9, 12.5);
+        row("one step out", out, 1, 27.5);
+        row("out stops at the largest bound", out, 9, 40.0);
         row("other directions do nothing", 2, 1, 25.0);
     }
 
@@ -69,17 +69,17 @@ private Q_SLOTS:
     {
         Frame frame;
         QSignalSpy spy(&frame, &RBodeplot::xMaximumChanged);
-        frame.zoomXAxis(Out);
+        frame.zoomXAxis(out);
         QCOMPARE(frame.xMinimum(), 20.0);
         QCOMPARE(frame.xMaximum(), 20000.0);
         QCOMPARE(spy.count(), 0);
 
-        frame.zoomXAxis(In);
+        frame.zoomXAxis(in);
         QCOMPARE(frame.xMinimum(), 23.0);
         QCOMPARE(frame.xMaximum(), 20000.0 / 1.15);
         QCOMPARE(spy.count(), 1);
 
-        frame.zoomXAxis(Out);
+        frame.zoomXAxis(out);
         QCOMPARE(frame.xMinimum(), 20.0);
         QCOMPARE(frame.xMaximum(), 20000.0);
     }
@@ -87,15 +87,15 @@ private Q_SLOTS:
     void spanGuard()
     {
         Frame frame;
-        frame.zoomXAxis(In); // only measures
+        frame.zoomXAxis(in); // only measures
         QCOMPARE(frame.xMinimum(), 20.0);
 
         // A span of 1.53 decades is still above the limit of 1.5, so the next step is taken and goes below it.
         frame.show(100.0, 100.0 * std::pow(10.0, 1.53));
         frame.zoomXAxis(2);
-        frame.zoomXAxis(In);
+        frame.zoomXAxis(in);
         QCOMPARE(frame.xMinimum(), 115.0);
-        frame.zoomXAxis(In);
+        frame.zoomXAxis(in);
         QCOMPARE(frame.xMinimum(), 115.0);
     }
 
@@ -144,8 +144,8 @@ private Q_SLOTS:
         frame.show(50.0, 5000.0);
         frame.zoomXAxis(2);
         frame.setProperty("enableZooming", false);
-        frame.zoomXAxis(In);
-        frame.zoomYAxis(In);
+        frame.zoomXAxis(in);
+        frame.zoomYAxis(in);
         frame.onMousePressed(200.0);
         frame.onMousePositionChanged(100.0);
         QCOMPARE(frame.xMinimum(), 50.0);

@@ -16,7 +16,7 @@ namespace {
 
 using Points = QList<QPointF>;
 
-constexpr int Linear = RBodeplotAxisScaleEnum::LINEAR;
+constexpr int linear = RBodeplotAxisScaleEnum::LINEAR;
 
 /// As a page's inline style object: values that tell when they change.
 class Style : public QObject
@@ -264,7 +264,7 @@ private Q_SLOTS:
     void limiterDrawsByState()
     {
         Painted<RLimiterCurve> curve;
-        curve.setProperty("xAxisScale", Linear);
+        curve.setProperty("xAxisScale", linear);
         curve.setProperty("xMinimum", -20.0);
         curve.setProperty("xMaximum", 20.0);
         curve.setProperty("threshold", 10.0);

@@ -193,7 +193,7 @@ private Q_SLOTS:
         QCOMPARE(sheet.fontFaces()[0].origin, SheetOrigin::DefaultSheet);
         QCOMPARE(sheet.fontFaces()[1].origin, SheetOrigin::UserSheet);
         const auto declarations =
-            sheet.tree().declarations(sheet.tree().child(SelectorTree::Root, sheet.names().find("A")));
+            sheet.tree().declarations(sheet.tree().child(SelectorTree::root, sheet.names().find("A")));
         QCOMPARE(declarations.back()->origin, SheetOrigin::UserSheet);
         QCOMPARE(declarations.back()->position, (SourcePosition{2, 31}));
         QCOMPARE(declarations.front()->origin, SheetOrigin::DefaultSheet);
@@ -208,7 +208,7 @@ private Q_SLOTS:
             parseStdString("A::x B.b > C { k: \"#fff\", 12, 'x \"y\"';\n  l: url(a/b.png), rgb(1, 2%, 3) }");
         const StyleSheet user = parseStdString("A::x B.b > C { m: \"\" }");
         const StyleSheet sheet = StyleSheet::merged(base, user);
-        SelectorTree::Node node = SelectorTree::Root;
+        SelectorTree::Node node = SelectorTree::root;
         for (const char *key : {"C", "B", "&", ".b", "::desc::", "A", "&", "::x"})
             node = sheet.tree().child(node, sheet.names().find(key));
         QCOMPARE(tamble::client::ruleText(sheet, node).c_str(),
