@@ -29,20 +29,29 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotCurve : public QQuickItem
     Q_OBJECT
     QML_NAMED_ELEMENT(RBodeplotCurveTemplate)
     Q_PROPERTY(QObject *style READ style WRITE setStyle NOTIFY styleChanged)
+    /// `xMinimum` and `xMaximum`: frequencies in Hz at the left and right edge, on a logarithmic axis.
     Q_PROPERTY(qreal xMinimum MEMBER m_xMinimum NOTIFY xMinimumChanged)
     Q_PROPERTY(qreal xMaximum MEMBER m_xMaximum NOTIFY xMaximumChanged)
+    /// `yMinimum` and `yMaximum`: levels in dB at the bottom and top edge.
     Q_PROPERTY(qreal yMinimum MEMBER m_yMinimum NOTIFY yMinimumChanged)
     Q_PROPERTY(qreal yMaximum MEMBER m_yMaximum NOTIFY yMaximumChanged)
+    /// Gain in dB that is added to the sum of the filters.
     Q_PROPERTY(qreal trim MEMBER m_trim NOTIFY trimChanged)
+    /// What the curves show, an `RBodeplotSpectrumEnum` value: magnitude in dB or phase.
     Q_PROPERTY(int spectrum MEMBER m_spectrum NOTIFY spectrumChanged)
+    /// Draws the sum alone, without the curves of single filters.
     Q_PROPERTY(bool hideIndividualCurves MEMBER m_hideIndividualCurves NOTIFY hideIndividualCurvesChanged)
+    /// Sample rate in Hz that FIR filters run at.
     Q_PROPERTY(qreal samplerate MEMBER m_samplerate NOTIFY samplerateChanged)
+    /// Number of frequencies at which the response is computed.
     Q_PROPERTY(int resolution MEMBER m_resolution NOTIFY resolutionChanged)
+    /// Time in ms after the release of a handle until the page's values count again.
     Q_PROPERTY(int settleTime MEMBER m_settleTime NOTIFY settleTimeChanged)
     Q_PROPERTY(QQmlListProperty<tamble::client::RBodeplotCalculationItem> calculationItems READ calculationItems NOTIFY
                    calculationItemsChanged)
     Q_PROPERTY(QQmlListReference calculationItemsReference READ calculationItemsReference WRITE
                    setCalculationItemsReference NOTIFY calculationItemsReferenceChanged)
+    /// The handles, as `RBodeplotPointModel` objects, one or two for each filter; the curve owns them.
     Q_PROPERTY(QList<QObject *> filterPointModels READ filterPointModels NOTIFY filterPointModelsChanged)
 
 public:
@@ -95,10 +104,13 @@ public Q_SLOTS:
     /// Changes the Q of a handle's filter; `change` is a way in pixels, see draggedQuality().
     void onUserChangeFilterPointQuality(int index, qreal baseQuality, qreal change);
 
+    /// `onWidthChanged` and `onHeightChanged` draw the lines anew; the curve calls them itself.
     void onWidthChanged();
     void onHeightChanged();
     /// Converts and evaluates all filters anew.
     void onCalculationItemsChanged();
+    /// `onYMinOrMaxChanged`, `onXMinOrMaxChanged` and `onTrimChanged` bring the lines into the present frame; the curve
+    /// calls them itself.
     void onYMinOrMaxChanged();
     void onXMinOrMaxChanged();
     void onTrimChanged();

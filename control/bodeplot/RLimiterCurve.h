@@ -22,14 +22,21 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RLimiterCurve : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RLimiterCurveTemplate)
+    /// Object with the colours and widths named above; null, the default, draws nothing.
     Q_PROPERTY(QObject *style READ style WRITE setStyle NOTIFY styleChanged)
+    /// `xMinimum` and `xMaximum`: ends of the x axis, in Hz, or in dB of input level on a linear axis.
     Q_PROPERTY(qreal xMinimum MEMBER m_xMinimum NOTIFY xMinimumChanged)
     Q_PROPERTY(qreal xMaximum MEMBER m_xMaximum NOTIFY xMaximumChanged)
+    /// `yMinimum` and `yMaximum`: levels in dB at the bottom and top edge.
     Q_PROPERTY(qreal yMinimum MEMBER m_yMinimum NOTIFY yMinimumChanged)
     Q_PROPERTY(qreal yMaximum MEMBER m_yMaximum NOTIFY yMaximumChanged)
+    /// An `RBodeplotAxisScaleEnum` value: logarithmic for frequencies, linear for input levels.
     Q_PROPERTY(int xAxisScale MEMBER m_xAxisScale NOTIFY xAxisScaleChanged)
+    /// Threshold in dB.
     Q_PROPERTY(qreal threshold MEMBER m_threshold NOTIFY thresholdChanged)
+    /// 0 for a brick wall, else the factor n of n : 1 above the threshold, at least 1.
     Q_PROPERTY(qreal ratio MEMBER m_ratio NOTIFY ratioChanged)
+    /// Shows the unlimited line only, in its own colour.
     Q_PROPERTY(bool bypass MEMBER m_bypass NOTIFY bypassChanged)
     Q_PROPERTY(QVariantList points READ points NOTIFY pointsChanged)
     Q_PROPERTY(QPointF handlePoint READ handlePoint NOTIFY handlePointChanged)

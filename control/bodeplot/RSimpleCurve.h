@@ -20,16 +20,23 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RSimpleCurve : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RSimpleCurveTemplate)
+    /// Object with the colour and width named above; null, the default, draws nothing.
     Q_PROPERTY(QObject *style READ style WRITE setStyle NOTIFY styleChanged)
+    /// `xMinimum` and `xMaximum`: ends of the x axis, in Hz in a frequency plot.
     Q_PROPERTY(qreal xMinimum MEMBER m_xMinimum NOTIFY xMinimumChanged)
     Q_PROPERTY(qreal xMaximum MEMBER m_xMaximum NOTIFY xMaximumChanged)
+    /// `yMinimum` and `yMaximum`: ends of the y axis, in dB in a frequency plot.
     Q_PROPERTY(qreal yMinimum MEMBER m_yMinimum NOTIFY yMinimumChanged)
     Q_PROPERTY(qreal yMaximum MEMBER m_yMaximum NOTIFY yMaximumChanged)
+    /// `xAxisScale` and `yAxisScale`: scales of the axes, `RBodeplotAxisScaleEnum` values.
     Q_PROPERTY(int xAxisScale MEMBER m_xAxisScale NOTIFY xAxisScaleChanged)
     Q_PROPERTY(int yAxisScale MEMBER m_yAxisScale NOTIFY yAxisScaleChanged)
+    /// The curve as points in axis units; an entry that is no point interrupts it.
     Q_PROPERTY(QVariantList points MEMBER m_points NOTIFY pointsChanged)
+    /// `xValues` and `yValues`: the curve in axis units while `points` is empty; the shorter list counts.
     Q_PROPERTY(QList<qreal> xValues MEMBER m_xValues NOTIFY xValuesChanged)
     Q_PROPERTY(QList<qreal> yValues MEMBER m_yValues NOTIFY yValuesChanged)
+    /// Added to all y values, in their unit.
     Q_PROPERTY(qreal trim MEMBER m_trim NOTIFY trimChanged)
     Q_PROPERTY(int visibleCount READ visibleCount NOTIFY visibleCountChanged)
 

@@ -17,9 +17,12 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RControlBackground : public QQuickRectangle
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RControlBackground)
+    /// Colour of the bar.
     Q_PROPERTY(QColor lineColor MEMBER m_lineColor NOTIFY lineColorChanged FINAL)
     Q_PROPERTY(bool lineVisible READ lineVisible WRITE setLineVisible NOTIFY lineVisibleChanged FINAL)
+    /// Edge that the bar lies at.
     Q_PROPERTY(Qt::Edge lineEdge MEMBER m_lineEdge NOTIFY lineEdgeChanged FINAL)
+    /// Distance in pixels of the bar's ends from the corners.
     Q_PROPERTY(qreal lineInset MEMBER m_lineInset NOTIFY lineInsetChanged FINAL)
     Q_PROPERTY(QQuickRectangle *line READ line CONSTANT FINAL)
     Q_PROPERTY(bool focusVisible READ focusVisible WRITE setFocusVisible NOTIFY focusVisibleChanged FINAL)

@@ -25,6 +25,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RLabelBase : public QQuickLabel
     Q_PROPERTY(QQuickItem *buddy READ buddy WRITE setBuddy NOTIFY buddyChanged FINAL)
     Q_PROPERTY(bool required READ isRequired WRITE setRequired NOTIFY requiredChanged FINAL)
     Q_PROPERTY(bool lineVisible READ lineVisible WRITE setLineVisible NOTIFY lineVisibleChanged FINAL)
+    /// Colour of the line along the bottom.
     Q_PROPERTY(QColor lineColor READ lineColor WRITE setLineColor NOTIFY lineColorChanged FINAL)
     Q_PROPERTY(QString plainCaption READ plainCaption NOTIFY captionChanged FINAL)
 

@@ -13,21 +13,34 @@ class TAMBLE_CLIENT_CONTROL_EXPORT AGCCalculator : public tamble::client::CurveC
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RAGCCalculator)
+    /// False empties `values`.
     Q_PROPERTY(bool calculatorActive READ calculatorActive WRITE setCalculatorActive NOTIFY calculatorActiveChanged)
+    /// Makes `values` the identity line.
     Q_PROPERTY(bool agcBypassed READ agcBypassed WRITE setAgcBypassed NOTIFY agcBypassedChanged)
+    /// Target level in dB, before `thresholdOffset`.
     Q_PROPERTY(double levelIn READ levelIn WRITE setLevelIn NOTIFY levelInChanged)
+    /// `levelInMin` and `levelInMax`: bounds of `levelIn` in dB for the controls around the plot; they do not enter the
+    /// curve.
     Q_PROPERTY(double levelInMin READ levelInMin WRITE setLevelInMin NOTIFY levelInMinChanged)
     Q_PROPERTY(double levelInMax READ levelInMax WRITE setLevelInMax NOTIFY levelInMaxChanged)
+    /// Input level in dB, relative to `levelIn`, from which on the gain is controlled.
     Q_PROPERTY(double threshold READ threshold WRITE setThreshold NOTIFY thresholdChanged)
+    /// `thresholdMin` and `thresholdMax`: lower and upper end of the plotted range in dB, before `thresholdOffset`.
     Q_PROPERTY(double thresholdMin READ thresholdMin WRITE setThresholdMin NOTIFY thresholdMinChanged)
     Q_PROPERTY(double thresholdMax READ thresholdMax WRITE setThresholdMax NOTIFY thresholdMaxChanged)
+    /// Shift in dB of both axes of the plot and of the target level on them.
     Q_PROPERTY(double thresholdOffset READ thresholdOffset WRITE setThresholdOffset NOTIFY thresholdOffsetChanged)
+    /// Width in dB of the transition below the threshold.
     Q_PROPERTY(double kneeIn READ kneeIn WRITE setKneeIn NOTIFY kneeInChanged)
+    /// `kneeInMin` and `kneeInMax`: bounds of `kneeIn` in dB; they do not enter the curve.
     Q_PROPERTY(double kneeInMin READ kneeInMin WRITE setKneeInMin NOTIFY kneeInMinChanged)
     Q_PROPERTY(double kneeInMax READ kneeInMax WRITE setKneeInMax NOTIFY kneeInMaxChanged)
+    /// Factor n of n : 1 by which the distance from the target is compressed.
     Q_PROPERTY(double ratio READ ratio WRITE setRatio NOTIFY ratioChanged)
+    /// `ratioMin` and `ratioMax`: bounds of `ratio`; they do not enter the curve.
     Q_PROPERTY(double ratioMin READ ratioMin WRITE setRatioMin NOTIFY ratioMinChanged)
     Q_PROPERTY(double ratioMax READ ratioMax WRITE setRatioMax NOTIFY ratioMaxChanged)
+    /// Corner points of the curve, normalised; empty while inactive.
     Q_PROPERTY(QVariantList values READ values NOTIFY valuesChanged)
 
 public:

@@ -13,25 +13,41 @@ class TAMBLE_CLIENT_CONTROL_EXPORT ANCCalculator : public tamble::client::CurveC
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RANCCalculator)
+    /// False empties `values`.
     Q_PROPERTY(bool calculatorActive READ calculatorActive WRITE setCalculatorActive NOTIFY calculatorActiveChanged)
+    /// Makes `values` a level line at 0 dB.
     Q_PROPERTY(bool ancBypassed READ ancBypassed WRITE setAncBypassed NOTIFY ancBypassedChanged)
+    /// Tells that the device holds its gain at present; it does not enter the curve.
     Q_PROPERTY(bool freezeGain READ freezeGain WRITE setFreezeGain NOTIFY freezeGainChanged)
+    /// Ambient level in dB at which the gain begins to rise, before `ambientThresholdOffset`.
     Q_PROPERTY(double ambientThreshold READ ambientThreshold WRITE setAmbientThreshold NOTIFY ambientThresholdChanged)
+    /// `ambientThresholdMin` and `ambientThresholdMax`: lower and upper end of the plotted range of ambient levels in
+    /// dB.
     Q_PROPERTY(double ambientThresholdMin READ ambientThresholdMin WRITE setAmbientThresholdMin NOTIFY
                    ambientThresholdMinChanged)
     Q_PROPERTY(double ambientThresholdMax READ ambientThresholdMax WRITE setAmbientThresholdMax NOTIFY
                    ambientThresholdMaxChanged)
+    /// Shift in dB of the ambient levels on the plot.
     Q_PROPERTY(double ambientThresholdOffset READ ambientThresholdOffset WRITE setAmbientThresholdOffset NOTIFY
                    ambientThresholdOffsetChanged)
+    /// Gain in dB up to the ambient threshold.
     Q_PROPERTY(double minimumGain READ minimumGain WRITE setMinimumGain NOTIFY minimumGainChanged)
+    /// `minimumGainMin`: lowest gain of the plot in dB. `minimumGainMax`: upper bound of `minimumGain`; it does not
+    /// enter the curve.
     Q_PROPERTY(double minimumGainMin READ minimumGainMin WRITE setMinimumGainMin NOTIFY minimumGainMinChanged)
     Q_PROPERTY(double minimumGainMax READ minimumGainMax WRITE setMinimumGainMax NOTIFY minimumGainMaxChanged)
+    /// Gain in dB at which the rise ends.
     Q_PROPERTY(double maximumGain READ maximumGain WRITE setMaximumGain NOTIFY maximumGainChanged)
+    /// `maximumGainMin`: lower bound of `maximumGain` in dB; it does not enter the curve. `maximumGainMax`: highest
+    /// gain of the plot in dB.
     Q_PROPERTY(double maximumGainMin READ maximumGainMin WRITE setMaximumGainMin NOTIFY maximumGainMinChanged)
     Q_PROPERTY(double maximumGainMax READ maximumGainMax WRITE setMaximumGainMax NOTIFY maximumGainMaxChanged)
+    /// Steepness of the rise in dB of gain per dB of ambient level.
     Q_PROPERTY(double ratio READ ratio WRITE setRatio NOTIFY ratioChanged)
+    /// `ratioMin` and `ratioMax`: bounds of `ratio`; they do not enter the curve.
     Q_PROPERTY(double ratioMin READ ratioMin WRITE setRatioMin NOTIFY ratioMinChanged)
     Q_PROPERTY(double ratioMax READ ratioMax WRITE setRatioMax NOTIFY ratioMaxChanged)
+    /// Corner points of the curve, normalised; empty while inactive.
     Q_PROPERTY(QVariantList values READ values NOTIFY valuesChanged)
 
 public:

@@ -14,20 +14,31 @@ class TAMBLE_CLIENT_CONTROL_EXPORT CompressorCalculator : public tamble::client:
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RCompressorCalculator)
+    /// False empties `values`.
     Q_PROPERTY(bool calculatorActive READ calculatorActive WRITE setCalculatorActive NOTIFY calculatorActiveChanged)
+    /// Makes `values` the identity line.
     Q_PROPERTY(
         bool compressorBypassed READ compressorBypassed WRITE setCompressorBypassed NOTIFY compressorBypassedChanged)
+    /// Whether `softKneeInDbu` counts; without it the curve has a corner at the threshold.
     Q_PROPERTY(bool softKneeActive READ softKneeActive WRITE setSoftKneeActive NOTIFY softKneeActiveChanged)
+    /// Width of the soft knee in dB, half of it on either side of the threshold; 0 and less give a corner.
     Q_PROPERTY(double softKneeInDbu READ softKneeInDbu WRITE setSoftKneeInDbu NOTIFY softKneeInDbuChanged)
+    /// Input level in dB from which on the compressor reduces.
     Q_PROPERTY(double threshold READ threshold WRITE setThreshold NOTIFY thresholdChanged)
+    /// `thresholdMin` and `thresholdMax`: lower and upper end of the plotted range in dB, on both axes.
     Q_PROPERTY(double thresholdMin READ thresholdMin WRITE setThresholdMin NOTIFY thresholdMinChanged)
     Q_PROPERTY(double thresholdMax READ thresholdMax WRITE setThresholdMax NOTIFY thresholdMaxChanged)
+    /// Factor n of n : 1 above the threshold; below 1 and not a number count as 1, infinity limits.
     Q_PROPERTY(double ratio READ ratio WRITE setRatio NOTIFY ratioChanged)
+    /// `ratioMin` and `ratioMax`: bounds of `ratio`; they do not enter the curve.
     Q_PROPERTY(double ratioMin READ ratioMin WRITE setRatioMin NOTIFY ratioMinChanged)
     Q_PROPERTY(double ratioMax READ ratioMax WRITE setRatioMax NOTIFY ratioMaxChanged)
+    /// Gain in dB that is added to the whole curve.
     Q_PROPERTY(double makeUpGain READ makeUpGain WRITE setMakeUpGain NOTIFY makeUpGainChanged)
+    /// `makeUpGainMin` and `makeUpGainMax`: bounds of `makeUpGain` in dB; they do not enter the curve.
     Q_PROPERTY(double makeUpGainMin READ makeUpGainMin WRITE setMakeUpGainMin NOTIFY makeUpGainMinChanged)
     Q_PROPERTY(double makeUpGainMax READ makeUpGainMax WRITE setMakeUpGainMax NOTIFY makeUpGainMaxChanged)
+    /// Corner points of the curve, normalised; empty while inactive.
     Q_PROPERTY(QVariantList values READ values NOTIFY valuesChanged)
 
 public:

@@ -12,14 +12,21 @@ class TAMBLE_CLIENT_CONTROL_EXPORT DuckerCalculator : public tamble::client::Cur
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RDuckerCalculator)
+    /// False empties `values`.
     Q_PROPERTY(bool calculatorActive READ calculatorActive WRITE setCalculatorActive NOTIFY calculatorActiveChanged)
+    /// Makes `values` the identity line.
     Q_PROPERTY(bool duckerBypassed READ duckerBypassed WRITE setDuckerBypassed NOTIFY duckerBypassedChanged)
+    /// Level in dB from which on the ducker lowers the signal.
     Q_PROPERTY(double threshold READ threshold WRITE setThreshold NOTIFY thresholdChanged)
+    /// `thresholdMin` and `thresholdMax`: lower and upper end of the plotted range in dB, on both axes.
     Q_PROPERTY(double thresholdMin READ thresholdMin WRITE setThresholdMin NOTIFY thresholdMinChanged)
     Q_PROPERTY(double thresholdMax READ thresholdMax WRITE setThresholdMax NOTIFY thresholdMaxChanged)
+    /// Attenuation in dB above the threshold, counted positive.
     Q_PROPERTY(double duckingLevel READ duckingLevel WRITE setDuckingLevel NOTIFY duckingLevelChanged)
+    /// `duckingLevelMin` and `duckingLevelMax`: bounds of `duckingLevel` in dB; they do not enter the curve.
     Q_PROPERTY(double duckingLevelMin READ duckingLevelMin WRITE setDuckingLevelMin NOTIFY duckingLevelMinChanged)
     Q_PROPERTY(double duckingLevelMax READ duckingLevelMax WRITE setDuckingLevelMax NOTIFY duckingLevelMaxChanged)
+    /// Corner points of the curve, normalised; empty while inactive.
     Q_PROPERTY(QVariantList values READ values NOTIFY valuesChanged)
 
 public:

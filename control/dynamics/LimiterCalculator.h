@@ -12,11 +12,16 @@ class TAMBLE_CLIENT_CONTROL_EXPORT LimiterCalculator : public tamble::client::Cu
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RLimiterCalculator)
+    /// False empties `values`.
     Q_PROPERTY(bool calculatorActive READ calculatorActive WRITE setCalculatorActive NOTIFY calculatorActiveChanged)
+    /// Highest output level in dB.
     Q_PROPERTY(double threshold READ threshold WRITE setThreshold NOTIFY thresholdChanged)
+    /// `thresholdMin` and `thresholdMax`: lower and upper end of the plotted range in dB, on both axes.
     Q_PROPERTY(double thresholdMin READ thresholdMin WRITE setThresholdMin NOTIFY thresholdMinChanged)
     Q_PROPERTY(double thresholdMax READ thresholdMax WRITE setThresholdMax NOTIFY thresholdMaxChanged)
+    /// Makes `values` the identity line.
     Q_PROPERTY(bool limiterBypassed READ limiterBypassed WRITE setLimiterBypassed NOTIFY limiterBypassedChanged)
+    /// Corner points of the curve, normalised; empty while inactive.
     Q_PROPERTY(QVariantList values READ values NOTIFY valuesChanged)
 
 public:

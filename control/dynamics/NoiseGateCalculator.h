@@ -12,14 +12,21 @@ class TAMBLE_CLIENT_CONTROL_EXPORT NoiseGateCalculator : public tamble::client::
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RNoiseGateCalculator)
+    /// False empties `values`.
     Q_PROPERTY(bool calculatorActive READ calculatorActive WRITE setCalculatorActive NOTIFY calculatorActiveChanged)
+    /// Makes `values` the identity line.
     Q_PROPERTY(bool gateBypassed READ gateBypassed WRITE setGateBypassed NOTIFY gateBypassedChanged)
+    /// Level in dB below which the gate closes.
     Q_PROPERTY(double threshold READ threshold WRITE setThreshold NOTIFY thresholdChanged)
+    /// `thresholdMin` and `thresholdMax`: lower and upper end of the plotted range in dB, on both axes.
     Q_PROPERTY(double thresholdMin READ thresholdMin WRITE setThresholdMin NOTIFY thresholdMinChanged)
     Q_PROPERTY(double thresholdMax READ thresholdMax WRITE setThresholdMax NOTIFY thresholdMaxChanged)
+    /// Attenuation in dB below the threshold, counted positive.
     Q_PROPERTY(double depth READ depth WRITE setDepth NOTIFY depthChanged)
+    /// `depthMin` and `depthMax`: bounds of `depth` in dB. A depth outside of them has no curve.
     Q_PROPERTY(double depthMin READ depthMin WRITE setDepthMin NOTIFY depthMinChanged)
     Q_PROPERTY(double depthMax READ depthMax WRITE setDepthMax NOTIFY depthMaxChanged)
+    /// Corner points of the curve, normalised; empty while inactive or with a parameter outside its bounds.
     Q_PROPERTY(QVariantList values READ values NOTIFY valuesChanged)
 
 public:

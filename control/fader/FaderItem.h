@@ -22,27 +22,42 @@ namespace tamble::client {
 /// `from`.
 class TAMBLE_CLIENT_CONTROL_EXPORT FaderItem : public QQuickSlider
 {
+    /// Level in dB that a double click and the resetting keys lead to; undefined, or outside the range, for no reset.
     Q_OBJECT
     QML_ANONYMOUS
     Q_PROPERTY(QVariant defaultValue MEMBER m_defaultValue NOTIFY defaultValueChanged FINAL)
+    /// Steps in dB: `fineStepSize` with Shift, `pageStepSize` with Ctrl and of PageUp and PageDown.
     Q_PROPERTY(qreal fineStepSize MEMBER m_fineStepSize NOTIFY fineStepSizeChanged FINAL)
     Q_PROPERTY(qreal pageStepSize MEMBER m_pageStepSize NOTIFY pageStepSizeChanged FINAL)
+    /// Exponential law, with more travel for high levels, instead of a linear one. `jtSpread` wins over it.
     Q_PROPERTY(bool exponential MEMBER m_exponential NOTIFY exponentialChanged FINAL)
+    /// The piecewise linear law of TransferFunctions.
     Q_PROPERTY(bool jtSpread MEMBER m_jtSpread NOTIFY jtSpreadChanged FINAL)
+    /// Levels in dB that have a short tick and a number; empty for automatic ones.
     Q_PROPERTY(QList<qreal> ticks MEMBER m_ticks NOTIFY ticksChanged FINAL)
+    /// Levels in dB that have a long tick in a colour of its own.
     Q_PROPERTY(QList<qreal> extraTicks MEMBER m_extraTicks NOTIFY extraTicksChanged FINAL)
     Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly NOTIFY readOnlyChanged FINAL)
+    /// False while several devices differ ("mixed").
     Q_PROPERTY(bool consistent MEMBER m_consistent NOTIFY consistentChanged FINAL)
+    /// False while a device has not acknowledged the value.
     Q_PROPERTY(bool confirmed MEMBER m_confirmed NOTIFY confirmedChanged FINAL)
     Q_PROPERTY(
         tamble::client::RValueConverter *converter READ converter WRITE setConverter NOTIFY converterChanged FINAL)
+    /// Name for assistive tools, such as the channel's.
     Q_PROPERTY(QString label MEMBER m_label NOTIFY labelChanged FINAL)
     Q_PROPERTY(qreal travelPosition READ travelPosition NOTIFY travelPositionChanged FINAL)
+    /// Bar inside the track, in dB: it goes from `trackIndicatorFrom` to `trackIndicatorValue`, the level really in
+    /// force.
     Q_PROPERTY(qreal trackIndicatorValue MEMBER m_indicatorValue NOTIFY trackIndicatorValueChanged FINAL)
     Q_PROPERTY(qreal trackIndicatorFrom MEMBER m_indicatorFrom NOTIFY trackIndicatorFromChanged FINAL)
+    /// Ends of the bar inside the track as places on the travel, 0 to 1: `trackIndicatorBottom` is the lower one,
+    /// `trackIndicatorTop` the upper.
     Q_PROPERTY(qreal trackIndicatorBottom READ trackIndicatorBottom NOTIFY trackIndicatorMoved FINAL)
     Q_PROPERTY(qreal trackIndicatorTop READ trackIndicatorTop NOTIFY trackIndicatorMoved FINAL)
+    /// Distance in pixels between the ends of the fader and those of the handle's travel.
     Q_PROPERTY(qreal travelInset MEMBER m_travelInset NOTIFY travelInsetChanged FINAL)
+    /// Least distance in pixels between the middles of two numbers.
     Q_PROPERTY(qreal labelSpacing MEMBER m_labelSpacing NOTIFY labelSpacingChanged FINAL)
     Q_PROPERTY(QList<tamble::client::RFaderMark> marks READ marks NOTIFY marksChanged FINAL)
 

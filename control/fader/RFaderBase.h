@@ -18,9 +18,13 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RFaderBase : public tamble::client::SteppedFa
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RFaderBase)
+    /// Levels in dB at which a drag halts; Shift passes over them.
     Q_PROPERTY(QList<qreal> detents MEMBER m_detents NOTIFY detentsChanged FINAL)
+    /// Travel in pixels around a detent within which it holds the handle.
     Q_PROPERTY(qreal detentReach MEMBER m_detentReach NOTIFY detentReachChanged FINAL)
+    /// Whether a press beside the handle brings it to the pointer; else it takes hold of it where it is.
     Q_PROPERTY(bool jumpOnTrackPress MEMBER m_jumpOnTrackPress NOTIFY jumpOnTrackPressChanged FINAL)
+    /// Share of the pointer's way that a drag with Shift moves; not above 0 counts as 0.1.
     Q_PROPERTY(qreal fineFactor MEMBER m_fineFactor NOTIFY fineFactorChanged FINAL)
 
 public:

@@ -9,10 +9,13 @@ namespace tamble::client {
 /// A tick as a fader's page draws it.
 struct RFaderMark
 {
+    /// Place on the travel, 0 (bottom) to 1 (top).
     Q_GADGET
     QML_ANONYMOUS
     Q_PROPERTY(double position MEMBER position)
+    /// Its number; empty for none, or no room for one.
     Q_PROPERTY(QString label MEMBER label)
+    /// Whether the tick is a longer one in a colour of its own.
     Q_PROPERTY(bool extra MEMBER isExtra)
 
 public:

@@ -20,7 +20,9 @@ public:
 
     /// The points as a list of lists [level, position].
     Q_INVOKABLE QVariantList points(double minimum, double maximum) const;
+    /// Place of a level (dB) on the travel, 0 to 1; levels outside the range stand at its ends.
     Q_INVOKABLE double position(double level, double minimum, double maximum) const;
+    /// Level (dB) at a place of 0 to 1; places outside give the ends of the range.
     Q_INVOKABLE double level(double position, double minimum, double maximum) const;
 };
 

@@ -14,8 +14,10 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RTextFieldPinValidator : public QValidator
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RTextFieldPinValidator)
+    /// `minimumLength` and `maximumLength`: fewest and most digits.
     Q_PROPERTY(int minimumLength MEMBER m_minimumLength NOTIFY minimumLengthChanged)
     Q_PROPERTY(int maximumLength MEMBER m_maximumLength NOTIFY maximumLengthChanged)
+    /// Whether one repeated digit and runs by one are accepted.
     Q_PROPERTY(bool trivialAllowed MEMBER m_trivialAllowed NOTIFY trivialAllowedChanged)
 
 public:

@@ -24,9 +24,11 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RMeterBar : public QQuickItem, private Waitin
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RMeterBar)
+    /// The meter whose level is drawn; null for none. Not owned.
     Q_PROPERTY(tamble::client::RMeterBase *meter READ meter WRITE setMeter NOTIFY meterChanged FINAL)
     Q_PROPERTY(bool horizontal READ isHorizontal WRITE setHorizontal NOTIFY horizontalChanged FINAL)
     Q_PROPERTY(bool reverse READ isReverse WRITE setReverse NOTIFY reverseChanged FINAL)
+    /// Colours: `ground` of the unlit part, `green`, `yellow` and `red` of the lit zones.
     Q_PROPERTY(QColor ground READ ground WRITE setGround NOTIFY groundChanged FINAL)
     Q_PROPERTY(QColor green READ green WRITE setGreen NOTIFY greenChanged FINAL)
     Q_PROPERTY(QColor yellow READ yellow WRITE setYellow NOTIFY yellowChanged FINAL)

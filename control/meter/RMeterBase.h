@@ -22,19 +22,27 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RMeterBase : public QQuickItem
     Q_PROPERTY(double value READ getValue WRITE setValue NOTIFY valueChanged)
     Q_PROPERTY(double valueMin READ getValueMin WRITE setValueMin NOTIFY valueMinChanged)
     Q_PROPERTY(double valueMinYellow READ getValueMinYellow WRITE setValueMinYellow NOTIFY valueMinYellowChanged)
+    /// Level in dB from which on the bar, or the lower section, is red.
     Q_PROPERTY(double valueMinRed READ getValueMinRed WRITE setValueMinRed NOTIFY valueMinRedChanged)
     Q_PROPERTY(double valueMax READ getValueMax WRITE setValueMax NOTIFY valueMaxChanged)
     Q_PROPERTY(double valueMaxYellow READ getValueMaxYellow WRITE setValueMaxYellow NOTIFY valueMaxYellowChanged)
+    /// Level in dB from which on the upper section is red.
     Q_PROPERTY(double valueMaxRed READ getValueMaxRed WRITE setValueMaxRed NOTIFY valueMaxRedChanged)
     Q_PROPERTY(double valueSplit READ getValueSplit WRITE setValueSplit NOTIFY valueSplitChanged)
+    /// Level displayed, in dB, within `valueMin` and `valueMax`; it falls by `currentValueDecreasePerSecond`.
     Q_PROPERTY(double currentValue READ getCurrentValue NOTIFY currentValueChanged)
+    /// Lit fractions of the bar, or of the lower section, at most 1; 0 and less is dark: `currentValueFactor` up to the
+    /// yellow zone, `currentValueYellowFactor` up to the red one, `currentValueRedFactor` of the whole.
     Q_PROPERTY(double currentValueFactor READ getCurrentValueFactor NOTIFY currentValueFactorChanged)
     Q_PROPERTY(double currentValueYellowFactor READ getCurrentValueYellowFactor NOTIFY currentValueYellowFactorChanged)
     Q_PROPERTY(double currentValueRedFactor READ getCurrentValueRedFactor NOTIFY currentValueRedFactorChanged)
+    /// The same of the upper section: `currentValueFactorMax`, `currentValueYellowFactorMax` and
+    /// `currentValueRedFactorMax`.
     Q_PROPERTY(double currentValueFactorMax READ getCurrentValueFactorMax NOTIFY currentValueFactorMaxChanged)
     Q_PROPERTY(double currentValueYellowFactorMax READ getCurrentValueYellowFactorMax NOTIFY
                    currentValueYellowFactorMaxChanged)
     Q_PROPERTY(double currentValueRedFactorMax READ getCurrentValueRedFactorMax NOTIFY currentValueRedFactorMaxChanged)
+    /// Speed of the fall in dB per second.
     Q_PROPERTY(double currentValueDecreasePerSecond MEMBER m_currentValueDecreasePerSecond)
 
 public:

@@ -14,7 +14,9 @@ class TAMBLE_CLIENT_CONTROL_EXPORT GraphPlotter : public tamble::client::Plotter
     Q_OBJECT
     QML_NAMED_ELEMENT(RGraphPlotter)
     Q_PROPERTY(QVariantList values READ values WRITE setValues NOTIFY valuesChanged)
+    /// Colour of the line.
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+    /// Width of the line in pixels; one that is not positive draws nothing.
     Q_PROPERTY(qreal lineWidth READ lineWidth WRITE setLineWidth NOTIFY lineWidthChanged)
 
 public:

@@ -18,10 +18,14 @@ class TAMBLE_CLIENT_CONTROL_EXPORT LineCalculator : public QObject
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RLineCalculator)
+    /// `from` and `to`: ends of the axis, at the positions 0 and 1.
     Q_PROPERTY(double from MEMBER m_from NOTIFY fromChanged)
     Q_PROPERTY(double to MEMBER m_to NOTIFY toChanged)
+    /// 0 for a linear axis, the default; 1 for a logarithmic one.
     Q_PROPERTY(int scale MEMBER m_scale NOTIFY scaleChanged)
+    /// Values on the axis.
     Q_PROPERTY(QList<double> values MEMBER m_values NOTIFY valuesChanged)
+    /// Positions, 0 to 1, of the values that lie on the axis, in their order.
     Q_PROPERTY(QList<double> positions READ positions NOTIFY positionsChanged)
 
 public:

@@ -14,7 +14,9 @@ class TAMBLE_CLIENT_CONTROL_EXPORT LinePlotter : public tamble::client::Plotter
     QML_NAMED_ELEMENT(RLinePlotter)
     Q_PROPERTY(QList<qreal> values READ values WRITE setValues NOTIFY valuesChanged)
     Q_PROPERTY(ORIENTATION orientation READ orientation WRITE setOrientation NOTIFY orientationChanged)
+    /// Colour of the lines.
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+    /// Width of the lines in pixels; one that is not positive draws nothing.
     Q_PROPERTY(qreal lineWidth READ lineWidth WRITE setLineWidth NOTIFY lineWidthChanged)
 
 public:

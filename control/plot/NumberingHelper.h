@@ -23,13 +23,20 @@ class TAMBLE_CLIENT_CONTROL_EXPORT NumberingHelper : public QObject, public QQml
     Q_OBJECT
     Q_INTERFACES(QQmlParserStatus)
     QML_NAMED_ELEMENT(RNumberingHelper)
+    /// `from` and `to`: ends of the axis, at the positions 0 and 1.
     Q_PROPERTY(double from MEMBER m_from NOTIFY fromChanged)
     Q_PROPERTY(double to MEMBER m_to NOTIFY toChanged)
+    /// Distance of the numbers on a linear axis, above 0.
     Q_PROPERTY(double step MEMBER m_step NOTIFY stepChanged)
+    /// 0 for a linear axis, the default; 1 for a logarithmic one.
     Q_PROPERTY(int scale MEMBER m_scale NOTIFY scaleChanged)
+    /// Digits after the point; -1 for as many as the step has.
     Q_PROPERTY(int decimals MEMBER m_decimals NOTIFY decimalsChanged)
+    /// Appended to the text of the last label.
     Q_PROPERTY(QString unit MEMBER m_unit NOTIFY unitChanged)
+    /// Most labels that are given; 0 for any number.
     Q_PROPERTY(int maximumCount MEMBER m_maximumCount NOTIFY maximumCountChanged)
+    /// Objects { value, text, position } with positions of 0 to 1, lowest value first.
     Q_PROPERTY(QVariantList labels READ labels NOTIFY labelsChanged)
 
 public:

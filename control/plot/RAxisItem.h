@@ -10,9 +10,11 @@ namespace tamble::client {
 /// One tick of a value axis: its place and its text.
 class TAMBLE_CLIENT_CONTROL_EXPORT RAxisItem : public QObject
 {
+    /// Distance of the tick from the top of the axis, in pixels.
     Q_OBJECT
     QML_ANONYMOUS
     Q_PROPERTY(double y MEMBER m_y NOTIFY yChanged)
+    /// The tick's value as text.
     Q_PROPERTY(QString label MEMBER m_label NOTIFY labelChanged)
 
 public:

@@ -21,11 +21,16 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RConstantGridLineCalculator : public QObject,
     Q_OBJECT
     Q_INTERFACES(QQmlParserStatus)
     QML_NAMED_ELEMENT(RConstantGridLineCalculator)
+    /// `from` and `to`: ends of the axis, at the positions 0 and 1.
     Q_PROPERTY(double from MEMBER m_from NOTIFY fromChanged)
     Q_PROPERTY(double to MEMBER m_to NOTIFY toChanged)
+    /// Distance of the lines on a linear axis, above 0.
     Q_PROPERTY(double step MEMBER m_step NOTIFY stepChanged)
+    /// Value that the steps are counted from.
     Q_PROPERTY(double origin MEMBER m_origin NOTIFY originChanged)
+    /// 0 for a linear axis, the default; 1 for a logarithmic one.
     Q_PROPERTY(int scale MEMBER m_scale NOTIFY scaleChanged)
+    /// Adds lines at `from` and `to`.
     Q_PROPERTY(bool includeEnds MEMBER m_includeEnds NOTIFY includeEndsChanged)
     Q_PROPERTY(QList<double> values READ values NOTIFY valuesChanged)
     Q_PROPERTY(QList<double> positions READ positions NOTIFY positionsChanged)

@@ -15,12 +15,16 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RGridLayout : public QObject
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RGridLayout)
+    /// Places of the lines, 0 to 1: `positions` of the finer ones, `majorPositions` of the major ones over them.
     Q_PROPERTY(QList<double> positions MEMBER m_positions NOTIFY positionsChanged)
     Q_PROPERTY(QList<double> majorPositions MEMBER m_majorPositions NOTIFY majorPositionsChanged)
+    /// Colours: `color` of the finer lines, `majorColor` of the major ones.
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY colorChanged)
     Q_PROPERTY(QColor majorColor MEMBER m_majorColor NOTIFY majorColorChanged)
+    /// Widths in pixels: `lineWidth` of the finer lines, `majorLineWidth` of the major ones.
     Q_PROPERTY(double lineWidth MEMBER m_lineWidth NOTIFY lineWidthChanged)
     Q_PROPERTY(double majorLineWidth MEMBER m_majorLineWidth NOTIFY majorLineWidthChanged)
+    /// False draws none of the lines.
     Q_PROPERTY(bool visible MEMBER m_visible NOTIFY visibleChanged)
 
 public:

@@ -22,6 +22,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RMouseEventSpy : public QObject
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RMouseEventSpy)
+    /// Last place of the pointer, on the desktop.
     QML_SINGLETON
     Q_PROPERTY(QPointF position READ position NOTIFY positionChanged)
     Q_PROPERTY(bool anyPressed READ anyPressed NOTIFY anyPressedChanged)
@@ -63,12 +64,15 @@ Q_SIGNALS:
     void idleLimitChanged();
     /// Every mouse event of every window, for native use.
     void mouseEvent(QMouseEvent *event);
+    /// A mouse button (`Qt::MouseButton`) went down at a place on the desktop; a touch counts as the left one.
     void mousePressed(const QPointF &position, int button);
+    /// A mouse button went up at a place on the desktop; a touch counts as the left one.
     void mouseReleased(const QPointF &position, int button);
     /// At most every 50 ms; the place where the pointer came to rest is always reported.
     void mouseMoved(const QPointF &position);
     /// Any input, keys too; at most every 250 ms.
     void activity();
+    /// Nothing was done for this many ms, which `idleLimit` allows.
     void idle(int ms);
 
 protected:

@@ -9,6 +9,8 @@
 
 namespace tamble::client {
 
+/// Declared only: nothing follows from its properties yet, and no signal is sent but those of set properties.
+///
 /// Question from code, for pages without a dialog of their own.
 ///
 /// `standardButtons` and `defaultButton` take the button flags of a QML dialog. An answer to a box with a `dontAskKey`
@@ -17,16 +19,27 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RMessageBox : public QObject
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RMessageBox)
+    /// Title of the box.
     Q_PROPERTY(QString title MEMBER m_title NOTIFY titleChanged)
+    /// The question or message.
     Q_PROPERTY(QString text MEMBER m_text NOTIFY textChanged)
+    /// Smaller text below it.
     Q_PROPERTY(QString informativeText MEMBER m_informativeText NOTIFY informativeTextChanged)
+    /// Text that is shown on demand only.
     Q_PROPERTY(QString detailedText MEMBER m_detailedText NOTIFY detailedTextChanged)
+    /// Kind of the message, which chooses the icon.
     Q_PROPERTY(Icon icon MEMBER m_icon NOTIFY iconChanged)
+    /// Flags of the buttons, as of a QML dialog; Ok by default.
     Q_PROPERTY(int standardButtons MEMBER m_standardButtons NOTIFY standardButtonsChanged)
+    /// Flag of the button that Enter presses; 0 leaves the choice to the box.
     Q_PROPERTY(int defaultButton MEMBER m_defaultButton NOTIFY defaultButtonChanged)
+    /// Window that the box is shown in; null for the active application window.
     Q_PROPERTY(QQuickWindow *window MEMBER m_window NOTIFY windowChanged)
+    /// Name under which an answer is kept for the process; empty for none.
     Q_PROPERTY(QString dontAskKey MEMBER m_dontAskKey NOTIFY dontAskKeyChanged)
+    /// Text of the check box that keeps the answer.
     Q_PROPERTY(QString dontAskText MEMBER m_dontAskText NOTIFY dontAskTextChanged)
+    /// Whether the box is shown; false at present.
     Q_PROPERTY(bool opened READ opened NOTIFY openedChanged)
 
 public:
@@ -55,9 +68,13 @@ Q_SIGNALS:
     void dontAskKeyChanged();
     void dontAskTextChanged();
     void openedChanged();
+    /// A button of the accepting kind was pressed.
     void accepted();
+    /// A button of the rejecting kind was pressed, or the box was dismissed.
     void rejected();
+    /// The button with this flag was pressed.
     void buttonClicked(int button);
+    /// The box is gone.
     void closed();
 
 private:

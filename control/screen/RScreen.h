@@ -19,13 +19,21 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RScreen : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RScreenTemplate)
+    /// Logical density of the screen in dots per inch.
     Q_PROPERTY(qreal logicalDpi READ logicalDpi NOTIFY logicalDpiChanged)
+    /// Physical density of the screen in dots per inch.
     Q_PROPERTY(qreal physicalDpi READ physicalDpi NOTIFY physicalDpiChanged)
+    /// Physical pixels per device-independent one.
     Q_PROPERTY(qreal devicePixelRatio READ devicePixelRatio NOTIFY devicePixelRatioChanged)
+    /// Size of the screen in device-independent pixels.
     Q_PROPERTY(QSizeF screenSize READ screenSize NOTIFY screenSizeChanged)
+    /// How the screen is turned.
     Q_PROPERTY(Qt::ScreenOrientation orientation READ orientation NOTIFY orientationChanged)
+    /// Factor that gives a design for `designDpi` its size on this screen: in steps of 0.05, 0.5 to 3.
     Q_PROPERTY(qreal autoZoomFactor READ autoZoomFactor NOTIFY autoZoomFactorChanged)
+    /// Density in dots per inch that the page was designed for.
     Q_PROPERTY(qreal designDpi READ designDpi WRITE setDesignDpi NOTIFY designDpiChanged)
+    /// Whether the component applies `autoZoomFactor`.
     Q_PROPERTY(bool autoZoom MEMBER m_autoZoom NOTIFY autoZoomChanged)
 
 public:

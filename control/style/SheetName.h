@@ -18,7 +18,9 @@ class TAMBLE_CLIENT_CONTROL_EXPORT SheetName : public QObject
     QML_NAMED_ELEMENT(RSheetName)
     Q_PROPERTY(QString directory READ directory WRITE setDirectory NOTIFY partsChanged)
     Q_PROPERTY(QString key READ key WRITE setKey NOTIFY partsChanged)
+    /// Theme word between key and ending.
     Q_PROPERTY(QString themeWord READ themeWord WRITE setThemeWord NOTIFY partsChanged)
+    /// What key and theme word are until they are set: `defaultKey` and `defaultThemeWord`.
     Q_PROPERTY(QString defaultKey READ defaultKey WRITE setDefaultKey NOTIFY partsChanged)
     Q_PROPERTY(QString defaultThemeWord READ defaultThemeWord WRITE setDefaultThemeWord NOTIFY partsChanged)
     Q_PROPERTY(bool optional READ isOptional WRITE setOptional NOTIFY partsChanged)

@@ -15,6 +15,8 @@ class StyleSet;
 /// When a state changes, the style set has changed before the state's own notification is sent.
 class TAMBLE_CLIENT_CONTROL_EXPORT StateHelper : public QObject
 {
+    /// Each sets the word of its name in the state text: `hovered`, `selected`, `disabled`, `readOnly`, `inconsistent`,
+    /// `focus`, `pressed`, `active`.
     Q_OBJECT
     QML_ANONYMOUS
     Q_PROPERTY(bool hovered READ hovered WRITE setHovered NOTIFY hoveredChanged)

@@ -21,11 +21,15 @@ class TAMBLE_CLIENT_CONTROL_EXPORT StyleEngineSetup : public QObject, public QQm
     Q_INTERFACES(QQmlParserStatus)
     QML_NAMED_ELEMENT(RStyleEngine)
     Q_PROPERTY(QUrl stylePath READ stylePath WRITE setStylePath NOTIFY stylePathChanged)
+    /// File names in `stylePath`: `styleName` of the user sheet, `defaultStyleName` of the default sheet.
     Q_PROPERTY(QString styleName READ styleName WRITE setStyleName NOTIFY styleNameChanged)
     Q_PROPERTY(QString defaultStyleName READ defaultStyleName WRITE setDefaultStyleName NOTIFY defaultStyleNameChanged)
     Q_PROPERTY(QStringList fileExtensions READ fileExtensions WRITE setFileExtensions NOTIFY fileExtensionsChanged)
+    /// Names of the files in `stylePath` that match `fileExtensions`, sorted.
     Q_PROPERTY(QStringList availableStyles READ availableStyles NOTIFY availableStylesChanged)
     Q_PROPERTY(QUrl styleSheetSource READ styleSheetSource WRITE setStyleSheetSource NOTIFY styleSheetSourceChanged)
+    /// The default sheet, under the user sheet: a file, a resource ("qrc:/…") or relative to the QML file; empty for
+    /// none.
     Q_PROPERTY(QUrl defaultStyleSheetSource READ defaultStyleSheetSource WRITE setDefaultStyleSheetSource NOTIFY
                    defaultStyleSheetSourceChanged)
 

@@ -33,9 +33,11 @@ class TAMBLE_CLIENT_CONTROL_EXPORT StyleSet : public QObject, private PropsUser
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
     Q_PROPERTY(QString typeName READ typeName WRITE setTypeName NOTIFY typeNameChanged)
     Q_PROPERTY(QVariantList path READ path NOTIFY pathChanged)
+    /// The values that the sheets give to the item; it tells a change when sheets, path or state change.
     Q_PROPERTY(tamble::client::StyleSetProps *props READ props NOTIFY propsChanged)
     Q_PROPERTY(QString styleInfo READ styleInfo)
     Q_PROPERTY(QString state READ state WRITE setState NOTIFY stateChanged)
+    /// The item's interaction states, which become its state words.
     Q_PROPERTY(tamble::client::StateHelper *stateHelper READ stateHelper CONSTANT)
 
 public:

@@ -102,11 +102,13 @@ public:
 
     /// Whether any key has a value.
     Q_INVOKABLE bool isValid() const;
+    /// Whether a rule sets the key.
     Q_INVOKABLE bool isSet(const QString &key) const;
     /// The value: a text, or what its function gives; a list when there are several; invalid when there is none.
     Q_INVOKABLE QVariant get(const QString &key);
     /// All values of the key, as get() gives them one by one; an empty list when there is none.
     Q_INVOKABLE QVariant values(const QString &key);
+    /// The key's value as `color`, `boolean`, `number`, `font`, `string` or `url`.
     Q_INVOKABLE QColor color(const QString &key);
     Q_INVOKABLE bool boolean(const QString &key);
     Q_INVOKABLE double number(const QString &key);

@@ -10,16 +10,24 @@
 
 namespace tamble::client {
 
+/// Declared only: nothing follows from its properties yet, and no signal is sent but those of set properties.
+///
 /// Selected items of one or more workspaces. `boundingRect` is in plane units.
 class TAMBLE_CLIENT_CONTROL_EXPORT RWorkspaceSelection : public QObject
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RWorkspaceSelection)
+    /// The selected items.
     Q_PROPERTY(QList<QObject *> items READ items NOTIFY itemsChanged)
+    /// Their ids as texts without braces.
     Q_PROPERTY(QStringList ids READ ids NOTIFY idsChanged)
+    /// How many items are selected.
     Q_PROPERTY(int count READ count NOTIFY countChanged)
+    /// Whether none is.
     Q_PROPERTY(bool empty READ empty NOTIFY emptyChanged)
+    /// The item that keys act on; null for none.
     Q_PROPERTY(QObject *current READ current NOTIFY currentChanged)
+    /// Rectangle around the selected items, in plane units.
     Q_PROPERTY(QRectF boundingRect READ boundingRect NOTIFY boundingRectChanged)
 
 public:
@@ -49,7 +57,9 @@ Q_SIGNALS:
     void boundingRectChanged();
     /// Once per operation, after the `selected` flags of all items.
     void selectionChanged();
+    /// An item was added to the selection.
     void itemSelected(QObject *item);
+    /// An item left the selection.
     void itemDeselected(QObject *item);
 
 private:

@@ -10,18 +10,28 @@
 
 namespace tamble::client {
 
+/// Declared only: nothing follows from its properties yet, and no signal is sent but those of set properties.
+///
 /// Document page around a workspace. `pointerPosition` is in plane units of the workspace, without one in own pixels.
 class TAMBLE_CLIENT_CONTROL_EXPORT WorksheetBase : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RWorksheetBase)
+    /// Identity of the page; a new random one by default.
     Q_PROPERTY(QUuid sheetId MEMBER m_sheetId NOTIFY sheetIdChanged)
+    /// Title of the page.
     Q_PROPERTY(QString title MEMBER m_title NOTIFY titleChanged)
+    /// Whether there are changes that are not stored.
     Q_PROPERTY(bool modified MEMBER m_modified NOTIFY modifiedChanged)
+    /// Whether the page can be looked at only.
     Q_PROPERTY(bool readOnly MEMBER m_readOnly NOTIFY readOnlyChanged)
+    /// Whether the page is the one in front.
     Q_PROPERTY(bool active MEMBER m_active NOTIFY activeChanged)
+    /// The workspace in the page; null for none.
     Q_PROPERTY(tamble::client::WorkspaceBase *workspace READ workspace NOTIFY workspaceChanged)
+    /// Whether the pointer is over the page.
     Q_PROPERTY(bool pointerInside READ pointerInside NOTIFY pointerInsideChanged)
+    /// Place of the pointer, in plane units or, without a workspace, in pixels.
     Q_PROPERTY(QPointF pointerPosition READ pointerPosition NOTIFY pointerPositionChanged)
 
 public:
@@ -40,6 +50,7 @@ Q_SIGNALS:
     void workspaceChanged();
     void pointerInsideChanged();
     void pointerPositionChanged();
+    /// The user has entered a title.
     void titleEdited(const QString &title);
 
 private:

@@ -12,21 +12,34 @@
 
 namespace tamble::client {
 
+/// Declared only: nothing follows from its properties yet, and no signal is sent but those of set properties.
+///
 /// Item on the plane of a workspace. `position` and `size` are in plane units.
 class TAMBLE_CLIENT_CONTROL_EXPORT WorkspaceItemBase : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RWorkspaceItemBase)
+    /// Identity of the item; a new random one by default.
     Q_PROPERTY(QUuid itemId MEMBER m_itemId NOTIFY itemIdChanged)
+    /// Top left corner, in plane units.
     Q_PROPERTY(QPointF position MEMBER m_position NOTIFY positionChanged)
+    /// Width and height, in plane units.
     Q_PROPERTY(QSizeF size MEMBER m_size NOTIFY sizeChanged)
+    /// Whether the item is in its workspace's selection.
     Q_PROPERTY(bool selected READ selected NOTIFY selectedChanged)
+    /// Whether the user can select it.
     Q_PROPERTY(bool selectable MEMBER m_selectable NOTIFY selectableChanged)
+    /// Whether the user can move it.
     Q_PROPERTY(bool movable MEMBER m_movable NOTIFY movableChanged)
+    /// Whether the user can change its size.
     Q_PROPERTY(bool resizable MEMBER m_resizable NOTIFY resizableChanged)
+    /// Whether it can be neither moved nor resized nor deleted at present.
     Q_PROPERTY(bool locked MEMBER m_locked NOTIFY lockedChanged)
+    /// Whether it is being moved.
     Q_PROPERTY(bool moving READ moving NOTIFY movingChanged)
+    /// The workspace that the item is on; null for none.
     Q_PROPERTY(tamble::client::WorkspaceBase *workspace READ workspace NOTIFY workspaceChanged)
+    /// Smallest size, in plane units.
     Q_PROPERTY(QSizeF minimumSize MEMBER m_minimumSize NOTIFY minimumSizeChanged)
 
 public:
@@ -48,9 +61,13 @@ Q_SIGNALS:
     void movingChanged();
     void workspaceChanged();
     void minimumSizeChanged();
+    /// The item was clicked.
     void clicked();
+    /// The item was double-clicked.
     void doubleClicked();
+    /// The user has moved the item; both places in plane units.
     void moved(const QPointF &from, const QPointF &to);
+    /// The user has changed its geometry; both rectangles in plane units.
     void resized(const QRectF &from, const QRectF &to);
 
 private:

@@ -10,16 +10,27 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotAsymmetricEqFilter : public tamble::
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RBodeplotAsymmetricEqFilter)
+    /// Takes the band out of the sum; its handle is drawn hollow.
     Q_PROPERTY(bool bypass MEMBER m_bypass NOTIFY bypassChanged)
+    /// Stays `RBodeplotEqTypeEnum.ASYMMETRIC`; other values do not change the response.
     Q_PROPERTY(int type MEMBER m_type NOTIFY typeChanged)
+    /// Frequency of one flank in Hz.
     Q_PROPERTY(qreal freq MEMBER m_freq NOTIFY freqChanged)
+    /// Gain in dB between the two flanks.
     Q_PROPERTY(qreal gain MEMBER m_gain NOTIFY gainChanged)
+    /// Q of the flank at `freq`.
     Q_PROPERTY(qreal quality MEMBER m_quality NOTIFY qualityChanged)
+    /// For exchange with devices; the response does not depend on it.
     Q_PROPERTY(int slope MEMBER m_slope NOTIFY slopeChanged)
+    /// Whether the handle is the selected one.
     Q_PROPERTY(bool selected MEMBER m_selected NOTIFY selectedChanged)
+    /// Up to three letters on the handle.
     Q_PROPERTY(QString label MEMBER m_label NOTIFY labelChanged)
+    /// Marks the handle as one whose device reports an error.
     Q_PROPERTY(bool errorFlag MEMBER m_errorFlag NOTIFY errorFlagChanged)
+    /// Frequency of the other flank in Hz; the two come in either order.
     Q_PROPERTY(qreal freq2 MEMBER m_freq2 NOTIFY freq2Changed)
+    /// Q of the flank at `freq2`.
     Q_PROPERTY(qreal quality2 MEMBER m_quality2 NOTIFY quality2Changed)
 
 public:
@@ -32,6 +43,7 @@ Q_SIGNALS:
     void gainChanged(qreal value);
     void qualityChanged(qreal value);
     void slopeChanged(int value);
+    /// Follows a change of the item's `visible`, which tells whether handle and individual curve are drawn.
     void visibleChanged(bool value);
     void selectedChanged(bool value);
     void labelChanged(const QString &value);

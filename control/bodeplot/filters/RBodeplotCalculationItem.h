@@ -16,6 +16,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotCalculationItem : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RBodeplotCalculationItem)
+    /// Filter record of native code; null for none. Not owned.
     Q_PROPERTY(tamble::common::CalculationItem *item MEMBER m_item NOTIFY itemChanged)
 
 public:

@@ -14,14 +14,23 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotEqFilter : public tamble::client::RB
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RBodeplotEqFilter)
+    /// Takes the band out of the sum; its handle is drawn hollow.
     Q_PROPERTY(bool bypass MEMBER m_bypass NOTIFY bypassChanged)
+    /// Shape of the band, an `RBodeplotEqTypeEnum` value.
     Q_PROPERTY(int type MEMBER m_type NOTIFY typeChanged)
+    /// Centre or corner frequency in Hz.
     Q_PROPERTY(qreal freq MEMBER m_freq NOTIFY freqChanged)
+    /// Gain in dB; high pass, low pass, all pass, band pass and notch have none.
     Q_PROPERTY(qreal gain MEMBER m_gain NOTIFY gainChanged)
+    /// Q of the band, for the shapes that have one.
     Q_PROPERTY(qreal quality MEMBER m_quality NOTIFY qualityChanged)
+    /// Slope of shelves and passes, an `RBodeplotSlopeTypeEnum` value.
     Q_PROPERTY(int slope MEMBER m_slope NOTIFY slopeChanged)
+    /// Whether the handle is the selected one.
     Q_PROPERTY(bool selected MEMBER m_selected NOTIFY selectedChanged)
+    /// Up to three letters on the handle.
     Q_PROPERTY(QString label MEMBER m_label NOTIFY labelChanged)
+    /// Marks the handle as one whose device reports an error.
     Q_PROPERTY(bool errorFlag MEMBER m_errorFlag NOTIFY errorFlagChanged)
 
 public:
@@ -34,6 +43,7 @@ Q_SIGNALS:
     void gainChanged(qreal value);
     void qualityChanged(qreal value);
     void slopeChanged(int value);
+    /// Follows a change of the item's `visible`.
     void visibleChanged(bool value);
     void selectedChanged(bool value);
     void labelChanged(const QString &value);

@@ -16,16 +16,24 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplot : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RBodeplotTemplate)
+    /// `yMaximum` and `yMinimum`: levels in dB at the top and bottom edge.
     Q_PROPERTY(qreal yMaximum READ yMaximum WRITE setYMaximum NOTIFY yMaximumChanged)
     Q_PROPERTY(qreal yMinimum READ yMinimum WRITE setYMinimum NOTIFY yMinimumChanged)
+    /// `xMinimum` and `xMaximum`: frequencies in Hz at the left and right edge.
     Q_PROPERTY(qreal xMinimum READ xMinimum WRITE setXMinimum NOTIFY xMinimumChanged)
     Q_PROPERTY(qreal xMaximum READ xMaximum WRITE setXMaximum NOTIFY xMaximumChanged)
+    /// Distance of grid lines and labels on linear axes: `xIncrement` in Hz, `yIncrement` in dB; 0 for none.
     Q_PROPERTY(qreal xIncrement MEMBER m_xIncrement NOTIFY xIncrementChanged)
     Q_PROPERTY(qreal yIncrement MEMBER m_yIncrement NOTIFY yIncrementChanged)
+    /// Width in pixels of the area that pans refer to.
     Q_PROPERTY(qreal zoomAreaWidth MEMBER m_zoomAreaWidth NOTIFY zoomAreaWidthChanged)
+    /// Values that have a label and a line of full strength: `xAxisTickValues` in Hz, `yAxisTickValues` in dB; empty
+    /// for automatic ones.
     Q_PROPERTY(QVariantList xAxisTickValues MEMBER m_xAxisTickValues NOTIFY xAxisTickValuesChanged)
     Q_PROPERTY(QVariantList yAxisTickValues MEMBER m_yAxisTickValues NOTIFY yAxisTickValuesChanged)
+    /// False makes zoom steps and pans do nothing.
     Q_PROPERTY(bool enableZooming MEMBER m_enableZooming NOTIFY enableZoomingChanged)
+    /// `xAxisScale` and `yAxisScale`: scales of the axes, `RBodeplotAxisScaleEnum` values.
     Q_PROPERTY(int xAxisScale MEMBER m_xAxisScale NOTIFY xAxisScaleChanged)
     Q_PROPERTY(int yAxisScale MEMBER m_yAxisScale NOTIFY yAxisScaleChanged)
 

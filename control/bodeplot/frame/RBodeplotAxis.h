@@ -22,14 +22,22 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotAxis : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RBodeplotAxisTemplate)
+    /// Whether the axis runs to the right; else it runs upwards.
     Q_PROPERTY(bool horizontal MEMBER m_horizontal NOTIFY horizontalChanged)
+    /// `minimum` and `maximum`: values at the ends of the axis, in Hz or dB.
     Q_PROPERTY(qreal minimum MEMBER m_minimum NOTIFY minimumChanged)
     Q_PROPERTY(qreal maximum MEMBER m_maximum NOTIFY maximumChanged)
+    /// Distance of the labels on a linear axis, above 0.
     Q_PROPERTY(qreal delta MEMBER m_delta NOTIFY deltaChanged)
+    /// Scale of the axis, an `RBodeplotAxisScaleEnum` value.
     Q_PROPERTY(int scale MEMBER m_scale NOTIFY scaleChanged)
+    /// `xAxisTickValues` of a horizontal axis and `yAxisTickValues` of a vertical one: the values that are labelled;
+    /// empty for automatic ones.
     Q_PROPERTY(QVariantList xAxisTickValues MEMBER m_xAxisTickValues NOTIFY xAxisTickValuesChanged)
     Q_PROPERTY(QVariantList yAxisTickValues MEMBER m_yAxisTickValues NOTIFY yAxisTickValuesChanged)
+    /// Size of the labels in pixels.
     Q_PROPERTY(qreal fontSizeAxis MEMBER m_fontSizeAxis NOTIFY fontSizeAxisChanged)
+    /// Object with fontFamily and fontSize (pixels); null by default.
     Q_PROPERTY(QObject *style READ style WRITE setStyle NOTIFY styleChanged)
     Q_PROPERTY(QVariantList labels READ labels NOTIFY labelsChanged)
     Q_PROPERTY(QList<bool> readable READ readable NOTIFY labelsChanged)

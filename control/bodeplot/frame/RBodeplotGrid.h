@@ -26,17 +26,24 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotGrid : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RBodeplotGridTemplate)
+    /// Object with the colours and widths named above; null, the default, draws nothing.
     Q_PROPERTY(QObject *style READ style WRITE setStyle NOTIFY styleChanged)
+    /// `xMinimum` and `xMaximum`: frequencies in Hz at the left and right edge.
     Q_PROPERTY(qreal xMinimum MEMBER m_xMinimum NOTIFY xMinimumChanged)
     Q_PROPERTY(qreal xMaximum MEMBER m_xMaximum NOTIFY xMaximumChanged)
+    /// `yMinimum` and `yMaximum`: levels in dB at the bottom and top edge.
     Q_PROPERTY(qreal yMinimum MEMBER m_yMinimum NOTIFY yMinimumChanged)
     Q_PROPERTY(qreal yMaximum MEMBER m_yMaximum NOTIFY yMaximumChanged)
+    /// Distance of the lines on linear axes: `xIncrement` in Hz, `yIncrement` in dB; 0 or less for none.
     Q_PROPERTY(qreal xIncrement MEMBER m_xIncrement NOTIFY xIncrementChanged)
     Q_PROPERTY(qreal yIncrement MEMBER m_yIncrement NOTIFY yIncrementChanged)
+    /// `xAxisScale` and `yAxisScale`: scales of the axes, `RBodeplotAxisScaleEnum` values.
     Q_PROPERTY(int xAxisScale MEMBER m_xAxisScale NOTIFY xAxisScaleChanged)
     Q_PROPERTY(int yAxisScale MEMBER m_yAxisScale NOTIFY yAxisScaleChanged)
+    /// Values whose lines have full strength: `xAxisTickValues` in Hz, `yAxisTickValues` in dB; empty for all.
     Q_PROPERTY(QVariantList xAxisTickValues MEMBER m_xAxisTickValues NOTIFY xAxisTickValuesChanged)
     Q_PROPERTY(QVariantList yAxisTickValues MEMBER m_yAxisTickValues NOTIFY yAxisTickValuesChanged)
+    /// Draws the 0 dB line above the others in a colour of its own.
     Q_PROPERTY(bool dedicatedXAxisLine MEMBER m_dedicatedXAxisLine NOTIFY dedicatedXAxisLineChanged)
 
 public:

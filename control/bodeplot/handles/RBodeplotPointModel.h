@@ -16,19 +16,31 @@ namespace tamble::client {
 /// `hasQuality` tell whether its response depends on them at all, `dragsQuality` whether a gesture can change the Q.
 class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotPointModel : public QObject
 {
+    /// Place of the handle, normalised to the curve's size.
     Q_OBJECT
     QML_ANONYMOUS
     Q_PROPERTY(QPointF point MEMBER m_point NOTIFY pointChanged)
+    /// Position among the handles of the curve.
     Q_PROPERTY(int index MEMBER m_index NOTIFY indexChanged)
+    /// Q of the filter.
     Q_PROPERTY(qreal quality MEMBER m_quality NOTIFY qualityChanged)
+    /// The filter's label.
     Q_PROPERTY(QString label MEMBER m_label NOTIFY labelChanged)
+    /// Whether the filter's device reports an error.
     Q_PROPERTY(bool errorFlag MEMBER m_errorFlag NOTIFY errorFlagChanged)
+    /// Whether the handle is the selected one.
     Q_PROPERTY(bool selected MEMBER m_selected NOTIFY selectedChanged)
+    /// False while the filter is bypassed.
     Q_PROPERTY(bool visiblePoint MEMBER m_visiblePoint NOTIFY visiblePointChanged)
+    /// Frequency of the filter in Hz.
     Q_PROPERTY(qreal frequency READ frequency NOTIFY frequencyChanged)
+    /// Gain of the filter in dB.
     Q_PROPERTY(qreal gain READ gain NOTIFY gainChanged)
+    /// Whether the response depends on a gain.
     Q_PROPERTY(bool hasGain READ hasGain NOTIFY moveModeChanged)
+    /// Whether the response depends on a Q.
     Q_PROPERTY(bool hasQuality MEMBER m_hasQuality NOTIFY hasQualityChanged)
+    /// Whether a gesture can change the Q.
     Q_PROPERTY(bool dragsQuality MEMBER m_dragsQuality NOTIFY dragsQualityChanged)
 
 public:

@@ -15,7 +15,9 @@ class TAMBLE_CLIENT_CONTROL_EXPORT StylesDirWatcher : public QObject
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RStylesDirWatcher)
+    /// A local directory, or one relative to the QML file that uses it; one that does not exist lists nothing.
     Q_PROPERTY(QUrl stylePath READ stylePath WRITE setStylePath NOTIFY stylePathChanged)
+    /// Name filters of the files that are listed.
     Q_PROPERTY(QStringList fileExtensions READ fileExtensions WRITE setFileExtensions NOTIFY fileExtensionsChanged)
     Q_PROPERTY(QStringList availableStyles READ availableStyleSheetNames NOTIFY availableStylesChanged)
 
@@ -33,6 +35,7 @@ public:
     Q_INVOKABLE QStringList availableStyleSheetNames() const { return m_availableStyles; }
 
 public Q_SLOTS:
+    /// Lists the directory anew; the watcher calls it itself.
     void onDirectoryChanged(const QString &path);
 
 Q_SIGNALS:

@@ -16,6 +16,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT ThemeSelector : public QObject
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RThemeSelector)
+    /// Makes the theme object; a new one is installed as soon as the component is ready, one with errors is logged.
     Q_PROPERTY(QQmlComponent *themeComponent READ themeComponent WRITE setThemeComponent NOTIFY themeComponentChanged)
 
 public:

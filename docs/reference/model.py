@@ -1,0 +1,177 @@
+"""The types that pages can use, put together from the type description, the headers and the QML files."""
+
+import re
+from dataclasses import dataclass, field
+
+from cpp_values import qml_type, qml_value
+from headers import read_headers
+from qmlfiles import read_qml_files
+from qmltypes import read_components
+
+# Of Qt's own items, what aliases of the module's QML files lead to.
+QT_TYPES = {
+    "color": "color", "elide": "enumeration", "horizontalAlignment": "enumeration", "fontSizeMode": "enumeration",
+    "wrapMode": "enumeration", "fillMode": "enumeration", "minimumPixelSize": "int", "font.pixelSize": "int",
+    "source": "url", "width": "real", "height": "real", "data": "list<QtObject>",
+}
+
+
+@dataclass
+class Member:
+    name: str
+    kind: str  # property, signal, function
+    place: str
+    text: str = ""
+    type: str = ""
+    default: str = ""
+    flags: str = ""
+    parameters: str = ""
+    style_keys: list = field(default_factory=list)
+
+
+@dataclass
+class Type:
+    name: str
+    place: str
+    text: str
+    base: str
+    kind: str = "creatable"  # singleton, attached, uncreatable, value, base, helper: only reached through aliases
+    members: dict = field(default_factory=dict)
+    enums: dict = field(default_factory=dict)
+    bindings: dict = field(default_factory=dict)
+
+
+class Module:
+    def __init__(self, root, module_directory):
+        self.headers = read_headers(root, ["libs/tambleclient-common", "control"])
+        self.files = read_qml_files(root)
+        self.types = {}
+        self._key_of = self._keys_of_sheets()
+        components = read_components(module_directory / "plugins.qmltypes")
+        self._names = {component.get("name"): _exported_name(component) for component in components}
+        for component in components:
+            self._add_native(component)
+        for line in (module_directory / "qmldir").read_text(encoding="utf-8").splitlines():
+            if match := re.match(r"(singleton )?(\w+) [\d.]+ (\S+\.qml)$", line):
+                self._add_file(match[2], "singleton" if match[1] else "creatable")
+
+    def documented(self):
+        return [found for found in self.types.values() if found.kind != "helper"]
+
+    def bases(self, name):
+        """The module's own types that the one of this name is built on, nearest first."""
+        found = []
+        while (name := self.types[name].base) in self.types:
+            found.append(self.types[name])
+        return found
+
+    def member(self, type_name, name):
+        if type_name not in self.types:
+            return None
+        lineage = [self.types[type_name]] + self.bases(type_name)
+        return next((owner.members[name] for owner in lineage if name in owner.members), None)
+
+    def _keys_of_sheets(self):
+        getters = self.headers["StyleSetProps"].functions.values()
+        found = ((getter.name, re.search(r'Literal\("([\w-]+)"\)', getter.code)) for getter in getters)
+        return {name: match[1] for name, match in found if match}
+
+    def _add_native(self, component):
+        class_name = component.get("name").split("::")[-1]
+        name = self._names[component.get("name")]
+        header = self.headers.get(class_name) or self.headers.get(name)
+        if header is None:
+            return
+        kind = ("singleton" if component.get("isSingleton") else "attached" if component.get("attachedType")
+                else "value" if component.get("accessSemantics") == "value"
+                else "base" if not component.get("exports")
+                else "uncreatable" if component.get("isCreatable") == "false" else "creatable")
+        base = component.get("prototype", "")
+        found = Type(name, f"{header.path}:{header.line}", header.text, self._names.get(base, base.split("::")[-1]), kind)
+        found.enums = header.enums if component.all("Enum") else {}
+        self.types[name] = found
+        if not component.get("name").startswith("tamble::"):
+            return  # a class of Qt, which documents its members
+        silent = set()
+        for block in component.all("Property"):
+            member = self._native_property(block, header)
+            found.members[member.name] = member
+            silent |= {block.get("write"), block.get("notify"), block.get("name") + "Changed"}
+        for block in component.all("Signal") + component.all("Method"):
+            if block.get("name") not in silent and not block.get("isCloned"):
+                found.members.setdefault(block.get("name"), _native_callable(block, header))
+
+    def _native_property(self, block, header):
+        name = block.get("name")
+        declared = header.properties[name]
+        getter = header.functions.get(declared.code)
+        type_name = block.get("type")
+        member = Member(name, "property", f"{header.path}:{declared.line}")
+        member.text = declared.text or (getter.text if getter else "")
+        member.type = self._names.get(type_name) or qml_type(type_name, block.get("isList"))
+        if block.get("isReadonly"):
+            member.flags = "read-only"
+        else:
+            stored = re.search(r"return (m_\w+);", getter.code) if getter else None
+            variable = header.members.get(stored[1] if stored else declared.code)
+            variable = variable or header.members.get("m_" + name)
+            member.default = variable and qml_value(*variable) or ""
+        if name in self._key_of and header.name == "StyleSetProps":
+            member.text = member.text or f'Value of the key "{self._key_of[name]}".'
+        return member
+
+    def _add_file(self, name, kind):
+        file = self.files[name]
+        if file.base in self.files and file.base not in self.types:
+            self._add_file(file.base, "base")
+        found = Type(name, f"{file.path}:{file.line}", file.text, file.base, kind, bindings=file.bindings)
+        self.types[name] = found
+        for declared in file.properties:
+            found.members[declared.name] = self._qml_property(declared, file)
+        for declared in file.callables:
+            kind, _, rest = declared.code.partition(" ")
+            found.members[declared.name] = Member(
+                declared.name, kind, f"{file.path}:{declared.line}", declared.text, parameters=rest[len(declared.name):])
+
+    def _qml_property(self, declared, file):
+        member = Member(declared.name, "property", f"{file.path}:{declared.line}", declared.text, declared.type)
+        member.flags = "read-only" if "readonly" in declared.flags else declared.flags.strip()
+        if declared.type == "alias":
+            self._follow_alias(member, declared.code, file)
+        elif member.flags != "read-only":
+            member.default = declared.code
+        used = re.findall(r"\w+\.RStyleSet\.props\.(\w+)", declared.code)
+        member.style_keys = sorted({self._key_of[name] for name in used if name in self._key_of})
+        if member.style_keys and not member.text:
+            member.text = "Style key " + ", ".join(f"`{key}`" for key in member.style_keys) + "."
+        return member
+
+    def _follow_alias(self, member, target, file):
+        """An alias has type, default and, unless it has one of its own, sentence of what it stands for."""
+        identifier, _, name = target.partition(".")
+        owner = file.objects.get(identifier)
+        if owner is None:
+            return
+        if owner.type in self.files and owner.type not in self.types and owner.type != file.name:
+            self._add_file(owner.type, "helper")
+        meant = self.member(owner.type, name)
+        member.type = meant.type if meant else owner.type if not name else QT_TYPES.get(name, "var")
+        member.text = member.text or (meant.text if meant else "")
+        if member.flags != "read-only":
+            member.default = owner.bindings.get(name) or (meant.default if meant else "")
+
+
+def _exported_name(component):
+    exports = component.get("exports")
+    return exports[0].split("/")[1].split(" ")[0] if exports else component.get("name").split("::")[-1]
+
+
+def _native_callable(block, header):
+    name = block.get("name")
+    declared = header.functions.get(name)
+    parameters = ", ".join(
+        f"{p.get('name', '')}: {qml_type(p.get('type'), p.get('isList'))}" for p in block.all("Parameter"))
+    result = qml_type(block.get("type"), block.get("isList")) if block.get("type") else ""
+    place = f"{header.path}:{declared.line if declared else header.line}"
+    return Member(name, "signal" if block.name == "Signal" else "function", place, declared.text if declared else "",
+                  parameters=f"({parameters})" + (f": {result}" if result else ""))
