@@ -21,10 +21,12 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RMeterBase : public QQuickItem
     Q_PROPERTY(bool split READ getSplit WRITE setSplit NOTIFY splitChanged)
     Q_PROPERTY(double value READ getValue WRITE setValue NOTIFY valueChanged)
     Q_PROPERTY(double valueMin READ getValueMin WRITE setValueMin NOTIFY valueMinChanged)
+    /// Level in dB from which on the bar, or the lower section, is yellow.
     Q_PROPERTY(double valueMinYellow READ getValueMinYellow WRITE setValueMinYellow NOTIFY valueMinYellowChanged)
     /// Level in dB from which on the bar, or the lower section, is red.
     Q_PROPERTY(double valueMinRed READ getValueMinRed WRITE setValueMinRed NOTIFY valueMinRedChanged)
     Q_PROPERTY(double valueMax READ getValueMax WRITE setValueMax NOTIFY valueMaxChanged)
+    /// Level in dB from which on the upper section is yellow.
     Q_PROPERTY(double valueMaxYellow READ getValueMaxYellow WRITE setValueMaxYellow NOTIFY valueMaxYellowChanged)
     /// Level in dB from which on the upper section is red.
     Q_PROPERTY(double valueMaxRed READ getValueMaxRed WRITE setValueMaxRed NOTIFY valueMaxRedChanged)

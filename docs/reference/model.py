@@ -71,6 +71,11 @@ class Module:
         lineage = [self.types[type_name]] + self.bases(type_name)
         return next((owner.members[name] for owner in lineage if name in owner.members), None)
 
+    def keys_in(self, code):
+        """The keys of style sheets that an expression reads."""
+        used = re.findall(r"\w+\.RStyleSet\.props\.(\w+)", code)
+        return sorted({self._key_of[name] for name in used if name in self._key_of})
+
     def _keys_of_sheets(self):
         getters = self.headers["StyleSetProps"].functions.values()
         found = ((getter.name, re.search(r'Literal\("([\w-]+)"\)', getter.code)) for getter in getters)
@@ -140,8 +145,7 @@ class Module:
             self._follow_alias(member, declared.code, file)
         elif member.flags != "read-only":
             member.default = declared.code
-        used = re.findall(r"\w+\.RStyleSet\.props\.(\w+)", declared.code)
-        member.style_keys = sorted({self._key_of[name] for name in used if name in self._key_of})
+        member.style_keys = self.keys_in(declared.code)
         if member.style_keys and not member.text:
             member.text = "Style key " + ", ".join(f"`{key}`" for key in member.style_keys) + "."
         return member

@@ -25,24 +25,32 @@ Shared.RDynamicsPlot {
     property alias ratioMin: calculator.ratioMin
     property alias ratioMax: calculator.ratioMax
     readonly property alias values: calculator.values
+    /*! Where a double click on a handle leads, undefined for nowhere: `defaultLevelIn`, `defaultThreshold` and
+        `defaultKneeIn` in dB, `defaultRatio`. */
     property var defaultLevelIn: 0
     property var defaultThreshold: -20
     property var defaultKneeIn: 6
     property var defaultRatio: 3
     /*! Gain at present, in dB. */
     property real gain: 0
+    /*! Whether there is a meter of `gain`. */
     property bool gainMeterVisible: false
     /*! The meter reaches this far up and down. */
     property real gainRange: 20
 
+    /*! The target level as the plot shows it, in dB. */
     readonly property real targetLevel: root.thresholdOffset + root.levelIn
 
+    /*! The user changes the target level (`levelInEdited`) and has finished (`levelInCommitted`), in dB. */
     signal levelInEdited(real value)
     signal levelInCommitted(real value)
+    /*! The user changes the threshold (`thresholdEdited`) and has finished (`thresholdCommitted`), in dB. */
     signal thresholdEdited(real value)
     signal thresholdCommitted(real value)
+    /*! The user changes the knee (`kneeInEdited`) and has finished (`kneeInCommitted`), in dB. */
     signal kneeInEdited(real value)
     signal kneeInCommitted(real value)
+    /*! The user changes the ratio (`ratioEdited`) and has finished (`ratioCommitted`). */
     signal ratioEdited(real value)
     signal ratioCommitted(real value)
 

@@ -26,24 +26,33 @@ Shared.RDynamicsPlot {
     property alias ratioMin: calculator.ratioMin
     property alias ratioMax: calculator.ratioMax
     readonly property alias values: calculator.values
+    /*! Where a double click on a handle leads, undefined for nowhere: `defaultAmbientThreshold`, `defaultMinimumGain`
+        and `defaultMaximumGain` in dB, `defaultRatio`. */
     property var defaultAmbientThreshold: -20
     property var defaultMinimumGain: -10
     property var defaultMaximumGain: 10
     property var defaultRatio: 1
     /*! Ambient level at present. */
     property real ambientLevel: -80
+    /*! Whether there is a meter of `ambientLevel`. */
     property bool ambientMeterVisible: false
 
     /*! Ambient level at which the rise begins, and at which it reaches the maximum gain. */
     readonly property real foot: root.ambientThresholdOffset + root.ambientThreshold
+    /*! Ambient level in dB, as the plot shows it, at which the rise reaches the maximum gain. */
     readonly property real head: root.foot + (root.maximumGain - root.minimumGain) / root.ratio
 
+    /*! The user changes the ambient threshold (`ambientThresholdEdited`) and has finished
+        (`ambientThresholdCommitted`), in dB. */
     signal ambientThresholdEdited(real value)
     signal ambientThresholdCommitted(real value)
+    /*! The user changes the minimum gain (`minimumGainEdited`) and has finished (`minimumGainCommitted`), in dB. */
     signal minimumGainEdited(real value)
     signal minimumGainCommitted(real value)
+    /*! The user changes the maximum gain (`maximumGainEdited`) and has finished (`maximumGainCommitted`), in dB. */
     signal maximumGainEdited(real value)
     signal maximumGainCommitted(real value)
+    /*! The user changes the ratio (`ratioEdited`) and has finished (`ratioCommitted`). */
     signal ratioEdited(real value)
     signal ratioCommitted(real value)
 

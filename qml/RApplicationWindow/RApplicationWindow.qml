@@ -6,10 +6,13 @@ import TambleClient.Control 1.0
 T.ApplicationWindow {
     id: root
 
+    /*! Name of the module's sheet, directory + key + "." + theme + ".style": `tambleStyleSheetDirectory`, "qrc:/style/"
+        until set, `tambleStyleSheetKey`, "tamble", and `tambleStyleSheetTheme`, the theme's `stylesheet`. */
     property alias tambleStyleSheetDirectory: tambleSheet.directory
     property alias tambleStyleSheetKey: tambleSheet.key
     property alias tambleStyleSheetTheme: tambleSheet.themeWord
-    /*! The application's own sheet. As long as none of the three is set, there need not be one. */
+    /*! Likewise of the application's own sheet, `appStyleSheetDirectory`, `appStyleSheetKey`, "app" until set and empty
+        for no sheet, and `appStyleSheetTheme`. As long as none of the three is set, there need not be one. */
     property alias appStyleSheetDirectory: appSheet.directory
     /*! Empty for no sheet. */
     property alias appStyleSheetKey: appSheet.key
@@ -17,8 +20,10 @@ T.ApplicationWindow {
 
     /*! Makes the object that is installed as `theme`. */
     property alias themeComponent: selector.themeComponent
+    /*! The window's style engine (`styleEngine`) and what reports missing keys (`styleChecker`). */
     property alias styleEngine: setup.engine
     property alias styleChecker: setup.checker
+    /*! Whether keys that controls ask for in vain are reported. */
     property bool reportMissingKeys: true
 
     /*! Whether Ctrl with Plus, Minus and 0 changes the size of everything. */
@@ -28,11 +33,16 @@ T.ApplicationWindow {
     /*! Covers the window with a veil that takes mouse, touch and keys. */
     property bool busy: false
 
+    /*! The sheets in force: `tambleStyleSheet` of the module and `appStyleSheet` of the application, empty for
+        none. */
     readonly property url tambleStyleSheet: tambleSheet.source
     readonly property url appStyleSheet: appSheet.source
+    /*! Whether the window has been made. */
     property bool complete: false
 
+    /*! The style engine reports a problem: its kind and a text for the user. */
     signal styleException(string type, string message)
+    /*! The user closes the window. */
     signal closeRequested()
 
     /*! Shows the theme `word`: "light", "dark", "contrast-light" or "contrast-dark". */
@@ -41,6 +51,7 @@ T.ApplicationWindow {
         root.loadSheets()
     }
 
+    /*! Loads the sheets that are named at present. */
     function loadSheets() {
         if (appSheet.named)
             setup.engine.setStyleSheetSources(root.tambleStyleSheet, root.appStyleSheet)

@@ -5,6 +5,7 @@ import TambleClient.Control 1.0
 RAxisTemplate {
     id: root
 
+    /*! Size of a tick in pixels, `tickWidth` by `tickHeight`. */
     property real tickWidth: 4 * RThemeValues.unit
     property real tickHeight: RThemeValues.unit
     /*! Draws the lowest value at the top. */

@@ -6,11 +6,16 @@ import TambleClient.Control 1.0
 RBodeplotTemplate {
     id: root
 
+    /*! Whether the axes have numbers. */
     property bool showAxis: true
+    /*! Whether keys and wheel zoom and pan. */
     property bool allowZoom: true
+    /*! Sets off the 0 dB line. */
     property bool dedicatedXAxisLine: true
+    /*! In pixels: `fontSizeAxis` of the numbers, `spacingAxis` around the plot area. */
     property real fontSizeAxis: RThemeValues.fontSizeXS
     property real spacingAxis: 8 * RThemeValues.unit
+    /*! Name for assistive tools. */
     property string label: qsTr("Frequency response")
     /*! Lets the wheel zoom, a step per notch, instead of being passed to the page. */
     property bool wheelZooms: false

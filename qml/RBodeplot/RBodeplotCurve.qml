@@ -11,6 +11,7 @@ RBodeplotCurveTemplate {
 
     /*! A handle is being dragged. */
     property bool pressed: root.heldPoints > 0
+    /*! Shows the curves without their handles. */
     property bool hidePoints: false
     /*! Handle that has the keyboard focus, -1 for none. */
     property int focusedPoint: -1

@@ -7,16 +7,20 @@ import "../Shared" as Shared
 Shared.RPlotHandle {
     id: root
 
+    /*! Position among the handles of the curve, from 0. */
     property int index: 0
+    /*! What the filter has: `quality` (Q), `frequency` in Hz, `gain` in dB. */
     property real quality: 0
     property real frequency: 0
     property real gain: 0
-    /*! Whether the filter's response depends on these; they are then part of the description. */
+    /*! Whether the response depends on the gain (`hasGain`) and on the Q (`hasQuality`); they are then part of the
+        description. */
     property bool hasGain: true
     property bool hasQuality: true
     /*! Shows the Q in the bubble, while it is being changed. */
     property bool showQuality: false
 
+    /*! Texts for the bubble: `qualityText`, `gainText` and `placeText`, which is frequency and gain. */
     readonly property string qualityText: qsTr("Q %1").arg(root.quality.toFixed(1))
     readonly property string gainText: qsTr("%1 dB").arg((root.gain >= 0 ? "+" : "") + root.gain.toFixed(1))
     readonly property string placeText: qsTr("%1 Hz").arg(Math.round(root.frequency)) + (root.hasGain ? ", " + root.gainText : "")

@@ -8,14 +8,19 @@ RLimiterCurveTemplate {
 
     RStyleSet.typeName: "RLimiterCurve"
 
+    /*! Whether there is a handle. */
     property bool handleVisible: true
+    /*! The handle of the threshold. */
     readonly property alias handle: point
+    /*! Up to three letters on the handle, and its name. */
     property string label
     /*! Step of the arrow keys and of dragging, in dB; a fifth of it with Shift, 0 for no steps while dragging. */
     property real stepSize: 0.5
     /*! Threshold that a double click on the handle sets; undefined for none. */
     property var defaultThreshold
+    /*! How long, in ms, an edit is shown before the page's threshold counts again. */
     property alias settleTime: edit.settleTime
+    /*! Whether an edit is shown. */
     readonly property bool editing: edit.active
 
     /*! Tells the ranges and scales, as far as it has properties of these names. */
@@ -29,6 +34,7 @@ RLimiterCurveTemplate {
     /*! The user has finished moving it. */
     signal userCommittedThreshold(real threshold)
 
+    /*! Shows this threshold (dB) as a part of the gesture under way and tells it to the page; NaN does nothing. */
     function moveTo(threshold: real) {
         if (isNaN(threshold) || threshold === root.threshold)
             return
@@ -36,12 +42,14 @@ RLimiterCurveTemplate {
         root.userChangedThreshold(threshold)
     }
 
+    /*! Ends the gesture under way. */
     function commit() {
         edit.commit()
         if (!isNaN(root.threshold) && root.threshold !== edit.valueAtBegin)
             root.userCommittedThreshold(root.threshold)
     }
 
+    /*! Ends it with the threshold of before. */
     function cancel() {
         root.moveTo(edit.valueAtBegin)
         edit.cancel()

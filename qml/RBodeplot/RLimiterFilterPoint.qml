@@ -6,6 +6,7 @@ import "../Shared" as Shared
 Shared.RPlotHandle {
     id: root
 
+    /*! For pages that treat all handles alike; `index`, `quality` and `frequency` are not shown. */
     property int index: 0
     property real quality: 0
     property real frequency: 0

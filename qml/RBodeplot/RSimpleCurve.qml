@@ -7,8 +7,11 @@ RSimpleCurveTemplate {
 
     RStyleSet.typeName: "RBodeplotCurve"
 
+    /*! Whether the curve is in the selected colour. */
     property bool selected: false
+    /*! Hides the curve. */
     property bool hidden: false
+    /*! Width of the curve in pixels. */
     property real lineWidth: (root.selected ? 2.5 : 1) * RThemeValues.unit
 
     /*! Tells the ranges and scales, as far as it has properties of these names. */

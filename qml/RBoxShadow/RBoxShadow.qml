@@ -7,17 +7,21 @@ RUnderlay {
 
     RStyleSet.typeName: "RFlyoutToolbar"
 
-    /*! How far the shadow reaches beyond the target. */
+    /*! How far the shadow reaches beyond the target, in pixels. */
     property real spread: 8 * RThemeValues.unit
     /*! From 0, no shadow, to 1, black at the edge of the target. */
     property real darkness: root.ssShadow.a
+    /*! Shift of the shadow in pixels, `offsetX` to the right and `offsetY` downwards. */
     property real offsetX: 0
     property real offsetY: 2 * RThemeValues.unit
+    /*! False shows no shadow. */
     property bool active: true
 
     property color ssShadow: root.RStyleSet.props.shadow
 
+    /*! Whether the target is the parent. */
     readonly property bool belowParent: root.target === root.parent
+    /*! Whether anything is drawn. */
     readonly property bool shown: root.active && root.spread > 0 && root.darkness > 0 && root.width > 0 && root.height > 0
 
     target: root.parent

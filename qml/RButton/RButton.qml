@@ -6,17 +6,22 @@ import "../Shared" as Shared
 Shared.RStyledButton {
     id: root
 
+    /*! Sets the state word "active", such as for a signal that is present. */
     property bool active: false
 
     /*! Turns a device's value into the text of the button. */
     property RValueConverter converter: null
+    /*! The device's value as text, which becomes the text of the button. */
     property string value: root.converter ? root.converter.displayText : ""
 
+    /*! The item that shows the text. */
     property alias textControl: textItem
+    /*! Of the text: `textColor`, `horizontalAlignment`, `elide` and `fontSize` (pixels). */
     property alias textColor: textItem.color
     property alias horizontalAlignment: textItem.horizontalAlignment
     property alias elide: textItem.elide
     property alias fontSize: textItem.font.pixelSize
+    /*! Width in pixels that the text takes when it is not elided. */
     readonly property real implicitTextWidth: textItem.implicitWidth
 
     RStyleSet.stateHelper.selected: root.consistent && root.selected

@@ -6,6 +6,7 @@ import "../Shared" as Shared
 Shared.RStyledButton {
     id: root
 
+    /*! The icon, whose `key` names the picture. */
     property alias iconItem: icon
 
     contentItem: Item { // qmllint disable deferred-property-id

@@ -6,9 +6,13 @@ import "../Shared" as Shared
 Shared.RStyledButton {
     id: root
 
+    /*! Whether the icon is shown in place of the text. */
     property bool showIcon: false
 
+    /*! The icon, whose `key` names the picture. */
     property alias iconItem: icon
+    /*! Of the text: `textColor`, `horizontalAlignment`, `elide`, `fontSize` (pixels), `fontSizeMode`,
+        `minimumPixelSize`, `wrapMode`. */
     property alias textColor: textItem.color
     property alias horizontalAlignment: textItem.horizontalAlignment
     property alias elide: textItem.elide

@@ -6,8 +6,10 @@ import "../Shared" as Shared
 Shared.RStyledButton {
     id: root
 
+    /*! The icon, `iconItem`, whose `key` names the picture, and the item that shows the text, `txt`. */
     property alias iconItem: icon
     property alias txt: textItem
+    /*! Of the text: `textColor`, `horizontalAlignment`, `elide` and `fontSize` (pixels). */
     property alias textColor: textItem.color
     property alias horizontalAlignment: textItem.horizontalAlignment
     property alias elide: textItem.elide

@@ -6,11 +6,15 @@ import "../Shared" as Shared
 Shared.RStyledButton {
     id: root
 
+    /*! The lower text, such as a parameter's value. */
     property string textSub: ""
 
+    /*! Another name of `textSub`. */
     property alias labelSub: root.textSub
+    /*! The items that show the caption (`txt`) and the lower text (`txtSub`). */
     property alias txt: textItem
     property alias txtSub: subTextItem
+    /*! Of the caption: `textColor`, `horizontalAlignment`, `elide` and `fontSize` (pixels). */
     property alias textColor: textItem.color
     property alias horizontalAlignment: textItem.horizontalAlignment
     property alias elide: textItem.elide

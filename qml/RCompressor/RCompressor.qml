@@ -21,22 +21,30 @@ Shared.RDynamicsPlot {
     property alias makeUpGainMin: calculator.makeUpGainMin
     property alias makeUpGainMax: calculator.makeUpGainMax
     readonly property alias values: calculator.values
+    /*! Where a double click on a handle leads, undefined for nowhere: `defaultThreshold` and `defaultMakeUpGain` in dB,
+        `defaultRatio`. */
     property var defaultThreshold: 0
     property var defaultRatio: 4
     property var defaultMakeUpGain: 0
     /*! Reduction at present, in dB, counted positive. */
     property real gainReduction: 0
+    /*! Whether there is a meter of `gainReduction`. */
     property bool gainReductionVisible: false
 
+    /*! Width of the knee in force, in dB; 0 for a corner. */
     readonly property real knee: root.softKneeActive && root.softKneeInDbu > 0 ? root.softKneeInDbu : 0
 
+    /*! The user changes the threshold (`thresholdEdited`) and has finished (`thresholdCommitted`), in dB. */
     signal thresholdEdited(real value)
     signal thresholdCommitted(real value)
+    /*! The user changes the ratio (`ratioEdited`) and has finished (`ratioCommitted`). */
     signal ratioEdited(real value)
     signal ratioCommitted(real value)
+    /*! The user changes the make-up gain (`makeUpGainEdited`) and has finished (`makeUpGainCommitted`), in dB. */
     signal makeUpGainEdited(real value)
     signal makeUpGainCommitted(real value)
 
+    /*! Output level for an input level, in dB. */
     function outputOf(input: real): real {
         return RPlotRules.compressorOutput(input, root.threshold, root.ratio, root.makeUpGain, root.knee)
     }

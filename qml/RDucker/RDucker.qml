@@ -16,11 +16,15 @@ Shared.RDynamicsPlot {
     property alias duckingLevelMin: calculator.duckingLevelMin
     property alias duckingLevelMax: calculator.duckingLevelMax
     readonly property alias values: calculator.values
+    /*! Where a double click on a handle leads, in dB, undefined for nowhere: `defaultThreshold` and
+        `defaultDuckingLevel`. */
     property var defaultThreshold: 0
     property var defaultDuckingLevel: 20
 
+    /*! The user changes the threshold (`thresholdEdited`) and has finished (`thresholdCommitted`), in dB. */
     signal thresholdEdited(real value)
     signal thresholdCommitted(real value)
+    /*! The user changes the attenuation (`duckingLevelEdited`) and has finished (`duckingLevelCommitted`), in dB. */
     signal duckingLevelEdited(real value)
     signal duckingLevelCommitted(real value)
 

@@ -8,6 +8,7 @@ RFaderBase {
 
     RStyleSet.typeName: "RFader"
 
+    /*! Whether the scale has ticks (`showTicks`) and numbers (`showLabels`). */
     property bool showTicks: true
     property bool showLabels: true
     /*! Where the scale of a vertical fader stands; that of a horizontal one is below it then, else above. */
@@ -16,6 +17,7 @@ RFaderBase {
     property string handleText: ""
     /*! Shows a bar in the track from `trackIndicatorFrom` to `trackIndicatorValue`, the level really in force. */
     property bool trackIndicatorVisible: false
+    /*! The range in dB for assistive tools: `minimumValue` and `maximumValue`. */
     readonly property real minimumValue: root.from
     readonly property real maximumValue: root.to
 
@@ -43,9 +45,12 @@ RFaderBase {
     RStyleSet.stateHelper.readOnly: root.readOnly
     RStyleSet.stateHelper.inconsistent: !root.consistent
 
+    /*! Whether there is a scale. */
     readonly property bool scaleVisible: root.showTicks || root.showLabels
     // A sheet without a line colour for mixed faders may have one that cannot be seen on them.
+    /*! Colour of the dash on the handle of a mixed fader. */
     readonly property color mixedLine: Math.abs(root.ssHandleLine.hslLightness - root.ssHandleInconsistent.hslLightness) < 0.25 ? root.ssIndexBelow : root.ssHandleLine
+    /*! Size in pixels across the travel. */
     readonly property real breadth: (root.scaleVisible ? 56 : 32) * RThemeValues.unit
 
     implicitWidth: root.vertical ? root.breadth : 280 * RThemeValues.unit

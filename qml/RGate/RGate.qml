@@ -16,11 +16,14 @@ Shared.RDynamicsPlot {
     property alias depthMin: calculator.depthMin
     property alias depthMax: calculator.depthMax
     readonly property alias values: calculator.values
+    /*! Where a double click on a handle leads, in dB, undefined for nowhere: `defaultThreshold` and `defaultDepth`. */
     property var defaultThreshold: 0
     property var defaultDepth: 40
 
+    /*! The user changes the threshold (`thresholdEdited`) and has finished (`thresholdCommitted`), in dB. */
     signal thresholdEdited(real value)
     signal thresholdCommitted(real value)
+    /*! The user changes the depth (`depthEdited`) and has finished (`depthCommitted`), in dB. */
     signal depthEdited(real value)
     signal depthCommitted(real value)
 

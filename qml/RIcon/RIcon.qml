@@ -12,11 +12,14 @@ Item {
     property string sizeClass: "S"
     /*! False shows a picture in its own colours. */
     property alias useColorOverlay: image.tinted
+    /*! Address of the picture, made of `key` and `size`; a page may set one of its own. */
     property alias source: image.source
+    /*! Of the picture: `fillMode`, and its size in pixels, `imgWidth` by `imgHeight`. */
     property alias fillMode: image.fillMode
     property alias imgWidth: image.width
     property alias imgHeight: image.height
 
+    /*! The sizes in density-independent units: `ssSizeXXS`, `ssSizeXS`, `ssSizeS`, `ssSizeM`, `ssSizeL`. */
     readonly property int ssSizeXXS: 8
     readonly property int ssSizeXS: 16
     readonly property int ssSizeS: 24

@@ -7,16 +7,21 @@ import TambleClient.Control 1.0
 RButton {
     id: root
 
+    /*! Tells tests of pages what kind of item this is. */
     readonly property string test_key: "control"
+    /*! The choices: `textOn` and `textOff`. */
     property string textOn: qsTr("ON")
     property string textOff: qsTr("OFF")
+    /*! Where the question opens: `openAbove` above the button, `openLeft` at its left; else below. */
     property bool openAbove: false
     property bool openLeft: false
+    /*! Puts the choices side by side. */
     property bool horizontalText: false
 
     /*! Made when the question is first asked. */
     property T.Popup popup: null
 
+    /*! The user wants the devices on (`clickedOn`) or off (`clickedOff`). */
     signal clickedOn()
     signal clickedOff()
 

@@ -7,22 +7,28 @@ import TambleClient.Control 1.0
 T.Popup {
     id: root
 
+    /*! The choices: `textOn` and `textOff`. */
     property string textOn: qsTr("ON")
     property string textOff: qsTr("OFF")
     /*! Puts the choices side by side. */
     property bool horizontalText: false
+    /*! Where it opens: `openAbove` above its parent, `openLeft` at its left; else below. */
     property bool openAbove: false
     property bool openLeft: false
 
+    /*! The parent, if it is a button: the choice edits its selection. */
     readonly property RButtonBase button: root.parent as RButtonBase
     /*! Whether there is still something to ask: the devices may come to agree, or the page may lock or hide the button,
         while the question stands. */
     readonly property bool asking: root.button === null || (root.button.visible && root.button.enabled && !root.button.consistent)
+    /*! Whether the parent's layout is mirrored, which swaps the sides. */
     readonly property bool parentMirrored: root.parent !== null && root.parent.LayoutMirroring.enabled
+    /*! Whether the window has room below the parent; without it the popup opens above. */
     property bool roomBelow: true
     /*! Gets the focus back. */
     property Item formerFocus: null
 
+    /*! The user has chosen on (`clickedOn`) or off (`clickedOff`). */
     signal clickedOn()
     signal clickedOff()
 
@@ -53,6 +59,7 @@ T.Popup {
             root.formerFocus.forceActiveFocus(Qt.PopupFocusReason)
     }
 
+    /*! Closes the popup with this choice. */
     function choose(selected: bool) {
         root.close()
         if (root.button)

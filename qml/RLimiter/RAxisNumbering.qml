@@ -7,9 +7,11 @@ Item {
 
     RStyleSet.typeName: "RAxis"
 
+    /*! The axis from `from` (left or bottom) to `to`, in its unit, with a number at each multiple of `step`. */
     property real from: -60
     property real to: 20
     property real step: 10
+    /*! Qt.Horizontal for numbers below a plot, Qt.Vertical for numbers beside it. */
     property int orientation: Qt.Horizontal
     /*! Vertical numbers stand on the right of the plot. */
     property bool rightSided: false
@@ -17,11 +19,14 @@ Item {
     property string unit
     /*! -1 for as many as the step has. */
     property int decimals: -1
+    /*! Size of the numbers in pixels. */
     property real fontSize: RThemeValues.fontSizeXS
 
     property color ssColor: root.RStyleSet.props.foreground
 
+    /*! Whether the numbers stand below the plot. */
     readonly property bool horizontal: root.orientation === Qt.Horizontal
+    /*! The font of the numbers. */
     readonly property font numberFont: Qt.font({ family: RThemeValues.fontFamily, pixelSize: RThemeValues.fontPixels(root.fontSize) })
 
     implicitWidth: (root.horizontal ? 80 : 28) * RThemeValues.unit

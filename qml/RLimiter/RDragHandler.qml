@@ -6,21 +6,26 @@ import TambleClient.Control 1.0
 RLevelHandle {
     id: root
 
-    /*! Where a double click or the End key leads; undefined leaves that coordinate. */
+    /*! Where a double click or the End key leads, `defaultX` and `defaultY` in dB; undefined leaves that
+        coordinate. */
     property var defaultX
     property var defaultY
     /*! How long, in ms, the edited point is shown before the page's counts again. */
     property int settleTime: 300
 
+    /*! The user moves the handle to a point (`dragged`), has finished (`dragFinished`) or has taken the gesture back
+        (`dragCanceled`). */
     signal dragged(real x, real y)
     signal dragFinished(real x, real y)
     signal dragCanceled()
 
+    /*! Moves the handle to this point as a part of the gesture under way, within the plot. */
     function moveTo(x: real, y: real) {
         root.edit(root.xEnabled ? RPlotRules.limitedValue(x, root.xFrom, root.xTo, 0) : root.xValue,
             root.yEnabled ? RPlotRules.limitedValue(y, root.yFrom, root.yTo, 0) : root.yValue)
     }
 
+    /*! Shows the point and tells it to the page. */
     function edit(x: real, y: real) {
         if (isNaN(x) || isNaN(y) || x === root.xValue && y === root.yValue)
             return

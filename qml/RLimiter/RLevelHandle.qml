@@ -7,20 +7,26 @@ import "../Shared" as Shared
 Shared.RPlotHandle {
     id: root
 
-    /*! Ranges of the plot; the handle stands at the nearest edge when its values are outside. */
+    /*! Ranges of the plot, `xFrom` to `xTo` and `yFrom` to `yTo` in dB; the handle stands at the nearest edge when its
+        values are outside. */
     property real xFrom: -60
     property real xTo: 20
     property real yFrom: -60
     property real yTo: 20
+    /*! The point of the plot, in dB: `xValue` along the x axis, `yValue` along the y axis. */
     property real xValue: 0
     property real yValue: 0
+    /*! Whether the handle moves sideways (`xEnabled`) and up and down (`yEnabled`). */
     property bool xEnabled: true
     property bool yEnabled: true
 
     // For assistive tools.
+    /*! For assistive tools: `value`, `minimumValue` and `maximumValue` of the coordinate that moves, x when both
+        do. */
     property real value: root.xEnabled ? root.xValue : root.yValue
     property real minimumValue: root.xEnabled ? Math.min(root.xFrom, root.xTo) : Math.min(root.yFrom, root.yTo)
     property real maximumValue: root.xEnabled ? Math.max(root.xFrom, root.xTo) : Math.max(root.yFrom, root.yTo)
+    /*! Step of the arrow keys, a fifth of it with Shift; 0 for a hundredth of the range. */
     property real stepSize: 0.5
 
     /*! The pointer has drawn the handle to these levels, which may lie outside. */

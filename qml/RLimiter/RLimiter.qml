@@ -15,6 +15,7 @@ Shared.RDynamicsPlot {
     /*! Where a double click leads; undefined for nowhere. So with all panels. */
     property var defaultThreshold: 0
 
+    /*! The user changes the threshold (`thresholdEdited`) and has finished (`thresholdCommitted`), in dB. */
     signal thresholdEdited(real value)
     signal thresholdCommitted(real value)
 

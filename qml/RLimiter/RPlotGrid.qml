@@ -7,12 +7,15 @@ Rectangle {
 
     RStyleSet.typeName: "RBodeplotGrid"
 
+    /*! The x axis from `xFrom` (left) to `xTo` (right), in its unit, with a line at each multiple of `xStep`. */
     property real xFrom: -60
     property real xTo: 20
     property real xStep: 10
+    /*! The y axis from `yFrom` (bottom) to `yTo` (top), in its unit, with a line at each multiple of `yStep`. */
     property real yFrom: -60
     property real yTo: 20
     property real yStep: 10
+    /*! Width of the lines in pixels. */
     property real lineWidth: RThemeValues.unit
     /*! Sets off the line at 0 of the y axis, when that is inside. */
     property bool zeroLine: true

@@ -5,20 +5,29 @@ import TambleClient.Control 1.0
 RMeterBase {
     id: root
 
+    /*! Whether the meter lies and grows to the right. */
     property bool horizontal: false
+    /*! Whether the bar grows from its other end, as for a gain reduction. */
     property bool reverse: false
+    /*! Pixels above (`paddingTop`) and below (`paddingBottom`) the bar; a fader of the same height has as many around
+        its travel. */
     property real paddingTop: root.horizontal ? 0 : 24 * RThemeValues.unit
     property real paddingBottom: root.horizontal ? 0 : 24 * RThemeValues.unit
     /*! Unit of the levels, for assistive tools. */
     property string unit: "dB"
 
+    /*! The clip indicator above the bar: whether there is one (`clipIndicatorSupported`) and whether it is lit
+        (`clipIndicatorActive`). */
     property bool clipIndicatorSupported: false
     property bool clipIndicatorActive: false
 
+    /*! The marker for a fader: `faderIndicatorActive` shows it at the level `faderIndicatorValue` (dB) by the fader's
+        law, `faderIndicatorExponential`, `faderIndicatorJtSpread` (piecewise linear) or else linear. */
     property bool faderIndicatorActive: false
     property bool faderIndicatorExponential: false
     property bool faderIndicatorJtSpread: false
     property double faderIndicatorValue: 0.0
+    /*! Linear gains of `valueMax` and `valueMin`, for the exponential law: `expRangeMax` and `expRangeMin`. */
     property real expRangeMax: 0.6881389342 * Math.exp(0.0386727493 * root.valueMax)
     property real expRangeMin: 0.6881389342 * Math.exp(0.0386727493 * root.valueMin)
 

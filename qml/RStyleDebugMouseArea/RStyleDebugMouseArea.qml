@@ -6,7 +6,9 @@ import TambleClient.Control 1.0
 MouseArea {
     id: root
 
+    /*! False prints nothing. */
     property bool debug: true
+    /*! Any change of it prints; a page may bind it to a key or a timer. */
     property int changeToPrint
 
     /*! The innermost child of `item` under the pointer, this area apart, which covers all others. */
@@ -23,6 +25,7 @@ MouseArea {
         return null
     }
 
+    /*! Prints the rules for the items under the pointer, outermost first. */
     function printStyleInfo() {
         if (!root.debug)
             return

@@ -9,12 +9,18 @@ FocusScope {
 
     RStyleSet.typeName: "RBodeplotCurve"
 
+    /*! Name for assistive tools. */
     property string title
+    /*! Appended to the last number: `xUnit` below the plot, `yUnit` beside it. */
     property string xUnit: "dBu"
     property string yUnit: "dBu"
+    /*! Distance of grid lines and numbers, in dB. */
     property real gridStep: 10
+    /*! Whether the axes have numbers. */
     property bool showNumbering: true
+    /*! Whether there are handles. */
     property bool showHandles: true
+    /*! Shows the parameters and edits none. */
     property bool readOnly: false
     /*! Rounding of what is dragged and step of the arrow keys, in dB; a fifth of it with Shift, 0 for no rounding. */
     property real dragStep: 0.5
@@ -25,30 +31,42 @@ FocusScope {
     property int settleTime: 300
 
     // What a panel says about itself.
+    /*! Ends of the axes in dB: `xFrom` and `xTo` of the input level, `yFrom` and `yTo` of the output. A panel binds
+        them to its bounds. */
     property real xFrom: -60
     property real xTo: 20
     property real yFrom: root.xFrom
     property real yTo: root.xTo
+    /*! False shows the grid alone. */
     property bool active: true
+    /*! Colours the curve as bypassed and says so in words. */
     property bool bypassed: false
+    /*! The curve, normalised: x from 0 (left) to 1 (right), y from 0 (top) to 1 (bottom). */
     property var points: []
+    /*! Shows a lock: the processor holds its gain. */
     property bool frozen: false
-    /*! What a panel places beside or under the plot takes this much room; 0 for nothing. */
+    /*! Pixels that what a panel places beside (`sideRoom`) or under (`lowerRoom`) the plot takes; 0 for nothing. */
     property real sideRoom: 0
     property real lowerRoom: 0
+    /*! Handles and whatever a page adds, in pixels of the plot. */
     default property alias content: layer.data
 
     property color ssAggregatedCurve: root.RStyleSet.props.aggregatedCurve
     property color ssBypassCurve: root.RStyleSet.props.bypassCurve
     property color ssSelectedCurve: root.RStyleSet.props.selectedCurve
 
+    /*! Whether handles are shown: an inactive plot and one without a range have none. */
     readonly property bool handlesVisible: root.showHandles && root.active && Math.abs(root.xTo - root.xFrom) > 0 && Math.abs(root.yTo - root.yFrom) > 0
+    /*! Distances in pixels: `gap` between plot and numbers; `margin` keeps handles that stand at the edge of the plot
+        inside of the panel. */
     readonly property real gap: 4 * RThemeValues.unit
     /*! Keeps handles that stand at the edge of the plot inside of the panel. */
     readonly property real margin: 8 * RThemeValues.unit
+    /*! Pixels beside and under the plot for numbers and meter: `leftRoom`, `rightRoom` and `bottomRoom`. */
     readonly property real leftRoom: root.showNumbering ? yNumbers.width + root.gap : root.margin
     readonly property real rightRoom: root.margin + (root.sideRoom > 0 ? root.sideRoom + root.margin : 0)
     readonly property real bottomRoom: (root.showNumbering ? xNumbers.height + root.gap : root.margin) + (root.lowerRoom > 0 ? root.lowerRoom + root.gap : 0)
+    /*! Edge length of the plot in pixels. */
     readonly property real plotLength: Math.max(0, Math.min(root.width - root.leftRoom - root.rightRoom, root.height - root.margin - root.bottomRoom))
 
     /*! The user has taken back a change under way. */

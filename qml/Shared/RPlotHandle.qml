@@ -8,19 +8,24 @@ RHandleBase {
 
     RStyleSet.typeName: "RBodeplotFilterPoint"
 
+    /*! Name of what the handle edits. */
     property string label
+    /*! Whether the handle is in the selected colour; that of the focus and of a drag by default. */
     property bool selected: root.activeFocus || root.dragging
+    /*! Whether the handle is in the colour of an error, with an exclamation mark. */
     property bool errorFlag: false
     /*! False while what the handle edits is bypassed. */
     property bool visiblePoint: true
-    /*! What the bubble beside the handle shows, and what assistive tools say. */
+    /*! What the bubble beside the handle shows, `bubbleText`, and what assistive tools say, `valueText`. */
     property string bubbleText
     property string valueText
+    /*! Whether the bubble is shown. */
     property bool bubbleVisible: root.dragging || root.activeFocus && root.keyFocus || root.hovered
     /*! Up to three letters on the disc. */
     property string discText
+    /*! Diameter of the disc in pixels. */
     property real discSize: 24 * RThemeValues.unit
-    /*! Where the disc stands within the handle. */
+    /*! Place of the disc within the handle in pixels, `discX` and `discY`. */
     property real discX: 0
     property real discY: 0
 
@@ -29,6 +34,7 @@ RHandleBase {
     property color ssBackgroundError: root.RStyleSet.props.backgroundError
     property color ssColor: labelStyle.RStyleSet.props.foreground
 
+    /*! The colour of the disc. */
     readonly property color stateColor: root.errorFlag ? root.ssBackgroundError : root.selected ? root.ssBackgroundSelected : root.ssBackground
 
     RStyleSet.stateHelper.hovered: root.hovered

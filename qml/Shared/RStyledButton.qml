@@ -8,7 +8,9 @@ RButtonBase {
 
     RStyleSet.typeName: "RButton"
 
+    /*! Another name of `text`. */
     property alias label: root.text
+    /*! The rectangle behind the button (`backgroundRect`) and the bar along its edge (`line`). */
     property alias backgroundRect: back
     property alias line: back.line
 

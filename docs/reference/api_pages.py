@@ -1,0 +1,52 @@
+"""Writes the reference of the module: a page for each type, and an index by family.
+
+    python3 api_pages.py SOURCES MODULE OUTPUT      MODULE: the folder with plugins.qmltypes and qmldir
+"""
+
+import re
+import sys
+from pathlib import Path
+
+from families import FAMILIES, INTERNAL, OTHERS, family_of
+from model import Module
+from pages import PageWriter
+
+
+def internal_names(sources):
+    """What the catalogue registers for the module's own components."""
+    catalogue = (sources / "control/TypeCatalogue.cpp").read_text(encoding="utf-8")
+    body = re.search(r"void registerInternals\(.*?\n\}", catalogue, re.S)
+    return set(re.findall(r'"(R\w+)"', body[0]))
+
+
+def first_sentence(text):
+    return re.split(r"(?<=[.:])\s", text.replace("\n", " "), maxsplit=1)[0]
+
+
+def index_of(pages):
+    lines = ["# TambleClient.Control 1.0", "All types that QML can name: `import TambleClient.Control 1.0`."]
+    for family in [*FAMILIES, OTHERS, INTERNAL]:
+        entries = [f"- [{found.name}]({found.name}.md) — {first_sentence(found.text)}"
+                   for found, its_family in sorted(pages, key=lambda page: page[0].name) if its_family == family]
+        if entries:
+            lines += [f"## {family}", "\n".join(entries)]
+    return "\n\n".join(lines) + "\n"
+
+
+def main(sources, module_directory, output):
+    module = Module(sources, module_directory)
+    output.mkdir(parents=True, exist_ok=True)
+    for old in output.glob("*.md"):
+        old.unlink()
+    internal = internal_names(sources)
+    writer = PageWriter(module, output / "pictures")
+    pages = [(found, family_of(found.place, found.name in internal or found.kind == "base" and "qml/" in found.place))
+             for found in module.documented()]
+    for found, family in pages:
+        (output / f"{found.name}.md").write_text(writer.page(found, family), encoding="utf-8")
+    (output / "index.md").write_text(index_of(pages), encoding="utf-8")
+    print(f"{len(pages)} pages in {output}")
+
+
+if __name__ == "__main__":
+    main(*map(Path, sys.argv[1:4]))

@@ -1,0 +1,27 @@
+"""Which chapter of the index a type stands in: by the folder of its file, the first chapter that names it."""
+
+FAMILIES = {
+    "Window, theme and style": ["RApplicationWindow", "RTheme", "RStyleEngineSetup", "RStyleDebugMouseArea", "style"],
+    "Buttons": ["RButton", "RInconsistentButton", "RInconsistentPopup"],
+    "Texts and decoration": ["RText", "RLabel", "RIcon", "RBoxShadow", "RFocusRectangle.qml"],
+    "Levels": ["RFader", "RMeter", "RAxis", "fader", "meter", "plot/RAxis"],
+    "Frequency response": ["RBodeplot", "bodeplot"],
+    "Dynamics": ["RLimiter/RLimiter.qml", "RCompressor", "RGate", "RDucker", "RAGC", "RANC", "dynamics"],
+    "Plots": ["RLimiter", "plot"],
+    "Values and texts": ["fields", "tambleclient-common"],
+    "Models": ["models"],
+    "Pointer and screen": ["pointer", "screen"],
+    "Workspace": ["workspace"],
+}
+INTERNAL = "Shared by the module's own components: not for pages, names and properties may change"
+OTHERS = "Others"
+
+
+def family_of(place, is_internal):
+    if is_internal:
+        return INTERNAL
+    path = "/" + place.partition(":")[0]
+    for family, folders in FAMILIES.items():
+        if any("/" + folder in path for folder in folders):
+            return family
+    return OTHERS
