@@ -8,7 +8,7 @@
 
 namespace tamble::client {
 
-/// Declared only: nothing follows from its properties yet, and no signal is sent but those of set properties.
+/// Declared only: nothing follows from its properties yet.
 ///
 /// Cursor shape for its parent's area. It takes no events.
 ///

@@ -6,7 +6,7 @@
 
 namespace tamble::client {
 
-/// Declared only: nothing follows from its properties yet, and no signal is sent but those of set properties.
+/// Declared only: nothing follows from its properties yet.
 ///
 /// Item that knows whether the pointer is over it even when its children handle hover. It takes no events.
 class TAMBLE_CLIENT_CONTROL_EXPORT RMouseDetection : public QQuickItem

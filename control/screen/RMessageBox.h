@@ -9,7 +9,7 @@
 
 namespace tamble::client {
 
-/// Declared only: nothing follows from its properties yet, and no signal is sent but those of set properties.
+/// Declared only: nothing follows from its properties yet.
 ///
 /// Question from code, for pages without a dialog of their own.
 ///

@@ -10,7 +10,7 @@
 
 namespace tamble::client {
 
-/// Declared only: nothing follows from its properties yet, and no signal is sent but those of set properties.
+/// Declared only: nothing follows from its properties yet.
 ///
 /// Selected items of one or more workspaces. `boundingRect` is in plane units.
 class TAMBLE_CLIENT_CONTROL_EXPORT RWorkspaceSelection : public QObject

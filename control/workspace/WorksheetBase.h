@@ -10,7 +10,7 @@
 
 namespace tamble::client {
 
-/// Declared only: nothing follows from its properties yet, and no signal is sent but those of set properties.
+/// Declared only: nothing follows from its properties yet.
 ///
 /// Document page around a workspace. `pointerPosition` is in plane units of the workspace, without one in own pixels.
 class TAMBLE_CLIENT_CONTROL_EXPORT WorksheetBase : public QQuickItem

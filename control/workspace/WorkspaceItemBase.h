@@ -12,7 +12,7 @@
 
 namespace tamble::client {
 
-/// Declared only: nothing follows from its properties yet, and no signal is sent but those of set properties.
+/// Declared only: nothing follows from its properties yet.
 ///
 /// Item on the plane of a workspace. `position` and `size` are in plane units.
 class TAMBLE_CLIENT_CONTROL_EXPORT WorkspaceItemBase : public QQuickItem

@@ -19,14 +19,16 @@ def internal_names(sources):
     return set(re.findall(r'"(R\w+)"', body[0]))
 
 
-def first_sentence(text):
-    return re.split(r"(?<=[.:])\s", text.replace("\n", " "), maxsplit=1)[0]
+def summary(text):
+    """The first sentence, and the next one where the first only says that the type is declared."""
+    sentences = re.split(r"(?<=\.)\s+(?=[A-Z])", text)
+    return " ".join(sentences[:2 if sentences[0].startswith("Declared") else 1])
 
 
 def index_of(pages):
     lines = ["# TambleClient.Control 1.0", "All types that QML can name: `import TambleClient.Control 1.0`."]
     for family in [*FAMILIES, OTHERS, INTERNAL]:
-        entries = [f"- [{found.name}]({found.name}.md) — {first_sentence(found.text)}"
+        entries = [f"- [{found.name}]({found.name}.md) — {summary(found.text)}"
                    for found, its_family in sorted(pages, key=lambda page: page[0].name) if its_family == family]
         if entries:
             lines += [f"## {family}", "\n".join(entries)]

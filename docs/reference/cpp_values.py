@@ -7,11 +7,11 @@ TYPES = {
     "QVariant": "var", "QJSValue": "var", "QVariantMap": "var", "QVariantList": "list<var>",
     "QStringList": "list<string>", "QPointF": "point", "QSizeF": "size", "QRectF": "rect", "QFont": "font",
     "QObject": "QtObject", "QQmlComponent": "Component", "QQmlListReference": "list<QtObject>", "QUuid": "uuid",
-    "QQuickItem": "Item", "QQuickRectangle": "Rectangle", "QQuickWindow": "Window", "": "void",
+    "QQuickItem": "Item", "QQuickRectangle": "Rectangle", "QQuickWindow": "Window", "QQuickImage": "Image",
 }
 EMPTY = {
     "QString": '""', "QUrl": '""', "QVariantList": "[]", "QStringList": "[]", "QVariantMap": "{}",
-    "QVariant": "undefined", "QPointF": "Qt.point(0, 0)", "QSizeF": "Qt.size(0, 0)",
+    "QVariant": "undefined", "QPointF": "Qt.point(0, 0)",
 }
 MAKERS = {"QRectF": "Qt.rect", "QSizeF": "Qt.size", "QPointF": "Qt.point"}
 

@@ -1,10 +1,12 @@
 """Which chapter of the index a type stands in: by the folder of its file, the first chapter that names it."""
 
+import re
+
 FAMILIES = {
     "Window, theme and style": ["RApplicationWindow", "RTheme", "RStyleEngineSetup", "RStyleDebugMouseArea", "style"],
     "Buttons": ["RButton", "RInconsistentButton", "RInconsistentPopup"],
     "Texts and decoration": ["RText", "RLabel", "RIcon", "RBoxShadow", "RFocusRectangle.qml"],
-    "Levels": ["RFader", "RMeter", "RAxis", "fader", "meter", "plot/RAxis"],
+    "Levels": ["RFader", "RMeter", "RAxis", "fader", "meter", "RAxis.h", "RAxisItem.h"],
     "Frequency response": ["RBodeplot", "bodeplot"],
     "Dynamics": ["RLimiter/RLimiter.qml", "RCompressor", "RGate", "RDucker", "RAGC", "RANC", "dynamics"],
     "Plots": ["RLimiter", "plot"],
@@ -13,7 +15,7 @@ FAMILIES = {
     "Pointer and screen": ["pointer", "screen"],
     "Workspace": ["workspace"],
 }
-INTERNAL = "Shared by the module's own components: not for pages, names and properties may change"
+INTERNAL = "Internals"
 OTHERS = "Others"
 
 
@@ -22,6 +24,6 @@ def family_of(place, is_internal):
         return INTERNAL
     path = "/" + place.partition(":")[0]
     for family, folders in FAMILIES.items():
-        if any("/" + folder in path for folder in folders):
+        if any(re.search(f"/{folder}(/|$)", path) for folder in folders):
             return family
     return OTHERS

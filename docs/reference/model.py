@@ -14,6 +14,7 @@ QT_TYPES = {
     "wrapMode": "enumeration", "fillMode": "enumeration", "minimumPixelSize": "int", "font.pixelSize": "int",
     "source": "url", "width": "real", "height": "real", "data": "list<QtObject>",
 }
+EMPTY = {"string": '""', "bool": "false", "int": "0", "real": "0", "var": "undefined"}
 
 
 @dataclass
@@ -91,12 +92,14 @@ class Module:
                 else "value" if component.get("accessSemantics") == "value"
                 else "base" if not component.get("exports")
                 else "uncreatable" if component.get("isCreatable") == "false" else "creatable")
-        base = component.get("prototype", "")
-        found = Type(name, f"{header.path}:{header.line}", header.text, self._names.get(base, base.split("::")[-1]), kind)
-        found.enums = header.enums if component.all("Enum") else {}
+        is_own = component.get("name").startswith("tamble::")
+        base = component.get("prototype", "") if is_own else component.get("name")
+        found = Type(name, f"{header.path}:{header.line}", header.text, base, kind)
         self.types[name] = found
-        if not component.get("name").startswith("tamble::"):
+        if not is_own:
             return  # a class of Qt, which documents its members
+        found.base = self._names[base] if base.startswith("tamble::") else base
+        found.enums = header.enums if component.all("Enum") else {}
         silent = set()
         for block in component.all("Property"):
             member = self._native_property(block, header)
@@ -110,20 +113,29 @@ class Module:
         name = block.get("name")
         declared = header.properties[name]
         getter = header.functions.get(declared.code)
-        type_name = block.get("type")
         member = Member(name, "property", f"{header.path}:{declared.line}")
         member.text = declared.text or (getter.text if getter else "")
-        member.type = self._names.get(type_name) or qml_type(type_name, block.get("isList"))
-        if block.get("isReadonly"):
+        member.type = qml_type(self._names.get(block.get("type"), block.get("type")), block.get("isList"))
+        if not block.get("isReadonly"):
+            variable = self._variable(name, declared.code, getter, header)
+            # A constructor may fill a member that has no initialiser; the comment tells then.
+            is_told = variable and variable[1] is None and "default" in member.text.lower()
+            member.default = variable and not is_told and qml_value(*variable) or ""
+        elif not (block.get("isList") and block.get("isPointer")):  # others are lists of QML objects, written as such
             member.flags = "read-only"
-        else:
-            stored = re.search(r"return (m_\w+);", getter.code) if getter else None
-            variable = header.members.get(stored[1] if stored else declared.code)
-            variable = variable or header.members.get("m_" + name)
-            member.default = variable and qml_value(*variable) or ""
         if name in self._key_of and header.name == "StyleSetProps":
             member.text = member.text or f'Value of the key "{self._key_of[name]}".'
         return member
+
+    def _variable(self, name, accessor, getter, header):
+        """C++ type and initialiser of what a property gives: a member of the class or of a structure in it."""
+        stored = re.search(r"return (m_\w+)(?:\.(\w+))?;", getter.code) if getter else None
+        if stored and stored[2]:
+            structure = self.headers.get(header.members.get(stored[1], ("",))[0])
+            return structure and structure.members.get(stored[2])
+        if getter and "return" in getter.code and not stored:
+            return None
+        return header.members.get(stored[1] if stored else accessor) or header.members.get("m_" + name)
 
     def _add_file(self, name, kind):
         file = self.files[name]
@@ -144,7 +156,7 @@ class Module:
         if declared.type == "alias":
             self._follow_alias(member, declared.code, file)
         elif member.flags != "read-only":
-            member.default = declared.code
+            member.default = declared.code or EMPTY.get(declared.type, "")
         member.style_keys = self.keys_in(declared.code)
         if member.style_keys and not member.text:
             member.text = "Style key " + ", ".join(f"`{key}`" for key in member.style_keys) + "."

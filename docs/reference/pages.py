@@ -2,9 +2,13 @@
 
 import re
 
-KINDS = {
+from cpp_values import qml_type
+from families import INTERNAL
+
+NOTES = {
+    INTERNAL: "Shared by the module's own components. Not for pages: names and properties may change.",
     "singleton": "Singleton.", "value": "Value type.", "attached": "Attached to items and to other objects.",
-    "uncreatable": "Not made by pages.", "base": "Has no name of its own in pages: what other types are built on or give.",
+    "uncreatable": "Not made by pages.", "base": "No name in QML: other types are built on it, or give objects of it.",
 }
 
 
@@ -14,9 +18,8 @@ class PageWriter:
 
     def page(self, found, family):
         keys, text = split_keys(found.text)
-        parts = [f"# {found.name}", f"[{family}](index.md) · {self._heritage(found)}"]
-        parts += [KINDS[found.kind]] if found.kind in KINDS else []
-        parts += [text]
+        notes = [NOTES[note] for note in (found.kind, family) if note in NOTES]
+        parts = [f"# {found.name}", f"[{family}](index.md) · {self._heritage(found)}", *notes, text]
         if (self.pictures / f"{found.name}.png").exists():
             parts += [f"![{found.name} in the four themes](pictures/{found.name}.png)"]
         parts += self._properties(found)
@@ -33,15 +36,15 @@ class PageWriter:
 
     def _heritage(self, found):
         names = [base.name for base in self.module.bases(found.name)]
-        last = self.module.types[names[-1]] if names else found
-        chain = [self.link(name) for name in names] + ([last.base] if last.base else [])
+        last = (self.module.types[names[-1]] if names else found).base
+        chain = [self.link(name) for name in names] + ([qml_type(last).removeprefix("QQuick")] if last else [])
         return "inherits " + " → ".join(chain) if chain else "inherits nothing"
 
     def _properties(self, found):
         members = [m for m in found.members.values() if m.kind == "property" and not m.style_keys]
         if not members:
             return []
-        rows = ["| Property | Type | Default | |", "|---|---|---|---|"]
+        rows = ["| Property | Type | Default | Meaning |", "|---|---|---|---|"]
         told = {}
         for member in members:
             flags = f", {member.flags}" if member.flags else ""
@@ -53,14 +56,18 @@ class PageWriter:
 
     def _callables(self, found, kind, title):
         members = [member for member in found.members.values() if member.kind == kind]
-        lines = [f"- {anchor(m.name, True, m.parameters)} — " + m.text.replace("\n\n", "\n\n  ") for m in members]
+        told, lines = {}, []
+        for member in members:
+            first = told.setdefault(member.text, member.name)
+            text = member.text.replace("\n\n", "\n\n  ") if first == member.name else f"See `{first}`."
+            lines.append(f"- {anchor(member.name, True, member.parameters)} — {text}")
         return [f"## {title}", "\n".join(lines)] if lines else []
 
     def _enums(self, found):
         parts = []
         for name, values in found.enums.items():
             rows = [f"| `{found.name}.{value}` | {number or ''} | {cell(text)} |" for value, number, text in values]
-            parts += [f"## Enumeration {name}", "\n".join(["| Value | | |", "|---|---|---|"] + rows)]
+            parts += [f"## Enumeration {name}", "\n".join(["| Value | Number | Meaning |", "|---|---|---|"] + rows)]
         return parts
 
     def _keys(self, found, keys):

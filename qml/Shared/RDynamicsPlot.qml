@@ -57,8 +57,7 @@ FocusScope {
 
     /*! Whether handles are shown: an inactive plot and one without a range have none. */
     readonly property bool handlesVisible: root.showHandles && root.active && Math.abs(root.xTo - root.xFrom) > 0 && Math.abs(root.yTo - root.yFrom) > 0
-    /*! Distances in pixels: `gap` between plot and numbers; `margin` keeps handles that stand at the edge of the plot
-        inside of the panel. */
+    /*! Pixels between plot and numbers. */
     readonly property real gap: 4 * RThemeValues.unit
     /*! Keeps handles that stand at the edge of the plot inside of the panel. */
     readonly property real margin: 8 * RThemeValues.unit

@@ -24,7 +24,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotFIRFilter : public tamble::client::R
     Q_PROPERTY(int slope MEMBER m_slope NOTIFY slopeChanged)
     /// One line that tells devices what the coefficients are.
     Q_PROPERTY(QString header MEMBER m_header NOTIFY headerChanged)
-    /// Taps of the impulse response, first one first.
+    /// Taps of the impulse response, first one first; the unit impulse by default.
     Q_PROPERTY(QList<qreal> coefficients MEMBER m_coefficients NOTIFY coefficientsChanged)
     /// Whether low, high and band passes are designed from their corners; false takes `coefficients` as they are.
     Q_PROPERTY(bool generateCoefficients MEMBER m_generateCoefficients NOTIFY generateCoefficientsChanged)
