@@ -13,6 +13,7 @@ file(GLOB_RECURSE cpp_files CONFIGURE_DEPENDS
 )
 file(GLOB_RECURSE qml_files CONFIGURE_DEPENDS
     ${PROJECT_SOURCE_DIR}/qml/*.qml
+    ${PROJECT_SOURCE_DIR}/docs/*.qml
     ${PROJECT_SOURCE_DIR}/gallery/*.qml
     ${PROJECT_SOURCE_DIR}/tests/*.qml
 )

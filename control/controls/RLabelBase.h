@@ -15,6 +15,8 @@ namespace tamble::client {
 /// Caption that stands for another item, its buddy: gives it its name, and the focus by a click or by Alt and the
 /// letter behind "&".
 ///
+/// Keys: Alt and the marked letter give the buddy the focus.
+///
 /// The parts that few captions show, a line and a tool tip, are made from their QML files when they are first shown.
 class TAMBLE_CLIENT_CONTROL_EXPORT RLabelBase : public QQuickLabel
 {

@@ -78,7 +78,8 @@ class Module:
         return sorted({self._key_of[name] for name in used if name in self._key_of})
 
     def _keys_of_sheets(self):
-        getters = self.headers["StyleSetProps"].functions.values()
+        values = self.headers.get("StyleSetProps")
+        getters = values.functions.values() if values else []
         found = ((getter.name, re.search(r'Literal\("([\w-]+)"\)', getter.code)) for getter in getters)
         return {name: match[1] for name, match in found if match}
 

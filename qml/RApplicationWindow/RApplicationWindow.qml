@@ -2,7 +2,10 @@ import QtQuick
 import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
-/*! Main window with the theme object and the style sheets that the theme word names. */
+/*! Main window with the theme object and the style sheets that the theme word names.
+
+    Keys: Ctrl with Plus and Minus changes the size of everything in steps of 0.1 from 0.5 to 3, Ctrl+0 goes back to the
+    automatic size, unless `zoomShortcuts` is false. */
 T.ApplicationWindow {
     id: root
 

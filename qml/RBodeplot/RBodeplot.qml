@@ -2,7 +2,10 @@ import QtQuick
 import TambleClient.Control 1.0
 
 /*! Frame of a frequency plot: grid, axes and, inside them, the page's curves. The wheel and two fingers only tell the
-    page how far they moved (`twoFingerHorizontalChange`), unless `wheelZooms`; dragging moves a zoomed plot. */
+    page how far they moved (`twoFingerHorizontalChange`), unless `wheelZooms`; dragging moves a zoomed plot.
+
+    Keys: Plus and Minus zoom the levels or, after Space, the frequencies; Left and Right move a zoomed plot by a
+    twentieth of its width. */
 RBodeplotTemplate {
     id: root
 

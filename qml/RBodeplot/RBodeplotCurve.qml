@@ -3,7 +3,11 @@ import TambleClient.Control 1.0
 import "../Shared" as Shared
 
 /*! Frequency response of a set of filters in a plot frame, with handles to edit them: the left button or a finger drags
-    frequency and gain, the right button Q; arrows, PageUp and PageDown do the same, double click and End set 0 dB. */
+    frequency and gain, the right button Q; a double click sets 0 dB.
+
+    Keys: Tab goes from handle to handle by frequency. Left and Right move a handle by 1/6 octave (1/24 with Shift, 1
+    with Ctrl), Up and Down by 0.5 dB (0.1 with Shift, 3 with Ctrl), PageUp and PageDown change its Q; End sets 0 dB,
+    Esc takes the gesture back. */
 RBodeplotCurveTemplate {
     id: root
 

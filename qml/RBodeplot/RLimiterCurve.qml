@@ -2,7 +2,10 @@ import QtQuick
 import TambleClient.Control 1.0
 
 /*! Threshold of a limiter in a plot frame, with a handle to move it. The page writes what the user changes to its
-    device; until that answers, the curve shows the edited threshold. */
+    device; until that answers, the curve shows the edited threshold.
+
+    Keys: arrows move the threshold by `stepSize`, a fifth of it with Shift; Ctrl, PageUp and PageDown by six; End leads
+    to `defaultThreshold`, Esc takes the gesture back. */
 RLimiterCurveTemplate {
     id: root
 

@@ -3,7 +3,9 @@ import QtQuick.Templates as T
 import "../Shared"
 import TambleClient.Control 1.0
 
-/*! Asks "on or off?" when several devices differ. It opens at its parent and is as wide. */
+/*! Asks "on or off?" when several devices differ. It opens at its parent and is as wide.
+
+    Keys: arrows and Tab go to the other choice, Space and Enter take it, Esc closes. */
 T.Popup {
     id: root
 

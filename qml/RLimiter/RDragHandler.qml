@@ -2,7 +2,10 @@ import QtQuick
 import TambleClient.Control 1.0
 
 /*! Draggable handle at a point of a plot, which its parent fills. The page writes what the user changes to its device;
-    until that answers, the handle shows the edited point. */
+    until that answers, the handle shows the edited point.
+
+    Keys: arrows move by `stepSize`, a fifth of it with Shift; Ctrl, PageUp and PageDown by six; End leads to `defaultX`
+    and `defaultY`, Esc takes the gesture back. */
 RLevelHandle {
     id: root
 

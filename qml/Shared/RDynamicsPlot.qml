@@ -3,7 +3,10 @@ import TambleClient.Control 1.0
 import "../RLimiter"
 
 /*! What the dynamics panels have in common: a square plot with its grid, numbers and curve, room for handles on it and
-    for a meter beside or under it. Handles and whatever a page adds lie on the plot. */
+    for a meter beside or under it. Handles and whatever a page adds lie on the plot.
+
+    Keys: Tab goes from handle to handle. Arrows change a handle's parameter by `dragStep`, a fifth of it with Shift, a
+    ratio by 0.1; Ctrl, PageUp and PageDown by six such steps; End leads to its default, Esc takes the gesture back. */
 FocusScope {
     id: root
 
