@@ -14,20 +14,29 @@ class RButtonBasePrivate;
 
 /// The behaviour of all buttons: selection, which is not the template's check state, "mixed", Enter, and mnemonics.
 /// ButtonInterface tells assistive tools about it.
+///
+/// Keys: Space presses, and clicks when it is released; Enter clicks when it is released, unless `enterClicks` is false;
+/// Esc lets go of a held Space without a click. Alt and the letter behind "&" click.
 class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RButtonBase)
     Q_PROPERTY(bool selectable READ isSelectable WRITE setSelectable NOTIFY selectableChanged FINAL)
+    /// Whether the button is in the selected state.
     Q_PROPERTY(bool selected READ isSelected WRITE setSelected NOTIFY selectedChanged FINAL)
     Q_PROPERTY(bool consistent READ isConsistent WRITE setConsistent NOTIFY consistentChanged FINAL)
+    /// Whether Enter sends customEventActivated() in place of clicked().
     Q_PROPERTY(bool useCustomEvent MEMBER m_useCustomEvent NOTIFY useCustomEventChanged FINAL)
+    /// Whether a click on "mixed" leaves the selection to a question that follows.
     Q_PROPERTY(bool asksWhenMixed MEMBER m_asksWhenMixed NOTIFY asksWhenMixedChanged FINAL)
+    /// Whether releasing Enter clicks.
     Q_PROPERTY(bool enterClicks MEMBER m_enterClicks NOTIFY enterClicksChanged FINAL)
     Q_PROPERTY(bool literalText READ literalText WRITE setLiteralText NOTIFY literalTextChanged FINAL)
     Q_PROPERTY(QString plainText READ plainText NOTIFY plainTextChanged FINAL)
     // Bound to the style set in QML. As native properties they are read and written by compiled bindings at half the
     // cost of ones declared there, and a change of theme does both for every button.
+    /// Of the style: `ssBackground`, `ssColor` of the text, `ssLineColor` and `ssLineVisible` of the bar along the
+    /// edge.
     Q_PROPERTY(QColor ssBackground MEMBER m_ssBackground NOTIFY ssBackgroundChanged)
     Q_PROPERTY(QColor ssColor MEMBER m_ssColor NOTIFY ssColorChanged)
     Q_PROPERTY(QColor ssLineColor MEMBER m_ssLineColor NOTIFY ssLineColorChanged)

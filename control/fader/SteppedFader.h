@@ -11,11 +11,16 @@ namespace tamble::client {
 /// A fader whose value is edited: the gestures with their signals, and steps by keys, wheel and assistive tools.
 ///
 /// Steps that follow each other within 0.4 s are one gesture.
+///
+/// Keys: Up and Right, Down and Left step by `stepSize`, with Shift by `fineStepSize`; with Ctrl, and by PageUp and
+/// PageDown, by `pageStepSize`. Home leads to `from`, End and Ctrl+0 to `defaultValue`; Esc takes the gesture back.
 class TAMBLE_CLIENT_CONTROL_EXPORT SteppedFader : public tamble::client::FaderItem
 {
+    /// Whether the wheel does nothing unless the fader has the focus.
     Q_OBJECT
     QML_ANONYMOUS
     Q_PROPERTY(bool wheelNeedsFocus MEMBER m_wheelNeedsFocus NOTIFY wheelNeedsFocusChanged FINAL)
+    /// Time in ms after an edit until a bound value counts again.
     Q_PROPERTY(int settleTime MEMBER m_settleTime NOTIFY settleTimeChanged FINAL)
     Q_PROPERTY(bool editing READ isEditing NOTIFY editingChanged FINAL)
 

@@ -24,13 +24,19 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RHandleBase : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RHandleBase)
+    /// Where the handle stands in its parent, in pixels.
     Q_PROPERTY(QPointF place MEMBER m_place NOTIFY placeChanged FINAL)
+    /// Pixels per density-independent unit, which slack and reach of a press are measured in.
     Q_PROPERTY(qreal unitLength MEMBER m_unitLength NOTIFY unitLengthChanged FINAL)
     Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly NOTIFY readOnlyChanged FINAL)
+    /// Whether a drag brings the handle's place under the pointer; else it keeps the offset of the press.
     Q_PROPERTY(bool jumpsUnderPointer MEMBER m_jumpsUnderPointer NOTIFY jumpsUnderPointerChanged FINAL)
     Q_PROPERTY(bool rightButton READ takesRightButton WRITE setRightButton NOTIFY rightButtonChanged FINAL)
+    /// Whether the right button turns what the handle edits.
     Q_PROPERTY(bool turnable MEMBER m_turnable NOTIFY turnableChanged FINAL)
+    /// Whether the wheel with Ctrl pages.
     Q_PROPERTY(bool takesWheel MEMBER m_takesWheel NOTIFY takesWheelChanged FINAL)
+    /// The pointer is over the handle.
     Q_PROPERTY(bool hovered READ isHovered NOTIFY hoveredChanged FINAL)
     Q_PROPERTY(bool dragging READ isDragging NOTIFY draggingChanged FINAL)
     Q_PROPERTY(bool turning READ isTurning NOTIFY draggingChanged FINAL)
@@ -93,6 +99,7 @@ Q_SIGNALS:
     void stepped(qreal right, qreal up, bool fine);
     /// PageUp (1), PageDown (-1), or the wheel with Ctrl.
     void paged(qreal up);
+    /// The changes since begun() stand.
     void ended();
     /// What was changed since begun() is to be taken back.
     void canceled();

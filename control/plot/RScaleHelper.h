@@ -19,9 +19,12 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RScaleHelper : public QObject
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RScaleHelper)
+    /// `from` and `to`: ends of the axis, at the positions 0 and 1.
     Q_PROPERTY(double from MEMBER m_from NOTIFY fromChanged)
     Q_PROPERTY(double to MEMBER m_to NOTIFY toChanged)
+    /// 0 for a linear axis, the default; 1 for a logarithmic one.
     Q_PROPERTY(int scale MEMBER m_scale NOTIFY scaleChanged)
+    /// Puts `to` at position 0.
     Q_PROPERTY(bool reverse MEMBER m_reverse NOTIFY reverseChanged)
 
 public:
