@@ -23,6 +23,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT PendingValue : public QObject
     QML_NAMED_ELEMENT(RPendingValue)
     Q_PROPERTY(QObject *target READ target WRITE setTarget NOTIFY targetChanged FINAL)
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged FINAL)
+    /// How long, in ms, an edit is shown after it is over.
     Q_PROPERTY(int settleTime MEMBER m_settleTime NOTIFY settleTimeChanged FINAL)
     Q_PROPERTY(bool active READ isActive NOTIFY activeChanged FINAL)
     Q_PROPERTY(QVariant valueAtBegin READ valueAtBegin NOTIFY activeChanged FINAL)
