@@ -148,8 +148,9 @@ class Module:
             found.members[declared.name] = self._qml_property(declared, file)
         for declared in file.callables:
             kind, _, rest = declared.code.partition(" ")
+            parameters = re.sub(r"([\w.]+) (\w+)(?=[,)])", r"\2: \1", rest[len(declared.name):])
             found.members[declared.name] = Member(
-                declared.name, kind, f"{file.path}:{declared.line}", declared.text, parameters=rest[len(declared.name):])
+                declared.name, kind, f"{file.path}:{declared.line}", declared.text, parameters=parameters)
 
     def _qml_property(self, declared, file):
         member = Member(declared.name, "property", f"{file.path}:{declared.line}", declared.text, declared.type)

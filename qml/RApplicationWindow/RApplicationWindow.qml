@@ -17,7 +17,6 @@ T.ApplicationWindow {
     /*! Likewise of the application's own sheet, `appStyleSheetDirectory`, `appStyleSheetKey`, "app" until set and empty
         for no sheet, and `appStyleSheetTheme`. As long as none of the three is set, there need not be one. */
     property alias appStyleSheetDirectory: appSheet.directory
-    /*! Empty for no sheet. */
     property alias appStyleSheetKey: appSheet.key
     property alias appStyleSheetTheme: appSheet.themeWord
 

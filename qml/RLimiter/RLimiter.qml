@@ -12,7 +12,7 @@ Shared.RDynamicsPlot {
     property alias thresholdMin: calculator.thresholdMin
     property alias thresholdMax: calculator.thresholdMax
     readonly property alias values: calculator.values
-    /*! Where a double click leads; undefined for nowhere. So with all panels. */
+    /*! Where a double click on the handle leads, in dB; undefined for nowhere. */
     property var defaultThreshold: 0
 
     /*! The user changes the threshold (`thresholdEdited`) and has finished (`thresholdCommitted`), in dB. */
