@@ -84,22 +84,19 @@ class Module:
         return {name: match[1] for name, match in found if match}
 
     def _add_native(self, component):
-        class_name = component.get("name").split("::")[-1]
+        scope, _, class_name = component.get("name").rpartition("::")
         name = self._names[component.get("name")]
         header = self.headers.get(class_name) or self.headers.get(name)
         if header is None:
-            return
-        kind = ("singleton" if component.get("isSingleton") else "attached" if component.get("attachedType")
-                else "value" if component.get("accessSemantics") == "value"
-                else "base" if not component.get("exports")
-                else "uncreatable" if component.get("isCreatable") == "false" else "creatable")
-        is_own = component.get("name").startswith("tamble::")
-        base = component.get("prototype", "") if is_own else component.get("name")
-        found = Type(name, f"{header.path}:{header.line}", header.text, base, kind)
+            if scope:
+                raise LookupError(f"no header declares {class_name}")
+            return  # a class of Qt that others are built on
+        found = Type(name, f"{header.path}:{header.line}", header.text, component.get("name"), _kind_of(component))
         self.types[name] = found
-        if not is_own:
-            return  # a class of Qt, which documents its members
-        found.base = self._names[base] if base.startswith("tamble::") else base
+        if not scope:
+            return  # a class of Qt under a name of the module: Qt documents its members
+        base = component.get("prototype", "")
+        found.base = self._names.get(base, base) if "::" in base else base
         found.enums = header.enums if component.all("Enum") else {}
         silent = set()
         for block in component.all("Property"):
@@ -140,7 +137,8 @@ class Module:
 
     def _add_file(self, name, kind):
         file = self.files[name]
-        if file.base in self.files and file.base not in self.types:
+        known = self.types.get(file.base)
+        if file.base in self.files and (known is None or known.kind == "helper"):
             self._add_file(file.base, "base")
         found = Type(name, f"{file.path}:{file.line}", file.text, file.base, kind, bindings=file.bindings)
         self.types[name] = found
@@ -177,6 +175,18 @@ class Module:
         member.text = member.text or (meant.text if meant else "")
         if member.flags != "read-only":
             member.default = owner.bindings.get(name) or (meant.default if meant else "")
+
+
+def _kind_of(component):
+    if component.get("isSingleton"):
+        return "singleton"
+    if component.get("attachedType"):
+        return "attached"
+    if component.get("accessSemantics") == "value":
+        return "value"
+    if not component.get("exports"):
+        return "base"
+    return "uncreatable" if component.get("isCreatable") == "false" else "creatable"
 
 
 def _exported_name(component):

@@ -12,8 +12,10 @@ RApplicationWindow {
     property int awaited: 0
 
     function samples(): list<var> {
-        const items = Array.from(sheets.children).map(sheet => Array.from(sheet.children))
-        return [].concat(...items).filter(item => item.shown !== undefined)
+        const found = []
+        for (const sheet of Array.from(sheets.children))
+            found.push(...Array.from(sheet.children).filter(item => item.shown !== undefined))
+        return found
     }
 
     function fail(reason: string) {
