@@ -15,8 +15,8 @@ class RButtonBasePrivate;
 /// The behaviour of all buttons: selection, which is not the template's check state, "mixed", Enter, and mnemonics.
 /// ButtonInterface tells assistive tools about it.
 ///
-/// Keys: Space presses, and clicks when it is released; Enter clicks when it is released, unless `enterClicks` is false;
-/// Esc lets go of a held Space without a click. Alt and the letter behind "&" click.
+/// Keys: Space presses, and clicks when it is released; Enter clicks when it is released, unless `enterClicks` is
+/// false. Esc lets go of a held Space without a click. Alt and the letter behind "&" click.
 class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton
 {
     Q_OBJECT
