@@ -26,7 +26,8 @@ def summary(text):
 
 
 def index_of(pages):
-    lines = ["# TambleClient.Control 1.0", "All types that QML can name: `import TambleClient.Control 1.0`."]
+    lines = ["# TambleClient.Control 1.0", "All types that QML can name: `import TambleClient.Control 1.0`.",
+             "Pictures show the themes dark, light, contrast-dark and contrast-light, in this order."]
     for family in [*FAMILIES, OTHERS, INTERNAL]:
         entries = [f"- [{found.name}]({found.name}.md) — {summary(found.text)}"
                    for found, its_family in sorted(pages, key=lambda page: page[0].name) if its_family == family]

@@ -111,7 +111,8 @@ def split_keys(text):
     """The paragraph of a comment that tells the keys, and the others."""
     parts = text.split("\n\n")
     keys = [part.removeprefix("Keys: ") for part in parts if part.startswith("Keys: ")]
-    return "\n\n".join(keys), "\n\n".join(part for part in parts if not part.startswith("Keys: "))
+    others = [part for part in parts if not part.startswith("Keys: ")]
+    return "\n\n".join(part[:1].upper() + part[1:] for part in keys), "\n\n".join(others)
 
 
 def code(value):
