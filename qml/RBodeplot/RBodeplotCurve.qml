@@ -21,7 +21,8 @@ RBodeplotCurveTemplate {
     property int focusedPoint: -1
     /*! A gesture, of a pointer or of keys, has changed a filter and is not over. */
     readonly property bool editing: root.changingPoints > 0
-    /*! How many handles are held, each by a finger of its own, and how many are being changed. */
+    /*! How many handles are held, each by a finger of its own (`heldPoints`), and how many are being changed
+        (`changingPoints`). */
     property int heldPoints: 0
     property int changingPoints: 0
 
