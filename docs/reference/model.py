@@ -27,7 +27,7 @@ class Member:
     default: str = ""
     flags: str = ""
     parameters: str = ""
-    style_keys: list = field(default_factory=list)
+    style_keys: str = ""
 
 
 @dataclass
@@ -72,10 +72,15 @@ class Module:
         lineage = [self.types[type_name]] + self.bases(type_name)
         return next((owner.members[name] for owner in lineage if name in owner.members), None)
 
-    def keys_in(self, code):
-        """The keys of style sheets that an expression reads."""
-        used = re.findall(r"\w+\.RStyleSet\.props\.(\w+)", code)
-        return sorted({self._key_of[name] for name in used if name in self._key_of})
+    def keys_in(self, code, objects=None):
+        """The style keys that an expression reads, in Markdown; `objects` may tell of probes for other types."""
+        keys = set()
+        for identifier, name in re.findall(r"(\w+)\.RStyleSet\.props\.(\w+)", code):
+            if name in self._key_of:
+                probe = (objects or {}).get(identifier)
+                other = probe.bindings.get("type", "").strip('"') if probe else ""
+                keys.add(f"`{self._key_of[name]}`" + (f" of `{other}`" if other else ""))
+        return ", ".join(sorted(keys))
 
     def _keys_of_sheets(self):
         values = self.headers.get("StyleSetProps")
@@ -155,11 +160,11 @@ class Module:
         member.flags = "read-only" if "readonly" in declared.flags else declared.flags.strip()
         if declared.type == "alias":
             self._follow_alias(member, declared.code, file)
-        elif member.flags != "read-only":
+        elif member.flags != "read-only" or declared.code.isdigit():
             member.default = declared.code or EMPTY.get(declared.type, "")
-        member.style_keys = self.keys_in(declared.code)
+        member.style_keys = self.keys_in(declared.code, file.objects)
         if member.style_keys and not member.text:
-            member.text = "Style key " + ", ".join(f"`{key}`" for key in member.style_keys) + "."
+            member.text = f"Style key {member.style_keys}."
         return member
 
     def _follow_alias(self, member, target, file):

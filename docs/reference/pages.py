@@ -75,15 +75,15 @@ class PageWriter:
         return ["## Keys", "\n\n".join(text for text in texts if text)] if any(texts) else []
 
     def _style(self, found):
-        values, bindings = {}, {}
+        readers, bindings = {}, {}
         for owner in reversed([found] + self.module.bases(found.name)):
-            values.update({m.name: m.default for m in owner.members.values() if m.style_keys})
+            readers.update({m.name: (m.style_keys, m.default) for m in owner.members.values() if m.style_keys})
             for name, value in owner.bindings.items():
                 bindings[name] = value
-                if name in values or self.module.keys_in(value):
-                    values[name] = value
-        rows = [f"| {key_list(keys)} | {anchor(name, name in found.members)} | {cell(fallback(value))} |"
-                for name, value in values.items() if (keys := self.module.keys_in(value))]
+                if name in readers or self.module.keys_in(value):
+                    readers[name] = (self.module.keys_in(value), value)
+        rows = [f"| {keys} | {anchor(name, name in found.members)} | {cell(fallback(value))} |"
+                for name, (keys, value) in readers.items() if keys]
         states = [name.rsplit(".", 1)[1] for name in bindings if name.startswith("RStyleSet.stateHelper.")]
         if not rows and not states:
             return []
@@ -125,10 +125,6 @@ def fallback(value):
     """What an expression gives that asks first whether a key is set."""
     otherwise = re.search(r"isSet\(.*?\) \? .*? : (.*)$", value)
     return code(otherwise[1]) if otherwise else ""
-
-
-def key_list(keys):
-    return ", ".join(f"`{key}`" for key in keys)
 
 
 def anchor(name, is_target=True, parameters=""):

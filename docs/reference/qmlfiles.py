@@ -72,8 +72,8 @@ def _take_member(line, number, comment, root, lines):
         root.properties.append(QmlProperty(name, number, comment.take(name), value, kind, flags))
     elif match := CALLABLE.match(line):
         result = f": {match[4]}" if match[4] else ""
-        declaration = Declaration(match[2], number, comment.take(match[2]), match[1] + " " + match[2] + match[3] + result)
-        root.callables.append(declaration)
+        code = f"{match[1]} {match[2]}{match[3]}{result}"
+        root.callables.append(Declaration(match[2], number, comment.take(match[2]), code))
     elif match := BINDING.match(line):
         root.bindings[match[1]] = match[2]
 
