@@ -1,6 +1,5 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
 
 /*! Frequency response of a set of filters in a plot frame, with handles to edit them: the left button or a finger drags
     frequency and gain, the right button Q; a double click sets 0 dB.
