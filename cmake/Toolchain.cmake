@@ -37,7 +37,7 @@ if(TAMBLE_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -O1 -g1
     )
     add_link_options(-fsanitize=address,undefined)
-else()
+elseif(NOT TAMBLE_BUILD_FUZZERS)
     # A sanitizer's run-time symbols are left undefined in shared libraries.
     add_link_options(LINKER:--no-undefined)
 endif()
