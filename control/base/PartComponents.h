@@ -5,6 +5,7 @@
 #include <QtCore/QVariantMap>
 
 #include <array>
+#include <cstddef>
 
 class QQmlComponent;
 class QQmlEngine;

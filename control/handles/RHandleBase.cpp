@@ -1,9 +1,11 @@
 #include "handles/RHandleBase.h"
 
+#include <QtCore/QTimerEvent>
 #include <QtGui/QCursor>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QStyleHints>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -39,8 +41,6 @@ RHandleBase::RHandleBase(QQuickItem *parent)
     setAcceptHoverEvents(true);
     setCursor(Qt::PointingHandCursor);
 }
-
-RHandleBase::~RHandleBase() = default;
 
 void RHandleBase::setReadOnly(bool readOnly)
 {

@@ -45,7 +45,6 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RHandleBase : public QQuickItem
 
 public:
     explicit RHandleBase(QQuickItem *parent = nullptr);
-    ~RHandleBase() override;
 
     /// Takes hold and gets the focus, but sends no change; false by default.
     bool isReadOnly() const { return m_readOnly; }
