@@ -3,7 +3,6 @@
 #include "base/ControlExport.h"
 #include "base/PartComponents.h"
 
-#include <QtGui/QColor>
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/private/qquickrectangle_p.h>
 
@@ -17,8 +16,6 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RControlBackground : public QQuickRectangle
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RControlBackground)
-    /// Colour of the bar.
-    Q_PROPERTY(QColor lineColor MEMBER m_lineColor NOTIFY lineColorChanged FINAL)
     Q_PROPERTY(bool lineVisible READ lineVisible WRITE setLineVisible NOTIFY lineVisibleChanged FINAL)
     /// Edge that the bar lies at.
     Q_PROPERTY(Qt::Edge lineEdge MEMBER m_lineEdge NOTIFY lineEdgeChanged FINAL)
@@ -33,15 +30,14 @@ public:
     /// Whether the bar shows; false by default.
     bool lineVisible() const { return m_lineVisible; }
     void setLineVisible(bool visible);
-    /// The bar along `lineEdge` (the bottom by default), `lineInset` pixels short of both its ends. Null outside of
-    /// QML.
+    /// The bar along `lineEdge` (the bottom by default), `lineInset` pixels short of both its ends, in the colour
+    /// `ssLineColor` of the control whose background this is. Null outside of QML.
     QQuickRectangle *line();
     /// Whether the control has the keyboard focus; false by default.
     bool focusVisible() const { return m_focusVisible; }
     void setFocusVisible(bool visible);
 
 Q_SIGNALS:
-    void lineColorChanged();
     void lineVisibleChanged();
     void lineEdgeChanged();
     void lineInsetChanged();
@@ -50,7 +46,6 @@ Q_SIGNALS:
 private:
     QQuickItem *makePart(Part part);
 
-    QColor m_lineColor;
     Qt::Edge m_lineEdge = Qt::BottomEdge;
     qreal m_lineInset = 0.0;
     QQuickRectangle *m_line = nullptr;  // a child, made on demand

@@ -6,6 +6,8 @@ Rectangle {
     id: root
 
     readonly property RControlBackground background: root.parent as RControlBackground
+    // Asked by the few bars that show; a binding of every background would be read at each change of theme.
+    readonly property var control: root.background.parent
     readonly property bool sideways: root.background.lineEdge === Qt.LeftEdge || root.background.lineEdge === Qt.RightEdge
     readonly property real thickness: 4 * RThemeValues.unit
 
@@ -14,6 +16,6 @@ Rectangle {
     width: root.sideways ? root.thickness : root.background.width - 2 * root.background.lineInset
     height: root.sideways ? root.background.height - 2 * root.background.lineInset : root.thickness
     visible: root.background.lineVisible
-    color: root.background.lineColor
+    color: root.control?.ssLineColor ?? "transparent"
     Accessible.ignored: true
 }

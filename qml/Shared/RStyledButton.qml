@@ -34,7 +34,6 @@ RButtonBase {
     background: RControlBackground { // qmllint disable deferred-property-id
         id: back
         color: root.ssBackground
-        lineColor: root.ssLineColor
         // A button that stands on its side has its line at its outer edge, one at any other angle has none.
         lineVisible: root.ssLineVisible && (root.rotation === 0 || root.rotation === 90 || root.rotation === -90)
         lineEdge: root.rotation === 0 ? Qt.BottomEdge : Qt.LeftEdge
