@@ -15,13 +15,6 @@ namespace tamble::client {
 
 namespace {
 
-bool sameDisplay(const FilterRecord &a, const FilterRecord &b)
-{
-    const RecordDisplay first = recordDisplay(a.data());
-    const RecordDisplay second = recordDisplay(b.data());
-    return first.visible == second.visible && first.bypass == second.bypass;
-}
-
 bool hasHeader(const QObject &source, const FIRFilterExtended &record)
 {
     return QAnyStringView::equal(source.property("header").toString(), QUtf8StringView(record.header));
@@ -87,15 +80,15 @@ void CurveFilters::refreshRecord(std::size_t position)
         qDebug().noquote() << problem;
     checkSlope(position);
     updateModels();
-    if (!sameDisplay(old, record))
+    if (old.display() != record.display())
         Q_EMIT displayChanged();
-    if (!sameResponse(old.data(), record.data()))
+    if (!record.hasResponseOf(old))
         Q_EMIT recordChanged(int(position));
 }
 
 void CurveFilters::checkSlope(std::size_t position)
 {
-    if (m_hasToldOfSlope || !hasUnknownSlope(m_set.records()[position].data()))
+    if (m_hasToldOfSlope || !m_set.records()[position].hasUnknownSlope())
         return;
     m_hasToldOfSlope = true;
     warnOfPage(
@@ -127,7 +120,7 @@ void CurveFilters::returnHeaders(int evaluatedRecord)
     for (std::size_t i = 0; i < m_filters.sources.size(); ++i) {
         if (evaluatedRecord != allRecords && int(i) != evaluatedRecord)
             continue;
-        const auto *record = dynamic_cast<const FIRFilterExtended *>(m_set.records()[i].data());
+        const auto *record = m_set.records()[i].as<FIRFilterExtended>();
         auto *item = record ? qobject_cast<RBodeplotFIRFilter *>(m_filters.sources[i]) : nullptr;
         if (item && !hasHeader(*item, *record))
             item->setProperty("header", QString::fromStdString(record->header));
@@ -245,7 +238,7 @@ void CurveFilters::followHeader(QObject *source)
     if (found == m_filters.sources.end())
         return;
     const FilterRecord record = m_set.records()[std::size_t(found - m_filters.sources.begin())];
-    const auto *fir = dynamic_cast<const FIRFilterExtended *>(record.data());
+    const auto *fir = record.as<FIRFilterExtended>();
     if (fir && !hasHeader(*source, *fir))
         refresh(source);
 }

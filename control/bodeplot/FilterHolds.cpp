@@ -3,20 +3,10 @@
 #include <QtCore/QTimerEvent>
 
 #include <algorithm>
-#include <typeinfo>
 
 namespace tamble::client {
 
 namespace {
-
-bool sameKind(const FilterRecord &a, const FilterRecord &b)
-{
-    if (!a || !b)
-        return false;
-    const auto &first = *a;
-    const auto &second = *b;
-    return typeid(first) == typeid(second);
-}
 
 /// False when the list has no place for the record.
 bool keepRecord(const QObject *source, const FilterRecord &record, FilterRecords &records,
@@ -24,7 +14,7 @@ bool keepRecord(const QObject *source, const FilterRecord &record, FilterRecords
 {
     const auto found = std::ranges::find(sources, source);
     const auto position = std::size_t(found - sources.begin());
-    if (!source || found == sources.end() || !sameKind(records[position], record))
+    if (!source || found == sources.end() || !records[position].isOfKind(record))
         return false;
     records[position] = record;
     return true;
@@ -43,13 +33,13 @@ void FilterHolds::begin(QObject *source, const FilterRecord &record, HandleRelat
 {
     std::erase_if(m_settling, [&](const Settling &settling) { return settling.record == record; });
     std::erase_if(m_holds, [&](const FilterHold &hold) { return hold.record == record && hold.relation == relation; });
-    m_holds.push_back({source, record, relation, copyRecord(record.data()), std::nullopt});
+    m_holds.push_back({source, record, relation, record.copy(), std::nullopt});
 }
 
 FilterRecord FilterHolds::restore(FilterHold &hold)
 {
     const FilterRecord edited = hold.record;
-    const FilterRecord restored = copyRecord(hold.before.data());
+    const FilterRecord restored = hold.before.copy();
     hold.untoldPoint.reset();
     for (FilterHold &other : m_holds) {
         if (other.record == edited)

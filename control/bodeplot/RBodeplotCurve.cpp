@@ -293,8 +293,7 @@ void RBodeplotCurve::evaluate()
     const bool one = evaluation == Evaluation::One;
     const FilterRecords &records = m_filters.set().records();
     m_calculation.items.resize(records.size());
-    std::ranges::transform(records, m_calculation.items.begin(),
-                           [](const FilterRecord &record) { return record.data(); });
+    std::ranges::transform(records, m_calculation.items.begin(), &FilterRecord::item);
     m_calculation.sampleRate = m_samplerate;
     m_calculation.resolution = m_resolution;
     tamble::common::FilterAlgorithm::calculateBodePlotLogarithmic(m_calculation, one, unsigned(m_evaluatedRecord));
@@ -310,7 +309,7 @@ void RBodeplotCurve::updateScaledCurve()
     const FilterRecords &records = m_filters.set().records();
     m_shownRecords.resize(records.size());
     for (std::size_t i = 0; i < records.size(); ++i)
-        m_shownRecords[i] = !m_hideIndividualCurves && recordDisplay(records[i].data()).visible;
+        m_shownRecords[i] = !m_hideIndividualCurves && records[i].display().visible;
 
     ResponseLines::Settings settings;
     settings.view = {axes(), size(), int(m_calculation.results.aggregated.magnitude.size()),

@@ -77,5 +77,5 @@ QVariantList FilterSections::of(const QVariantList &bands, double sampleRate) co
 
 bool FilterSections::qualityCounts(int type, int slope) const
 {
-    return tamble::common::qualityCounts(type, slope);
+    return tamble::common::qualityCounts(tamble::common::EqType(type), tamble::common::FilterSlope(slope));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FilterTypes.h"
 #include "TambleCommonMathExport.h"
 
 #include <string>
@@ -16,8 +17,8 @@ struct TAMBLE_COMMON_MATH_EXPORT CalculationItem
     virtual ~CalculationItem() = default;
 };
 
-/// One band of an equaliser. Its type chooses the analogue prototype H(s), with s normalised to `freq`, Q for `quality`
-/// and A for 10^(gain/40); types that are not listed are flat.
+/// One band of an equaliser. Its type, an EqType, chooses the analogue prototype H(s), with s normalised to `freq`, Q
+/// for `quality` and A for 10^(gain/40); types that are not listed are flat.
 ///
 ///     0   peaking, cuts mirror boosts   (s^2 + s A/P + 1) / (s^2 + s/(A P) + 1) with P = Q
 ///     6   proportional Q                as 0, with P = Q max(A, 1/A)
@@ -38,22 +39,8 @@ struct TAMBLE_COMMON_MATH_EXPORT EqFilter : CalculationItem
     double freq = 20.0;   ///< Centre or corner frequency in Hz.
     double gain = 0.0;    ///< dB
     double quality = 1.0; ///< Q
-    int slope = 0;        ///< 1 for 6 dB per octave, 2 for 12 dB per octave.
+    int slope = 0;        ///< A FilterSlope: 1 for 6 dB per octave, 2 for 12 dB per octave.
 };
-
-/// Whether the response of an EqFilter depends on its Q.
-constexpr bool qualityCounts(int eqType, int slope)
-{
-    switch (eqType) {
-    case 3:
-    case 4:
-        return slope == 2;
-    case 5:
-        return slope != 1;
-    default:
-        return eqType == 0 || (eqType >= 6 && eqType <= 11);
-    }
-}
 
 /// A band with different flanks: between its two frequencies it has `gain`, beyond them 0 dB. They come in either
 /// order; the lower frequency is the lower flank, and each flank keeps its own Q. The prototype is a high shelf with Q
@@ -61,7 +48,7 @@ constexpr bool qualityCounts(int eqType, int slope)
 struct TAMBLE_COMMON_MATH_EXPORT AsymmetricEqFilter : CalculationItem
 {
     bool bypass = false;
-    int type = 12;
+    int type = int(EqType::Asymmetric);
     double freq = 20.0;
     double gain = 0.0;
     double quality = 1.0;

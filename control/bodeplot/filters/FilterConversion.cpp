@@ -1,6 +1,7 @@
 #include "bodeplot/filters/FilterConversion.h"
 
 #include "base/ControlLog.h"
+#include "bodeplot/filters/FilterFields.h"
 #include "bodeplot/filters/RBodeplotAsymmetricEqFilter.h"
 #include "bodeplot/filters/RBodeplotEqFilter.h"
 #include "bodeplot/filters/RBodeplotFIRFilter.h"
@@ -8,6 +9,9 @@
 
 #include <QtCore/QDebug>
 #include <QtCore/QVariant>
+
+#include <string>
+#include <utility>
 
 namespace tamble::client {
 
@@ -54,10 +58,12 @@ public:
             value = found.toString();
     }
 
-    template <typename Value>
-    Value value(const char *name) const
+    void read(const char *name, std::string &value) const { value = m_object.property(name).toString().toStdString(); }
+
+    void read(const char *name, std::vector<double> &value) const
     {
-        return m_object.property(name).value<Value>();
+        const auto found = m_object.property(name).value<QList<qreal>>();
+        value.assign(found.begin(), found.end());
     }
 
 private:
@@ -66,98 +72,38 @@ private:
 };
 
 template <typename Record>
-void readDisplay(const PropertyReader &reader, Record &record)
+FilterRecord recordOf(const PropertyReader &reader, Record record = {})
 {
-    reader.read("visible", record.visible);
-    reader.read("errorFlag", record.errorFlag);
-    reader.read("label", record.label);
-}
-
-template <typename Record>
-void readBand(const PropertyReader &reader, Record &record)
-{
-    reader.read("bypass", record.bypass);
-    reader.read("type", record.type);
-    reader.read("freq", record.freq);
-    reader.read("gain", record.gain);
-    reader.read("quality", record.quality);
-    reader.read("slope", record.slope);
-    readDisplay(reader, record);
-}
-
-FilterRecord eqRecord(const PropertyReader &reader, const QString &label = {})
-{
-    auto record = QSharedPointer<EqFilterExtended>::create();
-    record->label = label;
-    readBand(reader, *record);
-    return record;
-}
-
-FilterRecord asymmetricRecord(const PropertyReader &reader, const QString &label = {})
-{
-    auto record = QSharedPointer<AsymmetricEqFilterExtended>::create();
-    record->label = label;
-    readBand(reader, *record);
-    reader.read("freq2", record->freq2);
-    reader.read("quality2", record->quality2);
-    return record;
-}
-
-FilterRecord xOverRecord(const PropertyReader &reader)
-{
-    auto record = QSharedPointer<XOverFilterExtended>::create();
-    reader.read("bypass", record->bypass);
-    reader.read("type", record->type);
-    reader.read("freq", record->freq);
-    reader.read("category", record->category);
-    readDisplay(reader, *record);
-    return record;
-}
-
-FilterRecord firRecord(const PropertyReader &reader)
-{
-    auto record = QSharedPointer<FIRFilterExtended>::create();
-    reader.read("bypass", record->bypass);
-    reader.read("type", record->type);
-    reader.read("order", record->order);
-    reader.read("freqHP", record->freqHP);
-    reader.read("freqLP", record->freqLP);
-    reader.read("slope", record->slope);
-    reader.read("generateCoefficients", record->generateCoefficients);
-    reader.read("visible", record->visible);
-    reader.read("errorFlagHP", record->errorFlagHP);
-    reader.read("errorFlagLP", record->errorFlagLP);
-    reader.read("labelHP", record->labelHP);
-    reader.read("labelLP", record->labelLP);
-    record->header = reader.value<QString>("header").toStdString();
-    const auto coefficients = reader.value<QList<qreal>>("coefficients");
-    record->coefficients.assign(coefficients.begin(), coefficients.end());
-    return record;
+    forEachField<Record>([&](const auto &field) { reader.read(field.name, record.*field.member); });
+    return QSharedPointer<Record>::create(std::move(record));
 }
 
 FilterRecord recordOfItem(const QObject &item)
 {
     const PropertyReader reader(item, Precision::Double);
     if (qobject_cast<const RBodeplotEqFilter *>(&item))
-        return eqRecord(reader);
+        return recordOf<EqFilterExtended>(reader);
     if (qobject_cast<const RBodeplotXOverFilter *>(&item))
-        return xOverRecord(reader);
+        return recordOf<XOverFilterExtended>(reader);
     if (qobject_cast<const RBodeplotFIRFilter *>(&item))
-        return firRecord(reader);
+        return recordOf<FIRFilterExtended>(reader);
     if (qobject_cast<const RBodeplotAsymmetricEqFilter *>(&item))
-        return asymmetricRecord(reader);
+        return recordOf<AsymmetricEqFilterExtended>(reader);
     return {};
 }
 
 /// Any object as a band; `place` counts from 0.
 FilterRecord recordOfObject(const QObject &object, qsizetype place)
 {
-    constexpr int asymmetricType = RBodeplotEqTypeEnum::ASYMMETRIC;
     const PropertyReader reader(object, Precision::Single);
-    const QString label = QString::number(place + 1);
     int type = 0;
     reader.read("type", type);
-    return type == asymmetricType ? asymmetricRecord(reader, label) : eqRecord(reader, label);
+    const auto labelled = [&](auto record) {
+        record.label = QString::number(place + 1);
+        return recordOf(reader, std::move(record));
+    };
+    return tamble::common::EqType(type) == tamble::common::EqType::Asymmetric ? labelled(AsymmetricEqFilterExtended())
+                                                                              : labelled(EqFilterExtended());
 }
 
 } // namespace

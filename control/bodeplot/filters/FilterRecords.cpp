@@ -1,6 +1,8 @@
 #include "bodeplot/filters/FilterRecords.h"
 
-#include <tuple>
+#include "bodeplot/filters/FilterFields.h"
+
+#include <utility>
 
 namespace tamble::client {
 
@@ -8,86 +10,67 @@ using namespace tamble::common;
 
 namespace {
 
-template <typename Record>
-const Record *as(const CalculationItem *record)
+template <typename... Records>
+FilterRecord::Kind kindOf(CalculationItem *item, const std::variant<std::monostate, Records *...> &)
 {
-    return dynamic_cast<const Record *>(record);
+    FilterRecord::Kind kind;
+    const auto take = [&](auto *record) {
+        if (record)
+            kind = record;
+    };
+    (take(dynamic_cast<Records *>(item)), ...);
+    return kind;
 }
 
-/// Compares two records by the fields that `fields` picks; only when both are of that kind.
-template <typename Record, typename Fields>
-bool equalBy(const CalculationItem *a, const CalculationItem *b, Fields fields)
+template <typename Record>
+bool equalResponses(const Record &a, const Record &b)
 {
-    const auto *first = as<Record>(a);
-    const auto *second = as<Record>(b);
-    return first && second && fields(*first) == fields(*second);
+    return std::apply([&](const auto &...field) { return (... && (a.*field.member == b.*field.member)); },
+                      FilterFields<Record>::response);
 }
 
 } // namespace
 
-RecordDisplay recordDisplay(const CalculationItem *record)
+FilterRecord::FilterRecord(QSharedPointer<CalculationItem> item)
+    : m_item(std::move(item))
+    , m_kind(kindOf(m_item.data(), Kind()))
+{}
+
+RecordDisplay FilterRecord::display() const
 {
-    if (const auto *eq = as<EqFilterExtended>(record))
-        return {eq->visible, eq->bypass};
-    if (const auto *asymmetric = as<AsymmetricEqFilterExtended>(record))
-        return {asymmetric->visible, asymmetric->bypass};
-    if (const auto *xOver = as<XOverFilterExtended>(record))
-        return {xOver->visible, xOver->bypass};
-    if (const auto *fir = as<FIRFilterExtended>(record))
-        return {fir->visible, fir->bypass};
-    return {};
+    return visit([](const auto &record) -> RecordDisplay { return {record.visible, record.bypass}; });
 }
 
-bool hasUnknownSlope(const CalculationItem *record)
+bool FilterRecord::hasUnknownSlope() const
 {
-    const auto isUnknown = [](const auto *band) { return band && (band->slope < 0 || band->slope > 2); };
-    return isUnknown(as<EqFilter>(record)) || isUnknown(as<AsymmetricEqFilter>(record));
+    return visit([]<typename Record>(const Record &record) {
+        if constexpr (requires { record.gain; })
+            return record.slope < int(FilterSlope::None) || record.slope > int(FilterSlope::TwelveDb);
+        else
+            return false;
+    });
 }
 
-bool isWithoutGain(int eqType)
+bool FilterRecord::hasResponseOf(const FilterRecord &other) const
 {
-    return (eqType >= 3 && eqType <= 5) || eqType == 8 || eqType == 9;
+    return isOfKind(other) &&
+           visit([&]<typename Record>(const Record &record) { return equalResponses(record, *other.as<Record>()); });
 }
 
-void settleRecord(CalculationItem &record)
+FilterRecord FilterRecord::copy() const
 {
-    if (auto *eq = dynamic_cast<EqFilter *>(&record)) {
-        if (isWithoutGain(eq->type))
-            eq->gain = 0.0;
-    } else if (auto *xOver = dynamic_cast<XOverFilterExtended *>(&record)) {
-        xOver->label = xOver->category == 1 ? QStringLiteral("HP") : QStringLiteral("LP");
+    return visit(
+        []<typename Record>(const Record &record) { return FilterRecord(QSharedPointer<Record>::create(record)); });
+}
+
+void settleRecord(const FilterRecord &record)
+{
+    if (auto *eq = record.as<EqFilterExtended>(); eq && !gainCounts(EqType(eq->type)))
+        eq->gain = 0.0;
+    if (auto *xOver = record.as<XOverFilterExtended>()) {
+        const bool highPass = CrossoverSide(xOver->category) == CrossoverSide::HighPass;
+        xOver->label = highPass ? QStringLiteral("HP") : QStringLiteral("LP");
     }
-}
-
-FilterRecord copyRecord(const CalculationItem *record)
-{
-    if (const auto *eq = as<EqFilterExtended>(record))
-        return QSharedPointer<EqFilterExtended>::create(*eq);
-    if (const auto *asymmetric = as<AsymmetricEqFilterExtended>(record))
-        return QSharedPointer<AsymmetricEqFilterExtended>::create(*asymmetric);
-    if (const auto *xOver = as<XOverFilterExtended>(record))
-        return QSharedPointer<XOverFilterExtended>::create(*xOver);
-    if (const auto *fir = as<FIRFilterExtended>(record))
-        return QSharedPointer<FIRFilterExtended>::create(*fir);
-    return {};
-}
-
-bool sameResponse(const CalculationItem *a, const CalculationItem *b)
-{
-    return equalBy<EqFilter>(
-               a, b,
-               [](const EqFilter &f) { return std::tie(f.bypass, f.type, f.freq, f.gain, f.quality, f.slope); }) ||
-           equalBy<AsymmetricEqFilter>(a, b,
-                                       [](const AsymmetricEqFilter &f) {
-                                           return std::tie(f.bypass, f.freq, f.gain, f.quality, f.slope, f.freq2,
-                                                           f.quality2);
-                                       }) ||
-           equalBy<XOverFilter>(a, b,
-                                [](const XOverFilter &f) { return std::tie(f.bypass, f.type, f.freq, f.category); }) ||
-           equalBy<FIRFilter>(a, b, [](const FIRFilter &f) {
-               return std::tie(f.bypass, f.type, f.order, f.freqHP, f.freqLP, f.slope, f.header, f.coefficients,
-                               f.generateCoefficients);
-           });
 }
 
 } // namespace tamble::client

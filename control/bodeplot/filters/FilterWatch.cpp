@@ -1,19 +1,30 @@
 #include "bodeplot/filters/FilterWatch.h"
 
+#include "bodeplot/filters/FilterFields.h"
+
 #include <QtCore/QMetaMethod>
 #include <QtCore/QMetaProperty>
 
 #include <algorithm>
-#include <array>
+#include <set>
+#include <string_view>
+#include <utility>
 
 namespace tamble::client {
 
 namespace {
 
-constexpr std::array filterProperties{
-    "bypass", "type",        "freq",        "freq2",     "gain",     "quality",      "quality2",
-    "slope",  "visible",     "label",       "errorFlag", "category", "order",        "freqHP",
-    "freqLP", "errorFlagHP", "errorFlagLP", "labelHP",   "labelLP",  "coefficients", "generateCoefficients"};
+/// Names of all properties that filters of any kind have.
+std::set<std::string_view> filterProperties()
+{
+    std::set<std::string_view> names;
+    const auto insert = [&](const auto &field) { names.insert(field.name); };
+    forEachField<EqFilterExtended>(insert);
+    forEachField<AsymmetricEqFilterExtended>(insert);
+    forEachField<XOverFilterExtended>(insert);
+    forEachField<FIRFilterExtended>(insert);
+    return names;
+}
 
 QMetaMethod notifierOf(const QObject &object, const char *property)
 {
@@ -49,9 +60,9 @@ void FilterWatch::watch(QObject *filter)
         if (const QMetaMethod notifier = notifierOf(*filter, property); notifier.isValid())
             connect(filter, notifier, this, slot, Qt::UniqueConnection);
     };
-    for (const char *property : filterProperties)
-        watchProperty(property, change);
-    watchProperty("header", header);
+    static const std::set<std::string_view> properties = filterProperties();
+    for (const std::string_view property : properties)
+        watchProperty(property.data(), property == "header" ? header : change);
     watchProperty("selected", selection);
     connect(filter, &QObject::destroyed, this, &FilterWatch::reportEnd, Qt::UniqueConnection);
 }

@@ -13,73 +13,76 @@ using namespace tamble::common;
 
 namespace {
 
-constexpr int asymmetricType = 12;
-
-FilterHandle handleOf(const EqFilterExtended &record, int position)
+/// What all handles take from their records in the same way.
+template <typename Record>
+FilterHandle handleAt(int position, const Record &record, HandleRelation relation, double frequencyHz)
 {
-    return {.record = position,
-            .relation = HandleRelation::Eq,
-            .motion = isWithoutGain(record.type) ? HandleMotion::Horizontal : HandleMotion::Both,
-            .visible = record.visible,
-            .bypass = record.bypass,
-            .errorFlag = record.errorFlag,
-            .frequencyHz = record.freq,
-            .gainDb = record.gain,
-            .quality = record.quality,
-            .hasQuality = qualityCounts(record.type, record.slope),
-            .dragsQuality = qualityLimit(record.type, record.slope).has_value(),
-            .label = record.label,
-            .point = {}};
+    FilterHandle handle;
+    handle.record = position;
+    handle.relation = relation;
+    handle.visible = record.visible;
+    handle.bypass = record.bypass;
+    handle.frequencyHz = frequencyHz;
+    return handle;
 }
 
-FilterHandle handleOf(const AsymmetricEqFilterExtended &record, int position, bool second)
+using Handles = std::vector<FilterHandle>;
+
+void append(const EqFilterExtended &record, int position, Handles &handles)
 {
-    return {.record = position,
-            .relation = second ? HandleRelation::AsymmetricSecond : HandleRelation::AsymmetricFirst,
-            .motion = HandleMotion::Both,
-            .visible = record.visible,
-            .bypass = record.bypass,
-            .errorFlag = record.errorFlag,
-            .frequencyHz = second ? record.freq2 : record.freq,
-            .gainDb = record.gain,
-            .quality = second ? record.quality2 : record.quality,
-            .hasQuality = true,
-            .dragsQuality = true,
-            .label = record.label,
-            .point = {}};
+    const auto type = EqType(record.type);
+    const auto slope = FilterSlope(record.slope);
+    FilterHandle handle = handleAt(position, record, HandleRelation::Eq, record.freq);
+    handle.motion = gainCounts(type) ? HandleMotion::Both : HandleMotion::Horizontal;
+    handle.gainDb = record.gain;
+    handle.quality = record.quality;
+    handle.hasQuality = qualityCounts(type, slope);
+    handle.qualityLimit = qualityLimit(type, slope);
+    handle.errorFlag = record.errorFlag;
+    handle.label = record.label;
+    handles.push_back(std::move(handle));
 }
 
-FilterHandle handleOf(const XOverFilterExtended &record, int position)
+void append(const AsymmetricEqFilterExtended &record, int position, Handles &handles)
 {
-    return {.record = position,
-            .relation = HandleRelation::XOver,
-            .visible = record.visible,
-            .bypass = record.bypass,
-            .errorFlag = record.errorFlag,
-            .frequencyHz = record.freq,
-            .label = record.label,
-            .point = {}};
+    for (const bool second : {false, true}) {
+        FilterHandle handle =
+            handleAt(position, record, second ? HandleRelation::AsymmetricSecond : HandleRelation::AsymmetricFirst,
+                     second ? record.freq2 : record.freq);
+        handle.motion = HandleMotion::Both;
+        handle.gainDb = record.gain;
+        handle.quality = second ? record.quality2 : record.quality;
+        handle.hasQuality = true;
+        handle.qualityLimit = asymmetricQualityLimit;
+        handle.errorFlag = record.errorFlag;
+        handle.label = record.label;
+        handles.push_back(std::move(handle));
+    }
 }
 
-FilterHandle handleOf(const FIRFilterExtended &record, int position, bool highPass)
+void append(const XOverFilterExtended &record, int position, Handles &handles)
 {
-    return {.record = position,
-            .relation = highPass ? HandleRelation::FirHighPass : HandleRelation::FirLowPass,
-            .visible = record.visible,
-            .bypass = record.bypass,
-            .errorFlag = highPass ? record.errorFlagHP : record.errorFlagLP,
-            .frequencyHz = highPass ? record.freqHP : record.freqLP,
-            .label = highPass ? record.labelHP : record.labelLP,
-            .point = {}};
+    FilterHandle handle = handleAt(position, record, HandleRelation::XOver, record.freq);
+    handle.errorFlag = record.errorFlag;
+    handle.label = record.label;
+    handles.push_back(std::move(handle));
 }
 
-/// Whether an FIR type has a handle for the corner: low pass, high pass, band pass, and the same with minimum phase.
-bool hasCorner(int firType, bool highPass)
+void append(const FIRFilterExtended &record, int position, Handles &handles)
 {
-    if (firType < 0 || firType > 5)
-        return false;
-    const int shape = firType % 3;
-    return shape == 2 || shape == (highPass ? 1 : 0);
+    const std::optional<FirShape> shape = firShape(record.type);
+    if (shape && shape->band != FirBand::LowPass) {
+        FilterHandle handle = handleAt(position, record, HandleRelation::FirHighPass, record.freqHP);
+        handle.errorFlag = record.errorFlagHP;
+        handle.label = record.labelHP;
+        handles.push_back(std::move(handle));
+    }
+    if (shape && shape->band != FirBand::HighPass) {
+        FilterHandle handle = handleAt(position, record, HandleRelation::FirLowPass, record.freqLP);
+        handle.errorFlag = record.errorFlagLP;
+        handle.label = record.labelLP;
+        handles.push_back(std::move(handle));
+    }
 }
 
 bool isInFrame(const QPointF &point)
@@ -98,30 +101,22 @@ const QString &relationText(std::optional<HandleRelation> relation)
     return relation ? texts.at(std::size_t(*relation)) : none;
 }
 
-HandleProblem appendHandles(const CalculationItem *record, int position, std::vector<FilterHandle> &handles)
+HandleProblem handleProblem(const FilterRecord &record)
 {
     if (!record)
         return HandleProblem::NullRecord;
-    if (const auto *eq = dynamic_cast<const EqFilterExtended *>(record)) {
-        if (eq->type == asymmetricType)
-            return HandleProblem::AsymmetricTypeOfPlainBand;
-        handles.push_back(handleOf(*eq, position));
-    } else if (const auto *asymmetric = dynamic_cast<const AsymmetricEqFilterExtended *>(record)) {
-        handles.push_back(handleOf(*asymmetric, position, false));
-        handles.push_back(handleOf(*asymmetric, position, true));
-    } else if (const auto *xOver = dynamic_cast<const XOverFilterExtended *>(record)) {
-        handles.push_back(handleOf(*xOver, position));
-    } else if (const auto *fir = dynamic_cast<const FIRFilterExtended *>(record)) {
-        if (hasCorner(fir->type, true))
-            handles.push_back(handleOf(*fir, position, true));
-        if (hasCorner(fir->type, false))
-            handles.push_back(handleOf(*fir, position, false));
-        else if (!hasCorner(fir->type, true))
-            return HandleProblem::UnsupportedFirType;
-    } else {
-        return HandleProblem::UnknownRecord;
-    }
-    return HandleProblem::None;
+    if (const auto *eq = record.as<EqFilterExtended>(); eq && EqType(eq->type) == EqType::Asymmetric)
+        return HandleProblem::AsymmetricTypeOfPlainBand;
+    if (const auto *fir = record.as<FIRFilterExtended>(); fir && !firShape(fir->type))
+        return HandleProblem::UnsupportedFirType;
+    const bool isKnown = record.visit([](const auto &) { return true; });
+    return isKnown ? HandleProblem::None : HandleProblem::UnknownRecord;
+}
+
+void appendHandles(const FilterRecord &record, int position, std::vector<FilterHandle> &handles)
+{
+    if (handleProblem(record) == HandleProblem::None)
+        record.visit([&](const auto &filter) { append(filter, position, handles); });
 }
 
 QPointF handlePoint(const FilterHandle &handle, const PlotAxes &axes)

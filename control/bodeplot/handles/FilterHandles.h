@@ -42,8 +42,8 @@ struct FilterHandle
     double frequencyHz = 0.0;
     double gainDb = 0.0;
     double quality = 0.0;
-    bool hasQuality = false;   ///< Its filter's response depends on the Q.
-    bool dragsQuality = false; ///< A gesture can change the Q.
+    bool hasQuality = false;            ///< Its filter's response depends on the Q.
+    std::optional<double> qualityLimit; ///< Highest Q that a gesture can give; none when it cannot change the Q.
     QString label;
     QPointF point; ///< Normalised; outside 0 to 1 when it cannot be shown.
 };
@@ -51,9 +51,10 @@ struct FilterHandle
 /// Why a record has no handle.
 enum class HandleProblem { None, NullRecord, AsymmetricTypeOfPlainBand, UnsupportedFirType, UnknownRecord };
 
-/// Appends the handles of one record, without their points.
-HandleProblem appendHandles(const tamble::common::CalculationItem *record, int position,
-                            std::vector<FilterHandle> &handles);
+HandleProblem handleProblem(const FilterRecord &record);
+
+/// Appends the handles of one record, without their points; none for a record with a problem.
+void appendHandles(const FilterRecord &record, int position, std::vector<FilterHandle> &handles);
 
 /// Point of a handle in the frame: a handle that is not visible is outside it in both directions.
 QPointF handlePoint(const FilterHandle &handle, const PlotAxes &axes);

@@ -46,10 +46,9 @@ QString problemText(HandleProblem problem, std::size_t position)
     return {};
 }
 
-HandleProblem problemOf(const FilterRecord &record)
+bool isSecond(HandleRelation relation)
 {
-    std::vector<FilterHandle> handles;
-    return appendHandles(record.data(), 0, handles);
+    return relation == HandleRelation::AsymmetricSecond;
 }
 
 } // namespace
@@ -57,20 +56,17 @@ HandleProblem problemOf(const FilterRecord &record)
 QStringList FilterSet::setRecords(FilterRecords records)
 {
     m_records = std::move(records);
-    for (const FilterRecord &record : m_records) {
-        if (record)
-            settleRecord(*record);
-    }
+    for (const FilterRecord &record : m_records)
+        settleRecord(record);
     return makeHandles();
 }
 
 QString FilterSet::setRecord(int position, FilterRecord record)
 {
     const auto index = std::size_t(position);
-    if (record)
-        settleRecord(*record);
-    const HandleProblem before = problemOf(m_records.at(index));
-    const HandleProblem now = problemOf(record);
+    settleRecord(record);
+    const HandleProblem before = handleProblem(m_records.at(index));
+    const HandleProblem now = handleProblem(record);
     m_records[index] = std::move(record);
     makeHandles();
     return now != before ? problemText(now, index) : QString();
@@ -105,8 +101,13 @@ int FilterSet::partnerOf(int handle) const
     const std::optional<HandleRelation> relation = relationOf(handle);
     if (!relation || !isAsymmetric(*relation))
         return -1;
-    const int partner = *relation == HandleRelation::AsymmetricSecond ? handle - 1 : handle + 1;
+    const int partner = isSecond(*relation) ? handle - 1 : handle + 1;
     return recordOf(partner) == recordOf(handle) ? partner : -1;
+}
+
+const FilterRecord &FilterSet::recordAt(const FilterHandle &handle) const
+{
+    return m_records[std::size_t(handle.record)];
 }
 
 HandleEdit FilterSet::editOf(const FilterHandle &handle) const
@@ -131,8 +132,8 @@ QStringList FilterSet::makeHandles()
     QStringList problems;
     m_handles.clear();
     for (std::size_t i = 0; i < m_records.size(); ++i) {
-        const HandleProblem problem = appendHandles(m_records[i].data(), int(i), m_handles);
-        if (problem != HandleProblem::None)
+        appendHandles(m_records[i], int(i), m_handles);
+        if (const HandleProblem problem = handleProblem(m_records[i]); problem != HandleProblem::None)
             problems.append(problemText(problem, i));
     }
     placeHandles();
@@ -169,21 +170,12 @@ HandleEdit FilterSet::move(int handle, const QPointF &wanted)
         return refused();
 
     const QPointF limited(wanted.x(), limitedHandleY(wanted.y(), m_axes));
-    FilterHandle &moved = m_handles[std::size_t(handle)];
-    CalculationItem *record = m_records[std::size_t(moved.record)].data();
-    if (auto *eq = dynamic_cast<EqFilter *>(record))
-        return moveEq(moved, *eq, limited);
-    if (auto *xOver = dynamic_cast<XOverFilter *>(record))
-        return moveXOver(moved, *xOver, limited);
-    if (auto *fir = dynamic_cast<FIRFilter *>(record))
-        return moveFir(handle, *fir, limited);
-    if (auto *asymmetric = dynamic_cast<AsymmetricEqFilter *>(record))
-        return moveAsymmetric(handle, *asymmetric, limited);
-    return refused();
+    return recordAt(m_handles[std::size_t(handle)]).visit([&](auto &record) { return drag(handle, record, limited); });
 }
 
-HandleEdit FilterSet::moveEq(FilterHandle &handle, EqFilter &record, const QPointF &wanted) const
+HandleEdit FilterSet::drag(int index, EqFilterExtended &record, const QPointF &wanted)
 {
+    FilterHandle &handle = m_handles[std::size_t(index)];
     // A parameter that the drag does not move keeps its value, which a handle outside the frame could not tell.
     if (handle.motion != HandleMotion::Vertical) {
         handle.point.setX(wanted.x());
@@ -198,15 +190,16 @@ HandleEdit FilterSet::moveEq(FilterHandle &handle, EqFilter &record, const QPoin
     return editOf(handle);
 }
 
-HandleEdit FilterSet::moveXOver(FilterHandle &handle, XOverFilter &record, const QPointF &wanted) const
+HandleEdit FilterSet::drag(int index, XOverFilterExtended &record, const QPointF &wanted)
 {
+    FilterHandle &handle = m_handles[std::size_t(index)];
     handle.point.setX(wanted.x());
     record.freq = m_axes.x.valueAt(wanted.x());
     handle.frequencyHz = record.freq;
     return editOf(handle);
 }
 
-HandleEdit FilterSet::moveFir(int index, FIRFilter &record, const QPointF &wanted)
+HandleEdit FilterSet::drag(int index, FIRFilterExtended &record, const QPointF &wanted)
 {
     const auto problem = [index](const QString &text) {
         return refused(QStringLiteral("RBodeplotCurve::onUserMoveFilterPoint() ") + text.arg(index));
@@ -218,7 +211,7 @@ HandleEdit FilterSet::moveFir(int index, FIRFilter &record, const QPointF &wante
                        relationText(handle.relation));
 
     double x = wanted.x();
-    if (record.type % 3 == 2) { // band pass
+    if (const std::optional<FirShape> shape = firShape(record.type); shape && shape->band == FirBand::BandPass) {
         const int partner = highPass ? index + 1 : index - 1;
         if (recordOf(partner) != handle.record)
             return problem(highPass ? QStringLiteral("filterPointModelLP at index %1 is nullptr")
@@ -233,10 +226,10 @@ HandleEdit FilterSet::moveFir(int index, FIRFilter &record, const QPointF &wante
     return editOf(handle);
 }
 
-HandleEdit FilterSet::moveAsymmetric(int index, AsymmetricEqFilter &record, const QPointF &wanted)
+HandleEdit FilterSet::drag(int index, AsymmetricEqFilterExtended &record, const QPointF &wanted)
 {
     FilterHandle &handle = m_handles[std::size_t(index)];
-    double &frequency = handle.relation == HandleRelation::AsymmetricSecond ? record.freq2 : record.freq;
+    double &frequency = isSecond(handle.relation) ? record.freq2 : record.freq;
     if (isInWidth(handle.point.x()))
         frequency = m_axes.x.valueAt(handle.point.x());
     handle.frequencyHz = frequency;
@@ -249,10 +242,10 @@ bool FilterSet::follow(const HandleEdit &edit)
 {
     if (!edit.follows || recordOf(edit.handle) != edit.record || relationOf(edit.handle) != edit.relation)
         return false;
-    auto *record = dynamic_cast<AsymmetricEqFilter *>(m_records[std::size_t(edit.record)].data());
+    FilterHandle &handle = m_handles[std::size_t(edit.handle)];
+    auto *record = recordAt(handle).as<AsymmetricEqFilterExtended>();
     if (!record)
         return false;
-    FilterHandle &handle = m_handles[std::size_t(edit.handle)];
     record->gain = m_axes.y.valueAt(1.0 - edit.follows->y());
     handle.gainDb = record->gain;
     if (const int partner = partnerOf(edit.handle); partner >= 0) {
@@ -268,11 +261,10 @@ HandleEdit FilterSet::level(int handle)
     const int position = recordOf(handle);
     if (position < 0 || m_handles[std::size_t(handle)].motion == HandleMotion::Horizontal)
         return refused();
-    CalculationItem *record = m_records[std::size_t(position)].data();
-    if (auto *eq = dynamic_cast<EqFilter *>(record))
-        eq->gain = 0.0;
-    else if (auto *asymmetric = dynamic_cast<AsymmetricEqFilter *>(record))
-        asymmetric->gain = 0.0;
+    m_records[std::size_t(position)].visit([](auto &record) {
+        if constexpr (requires { record.gain; })
+            record.gain = 0.0;
+    });
     for (FilterHandle &levelled : m_handles) {
         if (levelled.record != position)
             continue;
@@ -288,22 +280,13 @@ HandleEdit FilterSet::changeQuality(int handle, double baseQuality, double chang
         return refused(problem);
 
     FilterHandle &changed = m_handles[std::size_t(handle)];
-    CalculationItem *record = m_records[std::size_t(changed.record)].data();
-    if (auto *eq = dynamic_cast<EqFilter *>(record)) {
-        const std::optional<double> limit = qualityLimit(eq->type, eq->slope);
-        if (!limit)
-            return refused();
-        eq->quality = draggedQuality(baseQuality, change, *limit);
-        changed.quality = eq->quality;
-    } else if (auto *asymmetric = dynamic_cast<AsymmetricEqFilter *>(record);
-               asymmetric && isAsymmetric(changed.relation)) {
-        double &quality =
-            changed.relation == HandleRelation::AsymmetricSecond ? asymmetric->quality2 : asymmetric->quality;
-        quality = draggedQuality(baseQuality, change, asymmetricQualityLimit);
-        changed.quality = quality;
-    } else {
+    if (!changed.qualityLimit)
         return refused();
-    }
+    changed.quality = draggedQuality(baseQuality, change, *changed.qualityLimit);
+    if (auto *eq = recordAt(changed).as<EqFilterExtended>())
+        eq->quality = changed.quality;
+    else if (auto *asymmetric = recordAt(changed).as<AsymmetricEqFilterExtended>())
+        (isSecond(changed.relation) ? asymmetric->quality2 : asymmetric->quality) = changed.quality;
     return editOf(changed);
 }
 

@@ -71,11 +71,12 @@ private:
     QStringList makeHandles();
     void placeHandles();
 
-    HandleEdit moveEq(FilterHandle &handle, tamble::common::EqFilter &record, const QPointF &wanted) const;
-    HandleEdit moveXOver(FilterHandle &handle, tamble::common::XOverFilter &record, const QPointF &wanted) const;
-    HandleEdit moveAsymmetric(int index, tamble::common::AsymmetricEqFilter &record, const QPointF &wanted);
+    HandleEdit drag(int index, EqFilterExtended &record, const QPointF &wanted);
+    HandleEdit drag(int index, AsymmetricEqFilterExtended &record, const QPointF &wanted);
+    HandleEdit drag(int index, XOverFilterExtended &record, const QPointF &wanted);
+    HandleEdit drag(int index, FIRFilterExtended &record, const QPointF &wanted);
+    const FilterRecord &recordAt(const FilterHandle &handle) const;
     HandleEdit editOf(const FilterHandle &handle) const;
-    HandleEdit moveFir(int index, tamble::common::FIRFilter &record, const QPointF &wanted);
 
     FilterRecords m_records;
     std::vector<FilterHandle> m_handles;

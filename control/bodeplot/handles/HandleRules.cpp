@@ -7,8 +7,9 @@
 
 namespace tamble::client {
 
+using tamble::common::EqType;
+using tamble::common::FilterSlope;
 using tamble::common::lin2lin;
-using tamble::common::lin2log;
 using tamble::common::log2lin;
 
 namespace {
@@ -44,19 +45,19 @@ double limitedHandleY(double y, const PlotAxes &axes)
     return std::clamp(y, std::min(top, bottom), std::max(top, bottom));
 }
 
-std::optional<double> qualityLimit(int eqType, int slope)
+std::optional<double> qualityLimit(EqType type, FilterSlope slope)
 {
-    switch (eqType) {
-    case 0: // peaking
-    case 9: // notch
+    switch (type) {
+    case EqType::Peaking:
+    case EqType::Notch:
         return 40.0;
-    case 5:  // all pass
-    case 10: // shelves with Q
-    case 11:
+    case EqType::AllPass:
+    case EqType::LowShelfQ:
+    case EqType::HighShelfQ:
         return 2.0;
-    case 3: // high and low pass: only the 12 dB ones have a Q
-    case 4:
-        return slope == 2 ? std::optional(2.0) : std::nullopt;
+    case EqType::HighPass:
+    case EqType::LowPass:
+        return slope == FilterSlope::TwelveDb ? std::optional(2.0) : std::nullopt;
     default:
         return std::nullopt;
     }

@@ -2,6 +2,8 @@
 
 #include "scale/PlotAxes.h"
 
+#include <tamblecommon-math/FilterTypes.h>
+
 #include <optional>
 
 namespace tamble::client {
@@ -24,7 +26,7 @@ double handleY(double levelDb, const PlotAxes &axes);
 double limitedHandleY(double y, const PlotAxes &axes);
 
 /// Highest Q that a gesture can give an equaliser band of the type; none when its Q cannot be dragged.
-std::optional<double> qualityLimit(int eqType, int slope);
+std::optional<double> qualityLimit(tamble::common::EqType type, tamble::common::FilterSlope slope);
 /// Highest Q that a gesture can give an asymmetric band.
 constexpr double asymmetricQualityLimit = 2.0;
 

@@ -22,7 +22,7 @@ void RBodeplotPointModel::update(const FilterHandle &handle, int index, bool sel
     assign(m_gain, handle.gainDb, &RBodeplotPointModel::gainChanged);
     assign(m_quality, handle.quality, &RBodeplotPointModel::qualityChanged);
     assign(m_hasQuality, handle.hasQuality, &RBodeplotPointModel::hasQualityChanged);
-    assign(m_dragsQuality, handle.dragsQuality, &RBodeplotPointModel::dragsQualityChanged);
+    assign(m_dragsQuality, handle.qualityLimit.has_value(), &RBodeplotPointModel::dragsQualityChanged);
     setPoint(handle.point);
     assign(m_index, index, &RBodeplotPointModel::indexChanged);
     assign(m_label, handle.label, &RBodeplotPointModel::labelChanged);

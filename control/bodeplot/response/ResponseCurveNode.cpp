@@ -35,9 +35,7 @@ void ResponseCurveNode::show(const ResponseScene &scene)
         showLines(group, m_lines, style, scene.pixelRatio);
     };
     const auto isSelected = [&](std::size_t i) { return int(i) == scene.selectedRecord; };
-    const auto isBypass = [&](std::size_t i) {
-        return i < scene.records.size() && recordDisplay(scene.records[i].data()).bypass;
-    };
+    const auto isBypass = [&](std::size_t i) { return i < scene.records.size() && scene.records[i].display().bypass; };
     show(m_bypass, scene.style.bypass, [&](std::size_t i) { return isBypass(i) && !isSelected(i); });
     show(m_individual, scene.style.individual, [&](std::size_t i) { return !isBypass(i) && !isSelected(i); });
     show(m_selected, scene.style.selected, isSelected);

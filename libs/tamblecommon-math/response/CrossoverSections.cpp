@@ -46,8 +46,6 @@ constexpr LowPass lowPasses[] = {
     {{{1, std::numbers::sqrt2 / 2}, {1, std::numbers::sqrt2 / 2}}},                               // Linkwitz-Riley 24
 };
 
-constexpr int highPassCategory = 1;
-
 Section lowPass(const LowPassSection &p)
 {
     if (p.q == firstOrder)
@@ -75,7 +73,7 @@ SectionChain crossoverSections(const XOverFilter &filter, double sampleRate)
     for (const LowPassSection &p : lowPasses[filter.type]) {
         if (p.w == 0)
             break;
-        Section section = filter.category == highPassCategory ? highPass(p) : lowPass(p);
+        Section section = CrossoverSide(filter.category) == CrossoverSide::HighPass ? highPass(p) : lowPass(p);
         section.inverseCorner = inverseCorner;
         chain.append(section);
     }

@@ -14,23 +14,6 @@ namespace tamble::common::response {
 
 namespace {
 
-enum EqType {
-    Peaking,
-    LowShelf,
-    HighShelf,
-    HighPass,
-    LowPass,
-    AllPass,
-    ProportionalQ,
-    ConstantQ,
-    BandPass,
-    Notch,
-    LowShelfQ,
-    HighShelfQ
-};
-
-enum Slope { SixDb = 1, TwelveDb = 2 };
-
 // The shelf that is as steep as possible without overshoot.
 constexpr double steepestQuality = std::numbers::sqrt2 / 2;
 
@@ -72,32 +55,33 @@ Section prototype(const EqFilter &filter)
 {
     const double q = usableQuality(filter.quality);
     const double a = amplitude(usableGain(filter.gain));
-    const bool steep = filter.slope == TwelveDb;
+    const bool steep = FilterSlope(filter.slope) == FilterSlope::TwelveDb;
 
-    switch (filter.type) {
-    case Peaking:
+    switch (EqType(filter.type)) {
+    case EqType::Peaking:
         return peaking(a, q);
-    case ProportionalQ: // Zeros of a boost and poles of a cut keep Q, the others sharpen with the gain.
+    case EqType::ProportionalQ: // Zeros of a boost and poles of a cut keep Q, the others sharpen with the gain.
         return peaking(a, q * std::max(a, 1 / a));
-    case ConstantQ: // One resonator for every gain: poles keep Q.
+    case EqType::ConstantQ: // One resonator for every gain: poles keep Q.
         return peaking(a, q / a);
-    case LowShelf:
+    case EqType::LowShelf:
         return steep ? lowShelf(a, steepestQuality) : lowShelf(a);
-    case HighShelf:
+    case EqType::HighShelf:
         return steep ? highShelf(a, steepestQuality) : highShelf(a);
-    case LowShelfQ:
+    case EqType::LowShelfQ:
         return lowShelf(a, q);
-    case HighShelfQ:
+    case EqType::HighShelfQ:
         return highShelf(a, q);
-    case HighPass:
+    case EqType::HighPass:
         return steep ? Section{0, 0, 1, 1, 1 / q, 1} : Section{0, 1, 0, 1, 1, 0};
-    case LowPass:
+    case EqType::LowPass:
         return steep ? Section{1, 0, 0, 1, 1 / q, 1} : Section{1, 0, 0, 1, 1, 0};
-    case AllPass:
-        return filter.slope == SixDb ? Section{1, -1, 0, 1, 1, 0} : Section{1, -1 / q, 1, 1, 1 / q, 1};
-    case BandPass:
+    case EqType::AllPass:
+        return FilterSlope(filter.slope) == FilterSlope::SixDb ? Section{1, -1, 0, 1, 1, 0}
+                                                               : Section{1, -1 / q, 1, 1, 1 / q, 1};
+    case EqType::BandPass:
         return {0, 1 / q, 0, 1, 1 / q, 1};
-    case Notch:
+    case EqType::Notch:
         return {1, 0, 1, 1, 1 / q, 1};
     default:
         return {};
@@ -114,7 +98,7 @@ SectionChain eqSections(const EqFilter &filter, double sampleRate)
     Section section = prototype(filter);
     section.inverseCorner = inversePrewarpedCorner(usableCorner(filter.freq, sampleRate), sampleRate);
     chain.append(section);
-    chain.allPass = filter.type == AllPass;
+    chain.allPass = EqType(filter.type) == EqType::AllPass;
     return chain;
 }
 

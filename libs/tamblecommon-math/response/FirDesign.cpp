@@ -12,10 +12,6 @@ namespace {
 
 using std::numbers::pi;
 
-enum FirType { LowPass, HighPass, BandPass };
-constexpr int bandKinds = 3;
-constexpr int lastDesignType = 5;
-
 // Kaiser's beta for 60, 80 and 100 dB of stop-band attenuation.
 double windowShape(int slope)
 {
@@ -38,29 +34,30 @@ int usableTaps(const FIRFilter &filter)
 
 bool isDesign(const FIRFilter &filter)
 {
-    return filter.generateCoefficients && filter.type >= 0 && filter.type <= lastDesignType;
+    return filter.generateCoefficients && firShape(filter.type).has_value();
 }
 
 std::optional<FirDesign> firDesign(const FIRFilter &filter, double sampleRate)
 {
-    if (!isDesign(filter) || usableTaps(filter) < 3)
+    const std::optional<FirShape> shape = firShape(filter.type);
+    if (!shape || !isDesign(filter) || usableTaps(filter) < 3)
         return std::nullopt;
 
     FirDesign design;
-    design.minimumPhase = filter.type >= bandKinds;
+    design.minimumPhase = shape->minimumPhase;
     design.taps = usableTaps(filter);
     design.windowShape = windowShape(filter.slope);
     const double highPass = 2 * (usableCorner(filter.freqHP, sampleRate) / sampleRate);
     const double lowPass = 2 * (usableCorner(filter.freqLP, sampleRate) / sampleRate);
-    switch (filter.type % bandKinds) {
-    case LowPass:
+    switch (shape->band) {
+    case FirBand::LowPass:
         design.hi = lowPass;
         break;
-    case HighPass:
+    case FirBand::HighPass:
         design.lo = highPass;
         design.reference = 1;
         break;
-    case BandPass:
+    case FirBand::BandPass:
         design.lo = std::min(highPass, lowPass);
         design.hi = std::max(highPass, lowPass);
         design.reference = (design.lo + design.hi) / 2;

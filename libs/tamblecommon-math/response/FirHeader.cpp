@@ -46,20 +46,20 @@ private:
     std::size_t m_size = 0;
 };
 
-void describeDesign(const FIRFilter &filter, double sampleRate, Text &text)
+void describeDesign(const FIRFilter &filter, const FirShape &shape, double sampleRate, Text &text)
 {
     const double highPass = usableCorner(filter.freqHP, sampleRate);
     const double lowPass = usableCorner(filter.freqLP, sampleRate);
-    if (filter.type >= 3)
+    if (shape.minimumPhase)
         text << "MinPhase ";
-    switch (filter.type % 3) {
-    case 0:
+    switch (shape.band) {
+    case FirBand::LowPass:
         text << "LoPass " << lowPass;
         break;
-    case 1:
+    case FirBand::HighPass:
         text << "HiPass " << highPass;
         break;
-    default:
+    case FirBand::BandPass:
         text << "BandPass " << std::min(highPass, lowPass) << "-" << std::max(highPass, lowPass);
         break;
     }
@@ -94,7 +94,7 @@ void updateHeader(FIRFilter &filter, double sampleRate)
     Text text;
     text << prefix;
     if (firDesign(filter, sampleRate)) {
-        describeDesign(filter, sampleRate, text);
+        describeDesign(filter, *firShape(filter.type), sampleRate, text);
     } else if (isDesign(filter)) {
         text << "Thru";
     } else {

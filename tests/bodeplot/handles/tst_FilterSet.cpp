@@ -61,7 +61,7 @@ FilterSet setOf(FilterRecords records)
 template <typename Record>
 const Record &recordIn(const FilterSet &set, std::size_t position = 0)
 {
-    return dynamic_cast<const Record &>(*set.records().at(position));
+    return *set.records().at(position).as<Record>();
 }
 
 } // namespace
@@ -142,7 +142,7 @@ private Q_SLOTS:
         const auto &[frequency, gain, point] = Rows<double, double, QPointF>::current();
         const FilterRecord record = eq(0, frequency, gain);
         QCOMPARE(setOf({record}).handles().front().point, point);
-        static_cast<EqFilterExtended &>(*record).visible = false;
+        record.as<EqFilterExtended>()->visible = false;
         QCOMPARE(setOf({record}).handles().front().point, QPointF(-1.0, -1.0));
     }
 
@@ -265,7 +265,7 @@ private Q_SLOTS:
             Rows<FilterRecord, double, double, double, bool>::current();
         FilterSet set = setOf({record});
         QCOMPARE(set.handles().front().hasQuality, counts);
-        QCOMPARE(set.handles().front().dragsQuality, quality > 0.0);
+        QCOMPARE(set.handles().front().qualityLimit.has_value(), quality > 0.0);
         const HandleEdit edit = set.changeQuality(0, base, change);
         QCOMPARE(bool(edit), quality > 0.0);
         QCOMPARE(edit.quality, quality);
