@@ -24,9 +24,8 @@ LineStyle lineStyle(const QObject *style, const char *color, const char *width)
 } // namespace
 
 RBodeplotCurve::RBodeplotCurve(QQuickItem *parent)
-    : QQuickItem(parent)
+    : FrameItem(parent)
 {
-    setFlag(ItemHasContents);
     connectProperties();
     connect(&m_lists, &FilterLists::itemsChanged, this, &RBodeplotCurve::calculationItemsChanged);
     connect(&m_lists, &FilterLists::referenceChanged, this, &RBodeplotCurve::calculationItemsReferenceChanged);
@@ -44,12 +43,6 @@ RBodeplotCurve::~RBodeplotCurve()
 
 void RBodeplotCurve::connectProperties()
 {
-    connect(this, &QQuickItem::widthChanged, this, &RBodeplotCurve::onWidthChanged);
-    connect(this, &QQuickItem::heightChanged, this, &RBodeplotCurve::onHeightChanged);
-    connect(this, &RBodeplotCurve::xMinimumChanged, this, &RBodeplotCurve::onXMinOrMaxChanged);
-    connect(this, &RBodeplotCurve::xMaximumChanged, this, &RBodeplotCurve::onXMinOrMaxChanged);
-    connect(this, &RBodeplotCurve::yMinimumChanged, this, &RBodeplotCurve::onYMinOrMaxChanged);
-    connect(this, &RBodeplotCurve::yMaximumChanged, this, &RBodeplotCurve::onYMinOrMaxChanged);
     connect(this, &RBodeplotCurve::trimChanged, this, &RBodeplotCurve::onTrimChanged);
     connect(this, &RBodeplotCurve::spectrumChanged, this, &RBodeplotCurve::requestLines);
     connect(this, &RBodeplotCurve::hideIndividualCurvesChanged, this, &RBodeplotCurve::requestLines);
@@ -60,27 +53,18 @@ void RBodeplotCurve::connectProperties()
     connect(this, &RBodeplotCurve::calculationItemsReferenceChanged, this, &RBodeplotCurve::requestConversion);
 }
 
-void RBodeplotCurve::setStyle(QObject *style)
-{
-    if (!exchangeStyle(m_style, style, this, "refreshColors()"))
-        return;
-    refreshColors();
-    Q_EMIT styleChanged();
-}
-
 void RBodeplotCurve::refreshColors()
 {
-    const QObject *style = m_style;
     CurveStyle read;
-    read.aggregated = lineStyle(style, "aggregatedCurveColor", "aggregatedCurveLineWidth");
-    read.individual = lineStyle(style, "individualCurveColor", "individualCurveLineWidth");
-    read.bypass = lineStyle(style, "bypassCurveColor", "bypassCurveLineWidth");
+    read.aggregated = lineStyle(style(), "aggregatedCurveColor", "aggregatedCurveLineWidth");
+    read.individual = lineStyle(style(), "individualCurveColor", "individualCurveLineWidth");
+    read.bypass = lineStyle(style(), "bypassCurveColor", "bypassCurveLineWidth");
     if (!read.bypass.color.isValid())
         read.bypass = read.individual;
-    read.selected = lineStyle(style, "selectedCurveColor", "selectedCurveLineWidth");
-    read.area = styleColor(style, "aggregatedAreaColor");
-    read.saturation.nearCurve = styleWidth(style, "areaSaturationNearAggregatedCurve");
-    read.saturation.nearAxis = styleWidth(style, "areaSaturationNearxAchsis");
+    read.selected = lineStyle(style(), "selectedCurveColor", "selectedCurveLineWidth");
+    read.area = styleColor(style(), "aggregatedAreaColor");
+    read.saturation.nearCurve = styleWidth(style(), "areaSaturationNearAggregatedCurve");
+    read.saturation.nearAxis = styleWidth(style(), "areaSaturationNearxAchsis");
     if (std::exchange(m_curveStyle, read) != read)
         update();
 }
@@ -241,15 +225,15 @@ void RBodeplotCurve::onHeightChanged()
 
 void RBodeplotCurve::onXMinOrMaxChanged()
 {
-    updateHandleAxes();
+    onFrameChanged();
 }
 
 void RBodeplotCurve::onYMinOrMaxChanged()
 {
-    updateHandleAxes();
+    onFrameChanged();
 }
 
-void RBodeplotCurve::updateHandleAxes()
+void RBodeplotCurve::onFrameChanged()
 {
     m_filters.setAxes(axes());
     requestLines();
@@ -257,7 +241,7 @@ void RBodeplotCurve::updateHandleAxes()
 
 PlotAxes RBodeplotCurve::axes() const
 {
-    return {{m_xMinimum, m_xMaximum, AxisScale::Logarithmic}, {m_yMinimum, m_yMaximum, AxisScale::Linear}};
+    return axesOf(AxisScale::Logarithmic, AxisScale::Linear);
 }
 
 void RBodeplotCurve::onTrimChanged()
@@ -326,19 +310,10 @@ void RBodeplotCurve::updateScaledCurve()
 
 void RBodeplotCurve::componentComplete()
 {
-    QQuickItem::componentComplete();
+    FrameItem::componentComplete();
     m_filters.setAxes(axes());
     onCalculationItemsChanged();
     m_lists.tellOfUnlisted();
-}
-
-void RBodeplotCurve::itemChange(ItemChange change, const ItemChangeData &value)
-{
-    if (change == ItemSceneChange && value.window)
-        requestLines();
-    else if (change == ItemDevicePixelRatioHasChanged)
-        update();
-    QQuickItem::itemChange(change, value);
 }
 
 void RBodeplotCurve::updatePolish()

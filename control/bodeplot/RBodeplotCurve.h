@@ -4,16 +4,15 @@
 #include "bodeplot/CurveFilters.h"
 #include "bodeplot/FilterLists.h"
 #include "bodeplot/filters/BodeplotEnums.h"
+#include "bodeplot/frame/FrameItem.h"
 #include "bodeplot/handles/RBodeplotPointModel.h"
 #include "bodeplot/response/ResponseCurveNode.h"
 #include "bodeplot/response/ResponseLines.h"
 
 #include <QtCore/QList>
-#include <QtCore/QPointer>
 #include <QtCore/QSharedPointer>
 #include <QtQml/QQmlListProperty>
 #include <QtQml/QQmlListReference>
-#include <QtQuick/QQuickItem>
 
 namespace tamble::client {
 
@@ -24,17 +23,10 @@ namespace tamble::client {
 /// evaluated and drawn with the next frame; without a window, which has no frames, at once. A list that is assigned
 /// comes item by item, so it is taken over as a whole with the next frame (without a window: the next event), or before
 /// something asks for its handles.
-class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotCurve : public QQuickItem
+class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotCurve : public tamble::client::FrameItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RBodeplotCurveTemplate)
-    Q_PROPERTY(QObject *style READ style WRITE setStyle NOTIFY styleChanged)
-    /// `xMinimum` and `xMaximum`: frequencies in Hz at the left and right edge, on a logarithmic axis.
-    Q_PROPERTY(qreal xMinimum MEMBER m_xMinimum NOTIFY xMinimumChanged)
-    Q_PROPERTY(qreal xMaximum MEMBER m_xMaximum NOTIFY xMaximumChanged)
-    /// `yMinimum` and `yMaximum`: levels in dB at the bottom and top edge.
-    Q_PROPERTY(qreal yMinimum MEMBER m_yMinimum NOTIFY yMinimumChanged)
-    Q_PROPERTY(qreal yMaximum MEMBER m_yMaximum NOTIFY yMaximumChanged)
     /// Gain in dB that is added to the sum of the filters.
     Q_PROPERTY(qreal trim MEMBER m_trim NOTIFY trimChanged)
     /// What the curves show, an `RBodeplotSpectrumEnum` value: magnitude in dB or phase.
@@ -57,10 +49,6 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotCurve : public QQuickItem
 public:
     explicit RBodeplotCurve(QQuickItem *parent = nullptr);
     ~RBodeplotCurve() override;
-
-    /// Colours and widths; see refreshColors(). Default none, which draws nothing.
-    QObject *style() const { return m_style; }
-    void setStyle(QObject *style);
 
     /// The filters. A filter that is destroyed leaves the list by itself.
     QQmlListProperty<RBodeplotCalculationItem> calculationItems();
@@ -92,7 +80,7 @@ public Q_SLOTS:
     /// bypassCurveColor, selectedCurveColor; a missing one is not drawn, but for bypassed curves, which then look like
     /// the others. Widths in pixels: the names of the curves with LineWidth, default 1. Strength of the area:
     /// areaSaturationNearAggregatedCurve and areaSaturationNearxAchsis, 0 to 1.
-    void refreshColors();
+    void refreshColors() override;
     /// Selects a handle; an index without handle selects none.
     void selectFilterPoint(int index);
     /// Selects the first handle of a filter, given by its position among the filters.
@@ -116,11 +104,6 @@ public Q_SLOTS:
     void onTrimChanged();
 
 Q_SIGNALS:
-    void styleChanged();
-    void xMinimumChanged();
-    void xMaximumChanged();
-    void yMinimumChanged();
-    void yMaximumChanged();
     void trimChanged();
     void spectrumChanged();
     void hideIndividualCurvesChanged();
@@ -137,7 +120,7 @@ Q_SIGNALS:
 
 protected:
     void componentComplete() override;
-    void itemChange(ItemChange change, const ItemChangeData &value) override;
+    void onFrameChanged() override;
     void updatePolish() override;
     QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
 
@@ -157,15 +140,9 @@ private:
     void requestLines();
     void evaluate();
     void updateScaledCurve();
-    void updateHandleAxes();
     PlotAxes axes() const;
     void tellEdit(const HandleEdit &edit);
 
-    QPointer<QObject> m_style;
-    qreal m_xMinimum = 20.0;
-    qreal m_xMaximum = 20000.0;
-    qreal m_yMinimum = -20.0;
-    qreal m_yMaximum = 20.0;
     qreal m_trim = 0.0;
     int m_spectrum = RBodeplotSpectrumEnum::MAGNITUDE;
     bool m_hideIndividualCurves = false;

@@ -1,6 +1,5 @@
 #include "bodeplot/RLimiterCurve.h"
 
-#include "base/StyleObject.h"
 #include "scale/ScaleSteps.h"
 
 #include <utility>
@@ -8,23 +7,12 @@
 namespace tamble::client {
 
 RLimiterCurve::RLimiterCurve(QQuickItem *parent)
-    : QQuickItem(parent)
+    : FrameItem(parent)
 {
-    setFlag(ItemHasContents);
-    for (const auto signal :
-         {&RLimiterCurve::xMinimumChanged, &RLimiterCurve::xMaximumChanged, &RLimiterCurve::yMinimumChanged,
-          &RLimiterCurve::yMaximumChanged, &RLimiterCurve::xAxisScaleChanged, &RLimiterCurve::thresholdChanged,
-          &RLimiterCurve::ratioChanged, &RLimiterCurve::bypassChanged})
-        connect(this, signal, this, &RLimiterCurve::updateLine);
-    updateLine();
-}
-
-void RLimiterCurve::setStyle(QObject *style)
-{
-    if (!exchangeStyle(m_style, style, this, "refreshColors()"))
-        return;
-    refreshColors();
-    Q_EMIT styleChanged();
+    for (const auto signal : {&RLimiterCurve::xAxisScaleChanged, &RLimiterCurve::thresholdChanged,
+                              &RLimiterCurve::ratioChanged, &RLimiterCurve::bypassChanged})
+        connect(this, signal, this, &RLimiterCurve::onFrameChanged);
+    onFrameChanged();
 }
 
 QVariantList RLimiterCurve::points() const
@@ -43,28 +31,9 @@ qreal RLimiterCurve::thresholdMovedBy(qreal difference) const
     return client::thresholdMovedBy(m_threshold, difference, axes());
 }
 
-void RLimiterCurve::refreshColors()
-{
-    polish();
-}
-
-void RLimiterCurve::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
-{
-    QQuickItem::geometryChange(newGeometry, oldGeometry);
-    if (newGeometry.size() != oldGeometry.size())
-        polish();
-}
-
-void RLimiterCurve::itemChange(ItemChange change, const ItemChangeData &data)
-{
-    QQuickItem::itemChange(change, data);
-    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange)
-        polish();
-}
-
 void RLimiterCurve::updatePolish()
 {
-    m_stroke.readStyle(m_style, m_bypass ? "bypassCurveColor" : "curveColor",
+    m_stroke.readStyle(style(), m_bypass ? "bypassCurveColor" : "curveColor",
                        m_bypass ? "bypassCurveLineWidth" : "curveLineWidth", *this);
     QList<QPointF> pixels;
     for (const QPointF &point : std::as_const(m_line))
@@ -79,7 +48,7 @@ QSGNode *RLimiterCurve::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
     return m_stroke.handOver(*this, oldNode);
 }
 
-void RLimiterCurve::updateLine()
+void RLimiterCurve::onFrameChanged()
 {
     const QList<QPointF> line = limiterLine(rule(), axes());
     const QPointF handlePoint = limiterHandle(rule(), axes());
@@ -92,7 +61,7 @@ void RLimiterCurve::updateLine()
 
 PlotAxes RLimiterCurve::axes() const
 {
-    return {{m_xMinimum, m_xMaximum, axisScale(m_xAxisScale)}, {m_yMinimum, m_yMaximum, AxisScale::Linear}};
+    return axesOf(axisScale(m_xAxisScale), AxisScale::Linear);
 }
 
 } // namespace tamble::client

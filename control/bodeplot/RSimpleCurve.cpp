@@ -1,7 +1,5 @@
 #include "bodeplot/RSimpleCurve.h"
 
-#include "base/StyleObject.h"
-
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -21,51 +19,19 @@ QPointF pointOf(const QVariant &entry)
 } // namespace
 
 RSimpleCurve::RSimpleCurve(QQuickItem *parent)
-    : QQuickItem(parent)
+    : FrameItem(parent)
 {
-    setFlag(ItemHasContents);
     for (const auto signal :
-         {&RSimpleCurve::xMinimumChanged, &RSimpleCurve::xMaximumChanged, &RSimpleCurve::yMinimumChanged,
-          &RSimpleCurve::yMaximumChanged, &RSimpleCurve::xAxisScaleChanged, &RSimpleCurve::yAxisScaleChanged,
-          &RSimpleCurve::trimChanged})
-        connect(this, signal, this, &RSimpleCurve::invalidateCurve);
+         {&RSimpleCurve::xAxisScaleChanged, &RSimpleCurve::yAxisScaleChanged, &RSimpleCurve::trimChanged})
+        connect(this, signal, this, &RSimpleCurve::onFrameChanged);
     for (const auto signal :
          {&RSimpleCurve::pointsChanged, &RSimpleCurve::xValuesChanged, &RSimpleCurve::yValuesChanged})
         connect(this, signal, this, &RSimpleCurve::collectPoints);
 }
 
-void RSimpleCurve::setStyle(QObject *style)
-{
-    if (!exchangeStyle(m_style, style, this, "refreshColors()"))
-        return;
-    refreshColors();
-    Q_EMIT styleChanged();
-}
-
-void RSimpleCurve::refreshColors()
-{
-    polish();
-}
-
-void RSimpleCurve::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
-{
-    QQuickItem::geometryChange(newGeometry, oldGeometry);
-    if (newGeometry.size() == oldGeometry.size())
-        return;
-    m_linesStale = true;
-    polish();
-}
-
-void RSimpleCurve::itemChange(ItemChange change, const ItemChangeData &data)
-{
-    QQuickItem::itemChange(change, data);
-    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange)
-        polish();
-}
-
 void RSimpleCurve::updatePolish()
 {
-    m_stroke.readStyle(m_style, "curveColor", "curveLineWidth", *this);
+    m_stroke.readStyle(style(), "curveColor", "curveLineWidth", *this);
     if (std::exchange(m_linesStale, false))
         m_stroke.setLines(curvePixels({m_samples, m_trim}, axes(), size()));
     if (m_stroke.isStale())
@@ -86,10 +52,10 @@ void RSimpleCurve::collectPoints()
     } else {
         std::transform(m_points.cbegin(), m_points.cend(), std::back_inserter(m_samples), pointOf);
     }
-    invalidateCurve();
+    onFrameChanged();
 }
 
-void RSimpleCurve::invalidateCurve()
+void RSimpleCurve::onFrameChanged()
 {
     m_linesStale = true;
     polish();
@@ -100,7 +66,7 @@ void RSimpleCurve::invalidateCurve()
 
 PlotAxes RSimpleCurve::axes() const
 {
-    return {{m_xMinimum, m_xMaximum, axisScale(m_xAxisScale)}, {m_yMinimum, m_yMaximum, axisScale(m_yAxisScale)}};
+    return axesOf(axisScale(m_xAxisScale), axisScale(m_yAxisScale));
 }
 
 } // namespace tamble::client

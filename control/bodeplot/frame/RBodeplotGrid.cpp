@@ -3,7 +3,6 @@
 #include "base/ControlLog.h"
 #include "base/StyleObject.h"
 #include "bodeplot/frame/FrameGridLines.h"
-#include "scale/PlotAxes.h"
 #include "scenegraph/SoftwarePicture.h"
 #include "scenegraph/StrokeNode.h"
 
@@ -27,53 +26,29 @@ QColor fainter(QColor color)
 } // namespace
 
 RBodeplotGrid::RBodeplotGrid(QQuickItem *parent)
-    : QQuickItem(parent)
+    : FrameItem(parent)
 {
-    setFlag(ItemHasContents);
     for (const auto signal :
-         {&RBodeplotGrid::xMinimumChanged, &RBodeplotGrid::xMaximumChanged, &RBodeplotGrid::yMinimumChanged,
-          &RBodeplotGrid::yMaximumChanged, &RBodeplotGrid::xIncrementChanged, &RBodeplotGrid::yIncrementChanged,
-          &RBodeplotGrid::xAxisScaleChanged, &RBodeplotGrid::yAxisScaleChanged, &RBodeplotGrid::xAxisTickValuesChanged,
+         {&RBodeplotGrid::xIncrementChanged, &RBodeplotGrid::yIncrementChanged, &RBodeplotGrid::xAxisScaleChanged,
+          &RBodeplotGrid::yAxisScaleChanged, &RBodeplotGrid::xAxisTickValuesChanged,
           &RBodeplotGrid::yAxisTickValuesChanged, &RBodeplotGrid::dedicatedXAxisLineChanged})
-        connect(this, signal, this, &RBodeplotGrid::invalidateLines);
+        connect(this, signal, this, &RBodeplotGrid::onFrameChanged);
     for (const auto signal : {&RBodeplotGrid::yMinimumChanged, &RBodeplotGrid::yMaximumChanged})
         connect(this, signal, this, &RBodeplotGrid::warnWithoutZero);
 }
 
-void RBodeplotGrid::setStyle(QObject *style)
-{
-    if (!exchangeStyle(m_style, style, this, "refreshColors()"))
-        return;
-    refreshColors();
-    Q_EMIT styleChanged();
-}
-
-void RBodeplotGrid::refreshColors()
-{
-    polish();
-}
-
 void RBodeplotGrid::componentComplete()
 {
-    QQuickItem::componentComplete();
+    FrameItem::componentComplete();
     warnWithoutZero();
     polish();
 }
 
 void RBodeplotGrid::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
-    QQuickItem::geometryChange(newGeometry, oldGeometry);
-    if (newGeometry.size() != oldGeometry.size())
-        invalidateLines();
+    FrameItem::geometryChange(newGeometry, oldGeometry);
     if (newGeometry.height() != oldGeometry.height())
         warnWithoutZero();
-}
-
-void RBodeplotGrid::itemChange(ItemChange change, const ItemChangeData &data)
-{
-    QQuickItem::itemChange(change, data);
-    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange)
-        invalidateLines();
 }
 
 void RBodeplotGrid::updatePolish()
@@ -105,7 +80,7 @@ QSGNode *RBodeplotGrid::updateLines(QSGNode *oldNode) const
     return root;
 }
 
-void RBodeplotGrid::invalidateLines()
+void RBodeplotGrid::onFrameChanged()
 {
     m_linesStale = true;
     polish();
@@ -121,27 +96,31 @@ void RBodeplotGrid::warnWithoutZero() const
 
 bool RBodeplotGrid::showsZero() const
 {
-    const AxisRange levels{m_yMinimum, m_yMaximum, axisScale(m_yAxisScale)};
+    const AxisRange levels = axes().y;
     return levels.isShowable() && levels.contains(0.0);
+}
+
+PlotAxes RBodeplotGrid::axes() const
+{
+    return axesOf(axisScale(m_xAxisScale), axisScale(m_yAxisScale));
 }
 
 void RBodeplotGrid::readStyle()
 {
-    const LineWidths widths{styleWidth(m_style, "lineWidthVertical"), styleWidth(m_style, "lineWidthHorizontal"),
-                            styleWidth(m_style, "lineWidthXAchsis")};
+    const LineWidths widths{styleWidth(style(), "lineWidthVertical"), styleWidth(style(), "lineWidthHorizontal"),
+                            styleWidth(style(), "lineWidthXAchsis")};
     m_linesStale = m_linesStale || widths != m_widths;
     m_widths = widths;
-    m_kinds[Vertical].color = styleColor(m_style, "lineColorVertical");
-    m_kinds[Horizontal].color = styleColor(m_style, "lineColorHorizontal");
-    m_kinds[ZeroLine].color = styleColor(m_style, "lineColorXAchsis");
+    m_kinds[Vertical].color = styleColor(style(), "lineColorVertical");
+    m_kinds[Horizontal].color = styleColor(style(), "lineColorHorizontal");
+    m_kinds[ZeroLine].color = styleColor(style(), "lineColorXAchsis");
     m_kinds[FaintVertical].color = fainter(m_kinds[Vertical].color);
     m_kinds[FaintHorizontal].color = fainter(m_kinds[Horizontal].color);
 }
 
 void RBodeplotGrid::computeLines()
 {
-    const AxisRange frequencies{m_xMinimum, m_xMaximum, axisScale(m_xAxisScale)};
-    const AxisRange levels{m_yMinimum, m_yMaximum, axisScale(m_yAxisScale)};
+    const auto [frequencies, levels] = axes();
     const GridPlaces vertical = gridPlaces(frequencies, m_xIncrement, TickChoice(m_xAxisTickValues));
     const GridPlaces horizontal = gridPlaces(levels, m_yIncrement, TickChoice(m_yAxisTickValues));
     const QList<double> zero = m_dedicatedXAxisLine && showsZero() ? QList{levels.place(0.0)} : QList<double>();

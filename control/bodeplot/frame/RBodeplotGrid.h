@@ -2,12 +2,11 @@
 
 #include "base/ControlExport.h"
 #include "bodeplot/filters/BodeplotEnums.h"
+#include "bodeplot/frame/FrameItem.h"
 #include "scenegraph/StrokeGeometry.h"
 
-#include <QtCore/QPointer>
 #include <QtCore/QVariantList>
 #include <QtGui/QColor>
-#include <QtQuick/QQuickItem>
 
 #include <array>
 
@@ -15,25 +14,16 @@ namespace tamble::client {
 
 /// Grid lines of a frequency plot; x in Hz, y in dB, colours and widths from `style`.
 ///
-/// Upright lines: `xMinimum` 20 to `xMaximum` 20000, `xAxisScale` LOGARITHMIC, `xIncrement` 0 (distance of the lines on
-/// a linear axis; 0 or less for none). Level lines: `yMinimum` -20 to `yMaximum` 20, `yAxisScale` LINEAR, `yIncrement`
-/// 10. Values missing from a tick list that is not empty are drawn at 40 % opacity. `dedicatedXAxisLine` (true) adds
-/// the 0 dB line above the others. Bounds that are not finite or do not rise draw nothing.
+/// Upright lines: `xAxisScale` LOGARITHMIC, `xIncrement` 0 (distance of the lines on a linear axis; 0 or less for
+/// none). Level lines: `yAxisScale` LINEAR, `yIncrement` 10. Values missing from a tick list that is not empty are
+/// drawn at 40 % opacity. `dedicatedXAxisLine` (true) adds the 0 dB line above the others.
 ///
 /// Values of the style object: lineWidthVertical, lineColorVertical, lineWidthHorizontal, lineColorHorizontal,
-/// lineWidthXAchsis, lineColorXAchsis. A missing colour draws nothing, a missing width is 1.
-class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotGrid : public QQuickItem
+/// lineWidthXAchsis, lineColorXAchsis.
+class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotGrid : public tamble::client::FrameItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RBodeplotGridTemplate)
-    /// Object with the colours and widths named above; null, the default, draws nothing.
-    Q_PROPERTY(QObject *style READ style WRITE setStyle NOTIFY styleChanged)
-    /// `xMinimum` and `xMaximum`: frequencies in Hz at the left and right edge.
-    Q_PROPERTY(qreal xMinimum MEMBER m_xMinimum NOTIFY xMinimumChanged)
-    Q_PROPERTY(qreal xMaximum MEMBER m_xMaximum NOTIFY xMaximumChanged)
-    /// `yMinimum` and `yMaximum`: levels in dB at the bottom and top edge.
-    Q_PROPERTY(qreal yMinimum MEMBER m_yMinimum NOTIFY yMinimumChanged)
-    Q_PROPERTY(qreal yMaximum MEMBER m_yMaximum NOTIFY yMaximumChanged)
     /// Distance of the lines on linear axes: `xIncrement` in Hz, `yIncrement` in dB; 0 or less for none.
     Q_PROPERTY(qreal xIncrement MEMBER m_xIncrement NOTIFY xIncrementChanged)
     Q_PROPERTY(qreal yIncrement MEMBER m_yIncrement NOTIFY yIncrementChanged)
@@ -49,19 +39,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotGrid : public QQuickItem
 public:
     explicit RBodeplotGrid(QQuickItem *parent = nullptr);
 
-    QObject *style() const { return m_style; }
-    void setStyle(QObject *style);
-
-public Q_SLOTS:
-    /// Reads the style object anew before the next frame; its own change signals do the same.
-    void refreshColors();
-
 Q_SIGNALS:
-    void styleChanged();
-    void xMinimumChanged();
-    void xMaximumChanged();
-    void yMinimumChanged();
-    void yMaximumChanged();
     void xIncrementChanged();
     void yIncrementChanged();
     void xAxisScaleChanged();
@@ -72,8 +50,8 @@ Q_SIGNALS:
 
 protected:
     void componentComplete() override;
+    void onFrameChanged() override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
-    void itemChange(ItemChange change, const ItemChangeData &data) override;
     void updatePolish() override;
     QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
 
@@ -98,17 +76,12 @@ private:
     };
 
     QSGNode *updateLines(QSGNode *oldNode) const;
-    void invalidateLines();
     void warnWithoutZero() const;
     bool showsZero() const;
+    PlotAxes axes() const;
     void readStyle();
     void computeLines();
 
-    QPointer<QObject> m_style;
-    qreal m_xMinimum = 20.0;
-    qreal m_xMaximum = 20000.0;
-    qreal m_yMinimum = -20.0;
-    qreal m_yMaximum = 20.0;
     qreal m_xIncrement = 0.0;
     qreal m_yIncrement = 10.0;
     int m_xAxisScale = RBodeplotAxisScaleEnum::LOGARITHMIC;

@@ -74,8 +74,8 @@ QString FilterSet::setRecord(int position, FilterRecord record)
 
 void FilterSet::setAxes(const PlotAxes &axes)
 {
-    m_axes = axes;
-    placeHandles();
+    if (std::exchange(m_axes, axes) != axes)
+        placeHandles();
 }
 
 int FilterSet::recordOf(int handle) const
