@@ -1,50 +1,37 @@
+#pragma once
+
 #include "response/ResponseKernels.h"
 
+#include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdint>
-#include <cstring>
 
-// The loops behind ResponseKernels. One source per instruction set includes this text, and the compiler vectorises.
-//
-// Nothing here may have external linkage or come from a template of the standard library: the linker would keep one of
-// several equal functions, perhaps the one with instructions that the processor does not have. Loops have no branches
-// and a constant number of turns, so that each point goes through the same vector instructions in every block.
-
-namespace tamble::common::response {
-namespace {
-
-inline double smaller(double a, double b)
-{
-    return a < b ? a : b;
-}
-
-inline double larger(double a, double b)
-{
-    return a > b ? a : b;
-}
+// The loops behind ResponseKernels for levels, phases and sums; they keep to what ResponseKernels.cpp asks for.
+namespace tamble::common::response::loops {
 
 inline std::uint64_t bitsOf(double value)
 {
-    std::uint64_t bits;
-    std::memcpy(&bits, &value, sizeof bits);
-    return bits;
+    return std::bit_cast<std::uint64_t>(value);
 }
 
 inline double fromBits(std::uint64_t bits)
 {
-    double value;
-    std::memcpy(&value, &bits, sizeof value);
-    return value;
+    return std::bit_cast<double>(bits);
 }
 
-#include "response/SectionLoops.inc"
-#include "response/TapLoops.inc"
+inline constexpr double highestLevel = 240;
+inline constexpr double lowestLevel = -240;
+inline constexpr double lowestRatio = 1e-24;
 
-constexpr double highestLevel = 240;
-constexpr double lowestLevel = -240;
-constexpr double lowestRatio = 1e-24;
+// Written out, as the references of std::min and std::max make slower vector code here.
+inline double limitedLevel(double level)
+{
+    const double capped = level < highestLevel ? level : highestLevel;
+    return capped > lowestLevel ? capped : lowestLevel;
+}
 
-void multiplyResponse(const BlockResponse &__restrict factor, BlockResponse &__restrict response)
+inline void multiplyResponse(const BlockResponse &__restrict factor, BlockResponse &__restrict response)
 {
     for (std::size_t i = 0; i < blockSize; ++i) {
         response.numerator[i] *= factor.numerator[i];
@@ -52,14 +39,14 @@ void multiplyResponse(const BlockResponse &__restrict factor, BlockResponse &__r
     }
 }
 
-constexpr std::uint64_t exponentField = 0xfff0000000000000;
+inline constexpr std::uint64_t exponentField = 0xfff0000000000000;
 
-void reduce(BlockResponse &response)
+inline void reduce(BlockResponse &response)
 {
     constexpr std::uint64_t twiceTheBias = 2046ull << 52;
     for (std::size_t i = 0; i < blockSize; ++i) {
         const double scale = fromBits(twiceTheBias - (bitsOf(response.denominator[i]) & exponentField));
-        response.numerator[i] = larger(smaller(response.numerator[i] * scale, 1e60), 1e-60);
+        response.numerator[i] = std::max(1e-60, std::min(1e60, response.numerator[i] * scale));
         response.denominator[i] *= scale;
     }
 }
@@ -78,7 +65,7 @@ inline double artanhInDb(double s)
     return p * s;
 }
 
-void level(const BlockResponse &response, double *__restrict level)
+inline void level(const BlockResponse &response, double *__restrict level)
 {
     constexpr double dbPerOctave = 3.0102999566398119521; // 10 log10(2)
     constexpr std::uint64_t exponentBias = 1024ull << 52;
@@ -94,7 +81,7 @@ void level(const BlockResponse &response, double *__restrict level)
         const double near = fromBits(bitsOf(n) - (exponent & exponentField) + exponentBias);
         const double octaves = fromBits((exponent >> 52) | twoTo52) - (0x1p52 + 1024);
         const double db = octaves * dbPerOctave + artanhInDb((near - d) / (near + d));
-        level[i] = n > lowestRatio * d ? larger(smaller(db, highestLevel), lowestLevel) : lowestLevel;
+        level[i] = n > lowestRatio * d ? limitedLevel(db) : lowestLevel;
     }
 }
 
@@ -115,7 +102,7 @@ inline double arcTangentInDegrees(double t)
     return p * t;
 }
 
-void phase(const BlockResponse &response, double *__restrict phase)
+inline void phase(const BlockResponse &response, double *__restrict phase)
 {
     constexpr double tangentOf22 = 0.41421356237309504880;
 
@@ -124,8 +111,8 @@ void phase(const BlockResponse &response, double *__restrict phase)
         const double im = response.im[i];
         const double x = std::fabs(re);
         const double y = std::fabs(im);
-        const double longer = larger(x, y);
-        const double shorter = smaller(x, y);
+        const double longer = std::max(y, x);
+        const double shorter = std::min(y, x);
         // Between 22.5 and 45 degrees the angle is taken from 45.
         const bool isSteep = shorter > longer * tangentOf22;
         const double t = (isSteep ? shorter - longer : shorter) / (isSteep ? shorter + longer : longer);
@@ -137,13 +124,13 @@ void phase(const BlockResponse &response, double *__restrict phase)
     }
 }
 
-void add(const double *__restrict value, std::size_t count, double *__restrict sum)
+inline void add(const double *__restrict value, std::size_t count, double *__restrict sum)
 {
     for (std::size_t i = 0; i < count; ++i)
         sum[i] += value[i];
 }
 
-void addFour(const double *const *values, std::size_t count, double *__restrict sum)
+inline void addFour(const double *const *values, std::size_t count, double *__restrict sum)
 {
     const double *__restrict a = values[0];
     const double *__restrict b = values[1];
@@ -153,13 +140,13 @@ void addFour(const double *const *values, std::size_t count, double *__restrict 
         sum[i] = (((sum[i] + a[i]) + b[i]) + c[i]) + d[i];
 }
 
-void clampLevels(double *level)
+inline void clampLevels(double *level)
 {
     for (std::size_t i = 0; i < blockSize; ++i)
-        level[i] = larger(smaller(level[i], highestLevel), lowestLevel);
+        level[i] = limitedLevel(level[i]);
 }
 
-void wrapPhases(double *phase)
+inline void wrapPhases(double *phase)
 {
     for (std::size_t i = 0; i < blockSize; ++i) {
         const double wrapped = phase[i] - 360 * std::ceil((phase[i] - 180) / 360);
@@ -168,12 +155,4 @@ void wrapPhases(double *phase)
     }
 }
 
-} // namespace
-
-static constexpr ResponseKernels kernelsOfThisFile(const char *name)
-{
-    return {name,  oneSection, twoSections, multiplyPowers, multiplyResponse, reduce,    taps, symmetricTaps,
-            level, phase,      add,         addFour,        clampLevels,      wrapPhases};
-}
-
-} // namespace tamble::common::response
+} // namespace tamble::common::response::loops

@@ -1,9 +1,14 @@
-// Loops over points for taps; a part of ResponseLoops.inc.
+#pragma once
 
-constexpr std::size_t tapPairs = tapGroup / 2;
+#include "response/ResponseKernels.h"
+
+// The loops behind ResponseKernels for taps; they keep to what ResponseKernels.cpp asks for.
+namespace tamble::common::response::loops {
+
+inline constexpr std::size_t tapPairs = tapGroup / 2;
 
 // Points whose taps are summed at a time: their tables stay in the first-level cache beside the taps.
-constexpr std::size_t tapPoints = 32;
+inline constexpr std::size_t tapPoints = 32;
 
 struct alignas(64) HalfAngles
 {
@@ -11,7 +16,7 @@ struct alignas(64) HalfAngles
     double sine[tapPairs][tapPoints];
 };
 
-inline void fillHalfAngles(const BlockAngles &angles, std::size_t first, HalfAngles &half)
+[[gnu::always_inline]] inline void fillHalfAngles(const BlockAngles &angles, std::size_t first, HalfAngles &half)
 {
     alignas(64) double c[tapPoints];
     alignas(64) double s[tapPoints];
@@ -36,8 +41,8 @@ inline double dot(const double *__restrict values, const double (&__restrict tab
            values[4] * table[4][i] + values[5] * table[5][i] + values[6] * table[6][i] + values[7] * table[7][i];
 }
 
-void taps(const double *__restrict groupValues, std::size_t groups, const BlockAngles &angles,
-          BlockResponse &__restrict response)
+[[gnu::always_inline]] inline void taps(const double *__restrict groupValues, std::size_t groups,
+                                        const BlockAngles &angles, BlockResponse &__restrict response)
 {
     HalfAngles half;
     alignas(64) double re[tapPoints];
@@ -68,7 +73,8 @@ void taps(const double *__restrict groupValues, std::size_t groups, const BlockA
     }
 }
 
-void symmetricTaps(const double *groupValues, std::size_t groups, const BlockAngles &angles, BlockResponse &response)
+inline void symmetricTaps(const double *groupValues, std::size_t groups, const BlockAngles &angles,
+                          BlockResponse &response)
 {
     taps(groupValues, groups, angles, response);
     for (std::size_t i = 0; i < blockSize; ++i) {
@@ -76,3 +82,5 @@ void symmetricTaps(const double *groupValues, std::size_t groups, const BlockAng
         response.numerator[i] = response.re[i] * response.re[i];
     }
 }
+
+} // namespace tamble::common::response::loops

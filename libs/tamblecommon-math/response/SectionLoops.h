@@ -1,14 +1,21 @@
-// Loops over points for sections; a part of ResponseLoops.inc.
+#pragma once
+
+#include "response/ResponseKernels.h"
+
+#include <algorithm>
+
+// The loops behind ResponseKernels for sections; they keep to what ResponseKernels.cpp asks for.
+namespace tamble::common::response::loops {
 
 // Far beyond any prewarped frequency in use; keeps the fourth power of two sections finite.
-constexpr double highestFrequency = 1e30;
+inline constexpr double highestFrequency = 1e30;
 
 // |H|^2 stays a sum of squares: expanded into a polynomial it would lose the digits next to a zero.
-void oneSection(const Section &section, const double *__restrict tangents, BlockResponse &__restrict response)
+inline void oneSection(const Section &section, const double *__restrict tangents, BlockResponse &__restrict response)
 {
     const Section s = section;
     for (std::size_t i = 0; i < blockSize; ++i) {
-        const double o = smaller(tangents[i] * s.inverseCorner, highestFrequency);
+        const double o = std::min(highestFrequency, tangents[i] * s.inverseCorner);
         const double x = o * o;
         const double nr = s.b0 - s.b2 * x;
         const double ni = s.b1 * o;
@@ -21,8 +28,8 @@ void oneSection(const Section &section, const double *__restrict tangents, Block
     }
 }
 
-void twoSections(const Section &first, const Section &second, const double *__restrict tangents,
-                 BlockResponse &__restrict response)
+inline void twoSections(const Section &first, const Section &second, const double *__restrict tangents,
+                        BlockResponse &__restrict response)
 {
     BlockResponse other;
     oneSection(first, tangents, response);
@@ -37,7 +44,7 @@ void twoSections(const Section &first, const Section &second, const double *__re
 }
 
 // At this square of a frequency every response is at its end, and the powers of four sections can be multiplied.
-constexpr double highestSquare = 1e24;
+inline constexpr double highestSquare = 1e24;
 
 // A section with the squares that its power needs.
 struct PowerSection
@@ -56,8 +63,8 @@ inline PowerSection powerSection(const Section &s)
     return {s.b0, s.b1 * s.b1, s.b2, s.a0, s.a1 * s.a1, s.a2, s.inverseCorner * s.inverseCorner};
 }
 
-void multiplyPowers(const Section &first, const Section &second, const double *__restrict tangents,
-                    BlockResponse &__restrict response)
+inline void multiplyPowers(const Section &first, const Section &second, const double *__restrict tangents,
+                           BlockResponse &__restrict response)
 {
     const PowerSection sections[2] = {powerSection(first), powerSection(second)};
     for (std::size_t i = 0; i < blockSize; ++i) {
@@ -65,7 +72,7 @@ void multiplyPowers(const Section &first, const Section &second, const double *_
         double numerator = response.numerator[i];
         double denominator = response.denominator[i];
         for (const PowerSection &s : sections) {
-            const double x = smaller(square * s.inverseCornerSquared, highestSquare);
+            const double x = std::min(highestSquare, square * s.inverseCornerSquared);
             const double nr = s.b0 - s.b2 * x;
             const double dr = s.a0 - s.a2 * x;
             numerator *= nr * nr + s.b1Squared * x;
@@ -75,3 +82,5 @@ void multiplyPowers(const Section &first, const Section &second, const double *_
         response.denominator[i] = denominator;
     }
 }
+
+} // namespace tamble::common::response::loops
