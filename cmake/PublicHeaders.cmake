@@ -37,7 +37,7 @@ set(TAMBLE_PUBLIC_HEADERS
     fields/RTextFieldPinValidator.h
 
     # A meter that is fed without QML.
-    meter/MeterFractions.h
+    meter/MeterLevels.h
     meter/RMeterBase.h
 
     style/loading/ThemeSelector.h

@@ -23,8 +23,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT PendingValue : public QObject
     QML_NAMED_ELEMENT(RPendingValue)
     Q_PROPERTY(QObject *target READ target WRITE setTarget NOTIFY targetChanged FINAL)
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged FINAL)
-    /// How long, in ms, an edit is shown after it is over.
-    Q_PROPERTY(int settleTime MEMBER m_settleTime NOTIFY settleTimeChanged FINAL)
+    Q_PROPERTY(int settleTime READ settleTime WRITE setSettleTime NOTIFY settleTimeChanged FINAL)
     Q_PROPERTY(bool active READ isActive NOTIFY activeChanged FINAL)
     Q_PROPERTY(QVariant valueAtBegin READ valueAtBegin NOTIFY activeChanged FINAL)
 
@@ -38,6 +37,8 @@ public:
     void setTarget(QObject *target);
     QString name() const { return m_name; }
     void setName(const QString &name);
+    /// How long, in ms, an edit is shown after it is over.
+    int settleTime() const { return m_settleTime; }
     void setSettleTime(int ms);
     /// An edit is shown, whether under way or settling.
     bool isActive() const { return m_isActive; }

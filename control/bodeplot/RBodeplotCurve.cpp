@@ -27,8 +27,8 @@ RBodeplotCurve::RBodeplotCurve(QQuickItem *parent)
     : FrameItem(parent)
 {
     connectProperties();
-    connect(&m_lists, &FilterLists::itemsChanged, this, &RBodeplotCurve::calculationItemsChanged);
-    connect(&m_lists, &FilterLists::referenceChanged, this, &RBodeplotCurve::calculationItemsReferenceChanged);
+    connect(&m_lists, &ListedFilters::itemsChanged, this, &RBodeplotCurve::calculationItemsChanged);
+    connect(&m_lists, &ListedFilters::referenceChanged, this, &RBodeplotCurve::calculationItemsReferenceChanged);
     connect(&m_filters, &CurveFilters::pointModelsChanged, this, &RBodeplotCurve::tellPointModels);
     connect(&m_filters, &CurveFilters::recordChanged, this, &RBodeplotCurve::requestEvaluation);
     connect(&m_filters, &CurveFilters::displayChanged, this, &RBodeplotCurve::requestLines);

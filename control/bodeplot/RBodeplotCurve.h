@@ -2,7 +2,7 @@
 
 #include "base/ControlExport.h"
 #include "bodeplot/CurveFilters.h"
-#include "bodeplot/FilterLists.h"
+#include "bodeplot/ListedFilters.h"
 #include "bodeplot/filters/BodeplotEnums.h"
 #include "bodeplot/frame/FrameItem.h"
 #include "bodeplot/handles/RBodeplotPointModel.h"
@@ -150,7 +150,7 @@ private:
     int m_resolution = 4096;
     int m_settleTime = 300;
 
-    FilterLists m_lists{this};
+    ListedFilters m_lists{this};
     CurveFilters m_filters;
     bool m_listIsStale = false; ///< m_filters is still that of an earlier list.
     bool m_tellsHandlesLater = false;

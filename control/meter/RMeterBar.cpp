@@ -103,9 +103,9 @@ void RMeterBar::follow()
     m_segments = segments;
     m_barDirty = true;
     if (fell)
-        FallingBars::instance().fall(*this);
+        BarRedraws::instance().fall(*this);
     else
-        FallingBars::instance().rise(*this);
+        BarRedraws::instance().rise(*this);
 }
 
 // Something else than the segments has changed.

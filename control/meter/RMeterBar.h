@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/ControlExport.h"
-#include "meter/FallingBars.h"
+#include "meter/BarRedraws.h"
 #include "meter/MeterAnnouncer.h"
 #include "meter/MeterBarNode.h"
 #include "meter/RMeterBase.h"
@@ -19,7 +19,7 @@ namespace tamble::client {
 ///
 /// It follows the meter itself rather than by bindings, since walls of hundreds of meters move several times a second.
 /// A hidden or empty bar does nothing and reads no factor; a level that lights the same pixels repaints nothing; what
-/// falls may wait for others, see FallingBars.
+/// falls may wait for others, see BarRedraws.
 class TAMBLE_CLIENT_CONTROL_EXPORT RMeterBar : public QQuickItem, private WaitingBar
 {
     Q_OBJECT

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/ControlExport.h"
-#include "meter/MeterFractions.h"
+#include "meter/MeterLevels.h"
 
 #include <QtCore/QTimer>
 #include <QtQuick/QQuickItem>

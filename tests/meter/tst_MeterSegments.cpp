@@ -1,4 +1,4 @@
-#include "meter/FallingBars.h"
+#include "meter/BarRedraws.h"
 #include "meter/MeterSegments.h"
 #include "meter/RMeterBar.h"
 #include "support/Numbers.h"
@@ -114,7 +114,7 @@ private Q_SLOTS:
             auto &dirty = QQuickItemPrivate::get(&bar)->dirtyAttributes;
             return bool(std::exchange(dirty, 0) & QQuickItemPrivate::Content);
         };
-        FallingBars::instance();
+        BarRedraws::instance();
         QTimer &timer = RMeterBase::sharedTimer();
         timer.stop();
         const auto tick = [&timer] { QMetaObject::invokeMethod(&timer, "timeout", Qt::DirectConnection); };

@@ -1,11 +1,11 @@
-#include "meter/MeterFractions.h"
+#include "meter/MeterLevels.h"
 #include "support/Numbers.h"
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
 using namespace tamble::client;
 
-class tst_MeterFractions : public QObject
+class tst_MeterLevels : public QObject
 {
     Q_OBJECT
 
@@ -57,5 +57,5 @@ private Q_SLOTS:
     }
 };
 
-template struct TestClass<tst_MeterFractions>;
-#include "tst_MeterFractions.moc"
+template struct TestClass<tst_MeterLevels>;
+#include "tst_MeterLevels.moc"

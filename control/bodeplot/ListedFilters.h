@@ -14,14 +14,14 @@ namespace tamble::client {
 
 /// The filters that a page gives a curve: items of the module or, when there are none, any objects with filter-named
 /// properties.
-class FilterLists : public QObject
+class ListedFilters : public QObject
 {
     Q_OBJECT
 
 public:
     /// `curve` owns the lists and is who warnings are about.
-    explicit FilterLists(QQuickItem *curve);
-    ~FilterLists() override;
+    explicit ListedFilters(QQuickItem *curve);
+    ~ListedFilters() override;
 
     /// A filter that is destroyed leaves the list by itself.
     QQmlListProperty<RBodeplotCalculationItem> items();

@@ -1,4 +1,4 @@
-#include "meter/FallingBars.h"
+#include "meter/BarRedraws.h"
 
 #include "meter/RMeterBase.h"
 
@@ -8,18 +8,18 @@
 
 namespace tamble::client {
 
-FallingBars &FallingBars::instance()
+BarRedraws &BarRedraws::instance()
 {
-    static FallingBars bars;
+    static BarRedraws bars;
     return bars;
 }
 
-FallingBars::FallingBars()
+BarRedraws::BarRedraws()
 {
-    connect(&RMeterBase::sharedTimer(), &QTimer::timeout, this, &FallingBars::onTick);
+    connect(&RMeterBase::sharedTimer(), &QTimer::timeout, this, &BarRedraws::onTick);
 }
 
-void FallingBars::rise(WaitingBar &bar)
+void BarRedraws::rise(WaitingBar &bar)
 {
     m_risen = true;
     bar.m_place.unlink();
@@ -27,7 +27,7 @@ void FallingBars::rise(WaitingBar &bar)
     drawWaiting();
 }
 
-void FallingBars::fall(WaitingBar &bar)
+void BarRedraws::fall(WaitingBar &bar)
 {
     if (!m_riseExpected)
         bar.draw();
@@ -36,14 +36,14 @@ void FallingBars::fall(WaitingBar &bar)
 }
 
 // Meters tick before and after this, in the order in which they were made; both come right.
-void FallingBars::onTick()
+void BarRedraws::onTick()
 {
     m_riseExpected = std::exchange(m_risen, false);
     if (!m_riseExpected)
         drawWaiting();
 }
 
-void FallingBars::drawWaiting()
+void BarRedraws::drawWaiting()
 {
     while (!m_waiting.empty()) {
         WaitingBar &bar = m_waiting.front();

@@ -1,4 +1,4 @@
-#include "bodeplot/FilterLists.h"
+#include "bodeplot/ListedFilters.h"
 
 #include "base/ControlLog.h"
 
@@ -12,29 +12,29 @@ namespace tamble::client {
 
 namespace {
 
-FilterLists *listsOf(const QQmlListProperty<RBodeplotCalculationItem> *list)
+ListedFilters *listsOf(const QQmlListProperty<RBodeplotCalculationItem> *list)
 {
-    return static_cast<FilterLists *>(list->data);
+    return static_cast<ListedFilters *>(list->data);
 }
 
 } // namespace
 
-FilterLists::FilterLists(QQuickItem *curve)
+ListedFilters::ListedFilters(QQuickItem *curve)
     : m_curve(curve)
 {}
 
-FilterLists::~FilterLists()
+ListedFilters::~ListedFilters()
 {
     for (RBodeplotCalculationItem *item : std::as_const(m_items))
         item->disconnect(this);
 }
 
-QQmlListProperty<RBodeplotCalculationItem> FilterLists::items()
+QQmlListProperty<RBodeplotCalculationItem> ListedFilters::items()
 {
     return {m_curve, this, &appendItem, &itemCount, &itemAt, &clearItems};
 }
 
-QQmlListReference FilterLists::reference()
+QQmlListReference ListedFilters::reference()
 {
     if (m_reference.isValid())
         return m_reference;
@@ -44,7 +44,7 @@ QQmlListReference FilterLists::reference()
     return QQmlListReference(QVariant::fromValue(QQmlListProperty<QObject>(m_curve, nullptr, count, at)));
 }
 
-void FilterLists::setReference(const QQmlListReference &reference)
+void ListedFilters::setReference(const QQmlListReference &reference)
 {
     // An equal reference names the same list, but that list may have new contents: that is when a binding comes here.
     m_reference = reference;
@@ -52,9 +52,9 @@ void FilterLists::setReference(const QQmlListReference &reference)
 }
 
 // The filters get no visual parent: their `visible` must tell what the page wrote, not whether the plot is on screen.
-void FilterLists::appendItem(ItemList *list, RBodeplotCalculationItem *item)
+void ListedFilters::appendItem(ItemList *list, RBodeplotCalculationItem *item)
 {
-    FilterLists *lists = listsOf(list);
+    ListedFilters *lists = listsOf(list);
     if (!item) {
         if (!std::exchange(lists->m_hasToldOfNoFilter, true))
             warnOfPage(lists->m_curve,
@@ -63,23 +63,23 @@ void FilterLists::appendItem(ItemList *list, RBodeplotCalculationItem *item)
         return;
     }
     lists->m_items.append(item);
-    connect(item, &QObject::destroyed, lists, &FilterLists::forgetItem, Qt::UniqueConnection);
+    connect(item, &QObject::destroyed, lists, &ListedFilters::forgetItem, Qt::UniqueConnection);
     Q_EMIT lists->itemsChanged();
 }
 
-qsizetype FilterLists::itemCount(ItemList *list)
+qsizetype ListedFilters::itemCount(ItemList *list)
 {
     return listsOf(list)->m_items.size();
 }
 
-RBodeplotCalculationItem *FilterLists::itemAt(ItemList *list, qsizetype index)
+RBodeplotCalculationItem *ListedFilters::itemAt(ItemList *list, qsizetype index)
 {
     return listsOf(list)->m_items.value(index);
 }
 
-void FilterLists::clearItems(ItemList *list)
+void ListedFilters::clearItems(ItemList *list)
 {
-    FilterLists *lists = listsOf(list);
+    ListedFilters *lists = listsOf(list);
     if (lists->m_items.isEmpty())
         return;
     for (RBodeplotCalculationItem *item : std::as_const(lists->m_items))
@@ -88,14 +88,14 @@ void FilterLists::clearItems(ItemList *list)
     Q_EMIT lists->itemsChanged();
 }
 
-void FilterLists::forgetItem(QObject *item)
+void ListedFilters::forgetItem(QObject *item)
 {
     const auto isItem = [item](const QObject *candidate) { return candidate == item; };
     if (erase_if(m_items, isItem) > 0)
         Q_EMIT itemsChanged();
 }
 
-bool FilterLists::isListed(QObject *filter) const
+bool ListedFilters::isListed(QObject *filter) const
 {
     const auto isFilter = [filter](const QObject *listed) { return listed == filter; };
     if (std::ranges::any_of(m_items, isFilter))
@@ -109,7 +109,7 @@ bool FilterLists::isListed(QObject *filter) const
     return false;
 }
 
-void FilterLists::tellOfUnlisted()
+void ListedFilters::tellOfUnlisted()
 {
     QList<QPointer<QObject>> unlisted;
     for (QQuickItem *child : m_curve->childItems()) {
@@ -129,7 +129,7 @@ void FilterLists::tellOfUnlisted()
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
-ConvertedFilters FilterLists::converted() const
+ConvertedFilters ListedFilters::converted() const
 {
     if (!m_items.isEmpty())
         return calculationItemsQListToStdVector(m_items);

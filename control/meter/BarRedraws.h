@@ -18,29 +18,29 @@ protected:
     ~WaitingBar() = default;
 
 private:
-    friend class FallingBars;
+    friend class BarRedraws;
 
     boost::intrusive::list_member_hook<boost::intrusive::link_mode<boost::intrusive::auto_unlink>> m_place;
 };
 
-/// Lets bars that fall be drawn together with those that rise.
+/// When bars are drawn again: those that fall together with those that rise.
 ///
 /// Levels arrive at one moment of the meters' common interval and peaks fall at another, which would draw a wall of
 /// meters twice in each. A rise is always drawn at once. A fall waits for it, but only where the last interval had one,
 /// and for one interval at the most.
-class TAMBLE_CLIENT_CONTROL_EXPORT FallingBars : public QObject
+class TAMBLE_CLIENT_CONTROL_EXPORT BarRedraws : public QObject
 {
     Q_OBJECT
 
 public:
     /// The one of the process; on its first call it restarts the meters' common interval.
-    static FallingBars &instance();
+    static BarRedraws &instance();
 
     void rise(WaitingBar &bar);
     void fall(WaitingBar &bar);
 
 private:
-    FallingBars();
+    BarRedraws();
     void onTick();
     void drawWaiting();
 

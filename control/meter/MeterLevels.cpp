@@ -1,4 +1,4 @@
-#include "meter/MeterFractions.h"
+#include "meter/MeterLevels.h"
 
 #include <algorithm>
 #include <cmath>
