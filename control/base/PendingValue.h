@@ -16,7 +16,8 @@ namespace tamble::client {
 ///
 /// From the first edit on the property has the edited value, and a page's binding to it rests. `settleTime` ms (default
 /// 300) after the edit is over the binding is read again, whether the device took the edit or refused it; a property
-/// without one keeps the edit.
+/// without one keeps the edit. That time is not cut short when the binding says the edit already: many pages echo it at
+/// once, and answers of the device to earlier edits are then still on their way.
 class TAMBLE_CLIENT_CONTROL_EXPORT PendingValue : public QObject
 {
     Q_OBJECT
