@@ -16,49 +16,41 @@ class tst_StringRules : public QObject
 private Q_SLOTS:
     void rule_data()
     {
-        QTest::addColumn<StringRule>("rule");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<StringState>("state");
-        QTest::addColumn<StringFault>("fault");
-
-        const auto add = [](const char *name, StringRule rule, const QString &text, StringState state,
-                            StringFault fault = StringFault::None) {
-            QTest::newRow(name) << rule << text << state << fault;
-        };
+        const Rows<StringRule, QString, StringState, StringFault> add;
         using enum StringFault;
         using Rule = StringRule;
 
-        add("any: all scripts", Rule::Any, u" Gr\u00F6\u00DFe \u97F3 \U0001F3A7 "_s, Acceptable);
+        add("any: all scripts", Rule::Any, u" Gr\u00F6\u00DFe \u97F3 \U0001F3A7 "_s, Acceptable, None);
         add("any: no tab", Rule::Any, u"a\tb"_s, Invalid, ForbiddenCharacter);
         add("any: no C1 control", Rule::Any, u"a\u0085"_s, Invalid, ForbiddenCharacter);
         add("any: no half pair", Rule::Any, QString(QChar(0xD83C)), Invalid, ForbiddenCharacter);
 
-        add("ascii: both ends of the range", Rule::Ascii, u" ~"_s, Acceptable);
+        add("ascii: both ends of the range", Rule::Ascii, u" ~"_s, Acceptable, None);
         add("ascii: no delete", Rule::Ascii, u"\u007F"_s, Invalid, ForbiddenCharacter);
-        add("alphanumeric", Rule::Alphanumeric, u"azAZ09"_s, Acceptable);
+        add("alphanumeric", Rule::Alphanumeric, u"azAZ09"_s, Acceptable, None);
 
         add("alphanumeric: no underscore", Rule::Alphanumeric, u"a_b"_s, Invalid, ForbiddenCharacter);
         add("alphanumeric: no foreign digit", Rule::Alphanumeric, u"\u0663"_s, Invalid, ForbiddenCharacter);
-        add("name: inner blank", Rule::Name, u"Main Hall"_s, Acceptable);
+        add("name: inner blank", Rule::Name, u"Main Hall"_s, Acceptable, None);
         add("name: empty", Rule::Name, u""_s, Intermediate, TooShort);
 
         add("name: leading blank", Rule::Name, u" a"_s, Intermediate, OuterBlank);
         add("name: trailing no-break space", Rule::Name, u"a\u00A0"_s, Intermediate, OuterBlank);
 
-        add("file name: leading dot", Rule::FileName, u".hidden"_s, Acceptable);
+        add("file name: leading dot", Rule::FileName, u".hidden"_s, Acceptable, None);
         for (const char c : {'/', '\\', ':', '*', '?', '"', '<', '>', '|'})
-            QTest::addRow("file name: no %c", c)
-                << Rule::FileName << QString(QLatin1Char(c)) << Invalid << ForbiddenCharacter;
+            add(QByteArray("file name: no ").append(c), Rule::FileName, QString(QLatin1Char(c)), Invalid,
+                ForbiddenCharacter);
         add("file name: trailing dot", Rule::FileName, u"a."_s, Intermediate, TrailingDot);
         add("file name: parent folder", Rule::FileName, u".."_s, Intermediate, TrailingDot);
         add("file name: device", Rule::FileName, u"nUl"_s, Intermediate, ReservedName);
         add("file name: device with extensions", Rule::FileName, u"COM1.tar.gz"_s, Intermediate, ReservedName);
         add("file name: device and blank", Rule::FileName, u"con .txt"_s, Intermediate, ReservedName);
-        add("file name: device grown into a word", Rule::FileName, u"console.txt"_s, Acceptable);
-        add("file name: no device 0", Rule::FileName, u"LPT0"_s, Acceptable);
+        add("file name: device grown into a word", Rule::FileName, u"console.txt"_s, Acceptable, None);
+        add("file name: no device 0", Rule::FileName, u"LPT0"_s, Acceptable, None);
 
         const QString label63(63, u'a');
-        add("dns: labels", Rule::DnsName, u"a-1.example.com"_s, Acceptable);
+        add("dns: labels", Rule::DnsName, u"a-1.example.com"_s, Acceptable, None);
         add("dns: no capital", Rule::DnsName, u"Amp"_s, Invalid, ForbiddenCharacter);
         add("dns: no underscore", Rule::DnsName, u"a_b"_s, Invalid, ForbiddenCharacter);
         add("dns: empty", Rule::DnsName, u""_s, Intermediate, TooShort);
@@ -66,33 +58,29 @@ private Q_SLOTS:
         add("dns: trailing dot", Rule::DnsName, u"a."_s, Intermediate, EmptyLabel);
         add("dns: leading hyphen", Rule::DnsName, u"a.-b"_s, Intermediate, LabelHyphen);
         add("dns: trailing hyphen", Rule::DnsName, u"a-.b"_s, Intermediate, LabelHyphen);
-        add("dns: longest label", Rule::DnsName, u"a."_s + label63, Acceptable);
+        add("dns: longest label", Rule::DnsName, u"a."_s + label63, Acceptable, None);
         add("dns: long label may still get a dot", Rule::DnsName, label63 + u'a', Intermediate, LabelTooLong);
         const QString labels192 = (label63 + u'.').repeated(3);
-        add("dns: longest name", Rule::DnsName, labels192 + QString(61, u'b'), Acceptable);
+        add("dns: longest name", Rule::DnsName, labels192 + QString(61, u'b'), Acceptable, None);
         add("dns: too long", Rule::DnsName, labels192 + QString(62, u'b'), Invalid, TooLong);
-        add("cap dns: capitals", Rule::CapDnsName, u"Amp-7.Rack"_s, Acceptable);
+        add("cap dns: capitals", Rule::CapDnsName, u"Amp-7.Rack"_s, Acceptable, None);
         add("cap dns: no umlaut", Rule::CapDnsName, u"\u00C4"_s, Invalid, ForbiddenCharacter);
 
-        add("hex: pairs in both cases", Rule::Hex, u"09afAF"_s, Acceptable);
-        add("hex: empty", Rule::Hex, u""_s, Acceptable);
+        add("hex: pairs in both cases", Rule::Hex, u"09afAF"_s, Acceptable, None);
+        add("hex: empty", Rule::Hex, u""_s, Acceptable, None);
         add("hex: half a byte", Rule::Hex, u"abc"_s, Intermediate, OddLength);
         add("hex: no g", Rule::Hex, u"ag"_s, Invalid, ForbiddenCharacter);
-        add("password: eight", Rule::Password, u"!Aa0~xyz"_s, Acceptable);
+        add("password: eight", Rule::Password, u"!Aa0~xyz"_s, Acceptable, None);
 
         add("password: seven", Rule::Password, u"!Aa0~xy"_s, Intermediate, TooShort);
         add("password: no blank", Rule::Password, u"correct horse"_s, Invalid, ForbiddenCharacter);
 
-        add("unknown rule counts as any", static_cast<StringRule>(42), u"\u00FC"_s, Acceptable);
+        add("unknown rule counts as any", static_cast<StringRule>(42), u"\u00FC"_s, Acceptable, None);
     }
 
     void rule()
     {
-        QFETCH(StringRule, rule);
-        QFETCH(QString, text);
-        QFETCH(StringState, state);
-        QFETCH(StringFault, fault);
-
+        const auto &[rule, text, state, fault] = Rows<StringRule, QString, StringState, StringFault>::current();
         const StringVerdict verdict = validate(text, rule);
         QCOMPARE(verdict.state, state);
         QCOMPARE(verdict.fault, fault);
