@@ -1,6 +1,5 @@
 #include "StyleFixture.h"
 #include "style/StyleEngineSetup.h"
-#include "support/QmlText.h"
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
@@ -150,20 +149,6 @@ private Q_SLOTS:
         QVERIFY(!box.props().isSet("b"));
         setup.onFileChanged(QString());
         QCOMPARE(loads.count(), 4);
-    }
-
-    void relativeSourcesAreTheApplications()
-    {
-        const StyleFixture fixture;
-        fixture.write("mine.style", "Box { a: 1 }");
-        QQmlEngine engine;
-        const auto object = objectFrom(engine,
-                                       "import QtQuick\nimport TambleClient.Control 1.0\n"
-                                       "RStyleEngineSetup { engine.styleSheetSource: 'mine.style' }",
-                                       fixture.url("page.qml"));
-        QVERIFY(object);
-        StyledBox box;
-        QCOMPARE(box.props().number("a"), 1.0);
     }
 
     void styleNamesOfADirectory()

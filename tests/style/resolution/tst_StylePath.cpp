@@ -15,31 +15,18 @@ class tst_StylePath : public QObject
 private Q_SLOTS:
     void text_data()
     {
-        QTest::addColumn<QString>("typeName");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("state");
-        QTest::addColumn<QString>("expected");
-
-        const auto row = [](const char *rule, const char *name, const char *state, const char *expected) {
-            QTest::newRow(rule) << "RButton" << name << state << expected;
-        };
-        row("one class and one state", "red", "hovered", "RButton.red::hovered");
-        row("two of each", "red big", "hovered pressed", "RButton.{red,big}::{hovered,pressed}");
-        row("empty words are dropped", "  red  big ", " pressed hovered ", "RButton.{red,big}::{pressed,hovered}");
-        row("repeated words are kept", "red red", "", "RButton.{red,red}");
-        row("only blanks separate words", "red\tbig", "", "RButton.red\tbig");
-        QTest::newRow("no type") << ""
-                                 << "red"
-                                 << ""
-                                 << ".red";
+        const Rows<QString, QString, QString, QString> row;
+        row("one class and one state", "B", "red", "hovered", "B.red::hovered");
+        row("two of each", "B", "red big", "hovered pressed", "B.{red,big}::{hovered,pressed}");
+        row("empty words are dropped", "B", "  red  big ", " pressed hovered ", "B.{red,big}::{pressed,hovered}");
+        row("repeated words are kept", "B", "red red", "", "B.{red,red}");
+        row("only blanks separate words", "B", "red\tbig", "", "B.red\tbig");
+        row("no type", "", "red", "", ".red");
     }
 
     void text()
     {
-        QFETCH(QString, typeName);
-        QFETCH(QString, name);
-        QFETCH(QString, state);
-        QFETCH(QString, expected);
+        const auto &[typeName, name, state, expected] = Rows<QString, QString, QString, QString>::current();
         StylePathPool pool;
         const StylePathRef panel = pool.child({}, u"RPanel", u"", u"");
         QCOMPARE(pool.child({}, typeName, name, state)->text(), expected);

@@ -96,10 +96,7 @@ private Q_SLOTS:
 
     void failures_data()
     {
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("message");
-
-        const auto wrong = [](const char *value, const char *message) { QTest::newRow(value) << value << message; };
+        const Rows<QString> wrong;
         wrong("rgb(1, 2)", "rgb() expression expects 3 arguments");
         wrong("rgb()", "rgb() expression expects 3 arguments");
         wrong("rgba(1, 2, 3)", "rgba() expression expects 4 arguments");
@@ -123,9 +120,8 @@ private Q_SLOTS:
 
     void failures()
     {
-        QFETCH(QString, value);
-        QFETCH(QString, message);
-        QCOMPARE(faultOf([&] { colorFrom(valueOf(value)); }), message);
+        const auto &[message] = Rows<QString>::current();
+        QCOMPARE(faultOf([] { colorFrom(valueOf(QTest::currentDataTag())); }), message);
     }
 
     void hueOfAFullCircle()
@@ -167,11 +163,7 @@ private Q_SLOTS:
 
     void numbers_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("valid");
-        QTest::addColumn<double>("expected");
-
-        const auto number = [](const char *text, double value) { QTest::newRow(text) << text << true << value; };
+        const Rows<std::optional<double>> number;
         number("0", 0.0);
         number("-12.25", -12.25);
         number("+1", 1.0);
@@ -180,21 +172,19 @@ private Q_SLOTS:
         number("25e-1", 2.5);
         for (const char *text : {"", " 1", "1 ", "1,5", "1.000,5", "1'000", "50%", "12px", "0x10", "nan", "inf", "-inf",
                                  "+-1", "--1", "+", "-", "e5", "1e999", "one"})
-            QTest::newRow(*text ? text : "empty") << text << false << 0.0;
+            number(text, {});
     }
 
     void numbers()
     {
-        QFETCH(QString, text);
-        QFETCH(bool, valid);
-        QFETCH(double, expected);
-        const std::string bytes = text.toStdString();
-        QCOMPARE(strictDouble(bytes).has_value(), valid);
-        QCOMPARE(strictFloat(bytes).has_value(), valid);
-        if (valid)
-            QCOMPARE(numberFrom(bytes), expected);
+        const auto &[expected] = Rows<std::optional<double>>::current();
+        const std::string text = QTest::currentDataTag();
+        QCOMPARE(strictDouble(text), expected);
+        QCOMPARE(strictFloat(text).has_value(), expected.has_value());
+        if (expected)
+            QCOMPARE(numberFrom(text), *expected);
         else
-            QCOMPARE(faultOf([&] { numberFrom(bytes); }), "Not a number '" + text + "'");
+            QCOMPARE(faultOf([&] { numberFrom(text); }), QString::fromStdString("Not a number '" + text + "'"));
     }
 
     void numbersUnderACommaLocale()
