@@ -247,17 +247,6 @@ private Q_SLOTS:
         QCOMPARE(object->property("values").toList(), expected);
     }
 
-    void attachedStyleSet()
-    {
-        const auto component =
-            componentOf(m_engine, QStringLiteral("Item { RStyleSet.name: 'red'; RStyleSet.stateHelper.hovered: true\n"
-                                                 "property string state: RStyleSet.state\n"
-                                                 "property bool known: RStyleSet.props.isSet('background') }"));
-        const std::unique_ptr<QObject> object(component->create());
-        QVERIFY2(object, qPrintable(component->errorString()));
-        QCOMPARE(object->property("state").toString().trimmed(), QStringLiteral("hovered"));
-    }
-
 private:
     QQmlEngine m_engine;
     QStringList m_absent;

@@ -111,42 +111,6 @@ private Q_SLOTS:
         QCOMPARE(filters.count(&filters), 3);
     }
 
-    void freshItemsCanBeRead_data()
-    {
-        const Rows<QByteArray> row;
-        for (const char *type :
-             {"RBodeplotCurveTemplate", "RBodeplotCalculationItem", "RBodeplotEqFilter", "RBodeplotAsymmetricEqFilter",
-              "RBodeplotXOverFilter", "RBodeplotFIRFilter", "RBodeplotTemplate", "RBodeplotGridTemplate",
-              "RBodeplotAxisTemplate", "RSimpleCurveTemplate", "RLimiterCurveTemplate"})
-            row(type, QByteArray(type));
-    }
-
-    void freshItemsCanBeRead()
-    {
-        const auto &[type] = Rows<QByteArray>::current();
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
-
-        QQmlEngine engine;
-        // Every property, and every entry of those that are lists or objects; all of it written back as it was read.
-        const auto item = create(engine, "Item { property var fresh: " + type + R"( { }
-            function count() {
-                let entries = 0
-                for (const name in fresh) {
-                    const value = fresh[name]
-                    for (const entry in value)
-                        ++entries
-                    if (typeof value === "object" && value && value.length === 0 && value[0] !== undefined)
-                        throw name
-                }
-                return entries
-            }
-        })");
-        QVERIFY(item);
-        QVariant entries;
-        QMetaObject::invokeMethod(item.get(), "count", Q_RETURN_ARG(QVariant, entries));
-        QVERIFY(entries.toInt() > 0);
-    }
-
     void listReferencesToNothing_data()
     {
         const Rows<QByteArray> row;

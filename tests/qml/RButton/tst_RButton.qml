@@ -68,18 +68,6 @@ ThemedTestCase {
         compare(button.line.visible, false)
     }
 
-    // A handler of one button's change looks at another one: neither may still wear the other theme.
-    function test_noButtonSeesTwoThemes() {
-        const first = make("RButton {}")
-        const second = make("RButton {}")
-        const seen = []
-        const record = () => seen.push(first.RStyleSet.props.color("background") + " " + second.RStyleSet.props.color("background"))
-        first.ssBackgroundChanged.connect(record)
-        second.ssBackgroundChanged.connect(record)
-        root.sheet = "light"
-        compare(seen, ["#a0a0a0 #a0a0a0", "#a0a0a0 #a0a0a0"])
-    }
-
     function test_lineOfRotatedButtons_data() {
         return [
             { tag: "upright", rotation: 0, visible: true, size: [144, 4] },

@@ -173,14 +173,6 @@ TestCase {
         compare(popup.button.RStyleSet.props.color("background"), "#707070")
     }
 
-    function test_styleInfoNamesTheRules() {
-        const panel = createTemporaryObject(panelComponent, root)
-        const info = panel.button.RStyleSet.styleInfo
-        verify(info.startsWith("Style info for path QQuickRootItem/"), info)
-        verify(info.indexOf("// specificity: [0,0,2]") > 0, info)
-        verify(/Panel Button[\s\S]*#202020[\s\S]*default stylesheet[\s\S]* at line 3 column /.test(info), info)
-    }
-
     function test_missingKeysGiveDefaults() {
         const button = createTemporaryObject(buttonComponent, root)
         const props = button.RStyleSet.props
