@@ -47,18 +47,14 @@ private Q_SLOTS:
 
     void mnemonics_data()
     {
-        const Rows<QString, QString> row;
+        const auto row =
+            rowsOf([](const QString &text, const QString &shown) { QCOMPARE(withoutMnemonic(text), shown); });
         row("none", "Mute", "Mute");
         row("digit", "Scene &2", "Scene 2");
         row("both", "&R&&D", "R&D");
         row("empty", "", "");
     }
-
-    void mnemonics()
-    {
-        const auto &[text, shown] = Rows<QString, QString>::current();
-        QCOMPARE(withoutMnemonic(text), shown);
-    }
+    void mnemonics() { checkRow(); }
 
     void seen_data()
     {

@@ -24,7 +24,12 @@ private Q_SLOTS:
     void mapping_data()
     {
         // from, to: the ends of the two ranges
-        const Rows<Mapping, double, Range, Range, double> row;
+        const auto row =
+            rowsOf([](const Mapping &mapping, double x, const Range &from, const Range &to, double expected) {
+                const double result = mapping(x, from.first, from.second, to.first, to.second);
+                QVERIFY2(std::abs(result - expected) <= 1e-12 * std::max(1.0, std::abs(expected)),
+                         qPrintable(QString::number(result, 'g', 17)));
+            });
         row("lin2lin: middle", lin2lin, 5.0, {0.0, 10.0}, {100.0, 200.0}, 150.0);
         row("lin2lin: output runs backwards", lin2lin, 12.0, {-18.0, 18.0}, {360.0, 0.0}, 60.0);
         row("lin2lin: input runs backwards", lin2lin, 2.0, {8.0, 0.0}, {0.0, 4.0}, 3.0);
@@ -55,14 +60,7 @@ private Q_SLOTS:
         row("lin2log: NaN position", lin2log, notANumber, {0.0, 1.0}, {20.0, 200.0}, 20.0);
         row("lin2log: overflow", lin2log, 1e6, {0.0, 1.0}, {20.0, 200.0}, 20.0);
     }
-
-    void mapping()
-    {
-        const auto &[mapping, x, from, to, expected] = Rows<Mapping, double, Range, Range, double>::current();
-        const double result = mapping(x, from.first, from.second, to.first, to.second);
-        QVERIFY2(std::abs(result - expected) <= 1e-12 * std::max(1.0, std::abs(expected)),
-                 qPrintable(QString::number(result, 'g', 17)));
-    }
+    void mapping() { checkRow(); }
 
     void endsAreExact()
     {
@@ -81,7 +79,8 @@ private Q_SLOTS:
 
     void orderOfMagnitude_data()
     {
-        const Rows<double, double> row;
+        const auto row =
+            rowsOf([](double x, double expected) { QVERIFY(tamble::common::orderOfMagnitude(x) == expected); });
         row("within a decade", 20.0, 10.0);
         row("power of ten", 1000.0, 1000.0);
         row("just below a power of ten", std::nextafter(1000.0, 0.0), 100.0);
@@ -94,12 +93,7 @@ private Q_SLOTS:
         row("largest", std::numeric_limits<double>::max(), 1e308);
         row("denormal", std::numeric_limits<double>::denorm_min(), 1e-307);
     }
-
-    void orderOfMagnitude()
-    {
-        const auto &[x, expected] = Rows<double, double>::current();
-        QVERIFY(tamble::common::orderOfMagnitude(x) == expected);
-    }
+    void orderOfMagnitude() { checkRow(); }
 };
 
 template struct TestClass<tst_ScaleMappings>;

@@ -16,7 +16,12 @@ class tst_StringRules : public QObject
 private Q_SLOTS:
     void rule_data()
     {
-        const Rows<StringRule, QString, StringState, StringFault> add;
+        const auto add =
+            rowsOf([](const StringRule &rule, const QString &text, const StringState &state, const StringFault &fault) {
+                const StringVerdict verdict = validate(text, rule);
+                QCOMPARE(verdict.state, state);
+                QCOMPARE(verdict.fault, fault);
+            });
         using enum StringFault;
         using Rule = StringRule;
 
@@ -77,18 +82,15 @@ private Q_SLOTS:
 
         add("unknown rule counts as any", static_cast<StringRule>(42), u"\u00FC"_s, Acceptable, None);
     }
-
-    void rule()
-    {
-        const auto &[rule, text, state, fault] = Rows<StringRule, QString, StringState, StringFault>::current();
-        const StringVerdict verdict = validate(text, rule);
-        QCOMPARE(verdict.state, state);
-        QCOMPARE(verdict.fault, fault);
-    }
+    void rule() { checkRow(); }
 
     void limits_data()
     {
-        const Rows<StringRule, StringLimits, QString, StringVerdict> row;
+        const auto row = rowsOf(
+            [](const StringRule &rule, const StringLimits &limits, const QString &text, const StringVerdict &expected) {
+                const StringVerdict verdict = validate(text, rule, limits);
+                QVERIFY2(verdict == expected, qPrintable(QDebug::toString(verdict)));
+            });
         const auto tooShort = [](qsizetype limit) {
             return StringVerdict{.state = Intermediate, .fault = StringFault::TooShort, .limit = limit};
         };
@@ -115,17 +117,17 @@ private Q_SLOTS:
         row("limits apply to patterns", Rule::Pattern, {.maximumLength = 2, .pattern = StringPattern(u"a+"_s)},
             u"aaa"_s, tooLong(2));
     }
-
-    void limits()
-    {
-        const auto &[rule, limits, text, expected] = Rows<StringRule, StringLimits, QString, StringVerdict>::current();
-        const StringVerdict verdict = validate(text, rule, limits);
-        QVERIFY2(verdict == expected, qPrintable(QDebug::toString(verdict)));
-    }
+    void limits() { checkRow(); }
 
     void faultData_data()
     {
-        const Rows<StringRule, QString, qsizetype, qsizetype, char32_t> row;
+        const auto row = rowsOf(
+            [](const StringRule &rule, const QString &text, qsizetype position, qsizetype limit, char32_t character) {
+                const StringVerdict verdict = validate(text, rule);
+                QCOMPARE(verdict.position, position);
+                QCOMPARE(verdict.limit, limit);
+                QCOMPARE(verdict.character, character);
+            });
         row("first forbidden character", StringRule::Ascii, u"ab\u00FC\u00E4"_s, qsizetype(2), qsizetype(0), U'\u00FC');
         row("forbidden pair", StringRule::Ascii, u"a\U0001F3A7"_s, qsizetype(1), qsizetype(0), U'\U0001F3A7');
         row("trailing blank", StringRule::Name, u"ab "_s, qsizetype(2), qsizetype(0), U'\0');
@@ -134,20 +136,15 @@ private Q_SLOTS:
             U'\0');
         row("hyphen before a dot", StringRule::DnsName, u"a.b-.c"_s, qsizetype(3), qsizetype(0), U'\0');
     }
-
-    void faultData()
-    {
-        const auto &[rule, text, position, limit, character] =
-            Rows<StringRule, QString, qsizetype, qsizetype, char32_t>::current();
-        const StringVerdict verdict = validate(text, rule);
-        QCOMPARE(verdict.position, position);
-        QCOMPARE(verdict.limit, limit);
-        QCOMPARE(verdict.character, character);
-    }
+    void faultData() { checkRow(); }
 
     void pattern_data()
     {
-        const Rows<QString, QString, StringState> row;
+        const auto row = rowsOf([](const QString &pattern, const QString &text, const StringState &state) {
+            const StringLimits limits{.pattern = StringPattern(pattern)};
+            QVERIFY(limits.pattern.isWellFormed());
+            QCOMPARE(validate(text, StringRule::Pattern, limits).state, state);
+        });
         row("whole text", u"[A-Z]\\d{3}"_s, u"K123"_s, Acceptable);
         row("beginning", u"[A-Z]\\d{3}"_s, u"K12"_s, Intermediate);
         row("nothing yet", u"[A-Z]\\d{3}"_s, u""_s, Intermediate);
@@ -159,31 +156,21 @@ private Q_SLOTS:
         row("trailing line end is text", u"a"_s, u"a\n"_s, Invalid);
         row("empty pattern restricts nothing", u""_s, u"x"_s, Acceptable);
     }
-
-    void pattern()
-    {
-        const auto &[pattern, text, state] = Rows<QString, QString, StringState>::current();
-        const StringLimits limits{.pattern = StringPattern(pattern)};
-        QVERIFY(limits.pattern.isWellFormed());
-        QCOMPARE(validate(text, StringRule::Pattern, limits).state, state);
-    }
+    void pattern() { checkRow(); }
 
     void illFormedPattern_data()
     {
-        const Rows<QString> row;
+        const auto row = rowsOf([](const QString &pattern) {
+            const StringLimits limits{.pattern = StringPattern(pattern)};
+            QVERIFY(!limits.pattern.isWellFormed());
+            QVERIFY(!limits.pattern.errorText().isEmpty());
+            QVERIFY(validate(u"anything", StringRule::Pattern, limits).isAcceptable());
+        });
         row("open group", u"(a"_s);
         row("closes a group it did not open", u"a)(b"_s);
         row("nothing to repeat", u"*"_s);
     }
-
-    void illFormedPattern()
-    {
-        const auto &[pattern] = Rows<QString>::current();
-        const StringLimits limits{.pattern = StringPattern(pattern)};
-        QVERIFY(!limits.pattern.isWellFormed());
-        QVERIFY(!limits.pattern.errorText().isEmpty());
-        QVERIFY(validate(u"anything", StringRule::Pattern, limits).isAcceptable());
-    }
+    void illFormedPattern() { checkRow(); }
 
     void endlessBacktrackingIsGivenUp()
     {

@@ -249,30 +249,40 @@ private Q_SLOTS:
 
     void textSurvivesReading_data()
     {
-        const Rows<Properties> row;
+        const auto row = rowsOf([](const Properties &properties) {
+            DoubleValueConverter converter;
+            apply(converter, properties);
+
+            for (const double value : {0.0, 0.05, 0.95, 1.005, 2.5, 99.95, 999.5, 999.96, 1234.5, 99950.0, 123456.75,
+                                       1e15, 1e21, infinity}) {
+                for (const double signedValue : {value, -value}) {
+                    const QString text = converter.toText(signedValue);
+                    QCOMPARE(converter.toText(converter.fromText(text)), text);
+                }
+            }
+        });
         row("plain", {});
         row("frequency", {{u"unit"_s, u"Hz"_s}, {u"kilo"_s, true}, {u"decimals"_s, 0}});
         row("reversed", {{u"factor"_s, -0.7}, {u"decimals"_s, 2}, {u"decimalPoint"_s, u","_s}});
     }
-
-    void textSurvivesReading()
-    {
-        const auto &[properties] = Rows<Properties>::current();
-        DoubleValueConverter converter;
-        apply(converter, properties);
-
-        for (const double value :
-             {0.0, 0.05, 0.95, 1.005, 2.5, 99.95, 999.5, 999.96, 1234.5, 99950.0, 123456.75, 1e15, 1e21, infinity}) {
-            for (const double signedValue : {value, -value}) {
-                const QString text = converter.toText(signedValue);
-                QCOMPARE(converter.toText(converter.fromText(text)), text);
-            }
-        }
-    }
+    void textSurvivesReading() { checkRow(); }
 
     void displayTextFollowsEachProperty_data()
     {
-        const Rows<QVariant, QString, Properties> add;
+        const auto add = rowsOf([](const QVariant &value, const QString &expected, const Properties &before) {
+            const QByteArray property = QTest::currentDataTag();
+            DoubleValueConverter converter;
+            apply(converter, before);
+            QSignalSpy textSpy(&converter, &RValueConverter::displayTextChanged);
+            QSignalSpy propertySpy(&converter, ("2" + property + "Changed()").constData());
+
+            for (int i = 0; i < 2; ++i) {
+                QVERIFY(converter.setProperty(property.constData(), value));
+                QCOMPARE(converter.displayText(), expected);
+                QCOMPARE(textSpy.size(), 1);
+                QCOMPARE(propertySpy.size(), 1);
+            }
+        });
         const Properties given{{u"value"_s, 1500}};
 
         add("value", 2, u"2.0"_s, given);
@@ -291,23 +301,7 @@ private Q_SLOTS:
         add("kilo", true, u"1.5\u00A0k"_s, given);
         add("decimalPoint", u","_s, u"1500,0"_s, given);
     }
-
-    void displayTextFollowsEachProperty()
-    {
-        const auto &[value, expected, before] = Rows<QVariant, QString, Properties>::current();
-        const QByteArray property = QTest::currentDataTag();
-        DoubleValueConverter converter;
-        apply(converter, before);
-        QSignalSpy textSpy(&converter, &RValueConverter::displayTextChanged);
-        QSignalSpy propertySpy(&converter, ("2" + property + "Changed()").constData());
-
-        for (int i = 0; i < 2; ++i) {
-            QVERIFY(converter.setProperty(property.constData(), value));
-            QCOMPARE(converter.displayText(), expected);
-            QCOMPARE(textSpy.size(), 1);
-            QCOMPARE(propertySpy.size(), 1);
-        }
-    }
+    void displayTextFollowsEachProperty() { checkRow(); }
 
     void signalsCarryTheNewState()
     {

@@ -28,7 +28,17 @@ private Q_SLOTS:
 
     void faults_data()
     {
-        const Rows<QByteArray, QString, QString> row;
+        const auto row = rowsOf([](const QByteArray &text, const QString &place, const QString &message) {
+            try {
+                parseStdString(text.toStdString());
+                QFAIL("no fault was found");
+            } catch (const ParseException &fault) {
+                QCOMPARE(QString::fromStdString(fault.message()), place + ": syntax error, " + message);
+                QCOMPARE(QStringLiteral("%1:%2").arg(fault.line()).arg(fault.column()), place);
+                const QByteArrayList lines = QByteArray(text).replace("\r\n", "\n").replace('\r', '\n').split('\n');
+                QCOMPARE(QByteArray::fromStdString(fault.lineText()), lines.at(fault.line() - 1));
+            }
+        });
         row("no value", "A {\r\n  a: ; \r\n}", "2:6", "expected a value");
         row("no colon", "A { a }", "1:7", "expected \":\" after the name of the property");
         row("comma at the end of selectors", "A, {}", "1:4", "expected a selector after \",\"");
@@ -63,20 +73,7 @@ private Q_SLOTS:
         row("font face with another key", "@font-face { url: url(a) }", "1:14", "expected \"src\"");
         row("byte 0", QByteArray("A {}\0B {}", 9), "1:5", "expected a rule, a variable definition or \"@font-face\"");
     }
-
-    void faults()
-    {
-        const auto &[text, place, message] = Rows<QByteArray, QString, QString>::current();
-        try {
-            parseStdString(text.toStdString());
-            QFAIL("no fault was found");
-        } catch (const ParseException &fault) {
-            QCOMPARE(QString::fromStdString(fault.message()), place + ": syntax error, " + message);
-            QCOMPARE(QStringLiteral("%1:%2").arg(fault.line()).arg(fault.column()), place);
-            const QByteArrayList lines = QByteArray(text).replace("\r\n", "\n").replace('\r', '\n').split('\n');
-            QCOMPARE(QByteArray::fromStdString(fault.lineText()), lines.at(fault.line() - 1));
-        }
-    }
+    void faults() { checkRow(); }
 
     void undefinedVariable()
     {
@@ -94,7 +91,17 @@ private Q_SLOTS:
     void longLinesAreCut_data()
     {
         // around: what the message shows of the place
-        const Rows<std::string, std::string> row;
+        const auto row = rowsOf([](const std::string &text, const std::string &around) {
+            try {
+                parseStdString(text);
+                QFAIL("no fault was found");
+            } catch (const ParseException &fault) {
+                QVERIFY2(fault.lineText().size() <= 200, std::to_string(fault.lineText().size()).c_str());
+                QVERIFY2(fault.message().size() < 300, fault.what());
+                QVERIFY2(fault.lineText().find(around) != std::string::npos, fault.lineText().c_str());
+                QCOMPARE(QString::fromStdString(fault.lineText()).toStdString(), fault.lineText()); // UTF-8 throughout
+            }
+        });
         const std::string megabyte(1000000, 'a');
         row("fault at the end", "A { " + megabyte + ": b;; }", "aaa: b;; }");
         row("fault at the start", ";" + megabyte, ";aaa");
@@ -102,24 +109,24 @@ private Q_SLOTS:
         row("characters of two bytes", "A{k:'" + repeated("\xc3\xbc", 5000) + "'; l:% '" + repeated("\xc3\xbc", 5000),
             "\xc3\xbc'; l:% '\xc3\xbc");
     }
-
-    void longLinesAreCut()
-    {
-        const auto &[text, around] = Rows<std::string, std::string>::current();
-        try {
-            parseStdString(text);
-            QFAIL("no fault was found");
-        } catch (const ParseException &fault) {
-            QVERIFY2(fault.lineText().size() <= 200, std::to_string(fault.lineText().size()).c_str());
-            QVERIFY2(fault.message().size() < 300, fault.what());
-            QVERIFY2(fault.lineText().find(around) != std::string::npos, fault.lineText().c_str());
-            QCOMPARE(QString::fromStdString(fault.lineText()).toStdString(), fault.lineText()); // UTF-8 throughout
-        }
-    }
+    void longLinesAreCut() { checkRow(); }
 
     void hostileTexts_data()
     {
-        const Rows<std::string, bool> row;
+        const auto row = rowsOf([](const std::string &text, bool valid) {
+            QElapsedTimer timer;
+            timer.start();
+            bool parsed = true;
+            try {
+                QVERIFY(parseStdString(text).names().size() > 0);
+            } catch (const ParseException &fault) {
+                parsed = false;
+                QVERIFY(fault.line() >= 1 && fault.column() >= 1);
+            }
+            QCOMPARE(parsed, valid);
+            // Some milliseconds each in fact; what takes more than linear time takes minutes.
+            QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
+        });
         std::string doubling = "@v0 = x;";
         for (int i = 1; i < 64; ++i) {
             const std::string from = "@v" + std::to_string(i - 1);
@@ -146,23 +153,7 @@ private Q_SLOTS:
         row("long variable many times", "@v='" + megabyte + "';A{k:x" + repeated(",@v", 10000) + "}", false);
         row("bytes that are no text", "A{k:'" + std::string("\0\xff\x80\x01", 4) + "'}", true);
     }
-
-    void hostileTexts()
-    {
-        const auto &[text, valid] = Rows<std::string, bool>::current();
-        QElapsedTimer timer;
-        timer.start();
-        bool parsed = true;
-        try {
-            QVERIFY(parseStdString(text).names().size() > 0);
-        } catch (const ParseException &fault) {
-            parsed = false;
-            QVERIFY(fault.line() >= 1 && fault.column() >= 1);
-        }
-        QCOMPARE(parsed, valid);
-        // Some milliseconds each in fact; what takes more than linear time takes minutes.
-        QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
-    }
+    void hostileTexts() { checkRow(); }
 };
 
 template struct TestClass<tst_StyleSheetGrammar>;

@@ -15,7 +15,13 @@ class tst_StylePath : public QObject
 private Q_SLOTS:
     void text_data()
     {
-        const Rows<QString, QString, QString, QString> row;
+        const auto row =
+            rowsOf([](const QString &typeName, const QString &name, const QString &state, const QString &expected) {
+                StylePathPool pool;
+                const StylePathRef panel = pool.child({}, u"RPanel", u"", u"");
+                QCOMPARE(pool.child({}, typeName, name, state)->text(), expected);
+                QCOMPARE(pool.child(panel, typeName, name, state)->text(), "RPanel/" + expected);
+            });
         row("one class and one state", "B", "red", "hovered", "B.red::hovered");
         row("two of each", "B", "red big", "hovered pressed", "B.{red,big}::{hovered,pressed}");
         row("empty words are dropped", "B", "  red  big ", " pressed hovered ", "B.{red,big}::{pressed,hovered}");
@@ -23,15 +29,7 @@ private Q_SLOTS:
         row("only blanks separate words", "B", "red\tbig", "", "B.red\tbig");
         row("no type", "", "red", "", ".red");
     }
-
-    void text()
-    {
-        const auto &[typeName, name, state, expected] = Rows<QString, QString, QString, QString>::current();
-        StylePathPool pool;
-        const StylePathRef panel = pool.child({}, u"RPanel", u"", u"");
-        QCOMPARE(pool.child({}, typeName, name, state)->text(), expected);
-        QCOMPARE(pool.child(panel, typeName, name, state)->text(), "RPanel/" + expected);
-    }
+    void text() { checkRow(); }
 
     void parts()
     {
@@ -49,7 +47,12 @@ private Q_SLOTS:
 
     void equalPathsAreOne_data()
     {
-        const Rows<QString, QString, bool> row;
+        const auto row = rowsOf([](const QString &a, const QString &b, bool equal) {
+            StylePathPool pool;
+            const StylePathRef first = pathFrom(pool, a);
+            QCOMPARE(pathFrom(pool, b) == first, equal);
+            QVERIFY(pathFrom(pool, a) == first);
+        });
         row("blanks only", "A/B.x y::z", "A/B.  x y ::z ", true);
         row("order of classes", "A.x y", "A.y x", false);
         row("order of states", "A::x y", "A::y x", false);
@@ -61,15 +64,7 @@ private Q_SLOTS:
         row("other depth", "A", "A/A", false);
         row("case matters", "A.x", "a.x", false);
     }
-
-    void equalPathsAreOne()
-    {
-        const auto &[a, b, equal] = Rows<QString, QString, bool>::current();
-        StylePathPool pool;
-        const StylePathRef first = pathFrom(pool, a);
-        QCOMPARE(pathFrom(pool, b) == first, equal);
-        QVERIFY(pathFrom(pool, a) == first);
-    }
+    void equalPathsAreOne() { checkRow(); }
 
     void longerListsOfWordsDiffer()
     {
@@ -143,7 +138,9 @@ private Q_SLOTS:
 
     void typeName_data()
     {
-        const Rows<QString> row;
+        const auto row = rowsOf([](const QString &expected) {
+            QCOMPARE(styleTypeName(QByteArrayView(QTest::currentDataTag())), expected);
+        });
         row("RButton_QMLTYPE_42", "RButton");
         row("RButton_QML_7", "RButton");
         row("RButton_QMLTYPE_42_QML_7", "RButton");
@@ -156,12 +153,7 @@ private Q_SLOTS:
         row("A_QML_QMLTYPE_3", "A_QML");
         row("", "");
     }
-
-    void typeName()
-    {
-        const auto &[expected] = Rows<QString>::current();
-        QCOMPARE(styleTypeName(QByteArrayView(QTest::currentDataTag())), expected);
-    }
+    void typeName() { checkRow(); }
 };
 
 template struct TestClass<tst_StylePath>;

@@ -34,7 +34,9 @@ class tst_StyleResolver : public QObject
 private Q_SLOTS:
     void winner_data()
     {
-        const Rows<QString, QString, QString> row;
+        const auto row = rowsOf([](const QString &sheet, const QString &path, const QString &expected) {
+            QCOMPARE(resolved(sheetFrom(sheet), path), expected);
+        });
         row("a state beats many classes", "A::s { k: state }\nA.x.y.z { k: classes }", "A.x y z::s", "k=state");
         row("a class beats many types", ".x { k: class }\nA B C { k: types }", "A/B/C.x", "k=class");
         row("later column wins", "A.x { k: 1 } A.y { k: 2 }", "A.y x", "k=2");
@@ -45,12 +47,7 @@ private Q_SLOTS:
         row("names are merged in order", "A { m: 1; k: 1 }\nA.x { l: 2 }", "A.x", "k=1 l=2 m=1");
         row("each name on its own", "A.x { k: 1; l: 1 }\nA.y { l: 2; m: 2 }", "A.x y", "k=1 l=2 m=2");
     }
-
-    void winner()
-    {
-        const auto &[sheet, path, expected] = Rows<QString, QString, QString>::current();
-        QCOMPARE(resolved(sheetFrom(sheet), path), expected);
-    }
+    void winner() { checkRow(); }
 
     void positionsCountAgainstALessSpecificMatch()
     {
@@ -106,19 +103,16 @@ private Q_SLOTS:
 
     void inheritance_data()
     {
-        const Rows<QString, QString> row;
+        const auto row = rowsOf([](const QString &path, const QString &expected) {
+            QCOMPARE(resolved(sheetFrom("A { k: a; l: a } A.x { k: x } B { l: b; a: b; z: b } C { k: c }"), path),
+                     expected);
+        });
         row("nearer definition wins", "A/B", "a=b k=a l=b z=b");
         row("through elements without rules", "A/X/B/X/C", "a=b k=c l=b z=b");
         row("nearer though less specific", "A.x/B", "a=b k=x l=b z=b");
         row("whatever the selector looks at", "B/A", "a=b k=a l=a z=b");
     }
-
-    void inheritance()
-    {
-        const auto &[path, expected] = Rows<QString, QString>::current();
-        QCOMPARE(resolved(sheetFrom("A { k: a; l: a } A.x { k: x } B { l: b; a: b; z: b } C { k: c }"), path),
-                 expected);
-    }
+    void inheritance() { checkRow(); }
 
     void elementWithoutMatchSharesTheParentsMap()
     {
