@@ -110,24 +110,19 @@ private Q_SLOTS:
     }
     void variables() { checkRow(); }
 
-    void fontFaces_data()
+    void fontFaces()
     {
-        const auto row = rowsOf([](const QString &text, const QStringList &expected) {
-            const StyleSheet sheet = parseStdString(text.toStdString());
-            QStringList found;
-            for (const FontFace &face : sheet.fontFaces())
-                found.append(QStringLiteral("%1 %2:%3")
-                                 .arg(QString::fromStdString(face.url))
-                                 .arg(face.position.line)
-                                 .arg(face.position.column));
-            QCOMPARE(found, expected);
-            QVERIFY(sheet.isEmpty());
-        });
-        row("without semicolon", "@font-face{src:url('f g.ttf')}", {"f g.ttf 1:21"});
-        row("two with comments", "@font-face/**/{ src : url ( //h/a.ttf /**/ ) }\n@font-face{src:url(b)}",
-            {"//h/a.ttf 1:29", "b 2:20"});
+        const StyleSheet sheet =
+            parseStdString("@font-face/**/{ src : url ( //h/a.ttf /**/ ) }\n@font-face{src:url('f g.ttf')}");
+        QStringList found;
+        for (const FontFace &face : sheet.fontFaces())
+            found.append(QStringLiteral("%1 %2:%3")
+                             .arg(QString::fromStdString(face.url))
+                             .arg(face.position.line)
+                             .arg(face.position.column));
+        QCOMPARE(found, QStringList({"//h/a.ttf 1:29", "f g.ttf 2:21"}));
+        QVERIFY(sheet.isEmpty());
     }
-    void fontFaces() { checkRow(); }
 
     void sheetAsShipped()
     {
