@@ -134,12 +134,13 @@ private Q_SLOTS:
         const BiquadCoefficients decay{1.0, 0.0, 0.0, -0.5, 0.0};
         const std::vector<float> impulse{1.0F, 0.0F, 0.0F, 0.0F};
 
-        const auto row = rowsOf([](Sections sections, std::vector<float> samples, std::vector<float> output) {
-            FilterBank bank;
-            bank.setSections(sections);
-            bank.process(samples);
-            QCOMPARE(samples, output);
-        });
+        const auto row =
+            rowsOf([](const Sections &sections, std::vector<float> samples, const std::vector<float> &output) {
+                FilterBank bank;
+                bank.setSections(sections);
+                bank.process(samples);
+                QCOMPARE(samples, output);
+            });
         row("all of b", {{0.5, 0.25, 2.0, 0.0, 0.0}}, impulse, {0.5F, 0.25F, 2.0F, 0.0F});
         row("all of a", {{1.0, 0.0, 0.0, -0.5, 0.25}}, impulse, {1.0F, 0.5F, 0.0F, -0.125F});
         row("cascade", {mean, decay}, impulse, {0.5F, 0.75F, 0.375F, 0.1875F});

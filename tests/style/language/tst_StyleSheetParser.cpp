@@ -39,7 +39,7 @@ private Q_SLOTS:
 
     void values_data()
     {
-        const auto row = rowsOf([](QString block, QStringList declarations) {
+        const auto row = rowsOf([](const QString &block, QStringList declarations) {
             for (QString &line : declarations)
                 line.prepend(QStringLiteral("A | "));
             QCOMPARE(dumpOf(parseStdString("A {" + block.toStdString() + "}")), declarations);
