@@ -20,7 +20,20 @@ class tst_MemberOrder : public QObject
 private Q_SLOTS:
     void properties_data()
     {
-        const Rows<const QMetaObject *, QString, QString> row;
+        const auto row = rowsOf([](const QMetaObject *type, const QString &properties, const QString &changes) {
+            QStringList names;
+            for (int i = type->propertyOffset(); i < type->propertyCount(); ++i)
+                names << QString::fromLatin1(type->property(i).name());
+            QCOMPARE(names.join(u' '), properties);
+
+            names.clear();
+            for (int i = type->methodOffset(); i < type->methodCount(); ++i) {
+                const QString name = QString::fromLatin1(type->method(i).name());
+                if (name.endsWith("Changed"_L1))
+                    names << name.chopped(7);
+            }
+            QCOMPARE(names.join(u' '), changes);
+        });
         row("limiter", &LimiterCalculator::staticMetaObject,
             u"calculatorActive threshold thresholdMin thresholdMax limiterBypassed values"_s,
             u"calculatorActive values thresholdMin threshold thresholdMax limiterBypassed"_s);
@@ -57,23 +70,7 @@ private Q_SLOTS:
             "currentValue currentValueFactor currentValueYellowFactor currentValueRedFactor currentValueFactorMax "
             "currentValueYellowFactorMax currentValueRedFactorMax"_s);
     }
-
-    void properties()
-    {
-        const auto &[type, properties, changes] = Rows<const QMetaObject *, QString, QString>::current();
-        QStringList names;
-        for (int i = type->propertyOffset(); i < type->propertyCount(); ++i)
-            names << QString::fromLatin1(type->property(i).name());
-        QCOMPARE(names.join(u' '), properties);
-
-        names.clear();
-        for (int i = type->methodOffset(); i < type->methodCount(); ++i) {
-            const QString name = QString::fromLatin1(type->method(i).name());
-            if (name.endsWith("Changed"_L1))
-                names << name.chopped(7);
-        }
-        QCOMPARE(names.join(u' '), changes);
-    }
+    void properties() { checkRow(); }
 };
 
 template struct TestClass<tst_MemberOrder>;

@@ -146,7 +146,14 @@ private Q_SLOTS:
 
     void creatableNatives_data()
     {
-        const Rows<QString> row;
+        const auto row = rowsOf([this](const QString &className) {
+            const auto component =
+                componentOf(m_engine, QString::fromLatin1(QTest::currentDataTag()) + QStringLiteral(" {}"));
+            const std::unique_ptr<QObject> object(component->create());
+            QVERIFY2(object, qPrintable(component->errorString()));
+            QCOMPARE(QString::fromLatin1(object->metaObject()->className()), className);
+            QVERIFY(readEverything(m_engine, object.get()) > 2);
+        });
         const QString differentClasses = QStringLiteral(
             "RAxisTemplate=RAxis RBodeplotTemplate=RBodeplot RBodeplotGridTemplate=RBodeplotGrid "
             "RBodeplotAxisTemplate=RBodeplotAxis RBodeplotCurveTemplate=RBodeplotCurve "
@@ -174,21 +181,18 @@ private Q_SLOTS:
         row("RTextFieldIntValidator", "QIntValidator");
         row("RTextFieldIpAddressValidator", "QValidator");
     }
+    void creatableNatives() { checkRow(); }
 
-    void creatableNatives()
-    {
-        const auto &[className] = Rows<QString>::current();
-        const auto component =
-            componentOf(m_engine, QString::fromLatin1(QTest::currentDataTag()) + QStringLiteral(" {}"));
-        const std::unique_ptr<QObject> object(component->create());
-        QVERIFY2(object, qPrintable(component->errorString()));
-        QCOMPARE(QString::fromLatin1(object->metaObject()->className()), className);
-        QVERIFY(readEverything(m_engine, object.get()) > 2);
-    }
-
+    // What no page makes: shared pieces, singletons and attached objects.
     void othersCanBeRead_data()
     {
-        const Rows<QString> row;
+        const auto row = rowsOf([this](const QString &expression) {
+            const auto component = componentOf(m_engine, QStringLiteral("Item { id: root; property QtObject object: ") +
+                                                             expression + QStringLiteral(" }"));
+            const std::unique_ptr<QObject> page(component->create());
+            QVERIFY2(page, qPrintable(component->errorString()));
+            QVERIFY(readEverything(m_engine, page->property("object").value<QObject *>()) > 2);
+        });
         for (const char *name : {"RButtonBase", "RControlBackground", "RFaderBase", "RMeterBar", "RLabelBase",
                                  "RTintedImage", "RUnderlay"})
             row(name, QString::fromLatin1(name) + QStringLiteral(" {}"));
@@ -197,21 +201,16 @@ private Q_SLOTS:
         for (const char *name : {"RStyleSet", "RStyleSet.props", "RStyleSet.stateHelper"})
             row(name, QStringLiteral("root.") + QString::fromLatin1(name));
     }
-
-    // What no page makes: shared pieces, singletons and attached objects.
-    void othersCanBeRead()
-    {
-        const auto &[expression] = Rows<QString>::current();
-        const auto component = componentOf(m_engine, QStringLiteral("Item { id: root; property QtObject object: ") +
-                                                         expression + QStringLiteral(" }"));
-        const std::unique_ptr<QObject> page(component->create());
-        QVERIFY2(page, qPrintable(component->errorString()));
-        QVERIFY(readEverything(m_engine, page->property("object").value<QObject *>()) > 2);
-    }
+    void othersCanBeRead() { checkRow(); }
 
     void uncreatable_data()
     {
-        const Rows<QString> row;
+        const auto row = rowsOf([this](const QString &reason) {
+            const auto component =
+                componentOf(m_engine, QString::fromLatin1(QTest::currentDataTag()) + QStringLiteral(" {}"));
+            QVERIFY(component->isError());
+            QCOMPARE(component->errors().constFirst().description(), reason);
+        });
         row("RStyleSet", "StyleSet is exposed as an attached property");
         row("RStyleSetProps", "Exposed as RStyleSet.props");
         row("RStringRuleValidatorRule", "You cannot create an instance of the Enums.");
@@ -220,15 +219,7 @@ private Q_SLOTS:
                                  "RBodeplotAxisScaleEnum", "RBodeplotZoomEnum", "RBodeplotSpectrumEnum"})
             row(name, "Element is not creatable."); // what the engine says for an empty reason
     }
-
-    void uncreatable()
-    {
-        const auto &[reason] = Rows<QString>::current();
-        const auto component =
-            componentOf(m_engine, QString::fromLatin1(QTest::currentDataTag()) + QStringLiteral(" {}"));
-        QVERIFY(component->isError());
-        QCOMPARE(component->errors().constFirst().description(), reason);
-    }
+    void uncreatable() { checkRow(); }
 
     void enumValues()
     {
@@ -245,17 +236,6 @@ private Q_SLOTS:
         QVERIFY2(object, qPrintable(component->errorString()));
         const QVariantList expected = {0, 12, 17, 1, 2, 123, 1, 1, 1, 1, 1, 9};
         QCOMPARE(object->property("values").toList(), expected);
-    }
-
-    void attachedStyleSet()
-    {
-        const auto component =
-            componentOf(m_engine, QStringLiteral("Item { RStyleSet.name: 'red'; RStyleSet.stateHelper.hovered: true\n"
-                                                 "property string state: RStyleSet.state\n"
-                                                 "property bool known: RStyleSet.props.isSet('background') }"));
-        const std::unique_ptr<QObject> object(component->create());
-        QVERIFY2(object, qPrintable(component->errorString()));
-        QCOMPARE(object->property("state").toString().trimmed(), QStringLiteral("hovered"));
     }
 
 private:

@@ -1,16 +1,10 @@
-#include "TambleClientControlModule.h"
 #include "base/Mnemonic.h"
-#include "support/QmlText.h"
 #include "support/Rows.h"
+#include "support/SeenPage.h"
 #include "support/TestProgram.h"
 
 #include <QtGui/QAccessible>
-#include <QtGui/private/qguiapplication_p.h>
-#include <QtQuick/QQuickItem>
-#include <QtQuick/QQuickWindow>
 #include <QtQuick/private/qquickaccessibleattached_p.h>
-#include <qpa/qplatformaccessibility.h>
-#include <qpa/qplatformintegration.h>
 
 #include <memory>
 
@@ -43,16 +37,7 @@ class tst_ButtonAccessibility : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        TambleClientControlModule module;
-        module.registerTypes("TambleClient.Control");
-        module.initializeEngine(&m_engine, "TambleClient.Control");
-        m_styles = make(QStringLiteral("Item { RThemeSelector { themeComponent: Component { RTheme {} } }\n"
-                                       "RStyleEngineSetup { engine.defaultStyleSheetSource: "
-                                       "'qrc:/style/tamble.dark.style' } }"));
-        QVERIFY(m_styles);
-    }
+    void initTestCase() { QVERIFY(m_page.root); }
 
     void init()
     {
@@ -62,18 +47,14 @@ private Q_SLOTS:
 
     void mnemonics_data()
     {
-        const Rows<QString, QString> row;
+        const auto row =
+            rowsOf([](const QString &text, const QString &shown) { QCOMPARE(withoutMnemonic(text), shown); });
         row("none", "Mute", "Mute");
         row("digit", "Scene &2", "Scene 2");
         row("both", "&R&&D", "R&D");
         row("empty", "", "");
     }
-
-    void mnemonics()
-    {
-        const auto &[text, shown] = Rows<QString, QString>::current();
-        QCOMPARE(withoutMnemonic(text), shown);
-    }
+    void mnemonics() { checkRow(); }
 
     void seen_data()
     {
@@ -161,12 +142,7 @@ private Q_SLOTS:
 
     void tellsChanges_data()
     {
-        QTest::addColumn<QByteArray>("property");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QList<int>>("events");
-        const auto row = [](const char *property, const QVariant &value, const QList<int> &events) {
-            QTest::newRow(property) << QByteArray(property) << value << events;
-        };
+        const Rows<QVariant, QList<int>> row;
         row("selected", true, {QAccessible::StateChanged});
         row("selectable", true, {QAccessible::StateChanged});
         row("consistent", false, {QAccessible::StateChanged, QAccessible::DescriptionChanged});
@@ -176,8 +152,7 @@ private Q_SLOTS:
 
     void tellsChanges()
     {
-        QFETCH(QByteArray, property);
-        QFETCH(QVariant, value);
+        const auto &[value, events] = Rows<QVariant, QList<int>>::current();
         static QList<int> told;
         static QObject *teller = nullptr;
         for (const bool listening : {false, true}) {
@@ -189,9 +164,8 @@ private Q_SLOTS:
                 if (event->object() == teller)
                     told.append(event->type());
             });
-            button->setProperty(property.constData(), value);
+            button->setProperty(QTest::currentDataTag(), value);
             QAccessible::installUpdateHandler(nullptr);
-            QFETCH(QList<int>, events);
             QCOMPARE(told, listening ? events : QList<int>());
         }
     }
@@ -225,25 +199,19 @@ private Q_SLOTS:
 
     void heldKeys_data()
     {
-        QTest::addColumn<Qt::Key>("key");
-        QTest::addColumn<Qt::KeyboardModifier>("modifier");
-        QTest::addColumn<int>("clicksWhileHeld");
-        QTest::newRow("Space") << Qt::Key_Space << Qt::NoModifier << 0;
-        QTest::newRow("Enter") << Qt::Key_Enter << Qt::NoModifier << 0;
-        QTest::newRow("mnemonic") << Qt::Key_M << Qt::AltModifier << 1;
+        const Rows<Qt::Key, Qt::KeyboardModifier, int> row;
+        row("Space", Qt::Key_Space, Qt::NoModifier, 0);
+        row("Enter", Qt::Key_Enter, Qt::NoModifier, 0);
+        row("mnemonic", Qt::Key_M, Qt::AltModifier, 1);
     }
 
     void heldKeys()
     {
-        QFETCH(Qt::Key, key);
-        QFETCH(Qt::KeyboardModifier, modifier);
+        const auto &[key, modifier, clicksWhileHeld] = Rows<Qt::Key, Qt::KeyboardModifier, int>::current();
         const auto button = make(QStringLiteral("RButtonIconLabel { text: '&Mute'; selectable: true }"));
         const QSignalSpy clicked(button.get(), SIGNAL(clicked()));
         const QSignalSpy edited(button.get(), SIGNAL(selectionEdited(bool)));
-        m_window.show();
-        m_window.requestActivate();
-        QVERIFY(QTest::qWaitForWindowActive(&m_window));
-        button->forceActiveFocus();
+        QVERIFY(focus(*button));
         // As the window system sends them: a repetition is a release and a press.
         const auto send = [&](bool press, bool repeated) {
             QTest::simulateEvent(&m_window, press, key, modifier, QString(), repeated);
@@ -253,7 +221,7 @@ private Q_SLOTS:
             send(false, true);
             send(true, true);
         }
-        QTEST(int(clicked.count()), "clicksWhileHeld");
+        QCOMPARE(clicked.count(), clicksWhileHeld);
         send(false, false);
         QCOMPARE(clicked.count(), 1);
         QCOMPARE(edited.count(), 1);
@@ -267,10 +235,7 @@ private Q_SLOTS:
         const QSignalSpy clicked(button.get(), SIGNAL(clicked()));
         const QSignalSpy edited(button.get(), SIGNAL(selectionEdited(bool)));
         const QSignalSpy canceled(button.get(), SIGNAL(canceled()));
-        m_window.show();
-        m_window.requestActivate();
-        QVERIFY(QTest::qWaitForWindowActive(&m_window));
-        button->forceActiveFocus();
+        QVERIFY(focus(*button));
         const auto send = [&](bool press, Qt::Key key, bool repeated = false) {
             QTest::simulateEvent(&m_window, press, key, Qt::NoModifier, QString(), repeated);
         };
@@ -322,18 +287,25 @@ private:
         QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(listening);
     }
 
+    bool focus(QQuickItem &item)
+    {
+        m_window.show();
+        m_window.requestActivate();
+        item.forceActiveFocus();
+        return QTest::qWaitForWindowActive(&m_window);
+    }
+
     std::unique_ptr<QQuickItem> make(const QString &body)
     {
-        auto object = objectFrom(m_engine, "import QtQuick\nimport TambleClient.Control 1.0\n" + body.toUtf8());
+        auto object = objectFrom(m_page.engine, "import QtQuick\nimport TambleClient.Control 1.0\n" + body.toUtf8());
         std::unique_ptr<QQuickItem> item(qobject_cast<QQuickItem *>(object.release()));
         if (item)
             item->setParentItem(m_window.contentItem());
         return item;
     }
 
-    QQmlEngine m_engine;
-    std::unique_ptr<QObject> m_styles;
-    QQuickWindow m_window;
+    SeenPage m_page{{}};
+    QQuickWindow &m_window = m_page.window;
 };
 
 template struct TestClass<tst_ButtonAccessibility>;

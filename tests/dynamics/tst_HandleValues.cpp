@@ -24,7 +24,9 @@ class tst_HandleValues : public QObject
 private Q_SLOTS:
     void limitedValue_data()
     {
-        const Rows<double, double, double, double, double> row;
+        const auto row = rowsOf([](double wanted, double minimum, double maximum, double step, double expected) {
+            QVERIFY(isSame(tamble::client::limitedValue(wanted, minimum, maximum, step), expected));
+        });
         row("rounded", -12.3, -60.0, 20.0, 0.5, -12.5);
         row("the tenth itself, not three times it", 0.32, 0.1, 10.0, 0.1, 0.3);
         row("a step that divides nothing", 7.0, -60.0, 20.0, 0.3, 23 * 0.3);
@@ -38,17 +40,14 @@ private Q_SLOTS:
         row("nothing wanted", notANumber, -60.0, 20.0, 0.5, notANumber);
         row("no bounds", 3.0, -60.0, notANumber, 0.5, notANumber);
     }
-
-    void limitedValue()
-    {
-        const auto &[wanted, minimum, maximum, step, expected] =
-            Rows<double, double, double, double, double>::current();
-        QVERIFY(isSame(tamble::client::limitedValue(wanted, minimum, maximum, step), expected));
-    }
+    void limitedValue() { checkRow(); }
 
     void steppedValue_data()
     {
-        const Rows<double, double, double, double> row;
+        const auto row = rowsOf([](double value, double change, double step, double expected) {
+            QVERIFY(isSame(tamble::client::steppedValue(value, change, -60.0, 20.0, step), expected));
+            QVERIFY(isSame(tamble::client::steppedValue(value, change, 20.0, -60.0, step), expected));
+        });
         row("up", -20.0, 0.5, 0.5, -19.5);
         row("onto the grid", -20.2, 0.5, 0.5, -19.5);
         row("ten steps down, to the bound", -57.0, -5.0, 0.5, -60.0);
@@ -58,17 +57,13 @@ private Q_SLOTS:
         row("no number", notANumber, 0.5, 0.5, -60.0);
         row("endless", infinity, 0.5, 0.5, infinity);
     }
-
-    void steppedValue()
-    {
-        const auto &[value, change, step, expected] = Rows<double, double, double, double>::current();
-        QVERIFY(isSame(tamble::client::steppedValue(value, change, -60.0, 20.0, step), expected));
-        QVERIFY(isSame(tamble::client::steppedValue(value, change, 20.0, -60.0, step), expected));
-    }
+    void steppedValue() { checkRow(); }
 
     void ratioOfLine_data()
     {
-        const Rows<double, double, double> row;
+        const auto row = rowsOf([](double run, double rise, double expected) {
+            QVERIFY(isSame(tamble::client::ratioOfLine(run, rise, 12.0), expected));
+        });
         row("4 : 1", 20.0, 5.0, 4.0);
         row("expansion", 20.0, 40.0, 0.5);
         row("flat", 20.0, 0.0, 12.0);
@@ -77,16 +72,13 @@ private Q_SLOTS:
         row("run backwards", -3.0, 5.0, notANumber);
         row("no number", 20.0, notANumber, notANumber);
     }
-
-    void ratioOfLine()
-    {
-        const auto &[run, rise, expected] = Rows<double, double, double>::current();
-        QVERIFY(isSame(tamble::client::ratioOfLine(run, rise, 12.0), expected));
-    }
+    void ratioOfLine() { checkRow(); }
 
     void heightOfCurve_data()
     {
-        const Rows<CurvePoints, double, double> row;
+        const auto row = rowsOf([](const CurvePoints &points, double x, double expected) {
+            QVERIFY(isSame(tamble::client::heightOfCurve(points, x), expected));
+        });
         const CurvePoints drop{{0, 1}, {0.5, 0.5}, {0.5, 0.75}, {1, 0.25}};
 
         row("first point", drop, 0.0, 1.0);
@@ -97,12 +89,7 @@ private Q_SLOTS:
         row("no curve", {}, 0.5, notANumber);
         row("no place", drop, notANumber, notANumber);
     }
-
-    void heightOfCurve()
-    {
-        const auto &[points, x, expected] = Rows<CurvePoints, double, double>::current();
-        QVERIFY(isSame(tamble::client::heightOfCurve(points, x), expected));
-    }
+    void heightOfCurve() { checkRow(); }
 };
 
 template struct TestClass<tst_HandleValues>;

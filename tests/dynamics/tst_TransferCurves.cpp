@@ -118,7 +118,9 @@ class tst_TransferCurves : public QObject
 private Q_SLOTS:
     void clampedScale_data()
     {
-        const Rows<double, double, double, double> row;
+        const auto row = rowsOf([](double value, double from, double to, double expected) {
+            QCOMPARE(tamble::client::clampedScale(value, from, to, 0.0, 1.0), expected);
+        });
         row("inside", -10.0, -40.0, 0.0, 0.75);
         row("below", -50.0, -40.0, 0.0, 0.0);
         row("above", 3.0, -40.0, 0.0, 1.0);
@@ -131,16 +133,12 @@ private Q_SLOTS:
         row("infinite bound", -10.0, -infinity, 0.0, 0.0);
         row("range wider than the numbers", 0.0, -1.7e308, 1.7e308, 0.0);
     }
-
-    void clampedScale()
-    {
-        const auto &[value, from, to, expected] = Rows<double, double, double, double>::current();
-        QCOMPARE(tamble::client::clampedScale(value, from, to, 0.0, 1.0), expected);
-    }
+    void clampedScale() { checkRow(); }
 
     void curve_data()
     {
-        const Rows<CurvePoints, CurvePoints> row;
+        const auto row =
+            rowsOf([](const CurvePoints &actual, const CurvePoints &expected) { compare(actual, expected); });
         const CurvePoints none;
         const CurvePoints identity{{0.0, 1.0}, {1.0, 0.0}};
 
@@ -195,27 +193,17 @@ private Q_SLOTS:
         row("compressor, bypassed", compressorCurve(bypassed(compressor(4, 30))), identity);
         row("compressor, inactive", compressorCurve(inactive(compressor(4, 30))), none);
     }
-
-    void curve()
-    {
-        const auto &[actual, expected] = Rows<CurvePoints, CurvePoints>::current();
-        compare(actual, expected);
-    }
+    void curve() { checkRow(); }
 
     void gateOutOfBounds_data()
     {
-        const Rows<double, double> row;
+        const auto row = rowsOf([](double threshold, double depth) { QVERIFY(!gateCurve(gate(threshold, depth))); });
         row("threshold below", -61.0, 20.0);
         row("threshold above", 1.0, 20.0);
         row("depth below", -30.0, -1.0);
         row("depth above", -30.0, 61.0);
     }
-
-    void gateOutOfBounds()
-    {
-        const auto &[threshold, depth] = Rows<double, double>::current();
-        QVERIFY(!gateCurve(gate(threshold, depth)));
-    }
+    void gateOutOfBounds() { checkRow(); }
 
     void softKnee()
     {

@@ -25,47 +25,43 @@ class tst_FaderLaws : public QObject
 private Q_SLOTS:
     void tables_data()
     {
-        const Rows<double, double, int, double> row;
+        const auto row = rowsOf([](double minimum, double maximum, int points, double first) {
+            const std::vector<TransferPoint> table = transferTable(minimum, maximum);
+            QCOMPARE(int(table.size()), points);
+            QCOMPARE(table.front().level, first);
+            QCOMPARE(table.front().position, 0.0);
+            QCOMPARE(table.back().level, maximum);
+            QCOMPARE(table.back().position, 1.0);
+        });
         row("-81 to 10 has the table of -80", -81.0, 10.0, 9, -80.0);
         row("-81 to 42 has none", -81.0, 42.0, 2, -81.0);
         row("nearly -80", -80.001, 10.0, 2, -80.001);
     }
-
-    void tables()
-    {
-        const auto &[minimum, maximum, points, first] = Rows<double, double, int, double>::current();
-        const std::vector<TransferPoint> table = transferTable(minimum, maximum);
-        QCOMPARE(int(table.size()), points);
-        QCOMPARE(table.front().level, first);
-        QCOMPARE(table.front().position, 0.0);
-        QCOMPARE(table.back().level, maximum);
-        QCOMPARE(table.back().position, 1.0);
-    }
+    void tables() { checkRow(); }
 
     void tableMaps_data()
     {
-        const Rows<double, double, double, double> row;
+        const auto row = rowsOf([](double minimum, double maximum, double level, double position) {
+            QVERIFY(isNear(positionByTable(level, minimum, maximum), position, 1e-12));
+            QVERIFY(isNear(levelByTable(position, minimum, maximum), level, 1e-9));
+            QCOMPARE(positionByTable(minimum - 1, minimum, maximum), 0.0);
+            QCOMPARE(positionByTable(maximum + 1, minimum, maximum), 1.0);
+            QCOMPARE(levelByTable(-0.1, minimum, maximum), minimum);
+            QCOMPARE(levelByTable(1.1, minimum, maximum), maximum);
+        });
         row("point", -80.0, 10.0, -5.0, 0.625);
         row("between points", -80.0, 10.0, -25.0, 0.225);
         row("top", -80.0, 10.0, 10.0, 1.0);
         row("between points to 42", -80.0, 42.0, 36.0, 0.925);
         row("linear without a table", -60.0, 0.0, -15.0, 0.75);
     }
-
-    void tableMaps()
-    {
-        const auto &[minimum, maximum, level, position] = Rows<double, double, double, double>::current();
-        QVERIFY(isNear(positionByTable(level, minimum, maximum), position, 1e-12));
-        QVERIFY(isNear(levelByTable(position, minimum, maximum), level, 1e-9));
-        QCOMPARE(positionByTable(minimum - 1, minimum, maximum), 0.0);
-        QCOMPARE(positionByTable(maximum + 1, minimum, maximum), 1.0);
-        QCOMPARE(levelByTable(-0.1, minimum, maximum), minimum);
-        QCOMPARE(levelByTable(1.1, minimum, maximum), maximum);
-    }
+    void tableMaps() { checkRow(); }
 
     void travel_data()
     {
-        const Rows<FaderLaw, double, double, double, double> row;
+        const auto row = rowsOf([](const FaderLaw &law, double from, double to, double level, double position) {
+            QVERIFY(isNear(FaderTravel({from, to, law}).position(level), position, 5e-4));
+        });
         row("linear", FaderLaw::Linear, -80.0, 10.0, -35.0, 0.5);
         row("exponential at -20", FaderLaw::Exponential, -80.0, 10.0, -20.0, 0.292);
         row("exponential at 0", FaderLaw::Exponential, -80.0, 10.0, 0.0, 0.669);
@@ -81,12 +77,7 @@ private Q_SLOTS:
         row("empty range", FaderLaw::Table, 5.0, 5.0, 5.0, 0.0);
         row("range without an end", FaderLaw::Linear, -80.0, notANumber, 0.0, 0.0);
     }
-
-    void travel()
-    {
-        const auto &[law, from, to, level, position] = Rows<FaderLaw, double, double, double, double>::current();
-        QVERIFY(isNear(FaderTravel({from, to, law}).position(level), position, 5e-4));
-    }
+    void travel() { checkRow(); }
 
     void everyPlaceComesBack_data()
     {
@@ -118,7 +109,9 @@ private Q_SLOTS:
 
     void rounding_data()
     {
-        const Rows<double, double, double, double, double> row;
+        const auto row = rowsOf([](double from, double to, double step, double level, double rounded) {
+            QCOMPARE(FaderTravel({from, to, FaderLaw::Linear}).rounded(level, step), rounded);
+        });
         row("to the nearest", -80.0, 10.0, 0.5, -12.2, -12.0);
         row("from counts, not 0", -80.3, 10.0, 0.5, -12.2, -12.3);
         row("without noise", -80.0, 10.0, 0.1, -9.68, -9.7);
@@ -129,12 +122,7 @@ private Q_SLOTS:
         row("reversed", 10.0, -80.0, 0.5, -12.2, -12.0);
         row("outside", -80.0, 10.0, 0.5, 25.0, 10.0);
     }
-
-    void rounding()
-    {
-        const auto &[from, to, step, level, rounded] = Rows<double, double, double, double, double>::current();
-        QCOMPARE(FaderTravel({from, to, FaderLaw::Linear}).rounded(level, step), rounded);
-    }
+    void rounding() { checkRow(); }
 
     void steps()
     {
@@ -147,23 +135,20 @@ private Q_SLOTS:
         QCOMPARE(travel.stepped(-80.0, -3.0), -80.0);
     }
 
+    // 100 pixels of travel over 100 dB, reach 1 pixel: detents hold within 1 dB.
     void detents_data()
     {
-        const Rows<double, double> row;
+        const auto row = rowsOf([](double level, double held) {
+            const FaderTravel travel{-90.0, 10.0, FaderLaw::Linear};
+            QCOMPARE(travel.held(level, travel.position(level), {0.0, 1.0, 10.2}, 0.01), held);
+        });
         row("at the detent", 0.0, 0.0);
         row("within reach", -0.8, 0.0);
         row("out of reach", -1.2, -1.2);
         row("the nearer of two", 0.6, 1.0);
         row("one outside of the range", 9.5, 9.5);
     }
-
-    // 100 pixels of travel over 100 dB, reach 1 pixel: detents hold within 1 dB.
-    void detents()
-    {
-        const auto &[level, held] = Rows<double, double>::current();
-        const FaderTravel travel{-90.0, 10.0, FaderLaw::Linear};
-        QCOMPARE(travel.held(level, travel.position(level), {0.0, 1.0, 10.2}, 0.01), held);
-    }
+    void detents() { checkRow(); }
 
     void drag()
     {

@@ -13,7 +13,12 @@ class tst_FaderMarks : public QObject
 private Q_SLOTS:
     void automatic_data()
     {
-        const Rows<FaderTravel, double, QList<double>> row;
+        const auto row = rowsOf([](const FaderTravel &travel, double spacing, const QList<double> &levels) {
+            QList<double> chosen;
+            for (const FaderMark &mark : automaticMarks(travel, spacing))
+                chosen.append(mark.level);
+            QCOMPARE(chosen, levels);
+        });
         const FaderTravel usual;
         // 14 of 232 pixels are 5.43 dB, so 5 and -5 have no room.
         row("usual size", usual, 14.0 / 232.0, {0, -80, 10, -10, -20, -30, -40, -50, -60});
@@ -28,38 +33,28 @@ private Q_SLOTS:
         row("empty range", {5.0, 5.0, FaderLaw::Linear}, 0.1, {});
         row("no number", {-80.0, std::numeric_limits<double>::quiet_NaN(), FaderLaw::Linear}, 0.1, {});
     }
-
-    void automatic()
-    {
-        const auto &[travel, spacing, levels] = Rows<FaderTravel, double, QList<double>>::current();
-        QList<double> chosen;
-        for (const FaderMark &mark : automaticMarks(travel, spacing))
-            chosen.append(mark.level);
-        QCOMPARE(chosen, levels);
-    }
+    void automatic() { checkRow(); }
 
     void given_data()
     {
-        const Rows<QList<double>, QList<double>, QList<double>> row;
+        const auto row =
+            rowsOf([](const QList<double> &levels, const QList<double> &ticks, const QList<double> &labels) {
+                QList<double> shown;
+                QList<double> labelled;
+                for (const FaderMark &mark : marksAt({}, levels, 0.06)) {
+                    shown.append(mark.level);
+                    if (mark.isLabelled)
+                        labelled.append(mark.level);
+                }
+                QCOMPARE(shown, ticks);
+                QCOMPARE(labelled, labels);
+            });
         row("crowded", {-12, -11, -10, 0}, {0, -12, -11, -10}, {0, -12});
         row("0 dB and the ends go first", {-1, 0, 9, 10}, {0, 10, -1, 9}, {0, 10});
         row("twice the same", {-20, -20}, {-20, -20}, {-20});
         row("outside of the range", {20, -20, -100}, {-20}, {-20});
     }
-
-    void given()
-    {
-        const auto &[levels, ticks, labels] = Rows<QList<double>, QList<double>, QList<double>>::current();
-        QList<double> shown;
-        QList<double> labelled;
-        for (const FaderMark &mark : marksAt({}, levels, 0.06)) {
-            shown.append(mark.level);
-            if (mark.isLabelled)
-                labelled.append(mark.level);
-        }
-        QCOMPARE(shown, ticks);
-        QCOMPARE(labelled, labels);
-    }
+    void given() { checkRow(); }
 };
 
 template struct TestClass<tst_FaderMarks>;

@@ -25,7 +25,12 @@ class tst_FieldValidators : public QObject
 private Q_SLOTS:
     void decimals_data()
     {
-        const Rows<QString, double, double, int, QValidator::State> row;
+        const auto row =
+            rowsOf([](const QString &text, double bottom, double top, int decimals, const QValidator::State &state) {
+                RTextFieldDoubleValidator validator;
+                validator.setRange(bottom, top, decimals);
+                QCOMPARE(stateOf(validator, text), state);
+            });
         row("in range", "3.5", -10.0, 10.0, 1, QValidator::Acceptable);
         row("comma separates", "3,5", -10.0, 10.0, 1, QValidator::Acceptable);
         row("no digit before the separator", ".5", -10.0, 10.0, 1, QValidator::Acceptable);
@@ -52,19 +57,15 @@ private Q_SLOTS:
         row("open bounds", "-12", notANumber, notANumber, 0, QValidator::Acceptable);
         row("reversed bounds", "5", 10.0, 0.0, 0, QValidator::Intermediate);
     }
-
-    void decimals()
-    {
-        const auto &[text, bottom, top, decimals, state] =
-            Rows<QString, double, double, int, QValidator::State>::current();
-        RTextFieldDoubleValidator validator;
-        validator.setRange(bottom, top, decimals);
-        QCOMPARE(stateOf(validator, text), state);
-    }
+    void decimals() { checkRow(); }
 
     void integers_data()
     {
-        const Rows<QString, int, QValidator::State> row;
+        const auto row = rowsOf([](const QString &text, int bottom, const QValidator::State &state) {
+            RTextFieldIntValidator validator;
+            validator.setRange(bottom, 96);
+            QCOMPARE(stateOf(validator, text), state);
+        });
         row("in range", "48", 1, QValidator::Acceptable);
         row("plus", "+48", 1, QValidator::Acceptable);
         row("outside", "97", 1, QValidator::Intermediate);
@@ -76,18 +77,13 @@ private Q_SLOTS:
         row("blank in front", " 4", 1, QValidator::Intermediate);
         row("hexadecimal", "0x1", 1, QValidator::Invalid);
     }
-
-    void integers()
-    {
-        const auto &[text, bottom, state] = Rows<QString, int, QValidator::State>::current();
-        RTextFieldIntValidator validator;
-        validator.setRange(bottom, 96);
-        QCOMPARE(stateOf(validator, text), state);
-    }
+    void integers() { checkRow(); }
 
     void addresses_data()
     {
-        const Rows<QString, QValidator::State> row;
+        const auto row = rowsOf([](const QString &text, const QValidator::State &state) {
+            QCOMPARE(stateOf(RTextFieldIpAddressValidator(), text), state);
+        });
         for (const char *address : {"192.168.1.10", "0.0.0.0", "255.255.255.255"})
             row(address, QString::fromLatin1(address), QValidator::Acceptable);
         for (const char *beginning : {"", "1", "192.", "192.168.1", "192.168.1.", " 1.2.3.4", "1.2.3.4 "})
@@ -97,16 +93,15 @@ private Q_SLOTS:
              {".", "1..", "256", "1.2.3.2550", "01", "00", "1.2.3.4.", "1.2.3.4.5", "a", "1,2", "1 .2", "-1"})
             row(wrong, QString::fromLatin1(wrong), QValidator::Invalid);
     }
-
-    void addresses()
-    {
-        const auto &[text, state] = Rows<QString, QValidator::State>::current();
-        QCOMPARE(stateOf(RTextFieldIpAddressValidator(), text), state);
-    }
+    void addresses() { checkRow(); }
 
     void pins_data()
     {
-        const Rows<QString, bool, QValidator::State> row;
+        const auto row = rowsOf([](const QString &text, bool trivialAllowed, const QValidator::State &state) {
+            RTextFieldPinValidator validator;
+            validator.setProperty("trivialAllowed", trivialAllowed);
+            QCOMPARE(stateOf(validator, text), state);
+        });
         row("shortest", "1470", false, QValidator::Acceptable);
         row("too short", "147", false, QValidator::Intermediate);
         row("longest", "14701470", false, QValidator::Acceptable);
@@ -118,14 +113,7 @@ private Q_SLOTS:
         row("broken run", "12346", false, QValidator::Acceptable);
         row("run where allowed", "1234", true, QValidator::Acceptable);
     }
-
-    void pins()
-    {
-        const auto &[text, trivialAllowed, state] = Rows<QString, bool, QValidator::State>::current();
-        RTextFieldPinValidator validator;
-        validator.setProperty("trivialAllowed", trivialAllowed);
-        QCOMPARE(stateOf(validator, text), state);
-    }
+    void pins() { checkRow(); }
 
     void pinMessages()
     {
@@ -138,7 +126,14 @@ private Q_SLOTS:
 
     void fixup_data()
     {
-        const Rows<QString, QString, QString> row;
+        const auto row = rowsOf([](const QString &text, const QString &decimal, const QString &integer) {
+            QString asDecimal = text;
+            RTextFieldDoubleValidator().fixup(asDecimal);
+            QCOMPARE(asDecimal, decimal);
+            QString asInteger = text;
+            RTextFieldIntValidator().fixup(asInteger);
+            QCOMPARE(asInteger, integer);
+        });
         row("blanks", " 5 ", "5", "5");
         row("comma", "1,50", "1.50", "1,50");
         row("trailing separator", "5,", "5", "5,");
@@ -149,17 +144,7 @@ private Q_SLOTS:
         row("nothing to tidy", "-", "-", "-");
         row("out of range stays", "99999", "99999", "99999");
     }
-
-    void fixup()
-    {
-        const auto &[text, decimal, integer] = Rows<QString, QString, QString>::current();
-        QString asDecimal = text;
-        RTextFieldDoubleValidator().fixup(asDecimal);
-        QCOMPARE(asDecimal, decimal);
-        QString asInteger = text;
-        RTextFieldIntValidator().fixup(asInteger);
-        QCOMPARE(asInteger, integer);
-    }
+    void fixup() { checkRow(); }
 
     void rangeChangeRevalidates()
     {

@@ -36,7 +36,12 @@ class tst_Measurements : public QObject
 private Q_SLOTS:
     void blockLevels_data()
     {
-        const Rows<std::vector<float>, double, double> row;
+        const auto row = rowsOf([](const std::vector<float> &samples, double peak, double rms) {
+            BlockLevel level;
+            measureLevels(samples, {&level, 1});
+            QVERIFY(isNear(level.peak, peak, 0.01));
+            QVERIFY(isNear(level.rms, rms, 0.01));
+        });
         row("full-scale sine", sine(1.0, 1000.0, 48000.0, 2400), 0.0, -3.01);
         row("negative direct current", std::vector<float>(100, -0.5F), -6.02, -6.02);
         row("one sample of four, beyond full scale", {0.0F, 2.0F, 0.0F, 0.0F}, 6.02, 0.0);
@@ -44,15 +49,7 @@ private Q_SLOTS:
         row("nothing", {}, -120.0, -120.0);
         row("not numbers", {notANumber, 0.5F, -infinity, -0.5F}, -6.02, -9.03);
     }
-
-    void blockLevels()
-    {
-        const auto &[samples, peak, rms] = Rows<std::vector<float>, double, double>::current();
-        BlockLevel level;
-        measureLevels(samples, {&level, 1});
-        QVERIFY(isNear(level.peak, peak, 0.01));
-        QVERIFY(isNear(level.rms, rms, 0.01));
-    }
+    void blockLevels() { checkRow(); }
 
     void channelsAreApart()
     {
@@ -83,7 +80,9 @@ private Q_SLOTS:
         const StaticCurve ambience = {
             {{0.0, 0.75}, {0.5, 0.75}, {0.75, 0.25}, {1.0, 0.25}}, -80.0, 0.0, -20.0, 20.0, StaticCurve::Meaning::Gain};
 
-        const Rows<StaticCurve, double, double> row;
+        const auto row = rowsOf([](const StaticCurve &curve, double input, double gain) {
+            QVERIFY(isNear(curve.gain(input), gain, 1e-9));
+        });
         row("limiter above", limiter, -4.0, -6.0);
         row("limiter beyond the plot", limiter, 6.0, -16.0);
         row("compressor between points", compressor, -20.0, -10.0);
@@ -101,12 +100,7 @@ private Q_SLOTS:
         row("empty range", levelCurve({{0.0, 1.0}, {1.0, 1.0}}, 0.0, 0.0), -10.0, 0.0);
         row("point is no number", levelCurve({{0.0, 1.0}, {1.0, notANumber}}, -60.0, 0.0), -10.0, 0.0);
     }
-
-    void staticGain()
-    {
-        const auto &[curve, input, gain] = Rows<StaticCurve, double, double>::current();
-        QVERIFY(isNear(curve.gain(input), gain, 1e-9));
-    }
+    void staticGain() { checkRow(); }
 
     void detectorFollows()
     {
@@ -140,22 +134,20 @@ private Q_SLOTS:
         const BiquadCoefficients decay{1.0, 0.0, 0.0, -0.5, 0.0};
         const std::vector<float> impulse{1.0F, 0.0F, 0.0F, 0.0F};
 
-        const Rows<Sections, std::vector<float>, std::vector<float>> row;
+        const auto row =
+            rowsOf([](const Sections &sections, std::vector<float> samples, const std::vector<float> &output) {
+                FilterBank bank;
+                bank.setSections(sections);
+                bank.process(samples);
+                QCOMPARE(samples, output);
+            });
         row("all of b", {{0.5, 0.25, 2.0, 0.0, 0.0}}, impulse, {0.5F, 0.25F, 2.0F, 0.0F});
         row("all of a", {{1.0, 0.0, 0.0, -0.5, 0.25}}, impulse, {1.0F, 0.5F, 0.0F, -0.125F});
         row("cascade", {mean, decay}, impulse, {0.5F, 0.75F, 0.375F, 0.1875F});
         row("unstable passes on", {{1.0, 0.0, 0.0, 0.0, 1.0}, mean}, impulse, {0.5F, 0.5F, 0.0F, 0.0F});
         row("samples that are no numbers", {decay}, {1.0F, notANumber, infinity, 0.0F}, {1.0F, 0.5F, 0.25F, 0.125F});
     }
-
-    void filterSections()
-    {
-        auto [sections, samples, output] = Rows<Sections, std::vector<float>, std::vector<float>>::current();
-        FilterBank bank;
-        bank.setSections(sections);
-        bank.process(samples);
-        QCOMPARE(samples, output);
-    }
+    void filterSections() { checkRow(); }
 
     void tuningKeepsTheMemory()
     {

@@ -107,7 +107,15 @@ private Q_SLOTS:
         writeFile(path(QStringLiteral("fast.wav")), SF_FORMAT_WAV | SF_FORMAT_PCM_16, 768001, 1, {0.0F});
 
         // reason: empty where the library words it
-        const Rows<QString, QString> row;
+        const auto row = rowsOf([this](const QString &name, const QString &reason) {
+            const OpenedAudio opened = openSoundFile(path(name));
+            QVERIFY(!opened.source);
+            const QString beginning = QStringLiteral("cannot play \"%1\": ").arg(path(name));
+            QVERIFY2(opened.error.startsWith(beginning), qPrintable(opened.error));
+            QVERIFY(opened.error.size() > beginning.size());
+            if (!reason.isEmpty())
+                QCOMPARE(opened.error, beginning + reason);
+        });
         row("missing", "missing.wav", "there is no such file");
         row("directory", ".", "it is not a file");
         row("other content", "text.wav", "");
@@ -117,18 +125,7 @@ private Q_SLOTS:
         row("too many channels", "wide.wav", "it has 257 channels, more than 256");
         row("absurd sample rate", "fast.wav", "its sample rate is 768001 Hz");
     }
-
-    void refusals()
-    {
-        const auto &[name, reason] = Rows<QString, QString>::current();
-        const OpenedAudio opened = openSoundFile(path(name));
-        QVERIFY(!opened.source);
-        const QString beginning = QStringLiteral("cannot play \"%1\": ").arg(path(name));
-        QVERIFY2(opened.error.startsWith(beginning), qPrintable(opened.error));
-        QVERIFY(opened.error.size() > beginning.size());
-        if (!reason.isEmpty())
-            QCOMPARE(opened.error, beginning + reason);
-    }
+    void refusals() { checkRow(); }
 
     void truncatedFilePlaysWhatIsThere()
     {

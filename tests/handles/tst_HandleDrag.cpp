@@ -15,7 +15,18 @@ private Q_SLOTS:
     {
         // moves of a pointer that takes hold at (100, 100) of a handle at (104, 98), each with its keys: f(ine), a(xis)
         // place: of the handle after the last move
-        const Rows<HandleGrip, QList<std::pair<QPointF, QByteArray>>, QPointF> row;
+        const auto row = rowsOf(
+            [](const HandleGrip &grip, const QList<std::pair<QPointF, QByteArray>> &moves, const QPointF &place) {
+                HandleDrag drag;
+                drag.begin({100, 100}, {104, 98}, grip, 3.0);
+                QVERIFY(!drag.moved({102, 101}, {}));
+                QVERIFY(!drag.hasMoved());
+                std::optional<QPointF> last;
+                for (const auto &[pointer, keys] : moves)
+                    last = drag.moved(pointer, {keys.contains('f'), keys.contains('a')});
+                QVERIFY(drag.hasMoved());
+                QCOMPARE(last, std::optional(place));
+            });
         const auto keeps = HandleGrip::KeepsOffset;
         const auto jumps = HandleGrip::JumpsUnder;
         row("keeps its distance", keeps, {{{120, 90}, ""}}, {124, 88});
@@ -30,39 +41,23 @@ private Q_SLOTS:
         row("fine along x", keeps, {{{120, 110}, "fa"}}, {106, 98});
         row("back within the slack", keeps, {{{110, 100}, ""}, {{101, 100}, ""}}, {105, 98});
     }
-
-    void way()
-    {
-        const auto &[grip, moves, place] = Rows<HandleGrip, QList<std::pair<QPointF, QByteArray>>, QPointF>::current();
-        HandleDrag drag;
-        drag.begin({100, 100}, {104, 98}, grip, 3.0);
-        QVERIFY(!drag.moved({102, 101}, {}));
-        QVERIFY(!drag.hasMoved());
-        std::optional<QPointF> last;
-        for (const auto &[pointer, keys] : moves)
-            last = drag.moved(pointer, {keys.contains('f'), keys.contains('a')});
-        QVERIFY(drag.hasMoved());
-        QCOMPARE(last, std::optional(place));
-    }
+    void way() { checkRow(); }
 
     void meant_data()
     {
         // handles: x of the centre and when touched
-        const Rows<std::vector<HandleSpot>, int, int> row;
+        const auto row = rowsOf([](const std::vector<HandleSpot> &spots, int meant, int next) {
+            const QPointF point(12, 0);
+            QCOMPARE(meantHandle(spots, point), meant);
+            QCOMPARE(nextInStack(spots, point, meant), next);
+        });
         row("none", {}, -1, -1);
         row("the nearest", {{{0, 0}, 9}, {{17, 0}}}, 1, -1);
         row("of near ones the last", {{{14, 0}}, {{13, 0}}}, 1, 0);
         row("of near ones the one touched last", {{{14, 0}, 5}, {{13, 0}, 3}, {{15, 0}}}, 0, 1);
         row("one behind the others is no part of the stack", {{{10, 4}, 1}, {{10, 0}, 2}, {{10, 9}, 3}}, 1, 0);
     }
-
-    void meant()
-    {
-        const auto &[spots, meant, next] = Rows<std::vector<HandleSpot>, int, int>::current();
-        const QPointF point(12, 0);
-        QCOMPARE(meantHandle(spots, point), meant);
-        QCOMPARE(nextInStack(spots, point, meant), next);
-    }
+    void meant() { checkRow(); }
 };
 
 template struct TestClass<tst_HandleDrag>;

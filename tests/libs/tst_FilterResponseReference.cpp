@@ -1,7 +1,6 @@
+#include "libs/ResponseSupport.h"
 #include "support/Rows.h"
 #include "support/TestProgram.h"
-
-#include <tamblecommon-math/FilterAlgorithm.h>
 
 #include <QFile>
 
@@ -25,17 +24,6 @@ int integer(const Fields &fields, qsizetype i)
     return fields.at(i).toInt();
 }
 
-std::unique_ptr<CalculationItem> eqRecord(const Fields &fields)
-{
-    auto filter = std::make_unique<EqFilter>();
-    filter->type = integer(fields, 2);
-    filter->freq = real(fields, 3);
-    filter->gain = real(fields, 4);
-    filter->quality = real(fields, 5);
-    filter->slope = integer(fields, 6);
-    return filter;
-}
-
 std::unique_ptr<CalculationItem> asymmetricRecord(const Fields &fields)
 {
     auto filter = std::make_unique<AsymmetricEqFilter>();
@@ -44,15 +32,6 @@ std::unique_ptr<CalculationItem> asymmetricRecord(const Fields &fields)
     filter->quality = real(fields, 4);
     filter->freq2 = real(fields, 5);
     filter->quality2 = real(fields, 6);
-    return filter;
-}
-
-std::unique_ptr<CalculationItem> crossoverRecord(const Fields &fields)
-{
-    auto filter = std::make_unique<XOverFilter>();
-    filter->type = integer(fields, 2);
-    filter->freq = real(fields, 3);
-    filter->category = integer(fields, 4);
     return filter;
 }
 
@@ -73,9 +52,7 @@ std::unique_ptr<CalculationItem> listRecord(const Fields &fields)
 
 std::unique_ptr<CalculationItem> designRecord(const Fields &fields)
 {
-    auto filter = std::make_unique<FIRFilter>();
-    filter->type = integer(fields, 2);
-    filter->order = integer(fields, 3);
+    auto filter = std::make_unique<FIRFilter>(fir(integer(fields, 2), integer(fields, 3)));
     filter->freqHP = real(fields, 4);
     filter->freqLP = real(fields, 5);
     filter->slope = integer(fields, 6);
@@ -85,11 +62,12 @@ std::unique_ptr<CalculationItem> designRecord(const Fields &fields)
 std::unique_ptr<CalculationItem> makeRecord(const Fields &fields)
 {
     if (fields.first() == "eq")
-        return eqRecord(fields);
+        return std::make_unique<EqFilter>(
+            eqBand(integer(fields, 2), real(fields, 3), real(fields, 4), real(fields, 5), integer(fields, 6)));
     if (fields.first() == "asymmetric")
         return asymmetricRecord(fields);
     if (fields.first() == "crossover")
-        return crossoverRecord(fields);
+        return std::make_unique<XOverFilter>(crossover(integer(fields, 2), integer(fields, 4) == 1, real(fields, 3)));
     return fields.first() == "list" ? listRecord(fields) : designRecord(fields);
 }
 
@@ -128,13 +106,11 @@ private Q_SLOTS:
         const Fields fields = record.simplified().split(' ');
 
         const auto filter = makeRecord(fields);
-        BodePlotCalculation block;
+        BodePlotCalculation block = blockOf({filter.get()}, int(levels.size()));
         block.sampleRate = real(fields, 1);
         block.lowestFrequency = real(fields, fields.size() - 2);
         block.highestFrequency = real(fields, fields.size() - 1);
-        block.resolution = int(levels.size());
-        block.items = {filter.get()};
-        FilterAlgorithm::calculateBodePlotLogarithmic(block, false, 0);
+        evaluate(block);
 
         const FilterResponse &curve = block.results.items.front();
         for (qsizetype i = 0; i < levels.size(); ++i) {

@@ -23,6 +23,32 @@ void apply(QObject &object, const Properties &properties)
         QVERIFY2(object.setProperty(qPrintable(property.key()), property.value()), qPrintable(property.key()));
 }
 
+/// Of rows of properties, a value and its text.
+template <typename Converter>
+void compareText()
+{
+    const auto &[properties, value, expected] = Rows<Properties, QVariant, QString>::current();
+    Converter converter;
+    apply(converter, properties);
+    converter.setValue(value);
+    QCOMPARE(converter.displayText(), expected);
+}
+
+/// Of rows of properties, a text and its value.
+template <typename Converter>
+void compareReading()
+{
+    const auto &[properties, text, expected] = Rows<Properties, QString, QVariant>::current();
+    Converter converter;
+    apply(converter, properties);
+    const QVariant value = converter.fromText(text);
+    QCOMPARE(value.metaType(), expected.metaType());
+    QCOMPARE(value, expected);
+    // Exactly: a device value must not creep with each edit.
+    QVERIFY2(value.toDouble() == expected.toDouble(), qPrintable(QString::number(value.toDouble(), 'g', 17)));
+    QCOMPARE(converter.accepts(text), expected.isValid());
+}
+
 /// A client's own converter: names channels.
 class ChannelConverter : public RValueConverter
 {
@@ -83,14 +109,7 @@ private Q_SLOTS:
         add("number near an entry", texts, 1e-9, u"1e-09\u00A0ms"_s);
     }
 
-    void baseText()
-    {
-        const auto &[properties, value, expected] = Rows<Properties, QVariant, QString>::current();
-        RValueConverter converter;
-        apply(converter, properties);
-        converter.setValue(value);
-        QCOMPARE(converter.displayText(), expected);
-    }
+    void baseText() { compareText<RValueConverter>(); }
 
     void baseReading_data()
     {
@@ -109,17 +128,7 @@ private Q_SLOTS:
         row("null text", {}, u"\u2013"_s, QVariant());
     }
 
-    void baseReading()
-    {
-        const auto &[properties, text, expected] = Rows<Properties, QString, QVariant>::current();
-        RValueConverter converter;
-        apply(converter, properties);
-
-        const QVariant value = converter.fromText(text);
-        QCOMPARE(value.metaType(), expected.metaType());
-        QCOMPARE(value, expected);
-        QCOMPARE(converter.accepts(text), expected.isValid());
-    }
+    void baseReading() { compareReading<RValueConverter>(); }
 
     void doubleText_data()
     {
@@ -181,14 +190,7 @@ private Q_SLOTS:
         add("list", plus, QVariantList{1, -2.25}, u"+1.0\u00A0dB, -2.3\u00A0dB"_s);
     }
 
-    void doubleText()
-    {
-        const auto &[properties, value, expected] = Rows<Properties, QVariant, QString>::current();
-        DoubleValueConverter converter;
-        apply(converter, properties);
-        converter.setValue(value);
-        QCOMPARE(converter.displayText(), expected);
-    }
+    void doubleText() { compareText<DoubleValueConverter>(); }
 
     void doubleReading_data()
     {
@@ -243,91 +245,63 @@ private Q_SLOTS:
         add("entry", {{u"texts"_s, QVariantMap{{u"0"_s, u"Off"_s}}}}, u"off"_s, 0.0);
     }
 
-    void doubleReading()
-    {
-        const auto &[properties, text, expected] = Rows<Properties, QString, QVariant>::current();
-        DoubleValueConverter converter;
-        apply(converter, properties);
-
-        const QVariant value = converter.fromText(text);
-        QCOMPARE(value.isValid(), expected.isValid());
-        // Compared exactly: a device value must not creep with each edit.
-        QVERIFY2(!expected.isValid() || value.toDouble() == expected.toDouble(),
-                 qPrintable(QString::number(value.toDouble(), 'g', 17)));
-        QCOMPARE(converter.accepts(text), expected.isValid());
-    }
+    void doubleReading() { compareReading<DoubleValueConverter>(); }
 
     void textSurvivesReading_data()
     {
-        const Rows<Properties> row;
+        const auto row = rowsOf([](const Properties &properties) {
+            DoubleValueConverter converter;
+            apply(converter, properties);
+
+            for (const double value : {0.0, 0.05, 0.95, 1.005, 2.5, 99.95, 999.5, 999.96, 1234.5, 99950.0, 123456.75,
+                                       1e15, 1e21, infinity}) {
+                for (const double signedValue : {value, -value}) {
+                    const QString text = converter.toText(signedValue);
+                    QCOMPARE(converter.toText(converter.fromText(text)), text);
+                }
+            }
+        });
         row("plain", {});
         row("frequency", {{u"unit"_s, u"Hz"_s}, {u"kilo"_s, true}, {u"decimals"_s, 0}});
         row("reversed", {{u"factor"_s, -0.7}, {u"decimals"_s, 2}, {u"decimalPoint"_s, u","_s}});
     }
-
-    void textSurvivesReading()
-    {
-        const auto &[properties] = Rows<Properties>::current();
-        DoubleValueConverter converter;
-        apply(converter, properties);
-
-        for (const double value :
-             {0.0, 0.05, 0.95, 1.005, 2.5, 99.95, 999.5, 999.96, 1234.5, 99950.0, 123456.75, 1e15, 1e21, infinity}) {
-            for (const double signedValue : {value, -value}) {
-                const QString text = converter.toText(signedValue);
-                QCOMPARE(converter.toText(converter.fromText(text)), text);
-            }
-        }
-    }
+    void textSurvivesReading() { checkRow(); }
 
     void displayTextFollowsEachProperty_data()
     {
-        QTest::addColumn<Properties>("before");
-        QTest::addColumn<QByteArray>("property");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QString>("expected");
+        const auto add = rowsOf([](const QVariant &value, const QString &expected, const Properties &before) {
+            const QByteArray property = QTest::currentDataTag();
+            DoubleValueConverter converter;
+            apply(converter, before);
+            QSignalSpy textSpy(&converter, &RValueConverter::displayTextChanged);
+            QSignalSpy propertySpy(&converter, ("2" + property + "Changed()").constData());
 
-        const auto add = [](const QByteArray &property, const QVariant &value, const QString &text,
-                            const Properties &before = {{u"value"_s, 1500}}) {
-            QTest::newRow(property) << before << property << value << text;
-        };
-        const Properties belowMinimum{{u"value"_s, -5}, {u"minimum"_s, -1}};
-        const Properties aboveMaximum{{u"value"_s, 5}, {u"maximum"_s, 1}};
+            for (int i = 0; i < 2; ++i) {
+                QVERIFY(converter.setProperty(property.constData(), value));
+                QCOMPARE(converter.displayText(), expected);
+                QCOMPARE(textSpy.size(), 1);
+                QCOMPARE(propertySpy.size(), 1);
+            }
+        });
+        const Properties given{{u"value"_s, 1500}};
 
-        add("value", 2, u"2.0"_s);
-        add("unit", u"Hz"_s, u"1500.0\u00A0Hz"_s);
-        add("prefix", u"~"_s, u"~1500.0"_s);
+        add("value", 2, u"2.0"_s, given);
+        add("unit", u"Hz"_s, u"1500.0\u00A0Hz"_s, given);
+        add("prefix", u"~"_s, u"~1500.0"_s, given);
         add("nullText", u"none"_s, u"none"_s, {});
-        add("texts", QVariantMap{{u"1500"_s, u"Mid"_s}}, u"Mid"_s);
-        add("decimals", 0, u"1500"_s);
-        add("factor", 2, u"3000.0"_s);
-        add("offset", 1, u"1501.0"_s);
+        add("texts", QVariantMap{{u"1500"_s, u"Mid"_s}}, u"Mid"_s, given);
+        add("decimals", 0, u"1500"_s, given);
+        add("factor", 2, u"3000.0"_s, given);
+        add("offset", 1, u"1501.0"_s, given);
         add("minimum", 1500, u"low"_s, {{u"value"_s, 1500}, {u"minimumText"_s, u"low"_s}});
         add("maximum", 1500, u"high"_s, {{u"value"_s, 1500}, {u"maximumText"_s, u"high"_s}});
-        add("minimumText", u"low"_s, u"low"_s, belowMinimum);
-        add("maximumText", u"high"_s, u"high"_s, aboveMaximum);
-        add("plusSign", true, u"+1500.0"_s);
-        add("kilo", true, u"1.5\u00A0k"_s);
-        add("decimalPoint", u","_s, u"1500,0"_s);
+        add("minimumText", u"low"_s, u"low"_s, {{u"value"_s, -5}, {u"minimum"_s, -1}});
+        add("maximumText", u"high"_s, u"high"_s, {{u"value"_s, 5}, {u"maximum"_s, 1}});
+        add("plusSign", true, u"+1500.0"_s, given);
+        add("kilo", true, u"1.5\u00A0k"_s, given);
+        add("decimalPoint", u","_s, u"1500,0"_s, given);
     }
-
-    void displayTextFollowsEachProperty()
-    {
-        QFETCH(Properties, before);
-        QFETCH(QByteArray, property);
-        QFETCH(QVariant, value);
-        DoubleValueConverter converter;
-        apply(converter, before);
-        QSignalSpy textSpy(&converter, &RValueConverter::displayTextChanged);
-        QSignalSpy propertySpy(&converter, ("2" + property + "Changed()").constData());
-
-        for (int i = 0; i < 2; ++i) {
-            QVERIFY(converter.setProperty(property.constData(), value));
-            QTEST(converter.displayText(), "expected");
-            QCOMPARE(textSpy.size(), 1);
-            QCOMPARE(propertySpy.size(), 1);
-        }
-    }
+    void displayTextFollowsEachProperty() { checkRow(); }
 
     void signalsCarryTheNewState()
     {

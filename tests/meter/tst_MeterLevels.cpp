@@ -12,7 +12,9 @@ class tst_MeterLevels : public QObject
 private Q_SLOTS:
     void displayedLevel_data()
     {
-        const Rows<double, double, double, double> row;
+        const auto row = rowsOf([](double minimum, double maximum, double level, double displayed) {
+            QCOMPARE(tamble::client::displayedLevel({minimum, maximum, 0.0}, level), displayed);
+        });
         row("inside", -80.0, 6.0, -20.0, -20.0);
         row("below", -80.0, 6.0, -100.0, -80.0);
         row("above", -80.0, 6.0, 20.0, 6.0);
@@ -20,16 +22,17 @@ private Q_SLOTS:
         row("infinite", -80.0, 6.0, infinity, 6.0);
         row("reversed range ends at its maximum", 6.0, -80.0, -20.0, -80.0);
     }
-
-    void displayedLevel()
-    {
-        const auto &[minimum, maximum, level, displayed] = Rows<double, double, double, double>::current();
-        QCOMPARE(tamble::client::displayedLevel({minimum, maximum, 0.0}, level), displayed);
-    }
+    void displayedLevel() { checkRow(); }
 
     void fractions_data()
     {
-        const Rows<double, double, double, double, double, double, double, double> row;
+        const auto row = rowsOf([](double minimum, double maximum, double split, double level, double zone, double bar,
+                                   double upper, double lower) {
+            const MeterRange range{minimum, maximum, split};
+            QCOMPARE(barFraction(range, level, zone), bar);
+            QCOMPARE(upperFraction(range, level, zone), upper);
+            QCOMPARE(lowerFraction(range, level, zone), lower);
+        });
         row("level under the zone", -80.0, 20.0, 0.0, 5.0, 10.0, 0.85, 0.25, -0.125);
         row("level over the zone", -80.0, 20.0, 0.0, 15.0, 10.0, 0.9, 0.5, -0.1875);
         row("level under the split point", -80.0, 20.0, 0.0, -20.0, -40.0, 0.4, -2.0, 0.25);
@@ -45,16 +48,7 @@ private Q_SLOTS:
         row("infinite maximum", -80.0, infinity, 0.0, 5.0, 10.0, 0.0, 0.0, -0.125);
         row("infinite minimum", -infinity, 20.0, 0.0, 5.0, 10.0, 0.0, 0.25, 0.0);
     }
-
-    void fractions()
-    {
-        const auto &[minimum, maximum, split, level, zone, bar, upper, lower] =
-            Rows<double, double, double, double, double, double, double, double>::current();
-        const MeterRange range{minimum, maximum, split};
-        QCOMPARE(barFraction(range, level, zone), bar);
-        QCOMPARE(upperFraction(range, level, zone), upper);
-        QCOMPARE(lowerFraction(range, level, zone), lower);
-    }
+    void fractions() { checkRow(); }
 };
 
 template struct TestClass<tst_MeterLevels>;

@@ -37,7 +37,12 @@ private Q_SLOTS:
     void bar_data()
     {
         // factors: green, yellow, red
-        const Rows<QList<double>, bool, bool, double, QString> row;
+        const auto row = rowsOf(
+            [](const QList<double> &factors, bool horizontal, bool reverse, double pixelRatio, const QString &lit) {
+                const MeterSegments segments =
+                    barSegments({factors[0], factors[1], factors[2]}, 100.0, pixelRatio, {horizontal, reverse});
+                QCOMPARE(textOf(segments), lit);
+            });
         using Factors = QList<double>;
         row("dark", Factors{0.0, 0.0, 0.0}, false, false, 1.0, "-0-100");
         row("upwards", Factors{0.5, 0.7, 0.8}, false, false, 1.0, "G50-100 Y30-50 R20-30 -0-20");
@@ -50,15 +55,7 @@ private Q_SLOTS:
         row("whole pixels", Factors{0.333, 0.333, 0.333}, true, false, 1.0, "G0-33 -33-100");
         row("whole device pixels", Factors{0.333, 0.333, 0.333}, true, false, 2.0, "G0-33.5 -33.5-100");
     }
-
-    void bar()
-    {
-        const auto &[factors, horizontal, reverse, pixelRatio, lit] =
-            Rows<QList<double>, bool, bool, double, QString>::current();
-        const MeterSegments segments =
-            barSegments({factors[0], factors[1], factors[2]}, 100.0, pixelRatio, {horizontal, reverse});
-        QCOMPARE(textOf(segments), lit);
-    }
+    void bar() { checkRow(); }
 
     void split()
     {

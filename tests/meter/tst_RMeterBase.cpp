@@ -94,24 +94,21 @@ private Q_SLOTS:
 
     void levelOutsideTheRangeSignalsEachTick_data()
     {
-        const Rows<double, double> row;
+        const auto row = rowsOf([](double value, double displayed) {
+            RMeterBase meter;
+            meter.setValue(value);
+            SignalLog log(&meter);
+            for (int i = 0; i < 2; ++i) {
+                tick();
+                QCOMPARE(meter.getCurrentValue(), displayed);
+                QCOMPARE(log.take(), displaySignals);
+            }
+        });
         row("above", 20.0, 6.0);
         row("below", -100.0, -80.0);
         row("NaN", std::numeric_limits<double>::quiet_NaN(), -80.0);
     }
-
-    void levelOutsideTheRangeSignalsEachTick()
-    {
-        const auto &[value, displayed] = Rows<double, double>::current();
-        RMeterBase meter;
-        meter.setValue(value);
-        SignalLog log(&meter);
-        for (int i = 0; i < 2; ++i) {
-            tick();
-            QCOMPARE(meter.getCurrentValue(), displayed);
-            QCOMPARE(log.take(), displaySignals);
-        }
-    }
+    void levelOutsideTheRangeSignalsEachTick() { checkRow(); }
 
     void notANumberShowsTheMinimum()
     {

@@ -14,23 +14,25 @@ class tst_AxisTicks : public QObject
 private Q_SLOTS:
     void step_data()
     {
-        const Rows<double, double, double, double> row;
+        const auto row = rowsOf([](double minimum, double maximum, double count, double expected) {
+            QCOMPARE(axisStep(minimum, maximum, count), expected);
+        });
         row("relative 0.5", 0.0, 100.0, 5.0, 50.0);
         row("relative 0.116", -80.0, 6.0, 10.0, 10.0);
         row("relative 0.4", 0.0, 100.0, 4.0, 50.0);
         row("relative 1", 0.0, 100.0, 10.0, 20.0);
     }
-
-    void step()
-    {
-        const auto &[minimum, maximum, count, expected] = Rows<double, double, double, double>::current();
-        QCOMPARE(axisStep(minimum, maximum, count), expected);
-    }
+    void step() { checkRow(); }
 
     void ticks_data()
     {
         using Limits = std::numeric_limits<double>;
-        const Rows<double, double, double, QString> row;
+        const auto row = rowsOf([](double minimum, double maximum, double count, const QString &expected) {
+            QStringList labels;
+            for (const AxisTick &tick : axisTicks(minimum, maximum, count, 280.0))
+                labels << tick.label;
+            QCOMPARE(labels.join(u' '), expected);
+        });
         row("tenths", 0.0, 1.0, 28.0, u"0 0.1 0.2 0.3 0.4 0.5 0.6 0.7 0.8 0.9 1"_s);
         row("bounds between ticks", -86.0, 6.0, 10.0, u"-80 -70 -60 -50 -40 -30 -20 -10 0"_s);
         row("zero has no sign", -0.5, 10.0, 2.0, u"0 10"_s);
@@ -43,15 +45,7 @@ private Q_SLOTS:
         row("range wider than the numbers", -Limits::max(), Limits::max(), 10.0, {});
         row("NaN count", 0.0, 1.0, Limits::quiet_NaN(), {});
     }
-
-    void ticks()
-    {
-        const auto &[minimum, maximum, count, expected] = Rows<double, double, double, QString>::current();
-        QStringList labels;
-        for (const AxisTick &tick : axisTicks(minimum, maximum, count, 280.0))
-            labels << tick.label;
-        QCOMPARE(labels.join(u' '), expected);
-    }
+    void ticks() { checkRow(); }
 
     void tickPlaces()
     {

@@ -22,7 +22,12 @@ class tst_GridValues : public QObject
 private Q_SLOTS:
     void axisRange_data()
     {
-        const Rows<double, double, AxisScale, double, double, double> row;
+        const auto row =
+            rowsOf([](double from, double to, const AxisScale &scale, double value, double position, double valueBack) {
+                const AxisRange range{from, to, scale};
+                QCOMPARE(range.toPosition(value), position);
+                QCOMPARE(range.toValue(position), valueBack);
+            });
         row("linear", -60.0, 20.0, linear, -40.0, 0.25, -40.0);
         row("backwards", 20.0, -60.0, linear, -40.0, 0.75, -40.0);
         row("logarithmic", 20.0, 20000.0, logarithmic, 200.0, 1 / 3.0, 200.0);
@@ -35,19 +40,17 @@ private Q_SLOTS:
         row("logarithmic from 0", 0.0, 20000.0, logarithmic, 200.0, 0.0, 0.0);
         row("infinite bound", 1.0, infinity, linear, 200.0, 0.0, 1.0);
     }
-
-    void axisRange()
-    {
-        const auto &[from, to, scale, value, position, valueBack] =
-            Rows<double, double, AxisScale, double, double, double>::current();
-        const AxisRange range{from, to, scale};
-        QCOMPARE(range.toPosition(value), position);
-        QCOMPARE(range.toValue(position), valueBack);
-    }
+    void axisRange() { checkRow(); }
 
     void gridValues_data()
     {
-        const Rows<AxisRange, double, double, bool, QList<double>> row;
+        const auto row = rowsOf(
+            [](const AxisRange &range, double step, double origin, bool includeEnds, const QList<double> &expected) {
+                const QList<double> values = tamble::client::gridValues({range, step, origin, includeEnds}).value();
+                QCOMPARE(values.size(), expected.size());
+                for (qsizetype i = 0; i < values.size(); ++i)
+                    QVERIFY2(qAbs(values[i] - expected[i]) < 1e-12, qPrintable(QString::number(values[i], 'g', 17)));
+            });
         using Values = QList<double>;
 
         row("multiples", {-25, 25, linear}, 10.0, 0.0, false, Values{-20, -10, 0, 10, 20});
@@ -66,20 +69,13 @@ private Q_SLOTS:
             Values{0.25, 0.3, 0.4, 0.5, 0.6, 0.7, 0.8, 0.9, 1});
         row("logarithmic from 0", {0, 100, logarithmic}, 1.0, 0.0, true, Values());
     }
-
-    void gridValues()
-    {
-        const auto &[range, step, origin, includeEnds, expected] =
-            Rows<AxisRange, double, double, bool, QList<double>>::current();
-        const QList<double> values = tamble::client::gridValues({range, step, origin, includeEnds}).value();
-        QCOMPARE(values.size(), expected.size());
-        for (qsizetype i = 0; i < values.size(); ++i)
-            QVERIFY2(qAbs(values[i] - expected[i]) < 1e-12, qPrintable(QString::number(values[i], 'g', 17)));
-    }
+    void gridValues() { checkRow(); }
 
     void outOfRange_data()
     {
-        const Rows<AxisRange, double, double, bool> row;
+        const auto row = rowsOf([](const AxisRange &range, double step, double origin, bool valid) {
+            QCOMPARE(tamble::client::gridValues({range, step, origin}).has_value(), valid);
+        });
         const AxisRange hundred{0, 100, linear};
         row("0", hundred, 0.0, 0.0, false);
         row("NaN", hundred, notANumber, 0.0, false);
@@ -95,16 +91,13 @@ private Q_SLOTS:
         row("range of large numbers", {1e17, 1e17 + 64, linear}, 1.0, 1e17, false);
         row("range of large numbers, wide steps", {1e17, 1e17 + 64, linear}, 32.0, 1e17, true);
     }
-
-    void outOfRange()
-    {
-        const auto &[range, step, origin, valid] = Rows<AxisRange, double, double, bool>::current();
-        QCOMPARE(tamble::client::gridValues({range, step, origin}).has_value(), valid);
-    }
+    void outOfRange() { checkRow(); }
 
     void thinned_data()
     {
-        const Rows<AxisRange, int, QList<double>> row;
+        const auto row = rowsOf([](const AxisRange &range, int maximum, const QList<double> &expected) {
+            QCOMPARE(thinnedGridValues({range, 10.0}, maximum).value(), expected);
+        });
         using Values = QList<double>;
 
         const AxisRange decibels{-60, 20, linear};
@@ -119,16 +112,13 @@ private Q_SLOTS:
         row("powers of ten", hertz, 5, Values{100, 1000, 10000});
         row("every 2nd power", hertz, 2, Values{100, 10000});
     }
-
-    void thinned()
-    {
-        const auto &[range, maximum, expected] = Rows<AxisRange, int, QList<double>>::current();
-        QCOMPARE(thinnedGridValues({range, 10.0}, maximum).value(), expected);
-    }
+    void thinned() { checkRow(); }
 
     void numberText_data()
     {
-        const Rows<double, int, AxisScale, QString> row;
+        const auto row = rowsOf([](double value, int decimals, const AxisScale &scale, const QString &text) {
+            QCOMPARE(tamble::client::numberText(value, decimals, scale), text);
+        });
         row("fixed", 2.5, 2, linear, u"2.50"_s);
         row("minus zero", -0.0, 0, linear, u"0"_s);
         row("rounds to zero", -0.004, 2, linear, u"0.00"_s);
@@ -140,16 +130,12 @@ private Q_SLOTS:
         row("logarithmic under a thousand", 900.0, -1, logarithmic, u"900"_s);
         row("logarithmic, fixed", 20000.0, 1, logarithmic, u"20.0k"_s);
     }
-
-    void numberText()
-    {
-        const auto &[value, decimals, scale, text] = Rows<double, int, AxisScale, QString>::current();
-        QCOMPARE(tamble::client::numberText(value, decimals, scale), text);
-    }
+    void numberText() { checkRow(); }
 
     void decimalsOfStep_data()
     {
-        const Rows<double, int> row;
+        const auto row =
+            rowsOf([](double step, int decimals) { QCOMPARE(tamble::client::decimalsOfStep(step), decimals); });
         row("0.1", 0.1, 1);
         row("2.5", 2.5, 1);
         row("negative", -0.5, 1);
@@ -157,16 +143,11 @@ private Q_SLOTS:
         row("NaN", notANumber, 0);
         row("infinite", infinity, 0);
     }
-
-    void decimalsOfStep()
-    {
-        const auto &[step, decimals] = Rows<double, int>::current();
-        QCOMPARE(tamble::client::decimalsOfStep(step), decimals);
-    }
+    void decimalsOfStep() { checkRow(); }
 
     void niceStep_data()
     {
-        const Rows<double, double> row;
+        const auto row = rowsOf([](double minimum, double step) { QCOMPARE(niceStepAtLeast(minimum), step); });
         row("above 1", 1.1, 2.0);
         row("above 2", 2.1, 5.0);
         row("above 5", 5.1, 10.0);
@@ -174,12 +155,7 @@ private Q_SLOTS:
         row("NaN", notANumber, 0.0);
         row("infinite", infinity, 0.0);
     }
-
-    void niceStep()
-    {
-        const auto &[minimum, step] = Rows<double, double>::current();
-        QCOMPARE(niceStepAtLeast(minimum), step);
-    }
+    void niceStep() { checkRow(); }
 };
 
 template struct TestClass<tst_GridValues>;

@@ -13,7 +13,12 @@ class tst_LabelRoom : public QObject
 private Q_SLOTS:
     void numberStarts_data()
     {
-        const Rows<QList<double>, double, Starts> row;
+        const auto row = rowsOf([](const QList<double> &centres, double axisLength, const Starts &expected) {
+            QList<LabelSpan> spans;
+            for (const double centre : centres)
+                spans.append({.centre = centre, .length = 20.0});
+            QVERIFY(tamble::client::numberStarts(spans, axisLength, 4.0) == expected);
+        });
         const std::optional<double> none;
 
         // Every number is 20 long, the gap is 4.
@@ -25,15 +30,7 @@ private Q_SLOTS:
         row("axis shorter than a number", {5}, 10.0, {0.0});
         row("none", {}, 100.0, {});
     }
-
-    void numberStarts()
-    {
-        const auto &[centres, axisLength, expected] = Rows<QList<double>, double, Starts>::current();
-        QList<LabelSpan> spans;
-        for (const double centre : centres)
-            spans.append({.centre = centre, .length = 20.0});
-        QVERIFY(tamble::client::numberStarts(spans, axisLength, 4.0) == expected);
-    }
+    void numberStarts() { checkRow(); }
 };
 
 template struct TestClass<tst_LabelRoom>;

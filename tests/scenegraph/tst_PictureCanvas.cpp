@@ -35,7 +35,13 @@ class tst_PictureCanvas : public QObject
 private Q_SLOTS:
     void coversEachPixelOnce_data()
     {
-        const Rows<QList<Triangle>, QString> row;
+        const auto row = rowsOf([](const QList<Triangle> &triangles, const QString &picture) {
+            PictureCanvas canvas({0, 0, 4, 4}, 1.0);
+            canvas.setColor(QColor(255, 0, 0, 128));
+            for (const Triangle &triangle : triangles)
+                canvas.fillTriangle(triangle);
+            QCOMPARE(textOf(canvas.image()), picture);
+        });
         row("halves of a square", {{{{0, 0}, {4, 0}, {0, 4}}}, {{{4, 0}, {0, 4}, {4, 4}}}}, u"++++/++++/++++/++++"_s);
         row("around a middle, turning either way",
             {{{{0, 0}, {4, 0}, {1.5, 2.5}}},
@@ -48,16 +54,7 @@ private Q_SLOTS:
         row("without area", {{{{0, 0}, {4, 4}, {2, 2}}}, {{{1, 1}, {1, 1}, {1, 1}}}}, u"..../..../..../...."_s);
         row("far beyond any picture", {{{{-1e38, 1.0}, {1e38, 1.0}, {0.0, 1e38}}}}, u"..../++++/++++/++++"_s);
     }
-
-    void coversEachPixelOnce()
-    {
-        const auto &[triangles, picture] = Rows<QList<Triangle>, QString>::current();
-        PictureCanvas canvas({0, 0, 4, 4}, 1.0);
-        canvas.setColor(QColor(255, 0, 0, 128));
-        for (const Triangle &triangle : triangles)
-            canvas.fillTriangle(triangle);
-        QCOMPARE(textOf(canvas.image()), picture);
-    }
+    void coversEachPixelOnce() { checkRow(); }
 
     void strengths()
     {
@@ -87,7 +84,12 @@ private Q_SLOTS:
 
     void wholeDevicePixels_data()
     {
-        const Rows<QRectF, double, QRectF, QSize> row;
+        const auto row = rowsOf([](const QRectF &asked, double ratio, const QRectF &area, const QSize &pixels) {
+            PictureCanvas canvas(asked, ratio);
+            canvas.drawThinLines({{0, 0}, {1, 1}}, true);
+            QCOMPARE(canvas.area(), area);
+            QCOMPARE(canvas.image().size(), pixels);
+        });
         row("fractions", QRectF(-0.25, 1.0, 2.0, 1.6), 1.5, QRectF(-1.0 / 1.5, 1.0 / 1.5, 4.0 / 1.5, 2.0), QSize(4, 3));
         row("empty", {}, 2.0, {}, QSize(0, 0));
         row("endless", QRectF(0.0, 0.0, qInf(), 10.0), 1.0, {}, QSize(0, 0));
@@ -96,15 +98,7 @@ private Q_SLOTS:
             QSize(32767, 1));
         row("too large to be sharp", QRectF(0, 0, 32768, 4096), 2.0, QRectF(0, 0, 32768, 4096), QSize(16384, 2048));
     }
-
-    void wholeDevicePixels()
-    {
-        const auto &[asked, ratio, area, pixels] = Rows<QRectF, double, QRectF, QSize>::current();
-        PictureCanvas canvas(asked, ratio);
-        canvas.drawThinLines({{0, 0}, {1, 1}}, true);
-        QCOMPARE(canvas.area(), area);
-        QCOMPARE(canvas.image().size(), pixels);
-    }
+    void wholeDevicePixels() { checkRow(); }
 };
 
 template struct TestClass<tst_PictureCanvas>;

@@ -36,7 +36,11 @@ private Q_SLOTS:
 
     void nothingToDraw_data()
     {
-        const Rows<Points, double> row;
+        const auto row = rowsOf([](const Points &points, double width) {
+            QVERIFY(polylineStroke(points, width).vertices.isEmpty());
+            if (points.size() == 2)
+                QVERIFY(segmentsStroke({QLineF(points[0], points[1])}, width).vertices.isEmpty());
+        });
         const Points line{{0, 0}, {9, 9}};
         row("no points", {}, 1.0);
         row("one point", {{3, 3}}, 1.0);
@@ -45,14 +49,7 @@ private Q_SLOTS:
         row("NaN width", line, notANumber);
         row("infinite width", line, std::numeric_limits<double>::infinity());
     }
-
-    void nothingToDraw()
-    {
-        const auto &[points, width] = Rows<Points, double>::current();
-        QVERIFY(polylineStroke(points, width).vertices.isEmpty());
-        if (points.size() == 2)
-            QVERIFY(segmentsStroke({QLineF(points[0], points[1])}, width).vertices.isEmpty());
-    }
+    void nothingToDraw() { checkRow(); }
 
     void gridLines()
     {

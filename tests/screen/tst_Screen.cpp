@@ -14,7 +14,9 @@ class tst_Screen : public QObject
 private Q_SLOTS:
     void zoomFactor_data()
     {
-        const Rows<double, double, double> row;
+        const auto row = rowsOf([](double logicalDpi, double designDpi, double factor) {
+            QCOMPARE(autoZoomFactor(logicalDpi, designDpi), factor);
+        });
         row("same", 96.0, 96.0, 1.0);
         row("rounded up", 110.0, 96.0, 1.15);
         row("rounded down", 120.0, 98.0, 1.2);
@@ -24,12 +26,7 @@ private Q_SLOTS:
         row("negative design density", 96.0, -96.0, 1.0);
         row("not a number", std::numeric_limits<double>::quiet_NaN(), 96.0, 1.0);
     }
-
-    void zoomFactor()
-    {
-        const auto &[logicalDpi, designDpi, factor] = Rows<double, double, double>::current();
-        QCOMPARE(autoZoomFactor(logicalDpi, designDpi), factor);
-    }
+    void zoomFactor() { checkRow(); }
 
     void followsItsWindow()
     {

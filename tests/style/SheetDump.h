@@ -49,17 +49,6 @@ inline QStringList dumpOf(const StyleSheet &sheet)
     return result;
 }
 
-/// All rules of a sheet, printed.
-inline std::string printed(const StyleSheet &sheet)
-{
-    std::string result;
-    for (SelectorTree::Node node = 0; node < sheet.tree().nodeCount(); ++node) {
-        if (!sheet.tree().declarations(node).empty())
-            result += ruleText(sheet, node);
-    }
-    return result;
-}
-
 // Written like the library's own sheets: CR LF, trailing blanks, missing semicolons, the misspelt state word.
 inline const std::string shippedSheet =
     "// GENERATED \r\n"

@@ -12,7 +12,10 @@ class tst_ColourMetrics : public QObject
 private Q_SLOTS:
     void contrast_data()
     {
-        const Rows<QColor, QColor, double> row;
+        const auto row = rowsOf([](const QColor &a, const QColor &b, double expected) {
+            const double ratio = contrastRatio(a, b);
+            QVERIFY2(std::abs(ratio - expected) < 0.01, qPrintable(QString::number(ratio)));
+        });
         row("extremes", QColor(Qt::white), QColor(Qt::black), 21.0);
         // The darkest well-known greys that meet a floor on white.
         row("4.5 on white", QColor("#767676"), QColor(Qt::white), 4.54);
@@ -20,30 +23,21 @@ private Q_SLOTS:
         row("pure green", QColor("#00ff00"), QColor(Qt::black), 15.3); // 0.7652 / 0.05
         row("pure blue", QColor(Qt::blue), QColor(Qt::black), 2.44);   // 0.1222 / 0.05
     }
-
-    void contrast()
-    {
-        const auto &[a, b, expected] = Rows<QColor, QColor, double>::current();
-        const double ratio = contrastRatio(a, b);
-        QVERIFY2(std::abs(ratio - expected) < 0.01, qPrintable(QString::number(ratio)));
-    }
+    void contrast() { checkRow(); }
 
     void difference_data()
     {
-        const Rows<QColor, QColor, int, int, int> row;
+        const auto row = rowsOf([](const QColor &a, const QColor &b, int normal, int deuteranopia, int protanopia) {
+            QCOMPARE(qRound(colourDifference(a, b, ColourVision::Normal)), normal);
+            QCOMPARE(qRound(colourDifference(a, b, ColourVision::Deuteranopia)), deuteranopia);
+            QCOMPARE(qRound(colourDifference(a, b, ColourVision::Protanopia)), protanopia);
+        });
         row("black and white", QColor(Qt::black), QColor(Qt::white), 100, 100, 100);
         row("equal", QColor("#e10014"), QColor("#e10014"), 0, 0, 0);
         // Measured independently: the usual meter colours are nearly one colour for some.
         row("meter green and yellow", QColor("#77be1e"), QColor("#f9af3c"), 63, 12, 7);
     }
-
-    void difference()
-    {
-        const auto &[a, b, normal, deuteranopia, protanopia] = Rows<QColor, QColor, int, int, int>::current();
-        QCOMPARE(qRound(colourDifference(a, b, ColourVision::Normal)), normal);
-        QCOMPARE(qRound(colourDifference(a, b, ColourVision::Deuteranopia)), deuteranopia);
-        QCOMPARE(qRound(colourDifference(a, b, ColourVision::Protanopia)), protanopia);
-    }
+    void difference() { checkRow(); }
 };
 
 template struct TestClass<tst_ColourMetrics>;

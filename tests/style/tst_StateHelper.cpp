@@ -11,22 +11,19 @@ class tst_StateHelper : public QObject
 private Q_SLOTS:
     void words_data()
     {
-        const Rows<QStringList, QString> row;
+        const auto row = rowsOf([](const QStringList &states, const QString &text) {
+            StyleSet styleSet;
+            for (const QString &state : states)
+                QVERIFY(styleSet.stateHelper()->setProperty(state.toLatin1().constData(), true));
+            QCOMPARE(styleSet.state(), text);
+        });
         row("none", {}, {});
         row("small letters only", {"readOnly"}, "readonly ");
         row("fixed order, whatever came first",
             {"active", "focus", "inconsistent", "selected", "readOnly", "disabled", "hovered", "pressed"},
             "pressed hovered disabled readonly selected inconsistent focus active ");
     }
-
-    void words()
-    {
-        const auto &[states, text] = Rows<QStringList, QString>::current();
-        StyleSet styleSet;
-        for (const QString &state : states)
-            QVERIFY(styleSet.stateHelper()->setProperty(state.toLatin1().constData(), true));
-        QCOMPARE(styleSet.state(), text);
-    }
+    void words() { checkRow(); }
 
     void styleSetFollows()
     {

@@ -1,10 +1,8 @@
 #include "StyleFixture.h"
 #include "style/StyleEngineSetup.h"
+#include "support/QmlText.h"
 #include "support/Rows.h"
 #include "support/TestProgram.h"
-
-#include <QtQml/QQmlComponent>
-#include <QtQml/QQmlEngine>
 
 #include <array>
 #include <memory>
@@ -86,11 +84,10 @@ private Q_SLOTS:
         std::vector<std::unique_ptr<QObject>> setups;
         for (const auto &[file, text] : {std::pair("page.qml", "engine.defaultStyleSheetSource: 'default.style'"),
                                          std::pair("other/page.qml", "engine.styleSheetSource: 'user.style'")}) {
-            QQmlComponent component(&engine);
-            component.setData(QByteArray("import TambleClient.Control 1.0\nRStyleEngineSetup { ") + text + " }",
-                              fixture.url(file));
-            setups.emplace_back(component.create());
-            QVERIFY2(setups.back(), qPrintable(component.errorString()));
+            setups.push_back(
+                objectFrom(engine, QByteArray("import TambleClient.Control 1.0\nRStyleEngineSetup { ") + text + " }",
+                           fixture.url(file)));
+            QVERIFY(setups.back());
         }
         QCOMPARE(valuesOfAAndB(), QList<double>({1, 2}));
     }

@@ -3,10 +3,33 @@
 #include <QtTest/QTest>
 
 #include <any>
+#include <functional>
 #include <tuple>
 
-/// The table of a test: its `_data` function calls an instance with the name and the values of each row, and the test
-/// takes `current()` apart.
+template <typename... Columns>
+auto rowsOf(std::function<void(Columns...)> check)
+{
+    QTest::addColumn<std::function<void()>>("check");
+    return [check](const char *rule, const std::remove_cvref_t<Columns> &...values) {
+        QTest::newRow(rule) << std::function<void()>([check, values...] { check(values...); });
+    };
+}
+
+/// The table of a test, made by its `_data` function: the check of a row has the columns as its parameters, and what is
+/// returned takes the name and the values of each row. The test itself is `checkRow()`.
+template <typename Check>
+auto rowsOf(Check check)
+{
+    return rowsOf(std::function(check));
+}
+
+inline void checkRow()
+{
+    QFETCH(std::function<void()>, check);
+    check();
+}
+
+/// A table whose test is longer and stands on its own: it takes `current()` apart.
 template <typename... Columns>
 class Rows
 {

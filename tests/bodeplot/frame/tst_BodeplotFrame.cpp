@@ -47,23 +47,20 @@ class tst_BodeplotFrame : public QuietTest
 private Q_SLOTS:
     void levelZoom_data()
     {
-        const Rows<int, int, double> row;
+        const auto row = rowsOf([](int direction, int steps, double bound) {
+            Frame frame;
+            for (int i = 0; i < steps; ++i)
+                frame.zoomYAxis(direction);
+            QCOMPARE(frame.yMaximum(), bound);
+            QCOMPARE(frame.yMinimum(), -bound);
+        });
         row("one step in", in, 1, 22.5);
         row("in stops at the smallest bound", in, 9, 12.5);
         row("one step out", out, 1, 27.5);
         row("out stops at the largest bound", out, 9, 40.0);
         row("other directions do nothing", 2, 1, 25.0);
     }
-
-    void levelZoom()
-    {
-        const auto &[direction, steps, bound] = Rows<int, int, double>::current();
-        Frame frame;
-        for (int i = 0; i < steps; ++i)
-            frame.zoomYAxis(direction);
-        QCOMPARE(frame.yMaximum(), bound);
-        QCOMPARE(frame.yMinimum(), -bound);
-    }
+    void levelZoom() { checkRow(); }
 
     void frequencyZoom()
     {
@@ -101,7 +98,15 @@ private Q_SLOTS:
 
     void panning_data()
     {
-        const Rows<double, double, double, double, double, double> row;
+        const auto row =
+            rowsOf([](double minimum, double maximum, double press, double move, double newMinimum, double newMaximum) {
+                Frame frame;
+                frame.show(minimum, maximum);
+                frame.onMousePressed(press);
+                frame.onMousePositionChanged(move);
+                QCOMPARE(frame.xMinimum(), newMinimum);
+                QCOMPARE(frame.xMaximum(), newMaximum);
+            });
         // Two decades on 300 pixels: 150 pixels are one decade.
         row("left", 50.0, 5000.0, 200.0, 185.0, 50.0 * std::pow(10.0, 0.1), 5000.0 * std::pow(10.0, 0.1));
         row("right", 200.0, 20000.0 / 2, 50.0, 50.0 + 150.0 * std::log10(2.0),
@@ -112,18 +117,7 @@ private Q_SLOTS:
         row("right of the area", 50.0, 5000.0, 290.0, 301.0, 50.0, 5000.0);
         row("whole range shown", 20.0, 20000.0, 200.0, 100.0, 20.0, 20000.0);
     }
-
-    void panning()
-    {
-        const auto &[minimum, maximum, press, move, newMinimum, newMaximum] =
-            Rows<double, double, double, double, double, double>::current();
-        Frame frame;
-        frame.show(minimum, maximum);
-        frame.onMousePressed(press);
-        frame.onMousePositionChanged(move);
-        QCOMPARE(frame.xMinimum(), newMinimum);
-        QCOMPARE(frame.xMaximum(), newMaximum);
-    }
+    void panning() { checkRow(); }
 
     void panStartsAfreshAtTheEdge()
     {

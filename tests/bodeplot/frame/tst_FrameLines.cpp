@@ -63,7 +63,11 @@ class tst_FrameLines : public QuietTest
 private Q_SLOTS:
     void ticks_data()
     {
-        const Rows<AxisRange, double, QString> row;
+        const auto row = rowsOf([](const AxisRange &axis, double increment, const QString &values) {
+            const FrameTicks ticks = frameTicks(axis, increment);
+            QCOMPARE(inWords(ticks.values), values);
+            QVERIFY(ticks.problem == TickProblem::None);
+        });
         row("the minimum of a logarithmic axis is left out", logarithmic(20, 20000), 0.0,
             "30 40 50 60 70 80 90 100 200 300 400 500 600 700 800 900 "
             "1000 2000 3000 4000 5000 6000 7000 8000 9000 10000");
@@ -80,18 +84,15 @@ private Q_SLOTS:
         row("no number", linear(notANumber, 5), 1.0, "");
         row("infinite", logarithmic(20, infinity), 1.0, "");
     }
-
-    void ticks()
-    {
-        const auto &[axis, increment, values] = Rows<AxisRange, double, QString>::current();
-        const FrameTicks ticks = frameTicks(axis, increment);
-        QCOMPARE(inWords(ticks.values), values);
-        QVERIFY(ticks.problem == TickProblem::None);
-    }
+    void ticks() { checkRow(); }
 
     void problems_data()
     {
-        const Rows<AxisRange, double, TickProblem> row;
+        const auto row = rowsOf([](const AxisRange &axis, double increment, const TickProblem &problem) {
+            const FrameTicks ticks = frameTicks(axis, increment);
+            QVERIFY(ticks.values.isEmpty());
+            QVERIFY(ticks.problem == problem);
+        });
         row("no increment", linear(-10, 10), 0.0, TickProblem::IncrementNotPositive);
         row("increment that is no number", linear(-10, 10), notANumber, TickProblem::IncrementNotPositive);
         row("logarithm of 0", logarithmic(0, 20000), 10.0, TickProblem::MinimumNotPositive);
@@ -99,18 +100,13 @@ private Q_SLOTS:
         row("range without end", linear(-1.7e308, 1.7e308), 1.0, TickProblem::TooManyTicks);
         row("hundreds of decades", logarithmic(1e-300, 1e300), 1.0, TickProblem::TooManyTicks);
     }
-
-    void problems()
-    {
-        const auto &[axis, increment, problem] = Rows<AxisRange, double, TickProblem>::current();
-        const FrameTicks ticks = frameTicks(axis, increment);
-        QVERIFY(ticks.values.isEmpty());
-        QVERIFY(ticks.problem == problem);
-    }
+    void problems() { checkRow(); }
 
     void choice_data()
     {
-        const Rows<QVariantList, double, bool> row;
+        const auto row = rowsOf([](const QVariantList &listed, double value, bool chosen) {
+            QCOMPARE(TickChoice(listed).contains(value), chosen);
+        });
         row("empty list chooses all", {}, 70.0, true);
         row("not listed", {50, 100.0}, 70.0, false);
         row("number as text", {QStringLiteral("100")}, 100.0, true);
@@ -118,16 +114,22 @@ private Q_SLOTS:
         row("rounding of the multiplication", {0.3}, 3 * 0.1, true);
         row("zero", {0}, 0.0, true);
     }
-
-    void choice()
-    {
-        const auto &[listed, value, chosen] = Rows<QVariantList, double, bool>::current();
-        QCOMPARE(TickChoice(listed).contains(value), chosen);
-    }
+    void choice() { checkRow(); }
 
     void labels_data()
     {
-        const Rows<AxisRange, double, Qt::Orientation, QVariantList, QStringList, Numbers> row;
+        const auto row = rowsOf([](const AxisRange &axis, double increment, const Qt::Orientation &orientation,
+                                   const QVariantList &listed, const QStringList &texts, const Numbers &positions) {
+            QStringList actualTexts;
+            Numbers actualPositions;
+            for (const FrameLabel &label :
+                 frameLabels(axis, frameTicks(axis, increment).values, TickChoice(listed), orientation, 300.0)) {
+                actualTexts.append(label.text);
+                actualPositions.append(label.position);
+            }
+            QCOMPARE(actualTexts, texts);
+            QCOMPARE(inWords(actualPositions), inWords(positions));
+        });
         // Three decades on 300 pixels.
         row("logarithmic to the right", logarithmic(20, 20000), 0.0, Qt::Horizontal, {20, 200, 2000}, {"200", "2000"},
             {100, 200});
@@ -139,44 +141,27 @@ private Q_SLOTS:
         row("large numbers", logarithmic(50000, 2100000), 0.0, Qt::Vertical, {100000, 2e6}, {"100000", "2e+06"},
             {300 - 300 * std::log(2.0) / std::log(42.0), 300 - 300 * std::log(40.0) / std::log(42.0)});
     }
-
-    void labels()
-    {
-        const auto &[axis, increment, orientation, listed, texts, positions] =
-            Rows<AxisRange, double, Qt::Orientation, QVariantList, QStringList, Numbers>::current();
-        QStringList actualTexts;
-        Numbers actualPositions;
-        for (const FrameLabel &label :
-             frameLabels(axis, frameTicks(axis, increment).values, TickChoice(listed), orientation, 300.0)) {
-            actualTexts.append(label.text);
-            actualPositions.append(label.position);
-        }
-        QCOMPARE(actualTexts, texts);
-        QCOMPARE(inWords(actualPositions), inWords(positions));
-    }
+    void labels() { checkRow(); }
 
     void readableLabels_data()
     {
-        const Rows<double, QStringList> row;
+        const auto row = rowsOf([](double length, const QStringList &texts) {
+            const AxisRange axis = logarithmic(40, 400);
+            const auto labels = frameLabels(axis, frameTicks(axis, 0.0).values, TickChoice({}), Qt::Horizontal, length);
+            const QList<bool> readable = tamble::client::readableLabels(labels, Numbers(labels.size(), 20.0), 4.0);
+            QStringList actual;
+            for (qsizetype i = 0; i < labels.size(); ++i) {
+                if (readable[i])
+                    actual.append(labels[i].text);
+            }
+            QCOMPARE(actual, texts);
+        });
         // From 40 Hz a decade on the whole length, each label 20 pixels long: 40 to 100 Hz are four tenths of it.
         row("room for all", 1000.0, {"50", "60", "70", "80", "90", "100", "200", "300"});
         row("round numbers first", 200.0, {"50", "70", "100", "200", "300"});
         row("hardly any", 60.0, {"100", "300"});
     }
-
-    void readableLabels()
-    {
-        const auto &[length, texts] = Rows<double, QStringList>::current();
-        const AxisRange axis = logarithmic(40, 400);
-        const auto labels = frameLabels(axis, frameTicks(axis, 0.0).values, TickChoice({}), Qt::Horizontal, length);
-        const QList<bool> readable = tamble::client::readableLabels(labels, Numbers(labels.size(), 20.0), 4.0);
-        QStringList actual;
-        for (qsizetype i = 0; i < labels.size(); ++i) {
-            if (readable[i])
-                actual.append(labels[i].text);
-        }
-        QCOMPARE(actual, texts);
-    }
+    void readableLabels() { checkRow(); }
 
     void gridPlaces()
     {
@@ -197,7 +182,21 @@ private Q_SLOTS:
     void crispLines_data()
     {
         // band: from, to; none: no line
-        const Rows<double, Qt::Orientation, double, double, Numbers> row;
+        const auto row = rowsOf(
+            [](double place, const Qt::Orientation &orientation, double pixelRatio, double width, const Numbers &band) {
+                const StrokeGeometry lines =
+                    tamble::client::crispLines({place}, orientation, {{200.0, 100.0}, pixelRatio}, width);
+                QCOMPARE(lines.vertices.size(), band.isEmpty() ? 0 : 6);
+                QRectF covered;
+                if (!lines.vertices.isEmpty())
+                    covered = QPolygonF(lines.vertices).boundingRect();
+                if (band.isEmpty())
+                    return;
+                if (orientation == Qt::Vertical)
+                    QCOMPARE(covered, QRectF(QPointF(band[0], 0.0), QPointF(band[1], 100.0)));
+                else
+                    QCOMPARE(covered, QRectF(QPointF(0.0, band[0]), QPointF(200.0, band[1])));
+            });
         // On 200 x 100 pixels.
         row("one pixel", 0.251, Qt::Vertical, 1.0, 1.0, {50, 51});
         row("two pixels around the place", 0.251, Qt::Vertical, 1.0, 2.0, {49, 51});
@@ -211,28 +210,13 @@ private Q_SLOTS:
         row("width that is no number", 0.5, Qt::Vertical, 1.0, notANumber, {});
         row("place that is no number", notANumber, Qt::Vertical, 1.0, 1.0, {});
     }
-
-    void crispLines()
-    {
-        const auto &[place, orientation, pixelRatio, width, band] =
-            Rows<double, Qt::Orientation, double, double, Numbers>::current();
-        const StrokeGeometry lines =
-            tamble::client::crispLines({place}, orientation, {{200.0, 100.0}, pixelRatio}, width);
-        QCOMPARE(lines.vertices.size(), band.isEmpty() ? 0 : 6);
-        QRectF covered;
-        if (!lines.vertices.isEmpty())
-            covered = QPolygonF(lines.vertices).boundingRect();
-        if (band.isEmpty())
-            return;
-        if (orientation == Qt::Vertical)
-            QCOMPARE(covered, QRectF(QPointF(band[0], 0.0), QPointF(band[1], 100.0)));
-        else
-            QCOMPARE(covered, QRectF(QPointF(0.0, band[0]), QPointF(200.0, band[1])));
-    }
+    void crispLines() { checkRow(); }
 
     void columns_data()
     {
-        const Rows<Points, Points> row;
+        const auto row = rowsOf([](const Points &pixels, const Points &reduced) {
+            QCOMPARE(inWords(reducedToColumns(pixels)), inWords(reduced));
+        });
         row("two of a column stay", {{0.1, 5}, {0.9, 5}, {1.5, 7}}, {{0.1, 5}, {0.9, 5}, {1.5, 7}});
         row("lowest before highest", {{3.1, 5}, {3.2, 9}, {3.5, 6}, {3.7, 1}, {3.9, 4}}, {{3.2, 9}, {3.7, 1}});
         row("highest before lowest", {{3.1, 5}, {3.2, 1}, {3.7, 9}}, {{3.2, 1}, {3.7, 9}});
@@ -242,16 +226,16 @@ private Q_SLOTS:
         row("columns left of the frame are columns too", {{-0.5, 1}, {-0.4, 2}, {0.5, 3}},
             {{-0.5, 1}, {-0.4, 2}, {0.5, 3}});
     }
-
-    void columns()
-    {
-        const auto &[pixels, reduced] = Rows<Points, Points>::current();
-        QCOMPARE(inWords(reducedToColumns(pixels)), inWords(reduced));
-    }
+    void columns() { checkRow(); }
 
     void curve_data()
     {
-        const Rows<Points, double, PlotAxes, Lines, int> row;
+        const auto row =
+            rowsOf([](const Points &points, double trim, const PlotAxes &axes, const Lines &lines, int visible) {
+                QCOMPARE(inWords(curvePixels({points, trim}, axes, {300.0, 100.0})), inWords(lines));
+                QCOMPARE(visibleCount({points, trim}, axes), visible);
+                QVERIFY(curvePixels({points, trim}, axes, {300.0, 0.0}).isEmpty());
+            });
         // 300 x 100 pixels: 100 Hz to 100 kHz has a decade on 100 pixels, -10 to 10 dB has 5 pixels a dB.
         const PlotAxes levels{linear(-10, 20), linear(-10, 10)};
         const PlotAxes axes{logarithmic(100, 100000), linear(-10, 10)};
@@ -270,18 +254,13 @@ private Q_SLOTS:
         row("reversed frame", {{100, 0}, {1000, 0}}, 0.0, {logarithmic(1000, 100), linear(-10, 10)}, {}, 0);
         row("trim that is no number", {{100, 0}, {1000, 0}}, notANumber, axes, {}, 0);
     }
-
-    void curve()
-    {
-        const auto &[points, trim, axes, lines, visible] = Rows<Points, double, PlotAxes, Lines, int>::current();
-        QCOMPARE(inWords(curvePixels({points, trim}, axes, {300.0, 100.0})), inWords(lines));
-        QCOMPARE(visibleCount({points, trim}, axes), visible);
-        QVERIFY(curvePixels({points, trim}, axes, {300.0, 0.0}).isEmpty());
-    }
+    void curve() { checkRow(); }
 
     void limiter_data()
     {
-        const Rows<LimiterRule, PlotAxes, Points> row;
+        const auto row = rowsOf([](const LimiterRule &rule, const PlotAxes &axes, const Points &points) {
+            QCOMPARE(inWords(limiterLine(rule, axes)), inWords(points));
+        });
         const PlotAxes levels{linear(-60, 20), linear(-60, 20)};
         const PlotAxes lower{linear(-60, 20), linear(-60, -20)};
         const PlotAxes frequencies{logarithmic(20, 20000), linear(-20, 20)};
@@ -300,16 +279,15 @@ private Q_SLOTS:
         row("ratio that is no number", {0, notANumber, false}, levels, {});
         row("empty frame", {}, {linear(0, 0), linear(-60, 20)}, {});
     }
-
-    void limiter()
-    {
-        const auto &[rule, axes, points] = Rows<LimiterRule, PlotAxes, Points>::current();
-        QCOMPARE(inWords(limiterLine(rule, axes)), inWords(points));
-    }
+    void limiter() { checkRow(); }
 
     void limiterHandle_data()
     {
-        const Rows<PlotAxes, double, QPointF, QPointF, double> row;
+        const auto row = rowsOf(
+            [](const PlotAxes &axes, double threshold, const QPointF &handle, const QPointF &pointer, double moved) {
+                QCOMPARE(tamble::client::limiterHandle({threshold, 0.0, false}, axes), handle);
+                QCOMPARE(thresholdNear(pointer, axes), moved);
+            });
         const PlotAxes levels{linear(-60, 20), linear(-60, 20)};
         const PlotAxes frequencies{logarithmic(20, 20000), linear(-20, 20)};
         row("level", frequencies, 10.0, QPointF(0.5, 0.25), QPointF(0.9, 0.75), -10.0);
@@ -322,30 +300,20 @@ private Q_SLOTS:
             notANumber);
         row("pointer that is nowhere", levels, 20.0, QPointF(1, 0), QPointF(notANumber, 0), notANumber);
     }
-
-    void limiterHandle()
-    {
-        const auto &[axes, threshold, handle, pointer, moved] =
-            Rows<PlotAxes, double, QPointF, QPointF, double>::current();
-        QCOMPARE(tamble::client::limiterHandle({threshold, 0.0, false}, axes), handle);
-        QCOMPARE(thresholdNear(pointer, axes), moved);
-    }
+    void limiterHandle() { checkRow(); }
 
     void thresholdSteps_data()
     {
-        const Rows<double, double, double> row;
+        const auto row = rowsOf([](double threshold, double difference, double moved) {
+            QCOMPARE(thresholdMovedBy(threshold, difference, PlotAxes()), moved);
+        });
         row("inside", 3.0, 0.5, 3.5);
         row("stops at the edge", 19.8, 0.5, 20.0);
         row("does not jump inside", -80.0, 0.5, -79.5);
         row("does not go further out", -80.0, -0.5, -80.0);
         row("no number", notANumber, 0.5, notANumber);
     }
-
-    void thresholdSteps()
-    {
-        const auto &[threshold, difference, moved] = Rows<double, double, double>::current();
-        QCOMPARE(thresholdMovedBy(threshold, difference, PlotAxes()), moved);
-    }
+    void thresholdSteps() { checkRow(); }
 };
 
 template struct TestClass<tst_FrameLines>;

@@ -66,7 +66,8 @@ private Q_SLOTS:
     void clipping_data()
     {
         // inside: of the frame from (0, 0) to (10, 10)
-        const Rows<Points, Runs> row;
+        const auto row = rowsOf(
+            [](const Points &line, const Runs &inside) { QCOMPARE(clipPolyline(line, QRectF(0, 0, 10, 10)), inside); });
         row("leaves at the top", {{0, 5}, {4, 5}, {6, -5}}, {{{0, 5}, {4, 5}, {5, 0}}});
         row("passes through", {{-5, -5}, {15, 15}}, {{{0, 0}, {10, 10}}});
         row("leaves and comes back", {{0, 5}, {2, 15}, {4, 15}, {6, 5}}, {{{0, 5}, {1, 10}}, {{5, 10}, {6, 5}}});
@@ -76,17 +77,22 @@ private Q_SLOTS:
         row("lonely point", {{1, 1}, {2, notANumber}, {3, 3}, {4, 4}}, {{{3, 3}, {4, 4}}});
         row("infinite", {{1, 1}, {2, std::numeric_limits<double>::infinity()}}, {});
     }
-
-    void clipping()
-    {
-        const auto &[line, inside] = Rows<Points, Runs>::current();
-        QCOMPARE(clipPolyline(line, QRectF(0, 0, 10, 10)), inside);
-    }
+    void clipping() { checkRow(); }
 
     void columnsFollowTheRange_data()
     {
         // outside: -2: none
-        const Rows<double, double, int, int, int> row;
+        const auto row = rowsOf([](double xMinimum, double xMaximum, int first, int middle, int outside) {
+            ResponseView view = viewOf(100.9, 50.0);
+            view.axes.x.from = xMinimum;
+            view.axes.x.to = xMaximum;
+            const Drawn drawn(std::vector<double>(3000, 0.0), view);
+            QCOMPARE(drawn.samples.size(), std::size_t(100));
+            QCOMPARE(drawn.samples[0], first);
+            QCOMPARE(drawn.samples[50], middle);
+            QCOMPARE(firstOutside(drawn.samples, 3000).value_or(-2), outside);
+            QCOMPARE(std::isnan(drawn.columns[0]), first < 0);
+        });
         // 3000 values over three decades from 20 Hz, on 100 columns.
         row("whole range", 20.0, 20000.0, 0, 1500, -2);
         row("middle decade", 200.0, 2000.0, 1000, 1500, -2);
@@ -94,25 +100,17 @@ private Q_SLOTS:
         row("before the beginning", 2.0, 20.0, -1000, -500, -1000);
         row("no range", 0.0, 0.0, 0, 0, -2);
     }
-
-    void columnsFollowTheRange()
-    {
-        const auto &[xMinimum, xMaximum, first, middle, outside] = Rows<double, double, int, int, int>::current();
-        ResponseView view = viewOf(100.9, 50.0);
-        view.axes.x.from = xMinimum;
-        view.axes.x.to = xMaximum;
-        const Drawn drawn(std::vector<double>(3000, 0.0), view);
-        QCOMPARE(drawn.samples.size(), std::size_t(100));
-        QCOMPARE(drawn.samples[0], first);
-        QCOMPARE(drawn.samples[50], middle);
-        QCOMPARE(firstOutside(drawn.samples, 3000).value_or(-2), outside);
-        QCOMPARE(std::isnan(drawn.columns[0]), first < 0);
-    }
+    void columnsFollowTheRange() { checkRow(); }
 
     void levels_data()
     {
         // y: of 400 rows
-        const Rows<double, double, double, double, double> row;
+        const auto row = rowsOf([](double minimum, double maximum, double value, double trim, double y) {
+            ResponseView view = viewOf(100.0, 400.0);
+            view.axes.y.from = minimum;
+            view.axes.y.to = maximum;
+            QCOMPARE(LevelScale(view, trim)(value), y);
+        });
         row("0 dB in the middle", -20.0, 20.0, 0.0, 0.0, 200.0);
         row("trimmed", -20.0, 20.0, 4.0, 6.0, 100.0);
         row("above the frame", -20.0, 20.0, 30.0, 0.0, -100.0);
@@ -121,38 +119,27 @@ private Q_SLOTS:
         row("range is no number", notANumber, 20.0, 0.0, 0.0, 400.0);
         row("trim is no number", -20.0, 20.0, 0.0, notANumber, 400.0);
     }
-
-    void levels()
-    {
-        const auto &[minimum, maximum, value, trim, y] = Rows<double, double, double, double, double>::current();
-        ResponseView view = viewOf(100.0, 400.0);
-        view.axes.y.from = minimum;
-        view.axes.y.to = maximum;
-        QCOMPARE(LevelScale(view, trim)(value), y);
-    }
+    void levels() { checkRow(); }
 
     void narrowBandIsNeverShortened_data()
     {
-        const Rows<double, int> row;
+        const auto row = rowsOf([](double width, int place) {
+            // A peak and, next to it, a notch of a single value each.
+            std::vector<double> values(4096, 0.0);
+            values[std::size_t(place)] = 12.0;
+            values[std::size_t(place) - 1] = -17.0;
+            const Drawn drawn(values, viewOf(width, 400.0));
+            QCOMPARE(drawn.highest(), 80.0);
+            QCOMPARE(drawn.lowest(), 370.0);
+            QVERIFY(drawn.outline.points.size() <= std::size_t(width) + 4);
+            QVERIFY(std::ranges::is_sorted(drawn.outline.points, {}, [](const QPointF &p) { return p.x(); }));
+        });
         for (const int width : {40, 399, 1200, 4000}) {
             for (const int place : {1, 1007, 2049, 4094})
                 row(qPrintable(QString::asprintf("%d pixels, value %d", width, place)), double(width), place);
         }
     }
-
-    void narrowBandIsNeverShortened()
-    {
-        const auto &[width, place] = Rows<double, int>::current();
-        // A peak and, next to it, a notch of a single value each.
-        std::vector<double> values(4096, 0.0);
-        values[std::size_t(place)] = 12.0;
-        values[std::size_t(place) - 1] = -17.0;
-        const Drawn drawn(values, viewOf(width, 400.0));
-        QCOMPARE(drawn.highest(), 80.0);
-        QCOMPARE(drawn.lowest(), 370.0);
-        QVERIFY(drawn.outline.points.size() <= std::size_t(width) + 4);
-        QVERIFY(std::ranges::is_sorted(drawn.outline.points, {}, [](const QPointF &p) { return p.x(); }));
-    }
+    void narrowBandIsNeverShortened() { checkRow(); }
 
     void straightStretchesNeedNoVertices()
     {

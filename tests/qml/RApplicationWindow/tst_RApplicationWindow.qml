@@ -10,13 +10,12 @@ TestCase {
     visible: true
 
     property var exceptions: []
+    property int loads: 0
 
     Component {
         id: windowComponent
         RApplicationWindow {
             property alias button: button
-            property alias requests: requests
-            property alias loads: loads
             property alias refresh: refreshShortcut
             property alias wheel: wheelHandler
             readonly property Item overlay: button.T.Overlay.overlay
@@ -47,15 +46,6 @@ TestCase {
                 id: refreshShortcut
                 sequence: "F5"
             }
-            SignalSpy {
-                id: requests
-                target: button.Window.window
-                signalName: "closeRequested"
-            }
-            SignalSpy {
-                id: loads
-                signalName: "styleChanged"
-            }
         }
     }
 
@@ -74,7 +64,8 @@ TestCase {
 
     function shownWindow(properties: var): var {
         const window = createTemporaryObject(windowComponent, null, properties ?? {})
-        window.loads.target = window.styleEngine
+        root.loads = 0
+        window.styleEngine.styleChanged.connect(() => root.loads += 1)
         window.requestActivate()
         tryVerify(() => window.active)
         return window
@@ -101,15 +92,15 @@ TestCase {
         const window = shownWindow({ appStyleSheetDirectory: Qt.resolvedUrl("."), appStyleSheetKey: "own" })
         compare(window.button.ssBackground, "#102030", "the application's sheet is loaded too")
         theme.stylesheet = "light"
-        tryCompare(window.loads, "count", 1)
+        tryCompare(root, "loads", 1)
         compare(window.button.ssBackground, "#405060")
         window.setTheme("dark")
-        compare(window.loads.count, 2)
+        compare(root.loads, 2)
         window.appStyleSheetKey = ""
-        tryCompare(window.loads, "count", 3)
+        tryCompare(root, "loads", 3)
         compare(String(window.styleEngine.styleSheetSource), "")
         wait(0)
-        compare(window.loads.count, 3)
+        compare(root.loads, 3)
         compare(root.exceptions, [])
     }
 
@@ -176,16 +167,6 @@ TestCase {
         compare(window.button.height, 32 * theme.dp(1))
     }
 
-    Component {
-        id: menuComponent
-        T.Popup {
-            width: 100
-            height: 100
-            focus: true
-            modal: true
-        }
-    }
-
     function test_busyTakesEverything_data() {
         const centre = button => [button.width / 2, button.height / 2]
         return [
@@ -199,7 +180,7 @@ TestCase {
             { tag: "Esc", act: () => { keyClick(Qt.Key_Escape); keyClick(Qt.Key_Space) } },
             { tag: "page's shortcut", act: () => keyClick(Qt.Key_F5) },
             { tag: "beside a popup", act: (button, window) => {
-                createTemporaryObject(menuComponent, window.contentItem).open()
+                createTemporaryQmlObject("import QtQuick.Templates\nPopup { width: 100; height: 100; focus: true; modal: true }", window.contentItem).open()
                 keyClick(Qt.Key_Space)
                 mouseClick(button)
             } }
@@ -250,9 +231,10 @@ TestCase {
     }
     function test_closing(row) {
         const window = shownWindow({ confirmClose: row.confirm })
-        window.requests.target = window
+        let requests = 0
+        window.closeRequested.connect(() => requests += 1)
         window.close()
-        compare(window.requests.count, 1)
+        compare(requests, 1)
         compare(window.visible, row.confirm)
     }
 }

@@ -7,23 +7,15 @@ ThemedTestCase {
     id: root
     name: "RAxis"
 
-    Component {
-        id: axisComponent
-        RAxis {
-            maxValue: 10
-            tickCount: 10
-        }
-    }
-
     function test_layout_data() {
         return [
-            { tag: "numbers at the right", body: {}, tick: 280, right: 20 },
-            { tag: "numbers at the left", body: { leftSided: true }, tick: 280, right: -4 },
-            { tag: "reversed", body: { reverse: true }, tick: 0, right: 20 },
+            { tag: "numbers at the right", body: "", tick: 280, right: 20 },
+            { tag: "numbers at the left", body: "; leftSided: true", tick: 280, right: -4 },
+            { tag: "reversed", body: "; reverse: true", tick: 0, right: 20 },
         ]
     }
     function test_layout(data) {
-        const axis = createTemporaryObject(axisComponent, root, data.body)
+        const axis = make("RAxis { maxValue: 10; tickCount: 10" + data.body + "}")
         compare([axis.width, axis.height], [32, 280])
         const first = axis.children[0]
         compare([first.x, first.y, first.width, first.height], [0, data.tick, 4, 1])
@@ -34,7 +26,7 @@ ThemedTestCase {
     }
 
     function test_ticksFollowTheRange() {
-        const axis = createTemporaryObject(axisComponent, root)
+        const axis = make("RAxis { maxValue: 10; tickCount: 10 }")
         axis.minValue = -10
         compare(axis.children[0].children[0].text, "-10")
     }

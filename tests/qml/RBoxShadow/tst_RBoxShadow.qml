@@ -9,50 +9,16 @@ ThemedTestCase {
 
     readonly property bool shaders: root.GraphicsInfo.api !== GraphicsInfo.Software
 
-    Component {
-        id: sceneComponent
-        Rectangle {
-            id: scene
-            property alias shadow: shadow
-            property alias box: box
-            width: 100
-            height: 100
-            Rectangle {
-                id: box
-                x: 20
-                y: 30
-                z: 3
-                width: 60
-                height: 40
-                RBoxShadow {
-                    id: shadow
-                    spread: 8
-                    darkness: 0.5
-                    offsetY: 0
-                }
-            }
-        }
+    /*! A box on a white square, with what stands in it and beside it. */
+    function scene(inside: string, beside: string): var {
+        return make("Rectangle { width: 100; height: 100; readonly property Item shadow: boxShadow; readonly property Item box: target\n" +
+            "Rectangle { id: target; x: 20; y: 30; z: 3; width: 60; height: 40; " + inside + " }\n" + beside + " }")
     }
-    Component {
-        id: siblingComponent
-        Rectangle {
-            property alias shadow: shadow
-            width: 100
-            height: 100
-            Rectangle {
-                id: target
-                x: 20
-                y: 30
-                color: "#ff0000"
-                width: 60
-                height: 40
-            }
-            RBoxShadow {
-                id: shadow
-                target: target
-                offsetX: 5
-            }
-        }
+    function makeParent(): var {
+        return scene("RBoxShadow { id: boxShadow; spread: 8; darkness: 0.5; offsetY: 0 }", "")
+    }
+    function makeSibling(): var {
+        return scene("color: '#ff0000'", "RBoxShadow { id: boxShadow; target: target; offsetX: 5 }")
     }
 
     /*! Grey that black of alpha darkness * (1 - distance / spread)^2 leaves of white; pixels lie half a unit off. */
@@ -72,27 +38,25 @@ ThemedTestCase {
     function test_fade(row) {
         if (!root.shaders)
             skip("a border stands in")
-        const scene = createTemporaryObject(sceneComponent, root)
+        const scene = makeParent()
         for (const property of ["offsetY", "active", "spread", "darkness"])
             scene.shadow[property] = row[property] ?? scene.shadow[property]
         fuzzyCompare(grabImage(scene).red(row.x, row.y), row.grey, 2)
     }
 
     function test_followsItsTarget() {
-        const scene = createTemporaryObject(sceneComponent, root)
+        const scene = makeParent()
         scene.box.width = 70
         compare([scene.shadow.x, scene.shadow.y, scene.shadow.z, scene.shadow.width], [0, 0, -1, 70])
-        const siblings = createTemporaryObject(siblingComponent, root)
-        const shadow = siblings.shadow
-        compare([shadow.x, shadow.y, shadow.z, shadow.width, shadow.height], [25, 32, 0, 60, 40])
+        const shadow = makeSibling().shadow
+        compare([shadow.x, shadow.y, shadow.z, shadow.width, shadow.height], [25, 32, 3, 60, 40])
         compare(shadow.darkness, 32 / 255, "as the style's colour says")
         shadow.target = null
         compare([shadow.width, shadow.shown], [0, false])
     }
 
     function test_siblingIsBetweenParentAndTarget() {
-        const siblings = createTemporaryObject(siblingComponent, root)
-        const image = grabImage(siblings)
+        const image = grabImage(makeSibling())
         verify(image.red(80, 50) < 255, "above what the parent paints")
         compare(image.pixel(79, 50), "#ff0000", "below the target")
     }
@@ -100,8 +64,8 @@ ThemedTestCase {
     function test_borderWithoutShaders() {
         if (root.shaders)
             skip("the shadow is drawn")
-        const scene = createTemporaryObject(sceneComponent, root)
-        fuzzyCompare(grabImage(scene).red(80, 50), 223, 2) // #20000000 on white
-        compare(grabImage(scene).red(81, 50), 255)
+        const image = grabImage(makeParent())
+        fuzzyCompare(image.red(80, 50), 223, 2) // #20000000 on white
+        compare(image.red(81, 50), 255)
     }
 }

@@ -7,34 +7,26 @@ import "../Support"
 ThemedTestCase {
     id: root
 
-    component LoggedFader: RFader {
-        id: fader
-
-        property var log: []
-
-        height: 248
-        from: -90
-        to: 10
-        value: -20
-        label: "Level"
-        settleTime: 50
-        onValueEdited: level => fader.log.push("edited " + level)
-        onValueCommitted: level => fader.log.push("committed " + level)
-        onEditCanceled: fader.log.push("canceled")
-    }
     readonly property Component faderComponent: Component {
-        LoggedFader {}
-    }
-    readonly property Component deviceComponent: Component {
-        QtObject {
-            property real level: -20
-            property real minimum: 0
-            property real maximum: 0
+        RFader {
+            property var log: []
+
+            height: 248
+            from: -90
+            to: 10
+            value: -20
+            label: "Level"
+            settleTime: 50
         }
     }
 
-    function makeFader(body: var): LoggedFader {
-        const fader = createTemporaryObject(root.faderComponent, root, body)
+    function makeDevice(): var {
+        return make("QtObject { property real level: -20; property real minimum: 0; property real maximum: 0 }")
+    }
+
+    function makeFader(properties: var): var {
+        const fader = createTemporaryObject(root.faderComponent, root, properties)
+        fader.log = logged(fader, { valueEdited: "edited", valueCommitted: "committed", editCanceled: "canceled" })
         waitForRendering(fader)
         return fader
     }

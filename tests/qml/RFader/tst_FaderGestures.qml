@@ -139,13 +139,6 @@ FaderTestCase {
         tryCompare(fader, "pressed", false)
     }
 
-    function test_clickWithoutMovementOnlyFocuses() {
-        const fader = makeFader({})
-        mouseClick(fader, 28, 60)
-        compare(fader.activeFocus, true)
-        compare(fader.log, [])
-    }
-
     function test_releaseAfterEscapeDoesNothing() {
         const fader = makeFader({})
         press(fader, 200)

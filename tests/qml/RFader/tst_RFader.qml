@@ -14,7 +14,7 @@ FaderTestCase {
         ]
     }
     function test_size(data) {
-        const fader = createTemporaryQmlObject("import TambleClient.Control 1.0\nRFader {" + data.body + "}", root)
+        const fader = make("RFader {" + data.body + "}")
         compare([fader.width, fader.height], data.size)
         compare([fader.from, fader.to, fader.value, fader.stepSize], [-80, 10, -80, 0.5])
         compare([fader.minimumValue, fader.maximumValue], [-80, 10])
@@ -50,7 +50,7 @@ FaderTestCase {
         const fader = makeFader(data.body)
         mouseDoubleClickSequence(fader, 28, 200)
         compare(fader.log, data.log)
-        fader.log = []
+        fader.log.length = 0
         fader.value = -20
         tryCompare(fader, "value", -20)
         mouseClick(fader, 28, 60, Qt.LeftButton, Qt.ControlModifier)
@@ -103,6 +103,7 @@ FaderTestCase {
         mouseWheel(fader, 28, 100, 0, 120)
         compare(fader.value, -20, "without the focus")
         fader.forceActiveFocus()
+        verify(fader.handle.border.color.a > 0, "the focus shows")
         mouseWheel(fader, 28, 100, 0, 120)
         compare(fader.value, -19.5)
         mouseWheel(fader, 28, 100, 0, -60)
@@ -136,7 +137,7 @@ FaderTestCase {
     }
 
     function test_lateDevice() {
-        const device = createTemporaryObject(root.deviceComponent, root)
+        const device = makeDevice()
         const fader = makeFader({})
         fader.value = Qt.binding(() => device.level)
         press(fader, 200)
@@ -154,7 +155,7 @@ FaderTestCase {
     }
 
     function test_rangeThatComesAfterTheValue() {
-        const device = createTemporaryObject(root.deviceComponent, root)
+        const device = makeDevice()
         const fader = makeFader({})
         fader.from = Qt.binding(() => device.minimum)
         fader.to = Qt.binding(() => device.maximum)
@@ -184,12 +185,7 @@ FaderTestCase {
     }
 
     function labels(fader: RFader): list<string> {
-        const texts = []
-        for (const mark of fader.marks) {
-            if (mark.label.length > 0)
-                texts.push(mark.label)
-        }
-        return texts
+        return Array.from(fader.marks, mark => mark.label).filter(text => text.length > 0)
     }
     function test_scale() {
         const fader = makeFader({ from: -80 })
@@ -197,28 +193,9 @@ FaderTestCase {
         compare(labels(fader), ["0", "\u2212\u221e", "10", "-10", "-20", "-30", "-40", "-50", "-60"])
         compare([fader.marks[0].extra, fader.marks[1].extra], [true, false])
         fader.ticks = [-80, -30, -29]
-        fader.converter = createTemporaryQmlObject("import TambleClient.Control 1.0\nRDoubleValueConverter { unit: 'dB' }", root)
+        fader.converter = make("RDoubleValueConverter { unit: 'dB' }")
         tryVerify(() => fader.marks.length === 4)
         compare(labels(fader), ["-80", "-30"], "no room for -29, nor for the unit")
     }
 
-    function test_everySheet_data() {
-        return sheetRows()
-    }
-    function test_everySheet(data) {
-        root.sheet = data.tag
-        const fader = makeFader({ trackIndicatorVisible: true, handleText: "AUX" })
-        for (const word of ["", "red", "green"]) {
-            fader.RStyleSet.name = word
-            for (const flag of ["hovered", "pressed", "focus", "inconsistent"]) {
-                fader.RStyleSet.stateHelper[flag] = true
-                fader.consistent = flag !== "inconsistent"
-            }
-        }
-        fader.forceActiveFocus()
-        verify(fader.handle.border.color.a > 0, "the focus shows")
-        grabImage(fader) // missing keys are reported after a frame
-        wait(0)
-        grabImage(fader)
-    }
 }

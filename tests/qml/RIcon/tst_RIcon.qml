@@ -7,22 +7,9 @@ ThemedTestCase {
     id: root
     name: "RIcon"
 
-    Component {
-        id: iconComponent
-        RIcon {}
-    }
-    Component {
-        id: pairComponent
-        Rectangle {
-            property alias icon: icon
-            width: 48
-            height: 48
-            color: "#204060"
-            RIcon {
-                id: icon
-                sizeClass: "L"
-            }
-        }
+    /*! An icon on a ground of its size. */
+    function makePair(): var {
+        return make("Rectangle { width: 48; height: 48; color: '#204060'; readonly property Item icon: shape\nRIcon { id: shape; sizeClass: 'L' } }")
     }
 
     function test_sizeClasses_data() {
@@ -37,7 +24,7 @@ ThemedTestCase {
     }
     function test_sizeClasses(row) {
         theme.setDpZoomFactor(row.zoom)
-        const icon = createTemporaryObject(iconComponent, root, { key: "settings", sizeClass: row.tag })
+        const icon = make("RIcon { key: 'settings'; sizeClass: '" + row.tag + "' }")
         compare([icon.width, icon.height], [row.size, row.size])
         compare([icon.imgWidth, icon.imgHeight], [row.size, row.size])
         compare(icon.source, "qrc:/icons/settings_" + row.file + ".png")
@@ -58,7 +45,7 @@ ThemedTestCase {
     }
     function test_colours(row) {
         root.sheet = row.sheet ?? "dark"
-        const pair = createTemporaryObject(pairComponent, root)
+        const pair = makePair()
         pair.icon.key = "corner-flag"
         if (row.colour)
             pair.icon.ssIconForeground = row.colour
@@ -74,7 +61,7 @@ ThemedTestCase {
     }
 
     function test_sharpWhenEnlarged() {
-        const pair = createTemporaryObject(pairComponent, root, { scale: 1 })
+        const pair = makePair()
         pair.icon.sizeClass = "S"
         pair.icon.key = "grid"
         theme.setDpZoomFactor(2)

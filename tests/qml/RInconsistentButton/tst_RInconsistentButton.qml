@@ -10,32 +10,14 @@ ThemedTestCase {
 
     property var log: []
 
-    // qmllint disable unqualified
-    Component {
-        id: buttonComponent
-        RInconsistentButton {
-            text: "Mute"
-            x: 150
-            y: 150
-            onClickedOn: root.log.push("on")
-            onClickedOff: root.log.push("off")
-        }
-    }
-    Component {
-        id: switchComponent
-        RInconsistentButtonSwitch {
-            x: 150
-            y: 150
-            label: "Power"
-            onClickedOn: root.log.push("on")
-            onClickedOff: root.log.push("off")
-        }
-    }
-    // qmllint enable unqualified
+    readonly property string button: "RInconsistentButton { text: 'Mute'"
+    readonly property string powerSwitch: "RInconsistentButtonSwitch { label: 'Power'"
 
-    function makeMixed(component: Component, properties: var): var {
-        root.log = []
-        const button = createTemporaryObject(component, root, Object.assign({ consistent: false }, properties))
+    /*! What one of the declarations above makes with more properties, mixed unless these say otherwise. */
+    function makeMixed(declaration: string, properties: var): var {
+        const button = make(declaration + "; x: 150; y: 150; consistent: false }")
+        root.log = logged(button, { clickedOn: "on", clickedOff: "off", selectionEdited: "edited" })
+        Object.assign(button, properties)
         button.forceActiveFocus()
         return button
     }
@@ -46,12 +28,12 @@ ThemedTestCase {
 
     function test_consistentButtonsAskNothing_data() {
         return [
-            { tag: "button", component: buttonComponent },
-            { tag: "switch", component: switchComponent }
+            { tag: "button", declaration: root.button },
+            { tag: "switch", declaration: root.powerSwitch }
         ]
     }
     function test_consistentButtonsAskNothing(row) {
-        const button = makeMixed(row.component, { consistent: true })
+        const button = makeMixed(row.declaration, { consistent: true })
         mouseClick(button)
         button.selected = true
         mouseClick(button)
@@ -78,8 +60,8 @@ ThemedTestCase {
         ]
     }
     function test_keys(row) {
-        for (const component of [buttonComponent, switchComponent]) {
-            const button = makeMixed(component, { horizontalText: row.horizontal ?? false })
+        for (const declaration of [root.button, root.powerSwitch]) {
+            const button = makeMixed(declaration, { horizontalText: row.horizontal ?? false })
             pressKey(Qt.Key_Space)
             const popup = openedPopup(button)
             row.keys.forEach(pressKey)
@@ -101,7 +83,7 @@ ThemedTestCase {
         ]
     }
     function test_place(row) {
-        const button = makeMixed(buttonComponent, row.properties ?? {})
+        const button = makeMixed(root.button, row.properties ?? {})
         button.LayoutMirroring.enabled = row.mirrored ?? false
         mouseClick(button)
         const popup = openedPopup(button)
@@ -111,7 +93,7 @@ ThemedTestCase {
     }
 
     function test_widthOfTheSwitch() {
-        const button = makeMixed(switchComponent, {})
+        const button = makeMixed(root.powerSwitch, {})
         mouseClick(button)
         compare(openedPopup(button).width, 72)
     }
@@ -124,8 +106,8 @@ ThemedTestCase {
         ]
     }
     function test_questionsEnd(row) {
-        for (const component of [buttonComponent, switchComponent]) {
-            const button = makeMixed(component, {})
+        for (const declaration of [root.button, root.powerSwitch]) {
+            const button = makeMixed(declaration, {})
             mouseClick(button)
             const popup = openedPopup(button)
             button[row.property] = row.value
@@ -135,8 +117,7 @@ ThemedTestCase {
     }
 
     function test_selectable() {
-        const button = makeMixed(buttonComponent, { selectable: true })
-        button.selectionEdited.connect(selected => root.log.push("edited " + selected))
+        const button = makeMixed(root.button, { selectable: true })
         mouseClick(button)
         const popup = openedPopup(button)
         compare(root.log, [], "asking edits nothing")
@@ -150,7 +131,7 @@ ThemedTestCase {
     }
 
     function test_choosingByPointer() {
-        const button = makeMixed(buttonComponent, { textOff: "AUS" })
+        const button = makeMixed(root.button, { textOff: "AUS" })
         mouseClick(button)
         const popup = openedPopup(button)
         mouseClick(root, button.x + 20, button.y + 32 + 50)

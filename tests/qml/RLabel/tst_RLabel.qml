@@ -61,14 +61,10 @@ ThemedTestCase {
         form.caption.required = row.required ?? false
         compare(form.caption.text, row.text)
         compare(form.caption.plainCaption, row.name)
-        const plain = createTemporaryObject(textComponent, root, { text: row.html, font: form.caption.font })
+        const plain = Object.assign(make("Text {}"), { text: row.html, font: form.caption.font })
         plain.textFormat = row.html.includes("<u>") ? Text.StyledText : Text.PlainText
         compare(form.caption.implicitWidth, plain.implicitWidth)
         compare(form.editor.Accessible.name, row.name)
-    }
-    Component {
-        id: textComponent
-        Text {}
     }
 
     function test_withoutBuddyNothingIsMarked() {
@@ -99,42 +95,12 @@ ThemedTestCase {
         verify(form.other.activeFocus, "a hidden caption has no key")
     }
 
-    Component {
-        id: namedComponent
-        Column {
-            id: row
-            property alias caption: caption
-            property Item buddy: button
-            RLabel {
-                id: caption
-                text: "Channel 1"
-                buddy: row.buddy
-            }
-            RButton {
-                id: button
-                text: "Mute"
-            }
-        }
-    }
-    Component {
-        id: inputComponent
-        TextInput {
-            text: "typed"
-        }
-    }
-
     function test_ownTextIsTheName() {
-        const row = createTemporaryObject(namedComponent, root)
+        const row = make("Column { id: row; property Item buddy: button\n" +
+            "RLabel { text: 'Channel 1'; buddy: row.buddy } RButton { id: button; text: 'Mute' } }")
         compare(row.buddy.Accessible.name, "")
-        row.buddy = createTemporaryObject(inputComponent, row)
+        row.buddy = make("TextInput { text: 'typed' }")
         compare(row.buddy.Accessible.name, "Channel 1")
-    }
-
-    Component {
-        id: labelComponent
-        RLabel {
-            text: "12345678901234567890"
-        }
     }
 
     function test_lineColours_data() {
@@ -146,16 +112,15 @@ ThemedTestCase {
     }
     function test_lineColours(row) {
         root.sheet = row.tag
-        const label = createTemporaryObject(labelComponent, root, { lineVisible: true })
+        const label = make("RLabel { text: '12345678901234567890'; lineVisible: true }")
         compare(label.ssLineColor, row.line)
         compare(grabImage(label).pixel(2, label.height - 1), row.line)
         label.ssColor = "#ff0000"
         compare(label.color, "#ff0000")
-        root.sheet = "dark"
     }
 
     function test_elidedTextShowsInAToolTip() {
-        const label = createTemporaryObject(labelComponent, root, { y: 50 })
+        const label = make("RLabel { text: '12345678901234567890'; y: 50 }")
         mouseMove(label, 5, 5)
         wait(0)
         label.width = 40

@@ -8,12 +8,7 @@ ThemedTestCase {
     name: "RAxisNumbering"
 
     function numbersOf(axis: Item): var {
-        const numbers = []
-        for (let i = 0; i < axis.children.length; ++i) {
-            if (axis.children[i].text !== undefined)
-                numbers.push(axis.children[i])
-        }
-        return numbers
+        return Array.from(axis.children).filter(child => child.text !== undefined)
     }
 
     function test_numbers_data() {
@@ -64,9 +59,6 @@ ThemedTestCase {
     }
     function test_gridLines(data) {
         const grid = make("RPlotGrid { width: 240; height: 240; " + data.body + "}")
-        const lines = []
-        for (let i = 0; i < grid.children.length; ++i)
-            lines.push(grid.children[i].values.length)
-        compare(lines, [data.columns, data.rows, data.zero])
+        compare(Array.from(grid.children, lines => lines.values.length), [data.columns, data.rows, data.zero])
     }
 }

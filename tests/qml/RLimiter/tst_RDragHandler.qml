@@ -14,12 +14,7 @@ ThemedTestCase {
     }
 
     function logOf(handle: Item): var {
-        const log = []
-        handle.dragged.connect((x, y) => log.push("dragged " + x + " " + y))
-        handle.dragFinished.connect((x, y) => log.push("finished " + x + " " + y))
-        handle.dragCanceled.connect(() => log.push("canceled"))
-        handle.resetRequested.connect(() => log.push("reset"))
-        return log
+        return logged(handle, { dragged: "dragged", dragFinished: "finished", dragCanceled: "canceled", resetRequested: "reset" })
     }
 
     function test_place_data() {

@@ -7,21 +7,13 @@ ThemedTestCase {
     id: root
     name: "RMeter"
 
-    Component {
-        id: meterComponent
-        RMeter {}
-    }
-
     function partsOf(meter: Item): var {
         return meter.children[1].item
     }
 
     // Assigned afterwards, since the size of a meter is bound.
-    function make(properties: var): RMeter {
-        const meter = createTemporaryObject(meterComponent, root)
-        for (const name in properties)
-            meter[name] = properties[name]
-        return meter
+    function makeMeter(properties: var): var {
+        return Object.assign(make("RMeter {}"), properties)
     }
 
     function test_size_data() {
@@ -31,14 +23,14 @@ ThemedTestCase {
         ]
     }
     function test_size(data) {
-        const meter = make({ horizontal: data.horizontal })
+        const meter = makeMeter({ horizontal: data.horizontal })
         compare([meter.width, meter.height], data.size)
         const bar = meter.children[0]
         compare([bar.y, bar.height], [data.padding, data.size[1] - 2 * data.padding])
     }
 
     function test_marksAreMadeOnDemand() {
-        const meter = make({ height: 148 })
+        const meter = makeMeter({ height: 148 })
         compare(partsOf(meter), null)
         meter.clipIndicatorSupported = true
         const clip = partsOf(meter).clipIndicator
@@ -59,7 +51,7 @@ ThemedTestCase {
         ]
     }
     function test_faderMarker(data) {
-        const meter = make(Object.assign({ height: 100, faderIndicatorActive: true }, data.body))
+        const meter = makeMeter(Object.assign({ height: 100, faderIndicatorActive: true }, data.body))
         const marker = partsOf(meter).faderIndicator
         if (data.y !== undefined)
             fuzzyCompare(marker.y, data.y, 1e-6)
@@ -69,7 +61,7 @@ ThemedTestCase {
 
     // Light leaves it unset on purpose.
     function test_markerWithoutColour() {
-        const meter = make({})
+        const meter = makeMeter({})
         compare([meter.ssIndicatorColor.valid, meter.ssIndicatorColor], [true, "#005691"])
         root.sheet = "light"
         compare(meter.ssIndicatorColor.valid, false)
@@ -78,7 +70,7 @@ ThemedTestCase {
     }
 
     function test_startsFromTheBottomWhenShown() {
-        const meter = make({ value: 0 })
+        const meter = makeMeter({ value: 0 })
         compare(meter.currentValue, 0)
         meter.visible = false
         compare(meter.currentValue, -80)

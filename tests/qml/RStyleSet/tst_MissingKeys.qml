@@ -59,6 +59,7 @@ TestCase {
         "RDragHandler {}",
         "RDucker {}",
         "RFader { height: 200; trackIndicatorVisible: true }",
+        "RFader { height: 200; handleText: 'AUX'; RStyleSet.name: 'green' }",
         "RFader { height: 200; consistent: false; RStyleSet.name: 'red' }",
         "RGate {}",
         "RIcon { key: 'mute' }",

@@ -21,18 +21,17 @@ TestCase {
         RStyleSet.typeName: "Button"
         property color background: RStyleSet.props.color("background")
     }
-    component Panel: Item {
-        property alias button: innerButton
-        RStyleSet.typeName: "Panel"
-        Item {
-            Button {
-                id: innerButton
-            }
-        }
-    }
     Component {
         id: panelComponent
-        Panel {}
+        Item {
+            property alias button: innerButton
+            RStyleSet.typeName: "Panel"
+            Item {
+                Button {
+                    id: innerButton
+                }
+            }
+        }
     }
     Component {
         id: buttonComponent
@@ -62,10 +61,6 @@ TestCase {
 
     function types(item: Item): var {
         return Array.from(item.RStyleSet.path, element => element.typeName)
-    }
-
-    function withoutParent(component: Component): var {
-        return component.createObject(null)
     }
 
     function test_pathRunsFromTheSceneRoot() {
@@ -126,7 +121,7 @@ TestCase {
     }
 
     function test_unrootedItemsLeaveTheirDescendantsAlone() {
-        const panel = withoutParent(panelComponent)
+        const panel = createTemporaryObject(panelComponent, null)
         const button = panel.button
         compare(types(button), ["Panel", "QQuickItem", "Button"])
         panel.RStyleSet.name = "dense"
@@ -134,11 +129,10 @@ TestCase {
         panel.parent = root
         compare(types(button)[0], "QQuickRootItem")
         compare(button.RStyleSet.props.number("gap"), 2)
-        panel.destroy()
     }
 
     function test_reparentingBelowUnstyledItems() {
-        const holder = withoutParent(itemComponent)
+        const holder = itemComponent.createObject(null)
         const button = buttonComponent.createObject(holder)
         compare(types(button), ["QQuickItem", "Button"])
         holder.parent = root
@@ -177,14 +171,6 @@ TestCase {
         popup.close()
         tryVerify(() => !popup.visible)
         compare(popup.button.RStyleSet.props.color("background"), "#707070")
-    }
-
-    function test_styleInfoNamesTheRules() {
-        const panel = createTemporaryObject(panelComponent, root)
-        const info = panel.button.RStyleSet.styleInfo
-        verify(info.startsWith("Style info for path QQuickRootItem/"), info)
-        verify(info.indexOf("// specificity: [0,0,2]") > 0, info)
-        verify(/Panel Button[\s\S]*#202020[\s\S]*default stylesheet[\s\S]* at line 3 column /.test(info), info)
     }
 
     function test_missingKeysGiveDefaults() {

@@ -10,11 +10,7 @@ ThemedTestCase {
 
     /*! What the panel says about one parameter: "edited -5", "committed -5", "canceled". */
     function logOf(panel: Item, parameter: string): var {
-        const log = []
-        panel[parameter + "Edited"].connect(value => log.push("edited " + value))
-        panel[parameter + "Committed"].connect(value => log.push("committed " + value))
-        panel.editCanceled.connect(() => log.push("canceled"))
-        return log
+        return logged(panel, { [parameter + "Edited"]: "edited", [parameter + "Committed"]: "committed", editCanceled: "canceled" })
     }
 
     function centreOf(panel: Item, parameter: string): point {

@@ -22,9 +22,12 @@ TestCase {
         return createTemporaryObject(spyComponent, root, { target: target, signalName: signalName })
     }
 
-    /*! The rows of a test for each sheet of the module. */
-    function sheetRows(): var {
-        return [{ tag: "dark" }, { tag: "light" }, { tag: "contrast-dark" }, { tag: "contrast-light" }]
+    /*! What `target` signals from now on, as texts of the word for that signal and its arguments: "edited -5". */
+    function logged(target: var, words: var): var {
+        const log = []
+        for (const name in words)
+            target[name].connect((...values) => log.push([words[name], ...values].join(" ")))
+        return log
     }
 
     function cleanup() {

@@ -12,7 +12,16 @@ class tst_StyleSheetParser : public QuietTest
 private Q_SLOTS:
     void selectors_data()
     {
-        const Rows<QString, QStringList> row;
+        const auto row = rowsOf([](const QString &selectors, const QStringList &chains) {
+            for (const char *open : {"{", " {", "/**/{"}) {
+                const StyleSheet sheet = parseStdString(selectors.toStdString() + open + "k:v}");
+                QStringList expected;
+                for (const QString &chain : chains)
+                    expected.append(chain + " | k=[v]");
+                QCOMPARE(dumpOf(sheet), expected);
+                QCOMPARE(sheet.ruleCount(), std::size_t(1));
+            }
+        });
         row("type", "RButton", {"RButton"});
         row("descendant", "RAppBarButton::hovered RIcon", {"RIcon ::desc:: RAppBarButton & ::hovered"});
         row("direct child", "RPane>RText", {"RText RPane"});
@@ -26,23 +35,18 @@ private Q_SLOTS:
         row("comment alone between elements", "A/**/B", {"B ::desc:: A"});
         row("names with hyphen, underscore and digits", "_a-1.v-1_::s2-", {"_a-1 & .v-1_ & ::s2-"});
     }
-
-    void selectors()
-    {
-        const auto &[selectors, chains] = Rows<QString, QStringList>::current();
-        for (const char *open : {"{", " {", "/**/{"}) {
-            const StyleSheet sheet = parseStdString(selectors.toStdString() + open + "k:v}");
-            QStringList expected;
-            for (const QString &chain : chains)
-                expected.append(chain + " | k=[v]");
-            QCOMPARE(dumpOf(sheet), expected);
-            QCOMPARE(sheet.ruleCount(), std::size_t(1));
-        }
-    }
+    void selectors() { checkRow(); }
 
     void values_data()
     {
-        const Rows<QString, QStringList> row;
+        const auto row = rowsOf([](const QString &block, QStringList declarations) {
+            for (QString &line : declarations)
+                line.prepend(QStringLiteral("A | "));
+            QCOMPARE(dumpOf(parseStdString("A {" + block.toStdString() + "}")), declarations);
+            const std::string byteOrderMark = "\xef\xbb\xbf";
+            QCOMPARE(dumpOf(parseStdString(byteOrderMark + " A { // c\r " + block.toStdString() + "\n}// end")),
+                     declarations);
+        });
         row("several values", "k: a, \"b\" , #0c0", {"k=[a][b][#0c0]"});
         row("no semicolon before the next declaration", "a: true b: \"x\" c: 1", {"a=[true]", "b=[x]", "c=[1]"});
         row("nothing between declarations", "a:'x'b:#12z:1d:2", {"a=[x]", "b=[#12]", "z=[1]", "d=[2]"});
@@ -68,22 +72,18 @@ private Q_SLOTS:
         row("comma divides bare addresses", "k: url(a,b), url('a,b')", {"k=url(<a><b>)url(<a,b>)"});
         row("other address in a call", "k: f(http://host/x)", {"k=f(<http://host/x>)"});
     }
-
-    void values()
-    {
-        auto [block, declarations] = Rows<QString, QStringList>::current();
-        for (QString &line : declarations)
-            line.prepend(QStringLiteral("A | "));
-        QCOMPARE(dumpOf(parseStdString("A {" + block.toStdString() + "}")), declarations);
-        const std::string byteOrderMark = "\xef\xbb\xbf";
-        QCOMPARE(dumpOf(parseStdString(byteOrderMark + " A { // c\r " + block.toStdString() + "\n}// end")),
-                 declarations);
-    }
+    void values() { checkRow(); }
 
     void positions_data()
     {
         // expected: line, column of each declaration
-        const Rows<QString, QList<int>> row;
+        const auto row = rowsOf([](const QString &text, const QList<int> &expected) {
+            const StyleSheet sheet = parseStdString(text.toStdString());
+            QList<int> found;
+            for (const PropertySpec *declaration : sheet.tree().declarations(1))
+                found << int(declaration->position.line) << int(declaration->position.column);
+            QCOMPARE(found, expected);
+        });
         row("one line", "A{b:c;d:e}", {1, 3, 1, 7});
         row("CR LF is one line end", "A {\r\n\r\n  b: c\r\n}", {3, 3});
         row("CR alone", "A {\r\r b: c;\rd: e }", {3, 2, 4, 1});
@@ -95,52 +95,32 @@ private Q_SLOTS:
             {1, 3});
         row("columns count bytes", QString::fromUtf8("A{a:'\xc3\xbc' b:c}"), {1, 3, 1, 10});
     }
-
-    void positions()
-    {
-        const auto &[text, expected] = Rows<QString, QList<int>>::current();
-        const StyleSheet sheet = parseStdString(text.toStdString());
-        QList<int> found;
-        for (const PropertySpec *declaration : sheet.tree().declarations(1))
-            found << int(declaration->position.line) << int(declaration->position.column);
-        QCOMPARE(found, expected);
-    }
+    void positions() { checkRow(); }
 
     void variables_data()
     {
-        const Rows<QString, QString> row;
+        const auto row = rowsOf([](const QString &text, const QString &value) {
+            QCOMPARE(dumpOf(parseStdString(text.toStdString())), QStringList("A | k=" + value));
+        });
         row("spliced into a list", "@a = 1, f(x); A { k: 0, @a, 2 }", "[0][1]f(<x>)[2]");
         row("later definition counts from there", "@a = 1; @b = @a; @a = 2; A { k: @b, @a }", "[1][2]");
         row("redefined by itself", "@a = 1; @a = 0, @a; A { k: @a }", "[0][1]");
         row("defined between rules", "B {} @a-b_1 = 'x'; A { k: @a-b_1; }", "[x]");
         row("name that begins like font-face", "@font-face2 = 1; A { k: @font-face2 }", "[1]");
     }
-
-    void variables()
-    {
-        const auto &[text, value] = Rows<QString, QString>::current();
-        QCOMPARE(dumpOf(parseStdString(text.toStdString())), QStringList("A | k=" + value));
-    }
-
-    void fontFaces_data()
-    {
-        const Rows<QString, QStringList> row;
-        row("without semicolon", "@font-face{src:url('f g.ttf')}", {"f g.ttf 1:21"});
-        row("two with comments", "@font-face/**/{ src : url ( //h/a.ttf /**/ ) }\n@font-face{src:url(b)}",
-            {"//h/a.ttf 1:29", "b 2:20"});
-    }
+    void variables() { checkRow(); }
 
     void fontFaces()
     {
-        const auto &[text, expected] = Rows<QString, QStringList>::current();
-        const StyleSheet sheet = parseStdString(text.toStdString());
+        const StyleSheet sheet =
+            parseStdString("@font-face/**/{ src : url ( //h/a.ttf /**/ ) }\n@font-face{src:url('f g.ttf')}");
         QStringList found;
         for (const FontFace &face : sheet.fontFaces())
             found.append(QStringLiteral("%1 %2:%3")
                              .arg(QString::fromStdString(face.url))
                              .arg(face.position.line)
                              .arg(face.position.column));
-        QCOMPARE(found, expected);
+        QCOMPARE(found, QStringList({"//h/a.ttf 1:29", "f g.ttf 2:21"}));
         QVERIFY(sheet.isEmpty());
     }
 

@@ -44,7 +44,20 @@ class tst_SheetReload : public QuietTest
 private Q_SLOTS:
     void everyWayOfSaving_data()
     {
-        const Rows<Save> row;
+        const auto row = rowsOf([](const Save &save) {
+            const StyleFixture fixture;
+            const Setup setup(fixture.write("user.style", sheet(1)));
+            StyledBox box;
+            QCOMPARE(box.props().number("a"), 1.0);
+            QSignalSpy loads(&fixture.engine(), &StyleEngine::styleChanged);
+            for (int value = 2; value <= 4; ++value) { // still watching after each
+                save(fixture, sheet(value));
+                QTRY_COMPARE(box.props().number("a"), double(value));
+                QVERIFY(!loads.wait(120));
+                QCOMPARE(loads.count(), value - 1);
+            }
+            QCOMPARE(fixture.types, QStringList());
+        });
         row("in place", Save([](const StyleFixture &fixture, const QByteArray &text) {
                 QFile file(fixture.path("user.style"));
                 QVERIFY(file.open(QFile::ReadWrite));
@@ -80,23 +93,7 @@ private Q_SLOTS:
                 fixture.write("user.style", text);
             }));
     }
-
-    void everyWayOfSaving()
-    {
-        const auto &[save] = Rows<Save>::current();
-        const StyleFixture fixture;
-        const Setup setup(fixture.write("user.style", sheet(1)));
-        StyledBox box;
-        QCOMPARE(box.props().number("a"), 1.0);
-        QSignalSpy loads(&fixture.engine(), &StyleEngine::styleChanged);
-        for (int value = 2; value <= 4; ++value) { // still watching after each
-            save(fixture, sheet(value));
-            QTRY_COMPARE(box.props().number("a"), double(value));
-            QVERIFY(!loads.wait(120));
-            QCOMPARE(loads.count(), value - 1);
-        }
-        QCOMPARE(fixture.types, QStringList());
-    }
+    void everyWayOfSaving() { checkRow(); }
 
     void severalSavesAreOneLoad()
     {
@@ -154,42 +151,32 @@ private Q_SLOTS:
         QTRY_COMPARE(box.props().number("a"), 2.0);
     }
 
-    void directoryThatAppearsLater()
+    void missingSheetIsAwaited_data()
     {
-        const StyleFixture fixture;
-        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression(QStringLiteral("^CRITICAL: Style '.*' not found$")));
-        const Setup setup(fixture.url("later/on/user.style"));
-        StyledBox box;
-        QVERIFY(QDir().mkpath(fixture.path("later/on")));
-        QTest::qWait(120);
-        fixture.write("later/on/user.style", sheet(3));
-        QTRY_COMPARE(box.props().number("a"), 3.0);
-    }
-
-    void endlessFilesCountAsMissing_data()
-    {
-        const Rows<Save> row;
+        const auto row = rowsOf([this](const Save &make) {
+            StyleFixture fixture;
+            make(fixture, {});
+            QTest::ignoreMessage(QtCriticalMsg, QRegularExpression(QStringLiteral("^CRITICAL: Style '.*' not found$")));
+            const Setup setup(fixture.url("later/on/user.style"));
+            QCOMPARE(fixture.types, QStringList("styleSheetNotFound"));
+            QFile::remove(fixture.path("later/on/user.style"));
+            QVERIFY(QDir().mkpath(fixture.path("later/on")));
+            QTest::qWait(120);
+            fixture.write("later/on/user.style", sheet(2));
+            StyledBox box;
+            QTRY_COMPARE(box.props().number("a"), 2.0);
+        });
+        row("folder that appears later", Save([](const StyleFixture &, const QByteArray &) {}));
         row("pipe", Save([](const StyleFixture &fixture, const QByteArray &) {
-                QCOMPARE(mkfifo(qPrintable(fixture.path("user.style")), 0600), 0);
+                QVERIFY(QDir().mkpath(fixture.path("later/on")));
+                QCOMPARE(mkfifo(qPrintable(fixture.path("later/on/user.style")), 0600), 0);
             }));
         row("link to a device", Save([](const StyleFixture &fixture, const QByteArray &) {
-                QVERIFY(QFile::link("/dev/zero", fixture.path("user.style")));
+                QVERIFY(QDir().mkpath(fixture.path("later/on")));
+                QVERIFY(QFile::link("/dev/zero", fixture.path("later/on/user.style")));
             }));
     }
-
-    void endlessFilesCountAsMissing()
-    {
-        const auto &[make] = Rows<Save>::current();
-        StyleFixture fixture;
-        make(fixture, {});
-        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression(QStringLiteral("^CRITICAL: Style '.*' not found$")));
-        const Setup setup(fixture.url("user.style"));
-        QCOMPARE(fixture.types, QStringList("styleSheetNotFound"));
-        QVERIFY(QFile::remove(fixture.path("user.style")));
-        fixture.write("user.style", sheet(2));
-        StyledBox box;
-        QTRY_COMPARE(box.props().number("a"), 2.0);
-    }
+    void missingSheetIsAwaited() { checkRow(); }
 
     void tooLongSheetLeavesTheStyles()
     {

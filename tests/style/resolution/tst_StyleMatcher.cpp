@@ -73,7 +73,9 @@ class tst_StyleMatcher : public QObject
 private Q_SLOTS:
     void matches_data()
     {
-        const Rows<QString, QString, QStringList> row;
+        const auto row = rowsOf([](const QString &selectors, const QString &path, const QStringList &expected) {
+            QCOMPARE(matchesOf(sheetFrom(selectors + " { k: v }"), path), expected);
+        });
         row("type", "A, B", "A", {"A [0,0,1]"});
         row("only the innermost element is matched from the root", "A", "A/B", {});
         row("class alone", ".x", "A.y x", {".x [0,1,0]"});
@@ -100,16 +102,22 @@ private Q_SLOTS:
         row("every branch at the nearest ancestor", "A C, .x C, A.x C", "A.x/C",
             {"A C [0,0,2]", ".x C [0,1,1]", "A.x C [0,1,2]"});
     }
-
-    void matches()
-    {
-        const auto &[selectors, path, expected] = Rows<QString, QString, QStringList>::current();
-        QCOMPARE(matchesOf(sheetFrom(selectors + " { k: v }"), path), expected);
-    }
+    void matches() { checkRow(); }
 
     void wordsAreNoKeysOfTheTree_data()
     {
-        const Rows<QString, QString, QString> row;
+        const auto row = rowsOf([](const QString &typeName, const QString &name, const QString &state) {
+            const StyleSheet sheet = sheetFrom("A B, .x B, A::s B, .x, A::s, B.y { k: v }");
+            StylePathPool pool;
+            StyleResolver resolver(sheet);
+            const StylePathRef alone = pool.child({}, typeName, name, state);
+            QVERIFY(resolver.matches(*alone).empty());
+            QVERIFY(resolver.matches(*pool.child(alone, u"B", u"", u"")).empty());
+            // Nor do they lead from B to the element around.
+            const StylePathRef between = pool.child(pool.child({}, u"A", u"y", u""), typeName, name, state);
+            QCOMPARE(resolver.matches(*pool.child(between, u"B", u"", u"")),
+                     resolver.matches(*pathFrom(pool, "A.y/Other/B")));
+        });
         row("type spelt as a class", ".x", "", "");
         row("type spelt as a state", "::s", "", "");
         row("type spelt as the same-element step", "&", "", "");
@@ -117,21 +125,7 @@ private Q_SLOTS:
         row("class spelt as a state", "Z", "::s", "");
         row("no words at all", "", "", "");
     }
-
-    void wordsAreNoKeysOfTheTree()
-    {
-        const auto &[typeName, name, state] = Rows<QString, QString, QString>::current();
-        const StyleSheet sheet = sheetFrom("A B, .x B, A::s B, .x, A::s, B.y { k: v }");
-        StylePathPool pool;
-        StyleResolver resolver(sheet);
-        const StylePathRef alone = pool.child({}, typeName, name, state);
-        QVERIFY(resolver.matches(*alone).empty());
-        QVERIFY(resolver.matches(*pool.child(alone, u"B", u"", u"")).empty());
-        // Nor do they lead from B to the element around.
-        const StylePathRef between = pool.child(pool.child({}, u"A", u"y", u""), typeName, name, state);
-        QCOMPARE(resolver.matches(*pool.child(between, u"B", u"", u"")),
-                 resolver.matches(*pathFrom(pool, "A.y/Other/B")));
-    }
+    void wordsAreNoKeysOfTheTree() { checkRow(); }
 
     void repeatedWordsMatchByEachRoute()
     {

@@ -15,36 +15,21 @@ class tst_StylePath : public QObject
 private Q_SLOTS:
     void text_data()
     {
-        QTest::addColumn<QString>("typeName");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("state");
-        QTest::addColumn<QString>("expected");
-
-        const auto row = [](const char *rule, const char *name, const char *state, const char *expected) {
-            QTest::newRow(rule) << "RButton" << name << state << expected;
-        };
-        row("one class and one state", "red", "hovered", "RButton.red::hovered");
-        row("two of each", "red big", "hovered pressed", "RButton.{red,big}::{hovered,pressed}");
-        row("empty words are dropped", "  red  big ", " pressed hovered ", "RButton.{red,big}::{pressed,hovered}");
-        row("repeated words are kept", "red red", "", "RButton.{red,red}");
-        row("only blanks separate words", "red\tbig", "", "RButton.red\tbig");
-        QTest::newRow("no type") << ""
-                                 << "red"
-                                 << ""
-                                 << ".red";
+        const auto row =
+            rowsOf([](const QString &typeName, const QString &name, const QString &state, const QString &expected) {
+                StylePathPool pool;
+                const StylePathRef panel = pool.child({}, u"RPanel", u"", u"");
+                QCOMPARE(pool.child({}, typeName, name, state)->text(), expected);
+                QCOMPARE(pool.child(panel, typeName, name, state)->text(), "RPanel/" + expected);
+            });
+        row("one class and one state", "B", "red", "hovered", "B.red::hovered");
+        row("two of each", "B", "red big", "hovered pressed", "B.{red,big}::{hovered,pressed}");
+        row("empty words are dropped", "B", "  red  big ", " pressed hovered ", "B.{red,big}::{pressed,hovered}");
+        row("repeated words are kept", "B", "red red", "", "B.{red,red}");
+        row("only blanks separate words", "B", "red\tbig", "", "B.red\tbig");
+        row("no type", "", "red", "", ".red");
     }
-
-    void text()
-    {
-        QFETCH(QString, typeName);
-        QFETCH(QString, name);
-        QFETCH(QString, state);
-        QFETCH(QString, expected);
-        StylePathPool pool;
-        const StylePathRef panel = pool.child({}, u"RPanel", u"", u"");
-        QCOMPARE(pool.child({}, typeName, name, state)->text(), expected);
-        QCOMPARE(pool.child(panel, typeName, name, state)->text(), "RPanel/" + expected);
-    }
+    void text() { checkRow(); }
 
     void parts()
     {
@@ -62,7 +47,12 @@ private Q_SLOTS:
 
     void equalPathsAreOne_data()
     {
-        const Rows<QString, QString, bool> row;
+        const auto row = rowsOf([](const QString &a, const QString &b, bool equal) {
+            StylePathPool pool;
+            const StylePathRef first = pathFrom(pool, a);
+            QCOMPARE(pathFrom(pool, b) == first, equal);
+            QVERIFY(pathFrom(pool, a) == first);
+        });
         row("blanks only", "A/B.x y::z", "A/B.  x y ::z ", true);
         row("order of classes", "A.x y", "A.y x", false);
         row("order of states", "A::x y", "A::y x", false);
@@ -74,15 +64,7 @@ private Q_SLOTS:
         row("other depth", "A", "A/A", false);
         row("case matters", "A.x", "a.x", false);
     }
-
-    void equalPathsAreOne()
-    {
-        const auto &[a, b, equal] = Rows<QString, QString, bool>::current();
-        StylePathPool pool;
-        const StylePathRef first = pathFrom(pool, a);
-        QCOMPARE(pathFrom(pool, b) == first, equal);
-        QVERIFY(pathFrom(pool, a) == first);
-    }
+    void equalPathsAreOne() { checkRow(); }
 
     void longerListsOfWordsDiffer()
     {
@@ -156,7 +138,9 @@ private Q_SLOTS:
 
     void typeName_data()
     {
-        const Rows<QString> row;
+        const auto row = rowsOf([](const QString &expected) {
+            QCOMPARE(styleTypeName(QByteArrayView(QTest::currentDataTag())), expected);
+        });
         row("RButton_QMLTYPE_42", "RButton");
         row("RButton_QML_7", "RButton");
         row("RButton_QMLTYPE_42_QML_7", "RButton");
@@ -169,12 +153,7 @@ private Q_SLOTS:
         row("A_QML_QMLTYPE_3", "A_QML");
         row("", "");
     }
-
-    void typeName()
-    {
-        const auto &[expected] = Rows<QString>::current();
-        QCOMPARE(styleTypeName(QByteArrayView(QTest::currentDataTag())), expected);
-    }
+    void typeName() { checkRow(); }
 };
 
 template struct TestClass<tst_StylePath>;

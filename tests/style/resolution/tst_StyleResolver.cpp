@@ -34,7 +34,9 @@ class tst_StyleResolver : public QObject
 private Q_SLOTS:
     void winner_data()
     {
-        const Rows<QString, QString, QString> row;
+        const auto row = rowsOf([](const QString &sheet, const QString &path, const QString &expected) {
+            QCOMPARE(resolved(sheetFrom(sheet), path), expected);
+        });
         row("a state beats many classes", "A::s { k: state }\nA.x.y.z { k: classes }", "A.x y z::s", "k=state");
         row("a class beats many types", ".x { k: class }\nA B C { k: types }", "A/B/C.x", "k=class");
         row("later column wins", "A.x { k: 1 } A.y { k: 2 }", "A.y x", "k=2");
@@ -44,24 +46,28 @@ private Q_SLOTS:
         row("later declaration of a block", "A { k: 1; k: 2 }", "A", "k=2");
         row("names are merged in order", "A { m: 1; k: 1 }\nA.x { l: 2 }", "A.x", "k=1 l=2 m=1");
         row("each name on its own", "A.x { k: 1; l: 1 }\nA.y { l: 2; m: 2 }", "A.x y", "k=1 l=2 m=2");
-    }
 
-    void winner()
-    {
-        const auto &[sheet, path, expected] = Rows<QString, QString, QString>::current();
-        QCOMPARE(resolved(sheetFrom(sheet), path), expected);
-    }
-
-    void positionsCountAgainstALessSpecificMatch()
-    {
         // The second of two equally specific matches is held against the type's declaration, which stands later.
         const QString twoClasses = ".x { l: x }\n.y { k: y }\nA { k: type }";
-        QCOMPARE(resolved(sheetFrom(twoClasses), "A.x y"), "k=type l=x");
-        // On its own it is the first match of its specificity and wins as it should.
-        QCOMPARE(resolved(sheetFrom(twoClasses), "A.y"), "k=y");
-        // Standing later, it wins in either case.
-        QCOMPARE(resolved(sheetFrom("A { k: type }\n.x { l: x }\n.y { k: y }"), "A.x y"), "k=y l=x");
+        row("second of two classes against a later type", twoClasses, "A.x y", "k=type l=x");
+        row("first match of its specificity against a later type", twoClasses, "A.y", "k=y");
+        row("second of two classes, which stands later", "A { k: type }\n.x { l: x }\n.y { k: y }", "A.x y", "k=y l=x");
+
+        // The order of the words does not matter, even when two selectors of one rule share their first declaration.
+        const QString shared = "A.x, A.y { l: both }\nA.x { k: x }\nA { k: type }";
+        for (const char *path : {"A.y x", "A.x y"})
+            row(path, shared, path, "k=type l=both");
+        const QString threeClasses = "A.z { k: z; l: z }\nA.y { k: y }\nA { l: type; m: type }\nA.x { m: x }";
+        for (const char *path : {"A.x y z", "A.x z y", "A.y x z", "A.y z x", "A.z x y", "A.z y x", "A.z z y x x"})
+            row(path, threeClasses, path, "k=y l=z m=x");
+
+        const QString nested = "A { k: a; l: a } A.x { k: x } B { l: b; a: b; z: b } C { k: c }";
+        row("nearer definition wins", nested, "A/B", "a=b k=a l=b z=b");
+        row("through elements without rules", nested, "A/X/B/X/C", "a=b k=c l=b z=b");
+        row("nearer though less specific", nested, "A.x/B", "a=b k=x l=b z=b");
+        row("whatever the selector looks at", nested, "B/A", "a=b k=a l=a z=b");
     }
+    void winner() { checkRow(); }
 
     void samePositionKeepsTheFirst()
     {
@@ -87,37 +93,6 @@ private Q_SLOTS:
         QCOMPARE(resolved(StyleSheet::merged(user, base), "A.x y"), "k=base");
         // Otherwise the position decides, whichever sheet it is in.
         QCOMPARE(resolved(StyleSheet::merged(sheetFrom("\nA.x { k: base }"), user), "A.x y"), "k=base");
-    }
-
-    void orderOfClassWordsDoesNotMatter()
-    {
-        const StyleSheet sheet = sheetFrom("A.z { k: z; l: z }\nA.y { k: y }\nA { l: type; m: type }\nA.x { m: x }");
-        const QString expected = resolved(sheet, "A.x y z");
-        QCOMPARE(expected, "k=y l=z m=x");
-        for (const char *path : {"A.x z y", "A.y x z", "A.y z x", "A.z x y", "A.z y x", "A.z z y x x"})
-            QCOMPARE(resolved(sheet, path), expected);
-
-        // Two selectors of one rule have their first declaration in common, which must not leave the order to the
-        // words.
-        const StyleSheet shared = sheetFrom("A.x, A.y { l: both }\nA.x { k: x }\nA { k: type }");
-        QCOMPARE(resolved(shared, "A.y x"), "k=type l=both");
-        QCOMPARE(resolved(shared, "A.x y"), "k=type l=both");
-    }
-
-    void inheritance_data()
-    {
-        const Rows<QString, QString> row;
-        row("nearer definition wins", "A/B", "a=b k=a l=b z=b");
-        row("through elements without rules", "A/X/B/X/C", "a=b k=c l=b z=b");
-        row("nearer though less specific", "A.x/B", "a=b k=x l=b z=b");
-        row("whatever the selector looks at", "B/A", "a=b k=a l=a z=b");
-    }
-
-    void inheritance()
-    {
-        const auto &[path, expected] = Rows<QString, QString>::current();
-        QCOMPARE(resolved(sheetFrom("A { k: a; l: a } A.x { k: x } B { l: b; a: b; z: b } C { k: c }"), path),
-                 expected);
     }
 
     void elementWithoutMatchSharesTheParentsMap()

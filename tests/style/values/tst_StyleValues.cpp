@@ -66,7 +66,9 @@ private Q_SLOTS:
     void colors_data()
     {
         // expected: 0xAARRGGBB
-        const Rows<QString, QRgb> row;
+        const auto row = rowsOf([](const QString &value, QRgb expected) {
+            QCOMPARE(QString::number(colorFrom(valueOf(value)).rgba(), 16), QString::number(expected, 16));
+        });
         row("rgb", "rgb(0, 86, 145)", 0xff005691u);
         row("rgb clamps and takes percentages", "rgb(300, -5, 50%)", 0xffff0080u);
         row("rgb percentages may have decimals and clamp", "rgb(0.4%, 250%, -1%)", 0xff01ff00u);
@@ -87,19 +89,13 @@ private Q_SLOTS:
         row("eight digits begin with alpha", "#20000000", 0x20000000u);
         row("name", "white", 0xffffffffu);
     }
-
-    void colors()
-    {
-        const auto &[value, expected] = Rows<QString, QRgb>::current();
-        QCOMPARE(QString::number(colorFrom(valueOf(value)).rgba(), 16), QString::number(expected, 16));
-    }
+    void colors() { checkRow(); }
 
     void failures_data()
     {
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("message");
-
-        const auto wrong = [](const char *value, const char *message) { QTest::newRow(value) << value << message; };
+        const auto wrong = rowsOf([](const QString &message) {
+            QCOMPARE(faultOf([] { colorFrom(valueOf(QTest::currentDataTag())); }), message);
+        });
         wrong("rgb(1, 2)", "rgb() expression expects 3 arguments");
         wrong("rgb()", "rgb() expression expects 3 arguments");
         wrong("rgba(1, 2, 3)", "rgba() expression expects 4 arguments");
@@ -120,13 +116,7 @@ private Q_SLOTS:
         wrong("12", "Not a color expression '12'");
         wrong("#12", "Not a color expression '#12'");
     }
-
-    void failures()
-    {
-        QFETCH(QString, value);
-        QFETCH(QString, message);
-        QCOMPARE(faultOf([&] { colorFrom(valueOf(value)); }), message);
-    }
+    void failures() { checkRow(); }
 
     void hueOfAFullCircle()
     {
@@ -136,18 +126,14 @@ private Q_SLOTS:
 
     void addresses_data()
     {
-        const Rows<QString, QUrl> row;
+        const auto row =
+            rowsOf([](const QString &value, const QUrl &expected) { QCOMPARE(urlFrom(valueOf(value)), expected); });
         row("resource", "url(qrc:/a/b.png)", QUrl("qrc:/a/b.png"));
         row("blanks are tolerated", "url(file:///x y.ttf)", QUrl::fromLocalFile("/x y.ttf"));
         row("text", "icons/open.svg", QUrl("icons/open.svg"));
         row("empty text", "", QUrl());
     }
-
-    void addresses()
-    {
-        const auto &[value, expected] = Rows<QString, QUrl>::current();
-        QCOMPARE(urlFrom(valueOf(value)), expected);
-    }
+    void addresses() { checkRow(); }
 
     void plainValues()
     {
@@ -167,11 +153,15 @@ private Q_SLOTS:
 
     void numbers_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("valid");
-        QTest::addColumn<double>("expected");
-
-        const auto number = [](const char *text, double value) { QTest::newRow(text) << text << true << value; };
+        const auto number = rowsOf([](const std::optional<double> &expected) {
+            const std::string text = QTest::currentDataTag();
+            QCOMPARE(strictDouble(text), expected);
+            QCOMPARE(strictFloat(text).has_value(), expected.has_value());
+            if (expected)
+                QCOMPARE(numberFrom(text), *expected);
+            else
+                QCOMPARE(faultOf([&] { numberFrom(text); }), QString::fromStdString("Not a number '" + text + "'"));
+        });
         number("0", 0.0);
         number("-12.25", -12.25);
         number("+1", 1.0);
@@ -180,22 +170,9 @@ private Q_SLOTS:
         number("25e-1", 2.5);
         for (const char *text : {"", " 1", "1 ", "1,5", "1.000,5", "1'000", "50%", "12px", "0x10", "nan", "inf", "-inf",
                                  "+-1", "--1", "+", "-", "e5", "1e999", "one"})
-            QTest::newRow(*text ? text : "empty") << text << false << 0.0;
+            number(text, {});
     }
-
-    void numbers()
-    {
-        QFETCH(QString, text);
-        QFETCH(bool, valid);
-        QFETCH(double, expected);
-        const std::string bytes = text.toStdString();
-        QCOMPARE(strictDouble(bytes).has_value(), valid);
-        QCOMPARE(strictFloat(bytes).has_value(), valid);
-        if (valid)
-            QCOMPARE(numberFrom(bytes), expected);
-        else
-            QCOMPARE(faultOf([&] { numberFrom(bytes); }), "Not a number '" + text + "'");
-    }
+    void numbers() { checkRow(); }
 
     void numbersUnderACommaLocale()
     {
@@ -212,7 +189,14 @@ private Q_SLOTS:
     void fonts_data()
     {
         // pixelSize: -1 when the size is in points
-        const Rows<QString, QString, int, QFont::Style, int> row;
+        const auto row = rowsOf(
+            [](const QString &text, const QString &family, int weight, const QFont::Style &style, int pixelSize) {
+                const QFont font = fontFromText(text.toStdString());
+                QCOMPARE(font.family(), family);
+                QCOMPARE(int(font.weight()), weight);
+                QCOMPARE(font.style(), style);
+                QCOMPARE(font.pixelSize(), pixelSize);
+            });
         row("family, weight and size", "Brack Office Sans bold 14px", "Brack Office Sans", 700, QFont::StyleNormal, 14);
         row("any order", "14px italic Brack black Sans", "Brack Sans", 900, QFont::StyleItalic, 14);
         row("first word of a group counts", "demibold Brack bold", "Brack bold", 600, QFont::StyleNormal, -1);
@@ -226,17 +210,7 @@ private Q_SLOTS:
         row("runs of blanks", "  Brack \t  Sans  bold ", "Brack Sans", 700, QFont::StyleNormal, -1);
         row("a tab alone does not separate", "Brack\tbold", "Brack\tbold", 400, QFont::StyleNormal, -1);
     }
-
-    void fonts()
-    {
-        const auto &[text, family, weight, style, pixelSize] =
-            Rows<QString, QString, int, QFont::Style, int>::current();
-        const QFont font = fontFromText(text.toStdString());
-        QCOMPARE(font.family(), family);
-        QCOMPARE(int(font.weight()), weight);
-        QCOMPARE(font.style(), style);
-        QCOMPARE(font.pixelSize(), pixelSize);
-    }
+    void fonts() { checkRow(); }
 
     void fontDefaults()
     {
