@@ -5,6 +5,8 @@
 #include "base/PendingValue.h"
 #include "base/StyleTypeName.h"
 #include "controls/ButtonInterface.h"
+#include "style/StyleSet.h"
+#include "style/StyleSetProps.h"
 
 #include <QtCore/QSet>
 #include <QtGui/QGuiApplication>
@@ -15,6 +17,8 @@
 #include <QtQml/QQmlEngine>
 #include <QtQml/qqml.h>
 #include <QtQuickTemplates2/private/qquickabstractbutton_p_p.h>
+
+#include <utility>
 
 namespace tamble::client {
 
@@ -66,6 +70,12 @@ RButtonBase::RButtonBase(QQuickItem *parent)
     : QQuickAbstractButton(*new RButtonBasePrivate, parent)
 {}
 
+RButtonBase::~RButtonBase()
+{
+    if (m_styleSet)
+        m_styleSet->setFollower(nullptr);
+}
+
 void RButtonBase::setSelectable(bool selectable)
 {
     if (m_selectable == selectable)
@@ -106,6 +116,54 @@ void RButtonBase::setLiteralText(bool literal)
 QString RButtonBase::plainText() const
 {
     return m_literalText ? text() : withoutMnemonic(text());
+}
+
+template <typename Value>
+Value RButtonBase::followed(std::optional<Value> &known, Value (StyleSetProps::*read)())
+{
+    if (!m_styleSet) {
+        m_styleSet = static_cast<StyleSet *>(qmlAttachedPropertiesObject<StyleSet>(this));
+        m_styleSet->setFollower(this);
+    }
+    if (!known)
+        known = (m_styleSet->props()->*read)();
+    return *known;
+}
+
+QColor RButtonBase::sheetBackground()
+{
+    return followed(m_sheetBackground, &StyleSetProps::background);
+}
+
+QColor RButtonBase::sheetColor()
+{
+    return followed(m_sheetColor, &StyleSetProps::foreground);
+}
+
+QColor RButtonBase::sheetLineColor()
+{
+    return followed(m_sheetLineColor, &StyleSetProps::line);
+}
+
+bool RButtonBase::sheetLineVisible()
+{
+    return followed(m_sheetLineVisible, &StyleSetProps::lineVisible);
+}
+
+void RButtonBase::onStyleChanged()
+{
+    StyleSetProps &props = *m_styleSet->props();
+    const auto update = [&](auto &known, auto read, auto changed) {
+        if (!known)
+            return;
+        const auto value = (props.*read)();
+        if (std::exchange(*known, value) != value)
+            Q_EMIT(this->*changed)();
+    };
+    update(m_sheetBackground, &StyleSetProps::background, &RButtonBase::sheetBackgroundChanged);
+    update(m_sheetColor, &StyleSetProps::foreground, &RButtonBase::sheetColorChanged);
+    update(m_sheetLineColor, &StyleSetProps::line, &RButtonBase::sheetLineColorChanged);
+    update(m_sheetLineVisible, &StyleSetProps::lineVisible, &RButtonBase::sheetLineVisibleChanged);
 }
 
 bool RButtonBase::event(QEvent *event)

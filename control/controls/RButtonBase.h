@@ -1,23 +1,28 @@
 #pragma once
 
 #include "base/ControlExport.h"
+#include "style/StyleFollower.h"
 
 #include <QtGui/QAccessible>
 #include <QtGui/QColor>
 #include <QtQml/qqmlregistration.h>
 #include <QtQuickTemplates2/private/qquickabstractbutton_p.h>
 
+#include <optional>
+
 namespace tamble::client {
 
 class PendingValue;
 class RButtonBasePrivate;
+class StyleSet;
+class StyleSetProps;
 
 /// The behaviour of all buttons: selection, which is not the template's check state, "mixed", Enter, and mnemonics.
 /// ButtonInterface tells assistive tools about it.
 ///
 /// Keys: Space presses, and clicks when it is released; Enter clicks when it is released, unless `enterClicks` is
 /// false. Esc lets go of a held Space without a click. Alt and the letter behind "&" click.
-class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton
+class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton, private StyleFollower
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RButtonBase)
@@ -33,17 +38,24 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton
     Q_PROPERTY(bool enterClicks MEMBER m_enterClicks NOTIFY enterClicksChanged FINAL)
     Q_PROPERTY(bool literalText READ literalText WRITE setLiteralText NOTIFY literalTextChanged FINAL)
     Q_PROPERTY(QString plainText READ plainText NOTIFY plainTextChanged FINAL)
-    // Bound to the style set in QML. As native properties they are read and written by compiled bindings at half the
-    // cost of ones declared there, and a change of theme does both for every button.
+    // Bound in QML to what the sheets say. As native properties they are read and written by compiled bindings at half
+    // the cost of ones declared there, and a change of theme does both for every button.
     /// Of the style: `ssBackground`, `ssColor` of the text, `ssLineColor` and `ssLineVisible` of the bar along the
     /// edge.
     Q_PROPERTY(QColor ssBackground MEMBER m_ssBackground NOTIFY ssBackgroundChanged)
     Q_PROPERTY(QColor ssColor MEMBER m_ssColor NOTIFY ssColorChanged)
     Q_PROPERTY(QColor ssLineColor MEMBER m_ssLineColor NOTIFY ssLineColorChanged)
     Q_PROPERTY(bool ssLineVisible MEMBER m_ssLineVisible NOTIFY ssLineVisibleChanged)
+    // Each tells its own changes, whereas `RStyleSet.props` wakes the bindings to all of its values.
+    /// What the sheets say for these: `sheetBackground`, `sheetColor`, `sheetLineColor`, `sheetLineVisible`.
+    Q_PROPERTY(QColor sheetBackground READ sheetBackground NOTIFY sheetBackgroundChanged FINAL)
+    Q_PROPERTY(QColor sheetColor READ sheetColor NOTIFY sheetColorChanged FINAL)
+    Q_PROPERTY(QColor sheetLineColor READ sheetLineColor NOTIFY sheetLineColorChanged FINAL)
+    Q_PROPERTY(bool sheetLineVisible READ sheetLineVisible NOTIFY sheetLineVisibleChanged FINAL)
 
 public:
     explicit RButtonBase(QQuickItem *parent = nullptr);
+    ~RButtonBase() override;
 
     /// Whether a click turns `selected` over, showing the edit for 300 ms before a bound value counts again; false by
     /// default.
@@ -59,6 +71,11 @@ public:
     void setLiteralText(bool literal);
     /// `text` as it is shown: without the mark of its mnemonic.
     QString plainText() const;
+
+    QColor sheetBackground();
+    QColor sheetColor();
+    QColor sheetLineColor();
+    bool sheetLineVisible();
 
     /// Clicks, as letting the pointer go does; a disabled button does nothing.
     void click();
@@ -78,6 +95,10 @@ Q_SIGNALS:
     void ssColorChanged();
     void ssLineColorChanged();
     void ssLineVisibleChanged();
+    void sheetBackgroundChanged();
+    void sheetColorChanged();
+    void sheetLineColorChanged();
+    void sheetLineVisibleChanged();
     /// A click has edited the selection; sent before clicked().
     void selectionEdited(bool selected);
     /// Enter was released while `useCustomEvent` is set; no clicked() is sent then.
@@ -95,6 +116,10 @@ protected:
 private:
     Q_DECLARE_PRIVATE(RButtonBase)
 
+    template <typename Value>
+    Value followed(std::optional<Value> &known, Value (StyleSetProps::*read)());
+    void onStyleChanged() override;
+
     bool takesBack(const QKeyEvent &event) const;
     void useText();
     void clickOncePerKey();
@@ -103,6 +128,11 @@ private:
     void warnAboutMissingName() const;
 
     PendingValue *m_pendingSelection = nullptr; // a child, made at the first click that edits
+    StyleSet *m_styleSet = nullptr;             // the attached one, once it is followed
+    std::optional<QColor> m_sheetBackground;    // these four: empty until asked for
+    std::optional<QColor> m_sheetColor;
+    std::optional<QColor> m_sheetLineColor;
+    std::optional<bool> m_sheetLineVisible;
     QColor m_ssBackground;
     QColor m_ssColor;
     QColor m_ssLineColor;

@@ -162,7 +162,7 @@ void StyleSet::placeAnew()
     takePath(std::move(path));
     if (m_props)
         followProps();
-    Q_EMIT propsChanged();
+    onPropsChanged();
     Q_EMIT pathChanged();
     if (isRooted(m_path.get()))
         propagate();
@@ -195,6 +195,13 @@ void StyleSet::followProps()
     unlink();
     m_props = StyleEngine::instance()->propsFor(stylePath());
     m_props->addUser(*this);
+}
+
+void StyleSet::onPropsChanged()
+{
+    if (m_follower)
+        m_follower->onStyleChanged();
+    Q_EMIT propsChanged();
 }
 
 // Handlers of one descendant's change may destroy or move another.

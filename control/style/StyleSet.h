@@ -3,6 +3,7 @@
 #include "base/ControlExport.h"
 #include "style/PropsUser.h"
 #include "style/StateHelper.h"
+#include "style/StyleFollower.h"
 #include "style/StyleSetProps.h"
 #include "style/resolution/StylePath.h"
 
@@ -68,6 +69,10 @@ public:
 
     const StylePathRef &stylePath();
 
+    /// Who is told of each change before propsChanged() is sent: one at the most, null for none. A connection would
+    /// take 400 bytes for every item.
+    void setFollower(StyleFollower *follower) { m_follower = follower; }
+
 public Q_SLOTS:
     /// Places the item anew below its new parent; no parent leaves it as it was.
     void onParentChanged(QQuickItem *pNewParent);
@@ -87,7 +92,7 @@ private:
     StylePathRef makePath() const;
     void takePath(StylePathRef path);
     void followProps();
-    void onPropsChanged() override { Q_EMIT propsChanged(); }
+    void onPropsChanged() override;
     void propagate();
 
     QString m_name;
@@ -95,8 +100,9 @@ private:
     QString m_state;
     StylePathRef m_path;                                // null until somebody needs it
     std::shared_ptr<UsageCountedStyleSetProps> m_props; // null until somebody reads a value
-    StateHelper *m_stateHelper = nullptr;               // a child, made when it is first used
-    std::unique_ptr<ItemListener> m_listener;           // null when attached to another object than an item
+    StyleFollower *m_follower = nullptr;
+    StateHelper *m_stateHelper = nullptr;     // a child, made when it is first used
+    std::unique_ptr<ItemListener> m_listener; // null when attached to another object than an item
     bool m_followsWindow = false;
 };
 

@@ -14,10 +14,10 @@ RButtonBase {
     property alias backgroundRect: back
     property alias line: back.line
 
-    ssBackground: root.RStyleSet.props.background
-    ssColor: root.RStyleSet.props.foreground
-    ssLineColor: root.RStyleSet.props.line
-    ssLineVisible: root.RStyleSet.props.lineVisible
+    ssBackground: root.sheetBackground
+    ssColor: root.sheetColor
+    ssLineColor: root.sheetLineColor
+    ssLineVisible: root.sheetLineVisible
 
     RStyleSet.stateHelper.hovered: root.hovered
     RStyleSet.stateHelper.pressed: root.down
