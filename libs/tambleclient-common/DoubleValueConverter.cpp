@@ -149,7 +149,7 @@ QString DoubleValueConverter::toText(const QVariant &value) const
         return *entry;
     if (const QString bound = boundText(*number); !bound.isEmpty())
         return bound;
-    return numberText(*number * m_factor + m_offset);
+    return numberText(shownNumber(*number));
 }
 
 QVariant DoubleValueConverter::fromText(const QString &text) const
@@ -172,8 +172,32 @@ QVariant DoubleValueConverter::fromText(const QString &text) const
         return {};
     if (m_factor == 1 && m_offset == 0)
         return *shown;
-    const double value = withoutNoise((*shown - m_offset) / m_factor);
+    const double value = valueShownAs(*shown);
     return std::isfinite(value) ? QVariant(value) : QVariant();
+}
+
+// The quotient is rounded, and without noise to 15 digits. Shown again it may differ in the last digit of a long text,
+// or in more where the offset leaves little of the number; then one of its neighbours is meant.
+double DoubleValueConverter::valueShownAs(double shown) const
+{
+    constexpr int farthestNeighbour = 4;
+    const QString text = numberText(shown);
+    const auto isShown = [this, &text](double value) { return numberText(shownNumber(value)) == text; };
+
+    double above = (shown - m_offset) / m_factor;
+    double below = above;
+    const double tidy = withoutNoise(above);
+    if (isShown(tidy))
+        return tidy;
+    for (int i = 0; i <= farthestNeighbour; ++i) {
+        for (const double value : {above, below}) {
+            if (isShown(value))
+                return value;
+        }
+        above = std::nextafter(above, std::numeric_limits<double>::infinity());
+        below = std::nextafter(below, -std::numeric_limits<double>::infinity());
+    }
+    return tidy;
 }
 
 bool DoubleValueConverter::isScaleUsable() const
@@ -203,6 +227,11 @@ QString DoubleValueConverter::boundText(double value) const
     if (value <= lowerBound() && !m_minimumText.isEmpty())
         return m_minimumText;
     return value >= upperBound() ? m_maximumText : QString();
+}
+
+double DoubleValueConverter::shownNumber(double value) const
+{
+    return value * m_factor + m_offset;
 }
 
 QString DoubleValueConverter::numberText(double shown) const

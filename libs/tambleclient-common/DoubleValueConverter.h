@@ -80,6 +80,8 @@ public:
     /// U+221E, for minimum or maximum, which change places while factor is negative; a number with ".", "," or
     /// decimalPoint. Prefix, a "k" for thousands, and unit are optional, blanks around each do not count, case does not
     /// matter.
+    ///
+    /// A number that toText() wrote is read as a value with that same text, unless an entry or a bound takes it.
     QVariant fromText(const QString &text) const override;
 
 Q_SIGNALS:
@@ -100,7 +102,9 @@ private:
     double upperBound() const;
     QChar point() const;
     QString boundText(double value) const;
+    double shownNumber(double value) const;
     QString numberText(double shown) const;
+    double valueShownAs(double shown) const;
     std::optional<double> boundValue(QStringView text) const;
 
     int m_decimals = 1;

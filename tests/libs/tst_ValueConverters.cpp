@@ -1,3 +1,4 @@
+#include "random/Random.h"
 #include "support/Numbers.h"
 #include "support/Rows.h"
 #include "support/TestProgram.h"
@@ -8,6 +9,7 @@
 #include <QLocale>
 #include <QUrl>
 
+#include <array>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -47,6 +49,42 @@ void compareReading()
     // Exactly: a device value must not creep with each edit.
     QVERIFY2(value.toDouble() == expected.toDouble(), qPrintable(QString::number(value.toDouble(), 'g', 17)));
     QCOMPARE(converter.accepts(text), expected.isValid());
+}
+
+/// Uniform in 0…1, all bits of the mantissa being random.
+double fraction(Random &random)
+{
+    const double low = double(random.below(1U << 26)) * 0x1p-26;
+    return (double(random.below(1U << 27)) + low) * 0x1p-27;
+}
+
+/// Of either sign and any usual magnitude; half of the numbers have few digits.
+double anyNumber(Random &random)
+{
+    const double digits = random.oneIn(2) ? double(random.below(2000)) / 16 : 10 * fraction(random);
+    const double number = digits * std::pow(10, double(random.below(40)) - 18);
+    return random.oneIn(2) ? -number : number;
+}
+
+/// A converter with some scale and some way of writing, and a value for it.
+double anyConversion(Random &random, DoubleValueConverter &converter)
+{
+    static const std::array factors{1.0, 1.0, -1.0, 0.1, 1.8, 3.0, 100.0, 1000.0, 0.001, -0.7, 1.0 / 3.0, 8.6858896};
+    static const std::array<const char *, 5> units{"", "dB", "Hz", "k", "\u00B0F"};
+    const double value = anyNumber(random);
+    const double factor = random.oneIn(3) ? anyNumber(random) : random.oneOf(factors);
+    // Offsets close to what they are added to leave hardly anything.
+    const std::array offsets{0.0, 32.0, -273.15, anyNumber(random), -value * factor * (1 + 1e-9 * fraction(random))};
+
+    converter.setDecimals(int(random.below(16)));
+    converter.setFactor(factor);
+    converter.setOffset(random.oneOf(offsets));
+    converter.setKilo(random.oneIn(3));
+    converter.setPlusSign(random.oneIn(3));
+    converter.setDecimalPoint(random.oneIn(2) ? u","_s : u"."_s);
+    converter.setUnit(QString::fromUtf8(random.oneOf(units)));
+    converter.setPrefix(random.oneIn(4) ? u"~"_s : QString());
+    return value;
 }
 
 /// A client's own converter: names channels.
@@ -266,6 +304,25 @@ private Q_SLOTS:
         row("reversed", {{u"factor"_s, -0.7}, {u"decimals"_s, 2}, {u"decimalPoint"_s, u","_s}});
     }
     void textSurvivesReading() { checkRow(); }
+
+    void anyTextSurvivesReading()
+    {
+        Random random(1);
+        int failures = 0;
+        for (int i = 0; i < 60'000; ++i) {
+            DoubleValueConverter converter;
+            const double value = anyConversion(random, converter);
+            const QString text = converter.toText(value);
+            const QString again = converter.toText(converter.fromText(text));
+            if (text == again || ++failures > 10)
+                continue;
+            qWarning().noquote() << QString::number(value, 'g', 17) << '*'
+                                 << QString::number(converter.factor(), 'g', 17) << '+'
+                                 << QString::number(converter.offset(), 'g', 17) << "with" << converter.decimals()
+                                 << "decimals:" << text << "then" << again;
+        }
+        QCOMPARE(failures, 0);
+    }
 
     void displayTextFollowsEachProperty_data()
     {
