@@ -29,6 +29,7 @@ set(TAMBLE_PUBLIC_HEADERS
     # Fields and lists.
     screen/RMessageBox.h
     models/RSortFilterProxyModel.h
+    fields/FieldReason.h
     fields/RStringRuleValidator.h
     fields/RStringRuleValidatorRule.h
     fields/RTextFieldDoubleValidator.h

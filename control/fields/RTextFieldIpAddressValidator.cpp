@@ -18,4 +18,9 @@ void RTextFieldIpAddressValidator::fixup(QString &text) const
     text = text.trimmed();
 }
 
+QString RTextFieldIpAddressValidator::message(const QString &text) const
+{
+    return checkIpAddress(text) == Acceptable ? QString() : tr("Enter an address such as 192.168.1.10");
+}
+
 } // namespace tamble::client

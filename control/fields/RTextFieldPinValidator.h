@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ControlExport.h"
+#include "fields/FieldReason.h"
 
 #include <QtGui/QValidator>
 #include <QtQml/qqmlregistration.h>
@@ -10,7 +11,7 @@ namespace tamble::client {
 /// Numeric codes of `minimumLength` (4) to `maximumLength` (8) digits.
 ///
 /// With `trivialAllowed` false, one repeated digit and runs up or down by one are not accepted.
-class TAMBLE_CLIENT_CONTROL_EXPORT RTextFieldPinValidator : public QValidator
+class TAMBLE_CLIENT_CONTROL_EXPORT RTextFieldPinValidator : public QValidator, public FieldReason
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RTextFieldPinValidator)
@@ -25,7 +26,7 @@ public:
 
     State validate(QString &text, int &cursor) const override;
     /// Why a text is not accepted, for the user; empty when it is.
-    Q_INVOKABLE QString message(const QString &text) const;
+    Q_INVOKABLE QString message(const QString &text) const override;
 
 Q_SIGNALS:
     void minimumLengthChanged();

@@ -1,3 +1,4 @@
+#include "fields/RStringRuleValidator.h"
 #include "fields/RTextFieldDoubleValidator.h"
 #include "fields/RTextFieldIntValidator.h"
 #include "fields/RTextFieldIpAddressValidator.h"
@@ -6,6 +7,9 @@
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
+#include <memory>
+
+using namespace Qt::StringLiterals;
 using namespace tamble::client;
 
 namespace {
@@ -16,9 +20,28 @@ QValidator::State stateOf(const QValidator &validator, QString text)
     return validator.validate(text, cursor);
 }
 
+using Properties = QVariantMap;
+
+template <typename Validator>
+std::unique_ptr<QValidator> made(const Properties &properties)
+{
+    auto validator = std::make_unique<Validator>();
+    for (auto property = properties.begin(); property != properties.end(); ++property)
+        validator->setProperty(qPrintable(property.key()), property.value());
+    return validator;
+}
+
+using Rule = RStringRuleValidatorRule;
+
+Properties stringRule(Rule::Type rule, Properties others = {})
+{
+    others.insert(u"rule"_s, int(rule));
+    return others;
+}
+
 } // namespace
 
-class tst_FieldValidators : public QObject
+class tst_FieldValidators : public QuietTest
 {
     Q_OBJECT
 
@@ -115,14 +138,98 @@ private Q_SLOTS:
     }
     void pins() { checkRow(); }
 
-    void pinMessages()
+    void strings_data()
     {
-        RTextFieldPinValidator validator;
-        validator.setProperty("trivialAllowed", false);
-        QCOMPARE(validator.message(QStringLiteral("12")), QStringLiteral("Enter 4 to 8 digits"));
-        QCOMPARE(validator.message(QStringLiteral("1111")), QStringLiteral("This PIN is too easy to guess"));
-        QCOMPARE(validator.message(QStringLiteral("1470")), QString());
+        const auto row = rowsOf([](const Properties &properties, const QString &text, const QValidator::State &state) {
+            QCOMPARE(stateOf(*made<RStringRuleValidator>(properties), text), state);
+        });
+        row("any by default", {}, u" \u00FC "_s, QValidator::Acceptable);
+        row("forbidden character", stringRule(Rule::RULE_ASCII), u"\u00FC"_s, QValidator::Invalid);
+        row("wrong as a whole", stringRule(Rule::RULE_FILE_NAME), u"nul"_s, QValidator::Intermediate);
+        const Properties pattern = stringRule(Rule::RULE_PATTERN, {{u"pattern"_s, u"[A-D][0-9]+"_s}});
+        row("part of a pattern", pattern, u"B"_s, QValidator::Intermediate);
+        row("another rule has no pattern", {{u"pattern"_s, u"[A-D]"_s}}, u"x"_s, QValidator::Acceptable);
     }
+    void strings() { checkRow(); }
+
+    void illFormedPatternIsToldOnce()
+    {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"RStringRuleValidator: the pattern \"a\\(\" accepts"_s));
+        const auto validator = made<RStringRuleValidator>(stringRule(Rule::RULE_PATTERN, {{u"pattern"_s, u"a("_s}}));
+        validator->setProperty("pattern", u"a("_s);
+        QCOMPARE(stateOf(*validator, u"anything"_s), QValidator::Acceptable);
+    }
+
+    void messages_data()
+    {
+        using Make = std::unique_ptr<QValidator> (*)(const Properties &);
+        const auto row =
+            rowsOf([](const Make &make, const Properties &properties, const QString &text, const QString &message) {
+                const auto validator = make(properties);
+                QCOMPARE(FieldReason::of(validator.get(), text), message);
+                QCOMPARE(message.isEmpty(), stateOf(*validator, text) == QValidator::Acceptable);
+            });
+        const Make decimal = made<RTextFieldDoubleValidator>;
+        const double greatest = std::numeric_limits<double>::max();
+        row("number", decimal, {{u"bottom"_s, -0.5}, {u"top"_s, 2e6}}, u"x"_s,
+            u"Enter a number from -0.5 to 2000000"_s);
+        row("no top", decimal, {{u"bottom"_s, 5}}, u"1"_s, u"Enter a number of at least 5"_s);
+        row("no bottom", decimal, {{u"top"_s, 5}, {u"bottom"_s, notANumber}}, u"9"_s, u"Enter a number of at most 5"_s);
+        row("no bounds", decimal, {{u"top"_s, greatest}}, u"-"_s, u"Enter a number"_s);
+        row("right number", decimal, {{u"bottom"_s, 5}}, u"5,5"_s, u""_s);
+        row("whole number", made<RTextFieldIntValidator>, {{u"bottom"_s, 1}, {u"top"_s, 96}}, u"97"_s,
+            u"Enter a whole number from 1 to 96"_s);
+        row("address", made<RTextFieldIpAddressValidator>, {}, u"10.0"_s, u"Enter an address such as 192.168.1.10"_s);
+        const Properties strict{{u"trivialAllowed"_s, false}};
+        row("PIN", made<RTextFieldPinValidator>, strict, u"12"_s, u"Enter 4 to 8 digits"_s);
+        row("trivial PIN", made<RTextFieldPinValidator>, strict, u"1111"_s, u"This PIN is too easy to guess"_s);
+        row("right PIN", made<RTextFieldPinValidator>, strict, u"1470"_s, u""_s);
+        row("a validator of other kind", made<QIntValidator>, {}, u"1"_s, u""_s);
+    }
+    void messages() { checkRow(); }
+
+    void stringMessages_data()
+    {
+        const auto row = rowsOf([](const Properties &properties, const QString &text, const QString &message) {
+            QCOMPARE(FieldReason::of(made<RStringRuleValidator>(properties).get(), text), message);
+        });
+        const Properties file = stringRule(Rule::RULE_FILE_NAME);
+        const Properties host = stringRule(Rule::RULE_DNS_NAME);
+        const Properties pattern = stringRule(Rule::RULE_PATTERN, {{u"pattern"_s, u"ab"_s}});
+        row("right file name", file, u"Hall 1"_s, u""_s);
+        row("pair", stringRule(Rule::RULE_ASCII), u"\U0001F3A7"_s, u"\"\U0001F3A7\" is not allowed here"_s);
+        row("inner blank", stringRule(Rule::RULE_HEX), u"a b"_s, u"A blank is not allowed here"_s);
+        row("half a pair", {}, QString(QChar(0xD83C)), u"A character that cannot be seen is not allowed here"_s);
+        row("too long", {{u"maximumLength"_s, 3}}, u"abcd"_s, u"At most 3 characters"_s);
+        row("too short", stringRule(Rule::RULE_PASSWORD), u"abcd"_s, u"At least 8 characters"_s);
+        row("empty", file, u""_s, u"At least one character"_s);
+        row("bytes", {{u"maximumBytes"_s, 3}}, u"\u00FC\u00FC"_s,
+            u"At most 3 bytes, and most special characters take two or more"_s);
+        row("outer blank", file, u"a "_s, u"No blank at the beginning or the end"_s);
+        row("last dot", file, u"a."_s, u"No dot at the end"_s);
+        row("device", file, u"nul"_s, u"Computers keep this name for a device"_s);
+        row("two dots", host, u"a..b"_s, u"A dot needs a letter or digit on both sides"_s);
+        row("long label", host, QString(64, u'a'), u"At most 63 characters without a dot"_s);
+        row("hyphen", host, u"a-.b"_s, u"No hyphen at the end or next to a dot"_s);
+        row("half a byte", stringRule(Rule::RULE_HEX), u"abc"_s, u"One more digit is needed, they come in pairs"_s);
+        row("part of a pattern", pattern, u"a"_s, u"This text is not complete yet"_s);
+        row("no part of it", pattern, u"b"_s, u"This text does not have the form that is needed here"_s);
+    }
+    void stringMessages() { checkRow(); }
+
+    void stringFixup_data()
+    {
+        const auto row = rowsOf([](const Rule::Type &rule, const QString &text, const QString &tidied) {
+            QString fixed = text;
+            made<RStringRuleValidator>(stringRule(rule))->fixup(fixed);
+            QCOMPARE(fixed, tidied);
+        });
+        row("name", Rule::RULE_NAME, u" Main  Hall\u00A0"_s, u"Main  Hall"_s);
+        row("nothing else of a host", Rule::RULE_DNS_NAME, u" Amp."_s, u"Amp."_s);
+        row("blanks allowed", Rule::RULE_ASCII, u" a "_s, u" a "_s);
+        row("blanks up to the pattern", Rule::RULE_PATTERN, u" a "_s, u" a "_s);
+    }
+    void stringFixup() { checkRow(); }
 
     void fixup_data()
     {
@@ -146,13 +253,23 @@ private Q_SLOTS:
     }
     void fixup() { checkRow(); }
 
-    void rangeChangeRevalidates()
+    void changesRevalidate()
     {
-        RTextFieldPinValidator validator;
-        QSignalSpy spy(&validator, &QValidator::changed);
-        validator.setProperty("minimumLength", 6);
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(stateOf(validator, QStringLiteral("14701")), QValidator::Intermediate);
+        RTextFieldPinValidator pin;
+        QSignalSpy pinSpy(&pin, &QValidator::changed);
+        pin.setProperty("minimumLength", 6);
+        QCOMPARE(pinSpy.count(), 1);
+        QCOMPARE(stateOf(pin, QStringLiteral("14701")), QValidator::Intermediate);
+
+        RStringRuleValidator string;
+        QSignalSpy spy(&string, &QValidator::changed);
+        int changes = 0;
+        for (const char *property : {"rule", "minimumLength", "maximumLength", "maximumBytes", "pattern"}) {
+            string.setProperty(property, 4);
+            QCOMPARE(spy.count(), ++changes);
+            string.setProperty(property, 4);
+            QCOMPARE(spy.count(), changes);
+        }
     }
 };
 
