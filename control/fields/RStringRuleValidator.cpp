@@ -82,8 +82,9 @@ void RStringRuleValidator::setPattern(const QString &pattern)
         return;
     m_pattern = common::StringPattern(pattern);
     if (!m_pattern.isWellFormed())
-        warnOfPage(this, QStringLiteral("RStringRuleValidator: the pattern \"%1\" accepts everything: %2")
-                             .arg(pattern, m_pattern.errorText()));
+        warnOfPage(
+            this,
+            QStringLiteral("the ill-formed pattern \"%1\" accepts everything: %2").arg(pattern, m_pattern.errorText()));
     Q_EMIT patternChanged();
 }
 
