@@ -30,6 +30,7 @@
 #include "fader/RTransferTable.h"
 #include "fields/RStringRuleValidator.h"
 #include "fields/RStringRuleValidatorRule.h"
+#include "fields/RTextFieldBase.h"
 #include "fields/RTextFieldDoubleValidator.h"
 #include "fields/RTextFieldIntValidator.h"
 #include "fields/RTextFieldIpAddressValidator.h"
@@ -318,6 +319,7 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RHandleBase>("RHandleBase");
     registrar.creatable<RMeterBar>("RMeterBar");
     registrar.creatable<RLabelBase>("RLabelBase");
+    registrar.creatable<RTextFieldBase>("RTextFieldBase");
     registrar.creatable<PendingValue>("RPendingValue");
     registrar.withLaterProperties<QQuickItem>();
     registrar.withLaterProperties<QQuickControl>();

@@ -42,6 +42,8 @@ set(registered
     RStyleDebugMouseArea/RStyleDebugMouseArea.qml
     RStyleEngineSetup/RStyleEngineSetup.qml
     RText/RText.qml
+    RText/RTextField.qml
+    RText/RTextInput.qml
     RTheme/RTheme.qml
     Shared/RFocusRectangle.qml
 )
@@ -61,6 +63,8 @@ set(unregistered
     RLimiter/RParameterHandle.qml
     Shared/RControlLine.qml
     Shared/RDynamicsPlot.qml
+    Shared/RFieldFrame.qml
+    Shared/RFieldMarks.qml
     Shared/RHandleBubble.qml
     Shared/RPlotHandle.qml
     Shared/RPopupFrame.qml

@@ -1,0 +1,188 @@
+import QtQuick
+import QtTest
+import TambleClient.Control 1.0
+import "../Support"
+
+ThemedTestCase {
+    id: root
+    name: "RTextField"
+
+    // A page that binds to a device; it takes what is entered when `takes` is set.
+    function makePage(body: string): var {
+        const page = make(`FocusScope {
+            property string device: "Hall"
+            property bool takes: true
+            property alias field: inner
+            property alias other: neighbour
+            focus: true
+            RTextField {
+                id: inner
+                value: parent.device
+                settleTime: 20
+                onValueEdited: (value) => { if (parent.takes) parent.device = value }
+                ${body}
+            }
+            TextInput { id: neighbour; y: 40; width: 50; activeFocusOnTab: true }
+        }`)
+        page.forceActiveFocus()
+        page.field.forceActiveFocus(Qt.TabFocusReason)
+        return page
+    }
+    function logOf(page: var): var {
+        return logged(page.field, { valueEdited: "edited", valueCommitted: "committed", editCanceled: "canceled",
+                                    rejected: "rejected", valueWaits: "waits" })
+    }
+    function type(text: string) {
+        for (const character of text)
+            keyClick(character)
+    }
+
+    function test_typedTextWaitsForEnter() {
+        const page = makePage("")
+        const log = logOf(page)
+        compare(page.field.selectedText, "Hall", "the Tab key selects all")
+        type("Bar")
+        compare([page.field.text, page.field.value, page.field.edited], ["Bar", "Hall", true])
+        keyClick(Qt.Key_Return)
+        compare([page.field.value, page.field.edited, page.device], ["Bar", false, "Bar"])
+        compare(page.field.selectedText, "Bar")
+        compare(log, ["edited Bar", "committed Bar"])
+        tryCompare(page, "device", "Bar")
+        wait(40)
+        page.device = "Foyer"
+        compare(page.field.text, "Foyer", "the page's binding lives on")
+    }
+
+    function test_endsOfAnEdit_data() {
+        return [
+            { tag: "Esc", end: () => keyClick(Qt.Key_Escape), text: "Hall", log: ["canceled"] },
+            { tag: "Tab", end: () => keyClick(Qt.Key_Tab), text: "Bar", log: ["edited Bar", "committed Bar"] },
+            { tag: "Tab from an unacceptable text", body: "validator: RTextFieldIntValidator {}", typed: "-", end: () => keyClick(Qt.Key_Tab), text: "Hall", log: ["canceled"] },
+            { tag: "Tab with an edit that is to wait", body: "commitOnFocusLoss: false", end: () => keyClick(Qt.Key_Tab), text: "Bar", edited: true, log: [] },
+            { tag: "typed back", typed: "Hall", end: () => keyClick(Qt.Key_Return), text: "Hall", log: [] },
+            { tag: "outer blanks", typed: " Bar  ", end: () => keyClick(Qt.Key_Return), text: "Bar", log: ["edited Bar", "committed Bar"] },
+            { tag: "blanks that count", typed: " Bar", body: "trim: false", end: () => keyClick(Qt.Key_Return), text: " Bar", log: ["edited  Bar", "committed  Bar"] },
+        ]
+    }
+    function test_endsOfAnEdit(data) {
+        const page = makePage(data.body ?? "")
+        const log = logOf(page)
+        type(data.typed ?? "Bar")
+        data.end()
+        compare([page.field.text, page.field.edited], [data.text, data.edited ?? false])
+        compare(log, data.log)
+    }
+
+    function test_refusals_data() {
+        return [
+            { tag: "validator", body: "validator: RTextFieldIpAddressValidator {}", typed: "10.0" },
+            { tag: "required", body: "required: true", key: Qt.Key_Delete },
+            { tag: "converter", body: "converter: RDoubleValueConverter {}", typed: "x" },
+        ]
+    }
+    function test_refusals(data) {
+        const page = makePage(data.body)
+        const log = logOf(page)
+        if (data.key)
+            keyClick(data.key)
+        type(data.typed ?? "")
+        verify(!page.field.acceptable)
+        keyClick(Qt.Key_Return)
+        compare(log.length, 1)
+        verify(log[0].startsWith("rejected " + (data.typed ?? "")), log[0])
+        verify(log[0].endsWith(page.field.invalidText), log[0])
+        compare([page.field.text, page.field.edited], [data.typed ?? "", true], "nothing typed is lost")
+    }
+
+    function test_errorOfThePageCountsUntilTheNextEdit() {
+        const page = makePage("errorText: 'in use'")
+        compare([page.field.acceptable, page.field.invalidText], [false, "in use"])
+        type("B")
+        verify(page.field.acceptable)
+    }
+
+    function test_refusingDevice() {
+        const page = makePage("")
+        page.takes = false
+        type("Bar")
+        keyClick(Qt.Key_Return)
+        compare(page.field.text, "Bar")
+        tryCompare(page.field, "text", "Hall")
+    }
+
+    function test_valueOfAnotherClientWaits() {
+        const page = makePage("")
+        const log = logOf(page)
+        type("Ba")
+        page.device = "Foyer"
+        compare([page.field.text, log], ["Ba", ["waits"]])
+        keyClick(Qt.Key_Escape)
+        compare(page.field.text, "Foyer")
+    }
+
+    function test_mixed() {
+        const page = makePage("consistent: false")
+        const log = logOf(page)
+        compare([page.field.text, page.field.placeholderText, page.field.edited, page.field.acceptable], ["", "mixed", false, true])
+        type("All")
+        keyClick(Qt.Key_Enter)
+        compare(log, ["edited All", "committed All"])
+        compare(page.field.text, "All", "shown while the edit settles")
+        page.field.consistent = true
+        wait(40)
+        compare(page.field.text, "All")
+    }
+
+    function test_bytesEndAtWholeCharacters() {
+        const page = makePage("maximumBytes: 6")
+        type("a\u00e4\u00e4")
+        compare(page.field.text, "a\u00e4\u00e4")
+        type("\u00e4")
+        compare(page.field.text, "a\u00e4\u00e4", "a key too many is refused")
+        type("b")
+        compare(page.field.text, "a\u00e4\u00e4b")
+        page.field.undo()
+        const editor = make("TextInput { text: '\u00fc\u00fc\u00fc\u00fc' }")
+        editor.selectAll()
+        editor.copy()
+        page.field.selectAll()
+        page.field.paste()
+        compare(page.field.text, "\u00fc\u00fc\u00fc", "a paste is cut")
+    }
+
+    function test_enterOfAnUneditedFieldGoesOn() {
+        const page = makePage("")
+        let passed = 0
+        page.Keys.returnPressed.connect(() => ++passed)
+        keyClick(Qt.Key_Return)
+        compare(passed, 1)
+        type("x")
+        keyClick(Qt.Key_Return)
+        compare(passed, 1)
+    }
+
+    function test_plainField() {
+        const page = makePage("")
+        const field = make("RTextField { text: 'one' }")
+        field.forceActiveFocus(Qt.TabFocusReason)
+        const log = logged(field, { valueEdited: "edited", editCanceled: "canceled" })
+        type("two")
+        keyClick(Qt.Key_Escape)
+        compare(field.text, "one")
+        field.selectAll()
+        type("two")
+        keyClick(Qt.Key_Return)
+        field.selectAll()
+        type("x")
+        keyClick(Qt.Key_Escape)
+        compare([field.text, field.value, log], ["two", undefined, ["canceled", "edited two", "canceled"]])
+    }
+
+    function test_readOnly() {
+        const page = makePage("readOnly: true")
+        const log = logOf(page)
+        type("x")
+        keyClick(Qt.Key_Return)
+        compare([page.field.text, log], ["Hall", []])
+    }
+}
