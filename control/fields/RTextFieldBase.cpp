@@ -1,6 +1,7 @@
 #include "fields/RTextFieldBase.h"
 
 #include "base/PendingValue.h"
+#include "fields/FieldReason.h"
 
 #include <tambleclient-common/RValueConverter.h>
 
@@ -271,8 +272,7 @@ QString RTextFieldBase::problemOf(const QString &text) const
     int cursor = 0;
     if (!validator() || validator()->validate(checked, cursor) == QValidator::Acceptable)
         return {};
-    QString message;
-    QMetaObject::invokeMethod(validator(), "message", Q_RETURN_ARG(QString, message), Q_ARG(QString, text));
+    const QString message = FieldReason::of(validator(), text);
     return message.isEmpty() ? tr("This is not valid") : message;
 }
 
