@@ -326,6 +326,8 @@ void registerInternals(const Registrar &registrar)
     registrar.withLaterProperties<QQuickAbstractButton>();
     registrar.withLaterProperties<QQuickText>();
     registrar.withLaterProperties<QQuickLabel>();
+    registrar.withLaterProperties<QQuickTextInput>();
+    registrar.withLaterProperties<QQuickTextField>();
     registrar.singleton<RPlotRules>("RPlotRules");
     registrar.creatable<SheetName>("RSheetName");
     registrar.creatable<RTintedImage>("RTintedImage");

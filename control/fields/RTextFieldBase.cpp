@@ -9,6 +9,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtGui/QValidator>
 
+#include <algorithm>
 #include <utility>
 
 namespace tamble::client {
@@ -211,7 +212,7 @@ void RTextFieldBase::onTextChanged()
     if (!m_isEdited && m_isConsistent && !hasActiveFocus())
         m_plainText = text();
     judge();
-    m_lengthBefore = text().size();
+    m_textBefore = text();
 }
 
 void RTextFieldBase::onTextEdited()
@@ -237,13 +238,14 @@ void RTextFieldBase::keepWithinBytes()
     if (m_maximumBytes <= 0)
         return;
     // From the end of what was typed or pasted just now, never from what was there before.
-    const qsizetype inserted = text().size() - m_lengthBefore;
-    const int begin = cursorPosition() - int(std::clamp<qsizetype>(inserted, 0, cursorPosition()));
+    const QString now = text();
+    const auto kept = std::ranges::mismatch(now, m_textBefore).in1;
+    const auto begin = kept - now.begin();
     int cut = cursorPosition();
-    qsizetype bytes = text().toUtf8().size();
+    qsizetype bytes = now.toUtf8().size();
     while (bytes > m_maximumBytes && cut > begin) {
-        const int character = characterBefore(text(), cut);
-        bytes -= text().mid(character, cut - character).toUtf8().size();
+        const int character = characterBefore(now, cut);
+        bytes -= now.mid(character, cut - character).toUtf8().size();
         cut = character;
     }
     if (cut < cursorPosition())

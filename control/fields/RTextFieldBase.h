@@ -42,7 +42,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RTextFieldBase : public QQuickTextField
     Q_PROPERTY(bool consistent READ isConsistent WRITE setConsistent NOTIFY consistentChanged FINAL)
     /// How long, in ms, an entered text is shown before the bound value counts again; 300 by default.
     Q_PROPERTY(int settleTime MEMBER m_settleTime NOTIFY settleTimeChanged FINAL)
-    Q_PROPERTY(tamble::client::RValueConverter *converter READ converter WRITE setConverter NOTIFY converterChanged FINAL)
+    Q_PROPERTY(
+        tamble::client::RValueConverter *converter READ converter WRITE setConverter NOTIFY converterChanged FINAL)
 
 public:
     explicit RTextFieldBase(QQuickItem *parent = nullptr);
@@ -124,13 +125,13 @@ private:
     PendingValue &pending();
 
     QVariant m_value;
-    QString m_plainText;  ///< The text that counts when there is no value.
+    QString m_plainText; ///< The text that counts when there is no value.
     QString m_invalidText;
     QString m_errorText;
     QPointer<RValueConverter> m_converter;
     QPointer<QValidator> m_watchedValidator;
     PendingValue *m_pending = nullptr; // a child, made at the first edit of a value
-    qsizetype m_lengthBefore = 0;      ///< Of the text before the present change.
+    QString m_textBefore;              ///< The text before the present change.
     int m_maximumBytes = 0;
     int m_settleTime = 300;
     bool m_isEdited = false;

@@ -31,7 +31,7 @@ RTextFieldBase {
     implicitWidth: 144 * RThemeValues.unit
     implicitHeight: 32 * RThemeValues.unit
     leftPadding: 8 * RThemeValues.unit
-    rightPadding: (marks.active ? 24 : 8) * RThemeValues.unit
+    rightPadding: (marks.visible ? 24 : 8) * RThemeValues.unit
     color: root.acceptable ? root.ssColor : root.ssForegroundInvalid
     selectionColor: root.ssSelection
     selectedTextColor: root.ssForegroundSelection
@@ -42,7 +42,7 @@ RTextFieldBase {
     renderType: RThemeValues.renderType
     verticalAlignment: TextInput.AlignVCenter
     hoverEnabled: RThemeValues.hoverEnabled
-    focusPolicy: Qt.StrongFocus
+    activeFocusOnTab: true
     selectByMouse: true
 
     background: Shared.RFieldFrame {
@@ -53,18 +53,16 @@ RTextFieldBase {
         lineWidth: (root.activeFocus ? 2 : 1) * RThemeValues.unit
     }
 
-    Loader {
+    Shared.RFieldMarks {
         id: marks
         anchors.fill: parent
-        active: root.edited || !root.confirmed || !root.consistent || !root.acceptable
-        sourceComponent: Shared.RFieldMarks {
-            unentered: root.edited
-            confirmed: root.confirmed
-            consistent: root.consistent
-            invalid: !root.acceptable
-            dotColor: root.ssConfirmIndicator
-            flagColor: root.ssInconsistentFlag
-            warningColor: root.ssForegroundInvalid
-        }
+        visible: root.edited || !root.confirmed || !root.consistent || !root.acceptable
+        unentered: root.edited
+        confirmed: root.confirmed
+        consistent: root.consistent
+        invalid: !root.acceptable
+        dotColor: root.ssConfirmIndicator
+        flagColor: root.ssInconsistentFlag
+        warningColor: root.ssForegroundInvalid
     }
 }

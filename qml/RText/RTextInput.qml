@@ -27,18 +27,16 @@ TextInput {
     Accessible.role: Accessible.EditableText
     Accessible.name: root.placeholderText
 
-    Loader {
-        active: root.placeholderText !== "" && root.length === 0 && root.preeditText === ""
+    RText {
         width: root.width
         height: root.height
-        sourceComponent: RText {
-            text: root.placeholderText
-            color: root.color
-            opacity: 0.6
-            elide: Text.ElideRight
-            horizontalAlignment: root.effectiveHorizontalAlignment
-            verticalAlignment: root.verticalAlignment
-            Accessible.ignored: true
-        }
+        text: root.placeholderText
+        color: root.color
+        opacity: 0.6
+        elide: Text.ElideRight
+        horizontalAlignment: root.effectiveHorizontalAlignment
+        verticalAlignment: Text.AlignVCenter
+        visible: root.length === 0 && root.preeditText === ""
+        Accessible.ignored: true
     }
 }
