@@ -219,7 +219,7 @@ void RTextFieldBase::onTextEdited()
 {
     m_errorCounts = false;
     keepWithinBytes();
-    setEdited(m_value.isValid() || !m_isConsistent ? text() != textOfValue() : text() != m_plainText);
+    setEdited(text() != textOfValue());
     judge();
 }
 
@@ -297,7 +297,7 @@ QString RTextFieldBase::textOfValue() const
 
 void RTextFieldBase::showValue()
 {
-    if (!m_isEdited && isComponentComplete() && (m_value.isValid() || text() != textOfValue()))
+    if (!m_isEdited && isComponentComplete())
         setText(textOfValue());
 }
 
