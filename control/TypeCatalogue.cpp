@@ -17,6 +17,7 @@
 #include "controls/RButtonBase.h"
 #include "controls/RControlBackground.h"
 #include "controls/RLabelBase.h"
+#include "controls/RTabButtonBase.h"
 #include "controls/RTintedImage.h"
 #include "controls/RUnderlay.h"
 #include "dynamics/AGCCalculator.h"
@@ -319,6 +320,7 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RHandleBase>("RHandleBase");
     registrar.creatable<RMeterBar>("RMeterBar");
     registrar.creatable<RLabelBase>("RLabelBase");
+    registrar.creatable<RTabButtonBase>("RTabButtonBase");
     registrar.creatable<RTextFieldBase>("RTextFieldBase");
     registrar.creatable<PendingValue>("RPendingValue");
     registrar.withLaterProperties<QQuickItem>();

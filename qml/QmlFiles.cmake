@@ -41,6 +41,10 @@ set(registered
     RMeter/RMeter.qml
     RStyleDebugMouseArea/RStyleDebugMouseArea.qml
     RStyleEngineSetup/RStyleEngineSetup.qml
+    RTabButton/RTabButton.qml
+    RTabButton/RTabButtonIcon.qml
+    RTabButton/RTabButtonIconLabelH.qml
+    RTabButton/RTabButtonIconLabelV.qml
     RText/RText.qml
     RText/RTextField.qml
     RText/RTextInput.qml
@@ -61,6 +65,9 @@ set(unregistered
     RLimiter/RGainMeter.qml
     RLimiter/RLevelHandle.qml
     RLimiter/RParameterHandle.qml
+    RTabButton/RStyledTab.qml
+    RTabButton/RTabMarks.qml
+    RTabButton/RTabText.qml
     Shared/RControlLine.qml
     Shared/RDynamicsPlot.qml
     Shared/RFieldFrame.qml

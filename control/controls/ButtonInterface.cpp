@@ -5,6 +5,7 @@
 #include <QtGui/QAccessible>
 #include <QtGui/QWindow>
 #include <QtQuick/private/qquickaccessibleattached_p.h>
+#include <QtQuick/private/qquickitem_p.h>
 
 namespace tamble::client {
 
@@ -24,6 +25,11 @@ QAccessibleInterface *makeInterface(const QString &className, QObject *object)
 ButtonInterface::ButtonInterface(RButtonBase *button)
     : QAccessibleQuickItem(button)
 {}
+
+QAccessible::Role ButtonInterface::role() const
+{
+    return object() ? QQuickItemPrivate::get(item())->accessibleRole() : QAccessible::NoRole;
+}
 
 RButtonBase *ButtonInterface::button() const
 {
@@ -46,6 +52,8 @@ QAccessible::State ButtonInterface::state() const
     state.checkable = state.checkable || button->isSelectable() || button->isSelected();
     state.checked = button->isConsistent() && button->isSelected();
     state.checkStateMixed = !button->isConsistent();
+    state.selectable = role() == QAccessible::PageTab;
+    state.selected = state.selectable && state.checked;
     return state;
 }
 
@@ -57,8 +65,8 @@ QString ButtonInterface::text(QAccessible::Text kind) const
     if (kind == QAccessible::Name)
         return accessibleNameOf(*button);
     const QString given = QAccessibleQuickItem::text(kind);
-    if (kind == QAccessible::Description && given.isEmpty() && !button->isConsistent())
-        return RButtonBase::tr("mixed");
+    if (kind == QAccessible::Description && given.isEmpty())
+        return button->conditions().join(QLatin1String(", "));
     return given;
 }
 

@@ -14,7 +14,7 @@ class ButtonInterface : public QAccessibleQuickItem
 public:
     explicit ButtonInterface(RButtonBase *button);
 
-    QAccessible::Role role() const override { return QAccessible::Button; }
+    QAccessible::Role role() const override;
     QAccessible::State state() const override;
     QString text(QAccessible::Text kind) const override;
     void doAction(const QString &action) override;

@@ -301,6 +301,11 @@ void RButtonBase::warnAboutMissingName() const
     }
 }
 
+QStringList RButtonBase::conditions() const
+{
+    return m_consistent ? QStringList() : QStringList(tr("mixed"));
+}
+
 void RButtonBase::announce(QAccessible::Event change)
 {
     if (!QAccessible::isActive())
@@ -314,7 +319,7 @@ void RButtonBase::announceState()
     if (!QAccessible::isActive())
         return;
     QAccessible::State changed;
-    changed.checkable = changed.checked = changed.checkStateMixed = changed.pressed = true;
+    changed.checkable = changed.checked = changed.checkStateMixed = changed.pressed = changed.selected = true;
     QAccessibleStateChangeEvent event(this, changed);
     QAccessible::updateAccessibility(&event);
 }

@@ -3,6 +3,7 @@
 #include "base/ControlExport.h"
 #include "style/StyleFollower.h"
 
+#include <QtCore/QStringList>
 #include <QtGui/QAccessible>
 #include <QtGui/QColor>
 #include <QtQml/qqmlregistration.h>
@@ -82,6 +83,9 @@ public:
     /// What a click does to the selection. A button that is not selectable keeps it.
     Q_INVOKABLE void editSelection(bool selected);
 
+    /// What assistive tools read out after the name, such as "mixed".
+    virtual QStringList conditions() const;
+
 Q_SIGNALS:
     void selectableChanged();
     void selectedChanged();
@@ -113,6 +117,9 @@ protected:
     void buttonChange(ButtonChange change) override;
     void accessibilityActiveChanged(bool active) override;
 
+    /// Tells assistive tools that something has changed, if there are any.
+    void announce(QAccessible::Event change);
+
 private:
     Q_DECLARE_PRIVATE(RButtonBase)
 
@@ -123,7 +130,6 @@ private:
     bool takesBack(const QKeyEvent &event) const;
     void useText();
     void clickOncePerKey();
-    void announce(QAccessible::Event change);
     void announceState();
     void warnAboutMissingName() const;
 

@@ -194,7 +194,7 @@ private Q_SLOTS:
             QVERIFY(readEverything(m_engine, page->property("object").value<QObject *>()) > 2);
         });
         for (const char *name : {"RButtonBase", "RControlBackground", "RFaderBase", "RMeterBar", "RLabelBase",
-                                 "RTintedImage", "RUnderlay"})
+                                 "RTabButtonBase", "RTintedImage", "RUnderlay"})
             row(name, QString::fromLatin1(name) + QStringLiteral(" {}"));
         for (const char *name : {"RMouseEventSpy", "RPlotRules", "RTransferTable", "RThemeValues"})
             row(name, QString::fromLatin1(name));

@@ -71,6 +71,12 @@ TestCase {
         "RLimiter { levelVisible: true }",
         "RMeter { faderIndicatorActive: true; clipIndicatorSupported: true }",
         "RMeter { split: true }",
+        "RTabButton { text: 'Mute'; closable: true; modified: true; badge: '3' }",
+        "RTabButton { text: 'Mute'; selected: true }",
+        "RTabButton { text: 'Mute'; RStyleSet.name: 'filled'; consistent: false }",
+        "RTabButtonIcon { label: 'Mute'; iconKey: 'mute'; modified: true }",
+        "RTabButtonIconLabelH { text: 'Mute'; iconKey: 'mute' }",
+        "RTabButtonIconLabelV { text: 'Mute'; iconKey: 'mute' }",
         "RText { text: 'Mute' }",
     ]
 
