@@ -1,10 +1,9 @@
 #pragma once
 
 #include "base/ControlExport.h"
+#include "base/SpokenControl.h"
 #include "style/StyleFollower.h"
 
-#include <QtCore/QStringList>
-#include <QtGui/QAccessible>
 #include <QtGui/QColor>
 #include <QtQml/qqmlregistration.h>
 #include <QtQuickTemplates2/private/qquickabstractbutton_p.h>
@@ -19,11 +18,12 @@ class StyleSet;
 class StyleSetProps;
 
 /// The behaviour of all buttons: selection, which is not the template's check state, "mixed", Enter, and mnemonics.
-/// ButtonInterface tells assistive tools about it.
 ///
 /// Keys: Space presses, and clicks when it is released; Enter clicks when it is released, unless `enterClicks` is
 /// false. Esc lets go of a held Space without a click. Alt and the letter behind "&" click.
-class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton, private StyleFollower
+class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton,
+                                                 public SpokenControl,
+                                                 private StyleFollower
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RButtonBase)
@@ -83,8 +83,11 @@ public:
     /// What a click does to the selection. A button that is not selectable keeps it.
     Q_INVOKABLE void editSelection(bool selected);
 
-    /// What assistive tools read out after the name, such as "mixed".
-    virtual QStringList conditions() const;
+    QAccessible::Role spokenRole() const override { return QAccessible::Button; }
+    QString spokenName() const override { return plainText(); }
+    QString spokenDescription(const QString &given) const override;
+    void addSpokenStates(QAccessible::State &state) const override;
+    bool pressBySpeech() override;
 
 Q_SIGNALS:
     void selectableChanged();
@@ -117,9 +120,6 @@ protected:
     void buttonChange(ButtonChange change) override;
     void accessibilityActiveChanged(bool active) override;
 
-    /// Tells assistive tools that something has changed, if there are any.
-    void announce(QAccessible::Event change);
-
 private:
     Q_DECLARE_PRIVATE(RButtonBase)
 
@@ -131,7 +131,6 @@ private:
     void useText();
     void clickOncePerKey();
     void announceState();
-    void warnAboutMissingName() const;
 
     PendingValue *m_pendingSelection = nullptr; // a child, made at the first click that edits
     StyleSet *m_styleSet = nullptr;             // the attached one, once it is followed

@@ -9,18 +9,23 @@ namespace tamble::client {
 RTabButtonBase::RTabButtonBase(QQuickItem *parent)
     : RButtonBase(parent)
 {
-    connect(this, &RTabButtonBase::modifiedChanged, this, [this] { announce(QAccessible::DescriptionChanged); });
-    connect(this, &RTabButtonBase::badgeChanged, this, [this] { announce(QAccessible::DescriptionChanged); });
+    const auto tellDescription = [this] { announce(*this, QAccessible::DescriptionChanged); };
+    connect(this, &RTabButtonBase::modifiedChanged, this, tellDescription);
+    connect(this, &RTabButtonBase::badgeChanged, this, tellDescription);
 }
 
-QStringList RTabButtonBase::conditions() const
+QString RTabButtonBase::spokenDescription(const QString &given) const
 {
-    QStringList conditions = RButtonBase::conditions();
-    if (m_isModified)
-        conditions.append(tr("modified"));
-    if (!m_badge.isEmpty())
-        conditions.append(m_badge);
-    return conditions;
+    QStringList parts{RButtonBase::spokenDescription(given), m_isModified ? tr("modified") : QString(), m_badge};
+    parts.removeAll(QString());
+    return parts.join(QLatin1String(", "));
+}
+
+void RTabButtonBase::addSpokenStates(QAccessible::State &state) const
+{
+    RButtonBase::addSpokenStates(state);
+    state.selectable = true;
+    state.selected = state.checked;
 }
 
 // From left to right, as they are seen: a view may keep its items in any order.

@@ -28,6 +28,10 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RTabButtonBase : public tamble::client::RButt
 public:
     explicit RTabButtonBase(QQuickItem *parent = nullptr);
 
+    QAccessible::Role spokenRole() const override { return QAccessible::PageTab; }
+    QString spokenDescription(const QString &given) const override;
+    void addSpokenStates(QAccessible::State &state) const override;
+
 Q_SIGNALS:
     void closableChanged();
     void modifiedChanged();
@@ -38,8 +42,6 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
-    QAccessible::Role accessibleRole() const override { return QAccessible::PageTab; }
-    QStringList conditions() const override;
 
 private:
     QList<RTabButtonBase *> row() const;

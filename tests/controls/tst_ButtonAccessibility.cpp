@@ -24,7 +24,7 @@ QString statesOf(const QAccessibleInterface &seen)
     add(state.checkable, "checkable");
     add(state.checked, "checked");
     add(state.checkStateMixed, "mixed");
-    add(state.selectable && state.selected && seen.role() == QAccessible::PageTab, "tab");
+    add(state.selectable && state.selected, "chosen");
     add(state.disabled, "disabled");
     add(state.pressed, "pressed");
     return names.join(u' ');
@@ -75,7 +75,7 @@ private Q_SLOTS:
         row("named by a label", "RButtonSwitch { id: power; RLabel { text: '&Power'; buddy: power } }", "Power",
             "focusable", "");
         row("tab", "RTabButton { text: 'Inputs'; selected: true; modified: true; badge: '3' }", "Inputs",
-            "focusable checkable checked tab", "modified, 3");
+            "focusable checkable checked chosen", "modified, 3");
         row("asking", "RInconsistentButton { text: 'Mute'; consistent: false }", "Mute", "focusable mixed", "mixed");
         row("asking switch", "RInconsistentButtonSwitch { label: 'Power'; consistent: false }", "Power",
             "focusable mixed", "mixed");
