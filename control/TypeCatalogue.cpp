@@ -37,6 +37,7 @@
 #include "fields/RTextFieldIpAddressValidator.h"
 #include "fields/RTextFieldPinValidator.h"
 #include "handles/RHandleBase.h"
+#include "menus/RMenuBase.h"
 #include "meter/RMeterBar.h"
 #include "meter/RMeterBase.h"
 #include "models/RSortFilterProxyModel.h"
@@ -318,6 +319,7 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RControlBackground>("RControlBackground");
     registrar.creatable<RFaderBase>("RFaderBase");
     registrar.creatable<RHandleBase>("RHandleBase");
+    registrar.creatable<RMenuBase>("RMenuBase");
     registrar.creatable<RMeterBar>("RMeterBar");
     registrar.creatable<RLabelBase>("RLabelBase");
     registrar.creatable<RTabButtonBase>("RTabButtonBase");
@@ -326,6 +328,8 @@ void registerInternals(const Registrar &registrar)
     registrar.withLaterProperties<QQuickItem>();
     registrar.withLaterProperties<QQuickControl>();
     registrar.withLaterProperties<QQuickAbstractButton>();
+    registrar.withLaterProperties<QQuickPopup>();
+    registrar.withLaterProperties<QQuickMenu>();
     registrar.withLaterProperties<QQuickText>();
     registrar.withLaterProperties<QQuickLabel>();
     registrar.withLaterProperties<QQuickTextInput>();
@@ -349,6 +353,10 @@ void registerParts()
     name(Part::FocusFrame, "Shared/RFocusRectangle.qml");
     name(Part::LabelLine, "RLabel/RLabelLine.qml");
     name(Part::ToolTip, "Shared/RToolTip.qml");
+    name(Part::MenuRow, "RMenu/RMenuRow.qml");
+    name(Part::MenuLine, "RMenu/RMenuLine.qml");
+    name(Part::SubMenu, "RMenu/RMenu.qml");
+    name(Part::FieldMenu, "Shared/RFieldMenu.qml");
 }
 
 } // namespace

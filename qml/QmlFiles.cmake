@@ -38,7 +38,9 @@ set(registered
     RLimiter/RDragHandler.qml
     RLimiter/RLimiter.qml
     RLimiter/RPlotGrid.qml
+    RMenu/RMenu.qml
     RMeter/RMeter.qml
+    RPopupMenu/RPopupMenu.qml
     RStyleDebugMouseArea/RStyleDebugMouseArea.qml
     RStyleEngineSetup/RStyleEngineSetup.qml
     RTabButton/RTabButton.qml
@@ -65,6 +67,8 @@ set(unregistered
     RLimiter/RGainMeter.qml
     RLimiter/RLevelHandle.qml
     RLimiter/RParameterHandle.qml
+    RMenu/RMenuLine.qml
+    RMenu/RMenuRow.qml
     RTabButton/RStyledTab.qml
     RTabButton/RTabMarks.qml
     RTabButton/RTabText.qml
@@ -72,9 +76,11 @@ set(unregistered
     Shared/RDynamicsPlot.qml
     Shared/RFieldFrame.qml
     Shared/RFieldMarks.qml
+    Shared/RFieldMenu.qml
     Shared/RHandleBubble.qml
     Shared/RPlotHandle.qml
     Shared/RPopupFrame.qml
+    Shared/RScrollHandle.qml
     Shared/RStyleProbe.qml
     Shared/RStyledButton.qml
     Shared/RToolTip.qml

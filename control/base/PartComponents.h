@@ -19,8 +19,12 @@ enum class Part {
     FocusFrame,   ///< The frame of a control's background while it has the focus.
     LabelLine,    ///< The line of a label.
     ToolTip,
+    MenuRow,  ///< What an entry of a menu looks like.
+    MenuLine, ///< Likewise a separator.
+    SubMenu,
+    FieldMenu, ///< The context menu of text fields.
 };
-constexpr std::size_t partCount = 5;
+constexpr std::size_t partCount = 9;
 
 /// Names the QML file of a part, for all engines.
 void setPartSource(Part part, const QUrl &file);

@@ -21,7 +21,7 @@ struct MenuEntry
 };
 
 /// The entries of a list of maps with the names of the members above; other names are left alone, and a text in place
-/// of a map is an entry with that text. What is no list has no entries.
+/// of a map is an entry with that text.
 QList<MenuEntry> menuEntries(const QVariant &model);
 
 /// A key as people write it, such as "Ctrl+C", from a text or the number of a standard key; empty for no key.

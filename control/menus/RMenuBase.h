@@ -2,7 +2,6 @@
 
 #include "base/ControlExport.h"
 
-#include <QtCore/QList>
 #include <QtCore/QPointer>
 #include <QtCore/QRectF>
 #include <QtCore/QVariant>
@@ -10,9 +9,11 @@
 #include <QtQml/qqmlregistration.h>
 #include <QtQuickTemplates2/private/qquickmenu_p.h>
 
-class QQuickMenuItem;
+#include <memory>
 
 namespace tamble::client {
+
+class MenuRows;
 
 /// Menu whose entries come from a list of maps, or are declared in it; plain items of Qt's templates get the look of
 /// its rows. Rows are made when the menu is first needed, and the focus goes back to where it was.
@@ -30,6 +31,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RMenuBase : public QQuickMenu
     Q_PROPERTY(qreal minimumWidth READ minimumWidth WRITE setMinimumWidth NOTIFY minimumWidthChanged FINAL)
     /// Whether the menu has a border; false by default.
     Q_PROPERTY(bool borderVisible MEMBER m_isBorderVisible NOTIFY borderVisibleChanged FINAL)
+    /// Whether the window has no room below the parent for the menu, but above it.
+    Q_PROPERTY(bool opensUpwards MEMBER m_opensUpwards NOTIFY opensUpwardsChanged FINAL)
     Q_PROPERTY(QQuickItem *contextItem READ contextItem NOTIFY contextItemChanged FINAL)
     /// Whether rows keep room for a check mark (`hasChecks`), for an icon (`hasIcons`).
     Q_PROPERTY(bool hasChecks MEMBER m_hasChecks NOTIFY columnsChanged FINAL)
@@ -40,15 +43,16 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RMenuBase : public QQuickMenu
     Q_PROPERTY(QColor ssBackground MEMBER m_ssBackground NOTIFY ssBackgroundChanged FINAL)
     Q_PROPERTY(QColor ssForegroundItem MEMBER m_ssForegroundItem NOTIFY ssForegroundItemChanged FINAL)
     Q_PROPERTY(QColor ssForegroundItemHover MEMBER m_ssForegroundItemHover NOTIFY ssForegroundItemHoverChanged FINAL)
-    Q_PROPERTY(QColor ssForegroundItemSelected MEMBER m_ssForegroundItemSelected NOTIFY ssForegroundItemSelectedChanged
-                   FINAL)
+    Q_PROPERTY(
+        QColor ssForegroundItemSelected MEMBER m_ssForegroundItemSelected NOTIFY ssForegroundItemSelectedChanged FINAL)
     Q_PROPERTY(QColor ssBackgroundItem MEMBER m_ssBackgroundItem NOTIFY ssBackgroundItemChanged FINAL)
     Q_PROPERTY(QColor ssBackgroundItemHover MEMBER m_ssBackgroundItemHover NOTIFY ssBackgroundItemHoverChanged FINAL)
-    Q_PROPERTY(QColor ssBackgroundItemSelected MEMBER m_ssBackgroundItemSelected NOTIFY ssBackgroundItemSelectedChanged
-                   FINAL)
+    Q_PROPERTY(
+        QColor ssBackgroundItemSelected MEMBER m_ssBackgroundItemSelected NOTIFY ssBackgroundItemSelectedChanged FINAL)
 
 public:
     explicit RMenuBase(QObject *parent = nullptr);
+    ~RMenuBase() override;
 
     /// List of maps with text, iconKey, enabled, checkable, checked, shortcut, separator, items (a list for a sub-menu)
     /// and whatever the page needs. A shortcut is shown only. A list that changes counts at once; a check mark that the
@@ -73,6 +77,13 @@ public:
     /// Likewise below an area of `item`.
     void popupBelow(QQuickItem *item, const QRectF &area);
 
+    /// Makes the rows. The menu around a sub-menu does so as soon as the focus is on that.
+    void makeReady();
+    /// Gives the focus back to a row that has lost it, if it is the current one.
+    void keepFocusOn(QQuickItem *row);
+    /// Takes the size that the rows need.
+    void measure();
+
     /// `text` without its mnemonic.
     Q_INVOKABLE static QString plainText(const QString &text);
     /// A key as it is shown; see MenuEntry.
@@ -86,6 +97,7 @@ Q_SIGNALS:
     void selectedEntryChanged();
     void minimumWidthChanged();
     void borderVisibleChanged();
+    void opensUpwardsChanged();
     void contextItemChanged();
     void columnsChanged();
     void ssBackgroundChanged();
@@ -104,21 +116,14 @@ private:
     void openAtScenePoint(const QPointF &point);
     QRectF room() const;
     QSizeF shownSize() const;
+    void beforeOpening();
     void onAboutToShow();
     void onClosed();
 
-    void makeReady();
-    void makeEntries();
-    void dropEntries();
-    void makeEntry(int index, const struct MenuEntry &entry);
-    void makeSubMenu(int index, const struct MenuEntry &entry);
-    void showCheckMarks();
-    void dress(QQuickItem *item);
     void onCountChanged();
-    void measure();
 
     QVariant m_model;
-    QList<QPointer<QQuickItem>> m_made; ///< The rows of `model`.
+    std::unique_ptr<MenuRows> m_rows;
     QPointer<QQuickItem> m_contextItem;
     QPointer<QQuickItem> m_formerFocus; ///< Gets the focus back.
     QColor m_ssBackground;
@@ -130,8 +135,8 @@ private:
     QColor m_ssBackgroundItemSelected;
     qreal m_minimumWidth = 0.0;
     int m_currentIndexSelected = -1;
-    bool m_isModelNew = false; ///< The rows are of an earlier list.
-    bool m_isMaking = false;
+    bool m_isMaking = false; ///< Rows come and go by the menu itself.
+    bool m_opensUpwards = false;
     bool m_isBorderVisible = false;
     bool m_hasChecks = false;
     bool m_hasIcons = false;
