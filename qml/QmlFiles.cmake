@@ -43,11 +43,14 @@ set(registered
     RPopupMenu/RPopupMenu.qml
     RStyleDebugMouseArea/RStyleDebugMouseArea.qml
     RStyleEngineSetup/RStyleEngineSetup.qml
+    RSpinBox/RSpinBox.qml
     RTabButton/RTabButton.qml
     RTabButton/RTabButtonIcon.qml
     RTabButton/RTabButtonIconLabelH.qml
     RTabButton/RTabButtonIconLabelV.qml
+    RText/RNumberTextField.qml
     RText/RText.qml
+    RText/RTextArea.qml
     RText/RTextField.qml
     RText/RTextInput.qml
     RTheme/RTheme.qml
@@ -64,6 +67,14 @@ set(unregistered
     RFader/RFaderHandle.qml
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml
+    RSpinBox/RSpinAffixes.qml
+    RSpinBox/RSpinButton.qml
+    RSpinBox/RSpinButtons.qml
+    RSpinBox/RSpinInvalidLook.qml
+    RText/RFieldButton.qml
+    RText/RFieldButtons.qml
+    RText/RFieldHint.qml
+    RText/RFieldIcon.qml
     RLimiter/RGainMeter.qml
     RLimiter/RLevelHandle.qml
     RLimiter/RParameterHandle.qml
@@ -74,13 +85,15 @@ set(unregistered
     RTabButton/RTabText.qml
     Shared/RControlLine.qml
     Shared/RDynamicsPlot.qml
+    Shared/RFieldBubble.qml
     Shared/RFieldFrame.qml
     Shared/RFieldMarks.qml
     Shared/RFieldMenu.qml
     Shared/RHandleBubble.qml
     Shared/RPlotHandle.qml
     Shared/RPopupFrame.qml
-    Shared/RScrollHandle.qml
+    Shared/RScrollBar.qml
+    Shared/RScrollView.qml
     Shared/RStyleProbe.qml
     Shared/RStyledButton.qml
     Shared/RToolTip.qml

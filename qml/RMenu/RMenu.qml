@@ -40,7 +40,7 @@ RMenuBase {
             boundsBehavior: Flickable.StopAtBounds
             clip: true
 
-            T.ScrollBar.vertical: Shared.RScrollHandle {}
+            T.ScrollBar.vertical: Shared.RScrollBar {}
         }
         // Without a border, since a shadow does not show on black.
         Rectangle {

@@ -116,7 +116,8 @@ private Q_SLOTS:
 
     void editorsThatGo()
     {
-        auto editor = make("TextInput { text: 'abc'; onTextChanged: destroy() }");
+        auto editor = make("TextInput {}");
+        connect(editor.get(), SIGNAL(textChanged()), editor.get(), SLOT(deleteLater()));
         openFieldMenu(editor.get());
         const QPointer<QQuickItem> watched = editor.release();
         choose(*watched->findChild<RMenuBase *>(), QStringLiteral("Paste"));
