@@ -55,7 +55,7 @@ Column {
         id: area
         width: parent.width
         height: theme.dp(96)
-        RStyleSet.typeName: "RBodeplotGrid"
+        RStyleSet.typeName: "RFlyoutToolbar"
         activeFocusOnTab: true
         Keys.onMenuPressed: contextMenu.popupAt(area)
 
