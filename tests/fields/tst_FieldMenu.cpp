@@ -56,8 +56,8 @@ private Q_SLOTS:
 
     void entries_data()
     {
-        const auto row = rowsOf([this](const QByteArray &declaration, const QString &texts) {
-            const auto editor = make(declaration);
+        const auto row = rowsOf([this](const QString &declaration, const QString &texts) {
+            const auto editor = m_page.make(declaration);
             openFieldMenu(editor.get());
             const RMenuBase *menu = editor->findChild<RMenuBase *>();
             QVERIFY(menu && menu->isOpened());
@@ -72,6 +72,8 @@ private Q_SLOTS:
             "Copy Select all");
         row("password", "TextInput { text: 'abc'; echoMode: TextInput.Password; Component.onCompleted: selectAll() }",
             "Paste Delete Select all");
+        row("field", "RTextField { text: 'abc'; Component.onCompleted: selectAll() }",
+            "Cut Copy Paste Delete Select all");
         row("lines", "TextEdit { text: 'abc'; Component.onCompleted: selectAll() }",
             "Cut Copy Paste Delete Select all");
     }
@@ -80,10 +82,10 @@ private Q_SLOTS:
     void actions_data()
     {
         const auto row = rowsOf([this](const QString &text, const QString &clipboard) {
-            for (const QByteArray type : {"TextInput", "TextEdit"}) {
+            for (const QString &type : {QStringLiteral("TextInput"), QStringLiteral("TextEdit")}) {
                 QGuiApplication::clipboard()->setText(QStringLiteral("pasted"));
                 const auto editor =
-                    make(type + " { text: 'abcdef'; Component.onCompleted: { insert(6, 'g'); select(1, 3) } }");
+                    m_page.make(type + QStringLiteral(" { text: 'abcdef'; Component.onCompleted: { insert(6, 'g'); select(1, 3) } }"));
                 editor->forceActiveFocus();
                 openFieldMenu(editor.get(), QPointF(5, 5));
                 const QPointer<RMenuBase> menu = editor->findChild<RMenuBase *>();
@@ -106,7 +108,7 @@ private Q_SLOTS:
 
     void deletingIsAnEdit()
     {
-        const auto editor = make("TextInput { text: 'abc'; Component.onCompleted: selectAll() }");
+        const auto editor = m_page.make(QStringLiteral("TextInput { text: 'abc'; Component.onCompleted: selectAll() }"));
         editor->forceActiveFocus();
         QSignalSpy edits(editor.get(), SIGNAL(textEdited()));
         openFieldMenu(editor.get());
@@ -116,32 +118,23 @@ private Q_SLOTS:
 
     void editorsThatGo()
     {
-        auto editor = make("TextInput {}");
+        auto editor = m_page.make(QStringLiteral("TextInput {}"));
         connect(editor.get(), SIGNAL(textChanged()), editor.get(), SLOT(deleteLater()));
         openFieldMenu(editor.get());
         const QPointer<QQuickItem> watched = editor.release();
         choose(*watched->findChild<RMenuBase *>(), QStringLiteral("Paste"));
         QTRY_VERIFY(!watched);
-        editor = make("TextInput {}");
+        editor = m_page.make(QStringLiteral("TextInput {}"));
         openFieldMenu(editor.get());
         editor.reset();
         openFieldMenu(nullptr);
-        const auto homeless = make("TextInput {}");
+        const auto homeless = m_page.make(QStringLiteral("TextInput {}"));
         homeless->setParentItem(nullptr);
         openFieldMenu(homeless.get());
         QTRY_VERIFY(!homeless->findChild<RMenuBase *>());
     }
 
 private:
-    std::unique_ptr<QQuickItem> make(const QByteArray &declaration)
-    {
-        auto made = objectFrom(m_page.engine, "import QtQuick\n" + declaration);
-        auto item = std::unique_ptr<QQuickItem>(qobject_cast<QQuickItem *>(made.release()));
-        item->setParentItem(m_page.window.contentItem());
-        item->setSize({200, 32});
-        return item;
-    }
-
     SeenPage m_page{QByteArray()};
 };
 
