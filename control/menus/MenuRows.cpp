@@ -51,7 +51,7 @@ void MenuRows::drop()
 
 void MenuRows::makeReady()
 {
-    if (m_made.isEmpty())
+    if (m_made.isEmpty() && m_menu->delegate())
         make();
     for (int i = 0; i < m_menu->count(); ++i)
         dress(m_menu->itemAt(i));
@@ -85,7 +85,12 @@ void MenuRows::makeSeparator(int index)
 
 void MenuRows::makeEntry(int index, const MenuEntry &entry)
 {
-    auto *item = qobject_cast<QQuickMenuItem *>(m_menu->delegate()->create(qmlContext(m_menu)));
+    QObject *made = m_menu->delegate()->create(qmlContext(m_menu));
+    auto *item = qobject_cast<QQuickMenuItem *>(made);
+    if (!item) { // the page's delegate is something else
+        delete made;
+        item = new QQuickMenuItem;
+    }
     item->setParent(m_menu);
     item->setText(entry.text);
     item->setCheckable(entry.checkable);
@@ -105,7 +110,8 @@ void MenuRows::makeSubMenu(int index, const MenuEntry &entry)
     auto *subMenu =
         qobject_cast<RMenuBase *>(PartComponents::of(qmlEngine(m_menu)).make(Part::SubMenu, m_menu, properties));
     m_menu->insertMenu(index, subMenu);
-    setStateAndIcon(*qobject_cast<QQuickMenuItem *>(m_menu->itemAt(index)), entry);
+    if (auto *item = qobject_cast<QQuickMenuItem *>(m_menu->itemAt(index)))
+        setStateAndIcon(*item, entry);
     QObject::connect(subMenu, &RMenuBase::itemTriggered, m_menu, &RMenuBase::itemTriggered);
 }
 

@@ -139,6 +139,19 @@ ThemedTestCase {
         compare(menu.plainText(menu.itemAt(2).text), "R & D")
     }
 
+    function test_oddDelegates_data() {
+        return [
+            { tag: "none", delegate: "null", count: 0 },
+            { tag: "no entry", delegate: "Component { Item {} }", count: 2 },
+            { tag: "one of its own look", delegate: "Component { T.MenuItem { contentItem: RText {} } }", count: 2 }
+        ]
+    }
+    function test_oddDelegates(row) {
+        const menu = makeMenu("model: ['A', { text: 'B', items: ['C'] }]; delegate: " + row.delegate).menu
+        menu.popupAt(root)
+        compare(menu.count, row.count)
+    }
+
     function test_many() {
         const button = makeMenu("model: Array.from({ length: 200 }, (_, i) => 'Entry ' + i)")
         const menu = openedMenu(button)
