@@ -15,6 +15,7 @@
 #include "bodeplot/frame/RBodeplotAxis.h"
 #include "bodeplot/frame/RBodeplotGrid.h"
 #include "controls/RButtonBase.h"
+#include "controls/RCheckBoxBase.h"
 #include "controls/RControlBackground.h"
 #include "controls/RLabelBase.h"
 #include "controls/RTintedImage.h"
@@ -314,6 +315,7 @@ void registerInputHelpers(const Registrar &registrar)
 void registerInternals(const Registrar &registrar)
 {
     registrar.creatable<RButtonBase>("RButtonBase");
+    registrar.creatable<RCheckBoxBase>("RCheckBoxBase");
     registrar.creatable<RControlBackground>("RControlBackground");
     registrar.creatable<RFaderBase>("RFaderBase");
     registrar.creatable<RHandleBase>("RHandleBase");
@@ -343,6 +345,7 @@ void registerParts()
         setPartSource(part, QUrl(QStringLiteral("qrc:/qml/") + QLatin1String(file)));
     };
     name(Part::ValueBinding, "Shared/RValueBinding.qml");
+    name(Part::CheckDot, "RCheckBox/RCheckDot.qml");
     name(Part::ControlLine, "Shared/RControlLine.qml");
     name(Part::FocusFrame, "Shared/RFocusRectangle.qml");
     name(Part::LabelLine, "RLabel/RLabelLine.qml");

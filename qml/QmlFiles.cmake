@@ -24,6 +24,7 @@ set(registered
     RButton/RButtonLabelText.qml
     RButton/RButtonRow.qml
     RButton/RButtonSwitch.qml
+    RCheckBox/RCheckBox.qml
     RCompressor/RCompressor.qml
     RDucker/RDucker.qml
     RFader/RFader.qml
@@ -55,12 +56,14 @@ set(unregistered
     RApplicationWindow/RBusyDots.qml
     RApplicationWindow/RBusyVeil.qml
     RApplicationWindow/RBusyVeilLoader.qml
+    RCheckBox/RCheckDot.qml
     RFader/RFaderHandle.qml
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml
     RLimiter/RGainMeter.qml
     RLimiter/RLevelHandle.qml
     RLimiter/RParameterHandle.qml
+    Shared/RConfirmDot.qml
     Shared/RControlLine.qml
     Shared/RDynamicsPlot.qml
     Shared/RFieldFrame.qml

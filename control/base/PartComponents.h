@@ -15,12 +15,13 @@ namespace tamble::client {
 /// What native items make of themselves when it is first needed. How a part looks is said in QML.
 enum class Part {
     ValueBinding, ///< Holds back a page's binding while a user's edit is shown.
+    CheckDot,     ///< What tells that a check box is not confirmed.
     ControlLine,  ///< The bar of a control's background.
     FocusFrame,   ///< The frame of a control's background while it has the focus.
     LabelLine,    ///< The line of a label.
     ToolTip,
 };
-constexpr std::size_t partCount = 5;
+constexpr std::size_t partCount = 6;
 
 /// Names the QML file of a part, for all engines.
 void setPartSource(Part part, const QUrl &file);

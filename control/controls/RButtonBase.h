@@ -81,7 +81,7 @@ public:
     /// Clicks, as letting the pointer go does; a disabled button does nothing.
     void click();
     /// What a click does to the selection. A button that is not selectable keeps it.
-    Q_INVOKABLE void editSelection(bool selected);
+    Q_INVOKABLE virtual void editSelection(bool selected);
 
     QAccessible::Role spokenRole() const override { return QAccessible::Button; }
     QString spokenName() const override { return plainText(); }

@@ -55,6 +55,8 @@ TestCase {
         "RButtonLabelText { text: 'Mute'; textSub: 'on' }",
         "RButtonSwitch { selectable: true }",
         "RButtonSwitch { consistent: false; enabled: false }",
+        "RCheckBox { text: 'Mute' }",
+        "RCheckBox { selected: true; consistent: false; confirmed: false }",
         "RCompressor { gainReductionVisible: true }",
         "RDragHandler {}",
         "RDucker {}",
