@@ -29,6 +29,9 @@
 #include "dynamics/RPlotRules.h"
 #include "fader/RFaderBase.h"
 #include "fader/RTransferTable.h"
+#include "fields/RComboBoxBase.h"
+#include "fields/RComboBoxEntryBase.h"
+#include "fields/RComboBoxPopup.h"
 #include "fields/RStringRuleValidator.h"
 #include "fields/RStringRuleValidatorRule.h"
 #include "fields/RTextFieldBase.h"
@@ -316,6 +319,9 @@ void registerInternals(const Registrar &registrar)
 {
     registrar.creatable<RButtonBase>("RButtonBase");
     registrar.creatable<RCheckBoxBase>("RCheckBoxBase");
+    registrar.creatable<RComboBoxBase>("RComboBoxBase");
+    registrar.creatable<RComboBoxEntryBase>("RComboBoxEntryBase");
+    registrar.creatable<RComboBoxPopup>("RComboBoxPopup");
     registrar.creatable<RControlBackground>("RControlBackground");
     registrar.creatable<RFaderBase>("RFaderBase");
     registrar.creatable<RHandleBase>("RHandleBase");
@@ -326,6 +332,8 @@ void registerInternals(const Registrar &registrar)
     registrar.withLaterProperties<QQuickItem>();
     registrar.withLaterProperties<QQuickControl>();
     registrar.withLaterProperties<QQuickAbstractButton>();
+    registrar.withLaterProperties<QQuickComboBox>();
+    registrar.withLaterProperties<QQuickPopup>();
     registrar.withLaterProperties<QQuickText>();
     registrar.withLaterProperties<QQuickLabel>();
     registrar.withLaterProperties<QQuickTextInput>();
@@ -347,6 +355,7 @@ void registerParts()
     name(Part::ValueBinding, "Shared/RValueBinding.qml");
     name(Part::CheckDot, "RCheckBox/RCheckDot.qml");
     name(Part::ControlLine, "Shared/RControlLine.qml");
+    name(Part::EntryIcon, "RComboBox/RComboBoxIcon.qml");
     name(Part::FocusFrame, "Shared/RFocusRectangle.qml");
     name(Part::LabelLine, "RLabel/RLabelLine.qml");
     name(Part::ToolTip, "Shared/RToolTip.qml");

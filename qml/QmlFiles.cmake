@@ -25,6 +25,7 @@ set(registered
     RButton/RButtonRow.qml
     RButton/RButtonSwitch.qml
     RCheckBox/RCheckBox.qml
+    RComboBox/RComboBox.qml
     RCompressor/RCompressor.qml
     RDucker/RDucker.qml
     RFader/RFader.qml
@@ -57,6 +58,8 @@ set(unregistered
     RApplicationWindow/RBusyVeil.qml
     RApplicationWindow/RBusyVeilLoader.qml
     RCheckBox/RCheckDot.qml
+    RComboBox/RComboBoxEntry.qml
+    RComboBox/RComboBoxIcon.qml
     RFader/RFaderHandle.qml
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml
@@ -71,6 +74,7 @@ set(unregistered
     Shared/RHandleBubble.qml
     Shared/RPlotHandle.qml
     Shared/RPopupFrame.qml
+    Shared/RScrollBar.qml
     Shared/RStyleProbe.qml
     Shared/RStyledButton.qml
     Shared/RToolTip.qml

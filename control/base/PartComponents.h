@@ -17,11 +17,12 @@ enum class Part {
     ValueBinding, ///< Holds back a page's binding while a user's edit is shown.
     CheckDot,     ///< What tells that a check box is not confirmed.
     ControlLine,  ///< The bar of a control's background.
+    EntryIcon,    ///< The icon of an entry of a combo box.
     FocusFrame,   ///< The frame of a control's background while it has the focus.
     LabelLine,    ///< The line of a label.
     ToolTip,
 };
-constexpr std::size_t partCount = 6;
+constexpr std::size_t partCount = 7;
 
 /// Names the QML file of a part, for all engines.
 void setPartSource(Part part, const QUrl &file);

@@ -57,6 +57,8 @@ TestCase {
         "RButtonSwitch { consistent: false; enabled: false }",
         "RCheckBox { text: 'Mute' }",
         "RCheckBox { selected: true; consistent: false; confirmed: false }",
+        "RComboBox { model: ['Pink', 'White'] }",
+        "RComboBox { editable: true; consistent: false; confirmed: false; model: 3 }",
         "RCompressor { gainReductionVisible: true }",
         "RDragHandler {}",
         "RDucker {}",

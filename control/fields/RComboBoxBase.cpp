@@ -1,0 +1,321 @@
+#include "fields/RComboBoxBase.h"
+
+#include "base/PendingValue.h"
+#include "fields/ComboEntries.h"
+#include "fields/RComboBoxEntryBase.h"
+#include "fields/RTextFieldBase.h"
+
+#include <QtQmlModels/private/qqmlchangeset_p.h>
+#include <QtQmlModels/private/qqmlobjectmodel_p.h>
+#include <QtQuickTemplates2/private/qquickpopup_p.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace tamble::client {
+
+RComboBoxBase::RComboBoxBase(QQuickItem *parent)
+    : QQuickComboBox(parent)
+    , m_unknownText(tr("unknown (%1)"))
+    , m_highlight(*this)
+{
+    connect(this, &QQuickComboBox::activated, this, &RComboBoxBase::onActivated);
+    connect(this, &QQuickComboBox::editTextChanged, this, &RComboBoxBase::onEditTextChanged);
+    connect(this, &QQuickComboBox::currentTextChanged, this, &RComboBoxBase::shownTextChanged);
+    connect(this, &QQuickComboBox::displayTextChanged, this, &RComboBoxBase::shownTextChanged);
+    connect(this, &QQuickComboBox::editableChanged, this, &RComboBoxBase::shownTextChanged);
+    connect(this, &QQuickComboBox::currentIndexChanged, this, &RComboBoxBase::shownTextChanged);
+    connect(this, &RComboBoxBase::unknownTextChanged, this, &RComboBoxBase::shownTextChanged);
+    connect(this, &QQuickComboBox::delegateModelChanged, this, &RComboBoxBase::watchModel);
+    connect(this, &QQuickComboBox::modelChanged, this, &RComboBoxBase::onModelChanged);
+    for (auto changed : {&QQuickComboBox::textRoleChanged, &QQuickComboBox::valueRoleChanged})
+        connect(this, changed, this, &RComboBoxBase::followValueLater);
+    for (auto changed : {&RComboBoxBase::enabledRoleChanged, &RComboBoxBase::iconRoleChanged})
+        connect(this, changed, this, &RComboBoxBase::entriesChanged);
+}
+
+void RComboBoxBase::setValue(const QVariant &value)
+{
+    m_isValueGiven = true;
+    if (m_value == value)
+        return;
+    m_value = value;
+    m_hadValue = m_hadValue || namesAnything(value);
+    followValue();
+    Q_EMIT valueChanged();
+}
+
+void RComboBoxBase::setConsistent(bool consistent)
+{
+    if (std::exchange(m_isConsistent, consistent) == consistent)
+        return;
+    Q_EMIT consistentChanged();
+    Q_EMIT shownTextChanged();
+    announce(*this, QAccessible::DescriptionChanged);
+}
+
+void RComboBoxBase::setConfirmed(bool confirmed)
+{
+    if (std::exchange(m_isConfirmed, confirmed) == confirmed)
+        return;
+    Q_EMIT confirmedChanged();
+    announce(*this, QAccessible::DescriptionChanged);
+}
+
+void RComboBoxBase::setReadOnly(bool readOnly)
+{
+    if (std::exchange(m_isReadOnly, readOnly) == readOnly)
+        return;
+    if (readOnly)
+        close();
+    Q_EMIT readOnlyChanged();
+}
+
+bool RComboBoxBase::isEditing() const
+{
+    return m_isOpen || (m_field && m_field->isEdited());
+}
+
+bool RComboBoxBase::isMixed() const
+{
+    return !m_isConsistent && !(m_pending && m_pending->isActive());
+}
+
+QString RComboBoxBase::shownText() const
+{
+    if (isMixed())
+        return {};
+    if (currentIndex() >= 0)
+        return isEditable() ? currentText() : displayText();
+    if (!isEditable() && !displayText().isEmpty())
+        return displayText();
+    if (m_hadValue && namesAnything(m_value))
+        return isEditable() ? m_value.toString() : m_unknownText.arg(m_value.toString());
+    return isEditable() ? m_enteredText : QString();
+}
+
+bool RComboBoxBase::isEntryEnabled(int index) const
+{
+    const QVariant enabled = entryData(*this, index, m_enabledRole);
+    return index >= 0 && index < count() && (!enabled.isValid() || enabled.toBool());
+}
+
+QString RComboBoxBase::entryIcon(int index) const
+{
+    return entryData(*this, index, m_iconRole).toString();
+}
+
+bool RComboBoxBase::canOpen() const
+{
+    return count() > 0 && !m_isReadOnly && isEnabled();
+}
+
+void RComboBoxBase::open()
+{
+    if (canOpen() && popup())
+        popup()->open();
+}
+
+void RComboBoxBase::close()
+{
+    if (m_isOpen)
+        popup()->close();
+}
+
+void RComboBoxBase::choose(int index)
+{
+    if (m_isReadOnly || !isEntryEnabled(index))
+        return;
+    const QPointer<RComboBoxBase> guard(this);
+    close();
+    if (guard)
+        setCurrentIndex(index);
+    if (guard)
+        Q_EMIT activated(index);
+}
+
+// Whichever way an entry was chosen, by the template's or by choose().
+void RComboBoxBase::onActivated(int index)
+{
+    if (index < 0)
+        return;
+    const QVariant chosen = entryValue(*this, index);
+    const QPointer<RComboBoxBase> guard(this);
+    if (m_field)
+        m_field->cancel();
+    if (guard)
+        pending().show(m_hadValue ? chosen : QVariant(index));
+    if (guard)
+        Q_EMIT valueEdited(chosen);
+    if (guard)
+        m_pending->commit();
+}
+
+void RComboBoxBase::onTextEntered(const QString &text)
+{
+    const QPointer<RComboBoxBase> guard(this);
+    const int index = find(text, Qt::MatchFixedString);
+    if (index >= 0) {
+        choose(index);
+    } else {
+        m_enteredText = text;
+        if (m_hadValue)
+            pending().show(text);
+        setCurrentIndex(-1);
+        setEditText(text);
+        close();
+    }
+    if (guard)
+        Q_EMIT accepted();
+    if (guard && m_pending)
+        m_pending->commit();
+}
+
+// A page may write it as well; what the field has told comes from the user, or is shown already.
+void RComboBoxBase::onEditTextChanged()
+{
+    if (m_field && m_field->text() == editText())
+        return;
+    m_enteredText = editText();
+    Q_EMIT shownTextChanged();
+}
+
+PendingValue &RComboBoxBase::pending()
+{
+    if (!m_pending) {
+        m_pending = new PendingValue(this);
+        m_pending->setTarget(this);
+        connect(m_pending, &PendingValue::activeChanged, this, &RComboBoxBase::shownTextChanged);
+    }
+    m_pending->setName(m_hadValue ? QStringLiteral("value") : QStringLiteral("currentIndex"));
+    m_pending->setSettleTime(m_settleTime);
+    return *m_pending;
+}
+
+void RComboBoxBase::componentComplete()
+{
+    // The template takes the first entry for chosen unless an index was set. A page that waits for its device to say
+    // a value has chosen none.
+    if (m_isValueGiven && currentIndex() == -1)
+        setCurrentIndex(-1);
+    QQuickComboBox::componentComplete();
+    followValue();
+}
+
+void RComboBoxBase::contentItemChange(QQuickItem *newItem, QQuickItem *oldItem)
+{
+    QQuickComboBox::contentItemChange(newItem, oldItem);
+    if (m_field)
+        m_field->disconnect(this);
+    m_field = qobject_cast<RTextFieldBase *>(newItem);
+    if (!m_field)
+        return;
+    connect(m_field, &RTextFieldBase::editedChanged, this, &RComboBoxBase::editingChanged);
+    connect(m_field, &QQuickTextInput::textEdited, this, &RComboBoxBase::onTextTyped);
+    connect(m_field, &RTextFieldBase::valueEdited, this,
+            [this](const QVariant &text) { onTextEntered(text.toString()); });
+}
+
+void RComboBoxBase::watchModel()
+{
+    if (m_watchedModel)
+        m_watchedModel->disconnect(this);
+    m_watchedModel = delegateModel();
+    if (m_watchedModel)
+        watchEntries();
+    Q_EMIT entriesReplaced();
+}
+
+void RComboBoxBase::watchEntries()
+{
+    connect(m_watchedModel, &QQmlInstanceModel::modelUpdated, this, &RComboBoxBase::onModelUpdated);
+    connect(m_watchedModel, &QQmlInstanceModel::initItem, this, [this](int, QObject *item) {
+        if (auto *entry = qobject_cast<RComboBoxEntryBase *>(item))
+            entry->setComboBox(this);
+    });
+}
+
+// A list in the place of another one: the template has chosen its first entry.
+void RComboBoxBase::onModelChanged()
+{
+    if (m_isValueGiven && !m_hadValue && isComponentComplete())
+        setCurrentIndex(-1);
+    followValue();
+}
+
+// The highlight stays at its entry, so that Enter never takes one that has just come to stand in its place.
+void RComboBoxBase::onModelUpdated(const QQmlChangeSet &change, bool reset)
+{
+    const int before = m_highlight.entry();
+    m_highlight.setEntry(reset ? -1 : entryAfter(change, before));
+    if (m_highlight.entry() != before)
+        Q_EMIT highlightedEntryChanged();
+    Q_EMIT entriesChanged();
+    if (count() == 0)
+        close();
+    followValueLater();
+}
+
+// A model that is filled row by row says so for each; one look at the end is enough.
+void RComboBoxBase::followValueLater()
+{
+    if (!m_hadValue || std::exchange(m_followsLater, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_followsLater = false;
+            followValue();
+        },
+        Qt::QueuedConnection);
+}
+
+void RComboBoxBase::followValue()
+{
+    if (!m_hadValue || !isComponentComplete())
+        return;
+    setCurrentIndex(namesAnything(m_value) ? entryWithValue(*this, m_value, currentIndex()) : -1);
+    Q_EMIT shownTextChanged();
+}
+
+QString RComboBoxBase::spokenName() const
+{
+    return m_label.isEmpty() ? m_placeholderText : m_label;
+}
+
+QString RComboBoxBase::spokenDescription(const QString &given) const
+{
+    QStringList parts{given, isMixed() ? tr("mixed") : shownText()};
+    if (!m_isConfirmed)
+        parts << tr("not confirmed");
+    parts << (m_isOpen ? tr("expanded") : tr("collapsed"));
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
+
+void RComboBoxBase::addSpokenStates(QAccessible::State &state) const
+{
+    state.readOnly = m_isReadOnly;
+    state.editable = isEditable();
+    state.hasPopup = true;
+    state.expandable = true;
+    state.expanded = m_isOpen;
+    state.collapsed = !m_isOpen;
+}
+
+bool RComboBoxBase::pressBySpeech()
+{
+    if (m_isOpen)
+        close();
+    else
+        open();
+    return true;
+}
+
+void RComboBoxBase::accessibilityActiveChanged(bool active)
+{
+    if (active)
+        beginToSpeak(*this);
+}
+
+} // namespace tamble::client

@@ -1,0 +1,137 @@
+import QtQuick
+import QtQuick.Templates as T
+import TambleClient.Control 1.0
+import "../Shared" as Shared
+
+/*! One of a list, which a device stores; see RComboBoxBase. An editable one takes typed texts as well. */
+RComboBoxBase {
+    id: root
+
+    RStyleSet.typeName: "RComboBox"
+
+    property color ssBackground: root.RStyleSet.props.background
+    property color ssColor: root.RStyleSet.props.foreground
+    property color ssLineColor: root.RStyleSet.props.line
+    property color ssBorderColor: root.RStyleSet.props.isSet("border") ? root.RStyleSet.props.border : "transparent"
+    property color ssBorderColorFocus: root.RStyleSet.props.isSet("border-color-focus") ? root.RStyleSet.props.borderColorFocus : "transparent"
+    property color ssIndicatorBackground: root.RStyleSet.props.indicatorBackground
+    property color ssIndicatorBackgroundHover: root.RStyleSet.props.indicatorBackgroundHover
+
+    ssItemColorCurrent: root.RStyleSet.props.itemColorCurrent
+    ssItemColorHover: root.RStyleSet.props.itemColorHover
+    ssForegroundItem: root.RStyleSet.props.foregroundItem
+    ssForegroundItemHover: root.RStyleSet.props.foregroundItemHover
+    ssForegroundItemSelected: root.RStyleSet.props.foregroundItemSelected
+    ssBackgroundItem: root.RStyleSet.props.backgroundItem
+    ssBackgroundItemHover: root.RStyleSet.props.backgroundItemHover
+    ssBackgroundItemSelected: root.RStyleSet.props.backgroundItemSelected
+    ssPopupColor: root.RStyleSet.props.popupColor
+    ssPopupBorderColor: root.RStyleSet.props.popupBorderColor
+
+    RStyleSet.stateHelper.hovered: root.hovered
+    RStyleSet.stateHelper.pressed: root.pressed
+    RStyleSet.stateHelper.disabled: !root.enabled
+    RStyleSet.stateHelper.readOnly: root.readOnly
+    RStyleSet.stateHelper.inconsistent: !root.consistent
+    RStyleSet.stateHelper.focus: root.activeFocus
+
+    implicitWidth: 144 * RThemeValues.unit
+    implicitHeight: 32 * RThemeValues.unit
+    leftPadding: root.mirrored ? 32 * RThemeValues.unit : 0
+    rightPadding: root.mirrored ? 0 : 32 * RThemeValues.unit
+    hoverEnabled: RThemeValues.hoverEnabled
+    focusPolicy: Qt.StrongFocus
+    selectTextByMouse: true
+
+    delegate: RComboBoxEntry {}
+
+    contentItem: RTextField { // qmllint disable deferred-property-id
+        RStyleSet.stateHelper.disabled: !root.enabled
+
+        enabled: root.editable
+        readOnly: !root.editable || root.readOnly
+        activeFocusOnTab: false
+        autoScroll: root.editable
+        value: root.shownText
+        // What was typed is the box's to show from then on.
+        settleTime: 0
+        consistent: !root.mixed
+        confirmed: root.confirmed
+        placeholderText: root.mixed ? qsTr("mixed") : root.placeholderText
+        validator: root.validator
+        inputMethodHints: root.inputMethodHints
+        background: null
+    }
+
+    background: RControlBackground { // qmllint disable deferred-property-id
+        color: root.ssBackground
+        border.width: root.activeFocus ? RThemeValues.unit : 0
+        border.color: root.visualFocus ? root.ssBorderColorFocus : root.ssBorderColor
+        focusVisible: root.activeFocus && root.ssBorderColorFocus.a === 0
+
+        Rectangle {
+            y: root.height - height
+            width: root.width
+            height: (root.activeFocus ? 2 : 1) * RThemeValues.unit
+            color: root.ssLineColor
+        }
+    }
+
+    indicator: Rectangle { // qmllint disable deferred-property-id
+        // Within the focus frame and above the line.
+        x: root.mirrored ? RThemeValues.unit : root.width - width - RThemeValues.unit
+        y: RThemeValues.unit
+        width: 31 * RThemeValues.unit
+        height: root.height - 3 * RThemeValues.unit
+        color: root.hovered ? root.ssIndicatorBackgroundHover : root.ssIndicatorBackground
+
+        RTintedImage {
+            x: (parent.width - width) / 2
+            y: (parent.height - height) / 2
+            width: 16 * RThemeValues.unit
+            height: width
+            source: "qrc:/icons/chevron-down_16x16.png"
+            tint: root.ssColor
+            enlargement: RThemeValues.unit
+        }
+    }
+
+    popup: RComboBoxPopup { // qmllint disable deferred-property-id
+        x: root.mirrored ? root.width - width : 0
+        y: root.height
+        width: Math.min(2 * root.width, Math.max(root.width, root.entryWidth + 2 * RThemeValues.unit))
+        height: Math.max(1, Math.min(root.count, root.maximumVisibleItems)) * 32 * RThemeValues.unit + 2 * RThemeValues.unit
+        padding: 0
+        margins: 8 * RThemeValues.unit
+
+        contentItem: Rectangle { // qmllint disable deferred-property-id
+            color: root.ssPopupColor
+            border.width: RThemeValues.unit
+            border.color: root.ssPopupBorderColor
+
+            RBoxShadow {}
+            ListView {
+                id: list
+
+                x: RThemeValues.unit
+                y: x
+                width: parent.width - 2 * x
+                height: parent.height - 2 * y
+                model: root.entries
+                currentIndex: -1
+                clip: true
+                reuseItems: true
+                boundsBehavior: Flickable.StopAtBounds
+                T.ScrollBar.vertical: Shared.RScrollBar {}
+
+                Connections {
+                    target: root
+
+                    function onHighlightMoved(index: int) {
+                        list.positionViewAtIndex(index, ListView.Contain)
+                    }
+                }
+            }
+        }
+    }
+}
