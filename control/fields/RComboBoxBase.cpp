@@ -73,7 +73,7 @@ void RComboBoxBase::setReadOnly(bool readOnly)
 
 bool RComboBoxBase::isEditing() const
 {
-    return m_isOpen || (m_field && m_field->isEdited());
+    return m_isOpen || (m_field && m_field->edit()->isEdited());
 }
 
 bool RComboBoxBase::isMixed() const
@@ -142,7 +142,7 @@ void RComboBoxBase::onActivated(int index)
     const QVariant chosen = entryValue(*this, index);
     const QPointer<RComboBoxBase> guard(this);
     if (m_field)
-        m_field->cancel();
+        m_field->edit()->cancel();
     if (guard)
         pending().show(m_hadValue ? chosen : QVariant(index));
     if (guard)
@@ -199,6 +199,9 @@ void RComboBoxBase::componentComplete()
     if (m_isValueGiven && currentIndex() == -1)
         setCurrentIndex(-1);
     QQuickComboBox::componentComplete();
+    // Before the field's own: the list's keys are not for it.
+    if (m_field)
+        m_field->installEventFilter(this);
     followValue();
 }
 
@@ -210,7 +213,7 @@ void RComboBoxBase::contentItemChange(QQuickItem *newItem, QQuickItem *oldItem)
     m_field = qobject_cast<RTextFieldBase *>(newItem);
     if (!m_field)
         return;
-    connect(m_field, &RTextFieldBase::editedChanged, this, &RComboBoxBase::editingChanged);
+    connect(m_field->edit(), &FieldEdit::editedChanged, this, &RComboBoxBase::editingChanged);
     connect(m_field, &QQuickTextInput::textEdited, this, &RComboBoxBase::onTextTyped);
     connect(m_field, &RTextFieldBase::valueEdited, this,
             [this](const QVariant &text) { onTextEntered(text.toString()); });

@@ -2,26 +2,25 @@ import QtQuick
 import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
-/*! Bar that shows and moves the visible part of a list, while there is more than that. */
+/*! Bar beside what is scrolled, shown while there is more than fits. */
 T.ScrollBar {
     id: root
 
-    property color ssLineColor: handle.RStyleSet.props.line
-
-    implicitWidth: 8 * RThemeValues.unit
-    implicitHeight: 8 * RThemeValues.unit
-    padding: RThemeValues.unit
-    minimumSize: root.availableHeight > 0 ? Math.min(1, 24 * RThemeValues.unit / root.availableHeight) : 0
-    visible: root.size < 1
+    implicitWidth: root.vertical ? 8 * RThemeValues.unit : 0
+    implicitHeight: root.vertical ? 0 : 8 * RThemeValues.unit
+    minimumSize: 0.05
+    visible: root.policy === T.ScrollBar.AlwaysOn || (root.policy === T.ScrollBar.AsNeeded && root.size < 1)
 
     contentItem: Rectangle { // qmllint disable deferred-property-id
-        radius: width / 2
-        color: root.ssLineColor
-        opacity: root.pressed || root.hovered ? 1 : 0.6
-    }
-
-    RStyleProbe {
         id: handle
-        type: "RTabButton"
+
+        property color ssLineColor: handle.RStyleSet.props.line
+
+        RStyleSet.typeName: "RTabButton"
+        implicitWidth: 8 * RThemeValues.unit
+        implicitHeight: 8 * RThemeValues.unit
+        radius: 4 * RThemeValues.unit
+        color: handle.ssLineColor
+        opacity: root.pressed ? 1 : root.hovered ? 0.8 : 0.5
     }
 }
