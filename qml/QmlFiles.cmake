@@ -63,6 +63,7 @@ set(unregistered
     RCheckBox/RCheckDot.qml
     RComboBox/RComboBoxEntry.qml
     RComboBox/RComboBoxIcon.qml
+    RComboBox/RComboBoxList.qml
     RFader/RFaderHandle.qml
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml

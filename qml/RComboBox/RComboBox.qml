@@ -1,7 +1,5 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
-import "../Shared" as Shared
 
 /*! One of a list, which a device stores; see RComboBoxBase. An editable one takes typed texts as well. */
 RComboBoxBase {
@@ -104,34 +102,9 @@ RComboBoxBase {
         padding: 0
         margins: 8 * RThemeValues.unit
 
-        contentItem: Rectangle { // qmllint disable deferred-property-id
-            color: root.ssPopupColor
-            border.width: RThemeValues.unit
-            border.color: root.ssPopupBorderColor
-
-            RBoxShadow {}
-            ListView {
-                id: list
-
-                x: RThemeValues.unit
-                y: x
-                width: parent.width - 2 * x
-                height: parent.height - 2 * y
-                model: root.entries
-                currentIndex: -1
-                clip: true
-                reuseItems: true
-                boundsBehavior: Flickable.StopAtBounds
-                T.ScrollBar.vertical: Shared.RScrollBar {}
-
-                Connections {
-                    target: root
-
-                    function onHighlightMoved(index: int) {
-                        list.positionViewAtIndex(index, ListView.Contain)
-                    }
-                }
-            }
+        // Without an id anywhere below, or the list would be made with the box.
+        contentItem: RComboBoxList { // qmllint disable deferred-property-id
+            comboBox: root
         }
     }
 }
