@@ -366,6 +366,9 @@ void registerParts()
     };
     name(Part::ValueBinding, "Shared/RValueBinding.qml");
     name(Part::CheckDot, "RCheckBox/RCheckDot.qml");
+    name(Part::CheckIcon, "RCheckBox/RCheckIcon.qml");
+    name(Part::ComboField, "RComboBox/RComboBoxField.qml");
+    name(Part::ComboMarks, "RComboBox/RComboBoxMarks.qml");
     name(Part::ControlLine, "Shared/RControlLine.qml");
     name(Part::EntryIcon, "RComboBox/RComboBoxIcon.qml");
     name(Part::FocusFrame, "Shared/RFocusRectangle.qml");

@@ -61,9 +61,13 @@ set(unregistered
     RApplicationWindow/RBusyVeil.qml
     RApplicationWindow/RBusyVeilLoader.qml
     RCheckBox/RCheckDot.qml
+    RCheckBox/RCheckIcon.qml
     RComboBox/RComboBoxEntry.qml
+    RComboBox/RComboBoxField.qml
     RComboBox/RComboBoxIcon.qml
     RComboBox/RComboBoxList.qml
+    RComboBox/RComboBoxMarks.qml
+    RComboBox/RComboBoxText.qml
     RFader/RFaderHandle.qml
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml
@@ -85,6 +89,7 @@ set(unregistered
     Shared/RFieldFrame.qml
     Shared/RFieldMarks.qml
     Shared/RHandleBubble.qml
+    Shared/RMixedFlag.qml
     Shared/RPlotHandle.qml
     Shared/RPopupFrame.qml
     Shared/RScrollBar.qml

@@ -9,6 +9,7 @@
 
 class QQmlComponent;
 class QQmlEngine;
+class QQuickItem;
 
 namespace tamble::client {
 
@@ -16,6 +17,9 @@ namespace tamble::client {
 enum class Part {
     ValueBinding, ///< Holds back a page's binding while a user's edit is shown.
     CheckDot,     ///< What tells that a check box is not confirmed.
+    CheckIcon,    ///< The sign in a check box.
+    ComboField,   ///< What is typed into in an editable combo box.
+    ComboMarks,   ///< What tells that a combo box is mixed or not confirmed.
     ControlLine,  ///< The bar of a control's background.
     EntryIcon,    ///< The icon of an entry of a combo box.
     FocusFrame,   ///< The frame of a control's background while it has the focus.
@@ -30,7 +34,7 @@ enum class Part {
     SpinAffixes,     ///< What stands before and after the number of a spin box.
     SpinInvalidLook, ///< The colours of an unacceptable number.
 };
-constexpr std::size_t partCount = 15;
+constexpr std::size_t partCount = 18;
 
 /// Names the QML file of a part, for all engines.
 void setPartSource(Part part, const QUrl &file);
@@ -40,6 +44,9 @@ class PartComponents : public QObject
 {
 public:
     static PartComponents &of(QQmlEngine *engine);
+
+    /// Makes a part that is an item below `parent`; null outside of QML.
+    static QQuickItem *makeItem(Part part, QQuickItem &parent);
 
     /// Makes a part as a child of `owner`; null, with a log line, when its file has a fault.
     QObject *make(Part part, QObject *owner, const QVariantMap &initialProperties);

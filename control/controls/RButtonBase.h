@@ -112,6 +112,8 @@ Q_SIGNALS:
     void customEventActivated();
 
 protected:
+    /// `selected` or `consistent` has changed.
+    virtual void selectionChange() {}
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;

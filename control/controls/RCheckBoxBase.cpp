@@ -2,8 +2,6 @@
 
 #include "base/PartComponents.h"
 
-#include <QtQml/qqml.h>
-
 #include <utility>
 
 namespace tamble::client {
@@ -12,8 +10,6 @@ RCheckBoxBase::RCheckBoxBase(QQuickItem *parent)
     : RButtonBase(parent)
 {
     setSelectable(true);
-    connect(this, &RButtonBase::selectedChanged, this, &RCheckBoxBase::checkStateChanged);
-    connect(this, &RButtonBase::consistentChanged, this, &RCheckBoxBase::checkStateChanged);
 }
 
 Qt::CheckState RCheckBoxBase::checkState() const
@@ -27,13 +23,28 @@ void RCheckBoxBase::setConfirmed(bool confirmed)
 {
     if (std::exchange(m_confirmed, confirmed) == confirmed)
         return;
-    QQmlEngine *engine = qmlEngine(this);
-    if (!confirmed && !m_dot && engine) {
-        const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue<QQuickItem *>(this)}};
-        m_dot = PartComponents::of(engine).make(Part::CheckDot, this, properties);
-    }
+    if (!confirmed && !m_dot)
+        m_dot = PartComponents::makeItem(Part::CheckDot, *this);
     announce(*this, QAccessible::DescriptionChanged);
     Q_EMIT confirmedChanged();
+}
+
+void RCheckBoxBase::setFocusVisible(bool visible)
+{
+    if (std::exchange(m_focusVisible, visible) == visible)
+        return;
+    if (visible && !m_focusFrame)
+        m_focusFrame = PartComponents::makeItem(Part::FocusFrame, *this);
+    if (m_focusFrame)
+        m_focusFrame->setVisible(visible);
+    Q_EMIT focusVisibleChanged();
+}
+
+void RCheckBoxBase::selectionChange()
+{
+    if (checkState() != Qt::Unchecked && !m_icon)
+        m_icon = PartComponents::makeItem(Part::CheckIcon, *this);
+    Q_EMIT checkStateChanged();
 }
 
 void RCheckBoxBase::editSelection(bool selected)

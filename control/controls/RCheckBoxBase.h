@@ -15,6 +15,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RCheckBoxBase : public tamble::client::RButto
     /// Whether the box is shown and can have the focus, but a click edits nothing; false by default.
     Q_PROPERTY(bool readOnly MEMBER m_readOnly NOTIFY readOnlyChanged FINAL)
     Q_PROPERTY(bool confirmed READ isConfirmed WRITE setConfirmed NOTIFY confirmedChanged FINAL)
+    Q_PROPERTY(bool focusVisible READ focusVisible WRITE setFocusVisible NOTIFY focusVisibleChanged FINAL)
     Q_PROPERTY(QColor ssBorderColor MEMBER m_ssBorderColor NOTIFY ssBorderColorChanged)
 
 public:
@@ -26,6 +27,10 @@ public:
     bool isConfirmed() const { return m_confirmed; }
     void setConfirmed(bool confirmed);
 
+    /// Whether the frame of the keyboard focus shows; false by default.
+    bool focusVisible() const { return m_focusVisible; }
+    void setFocusVisible(bool visible);
+
     void editSelection(bool selected) override;
 
     QAccessible::Role spokenRole() const override { return QAccessible::CheckBox; }
@@ -36,13 +41,20 @@ Q_SIGNALS:
     void checkStateChanged();
     void readOnlyChanged();
     void confirmedChanged();
+    void focusVisibleChanged();
     void ssBorderColorChanged();
+
+protected:
+    void selectionChange() override;
 
 private:
     QColor m_ssBorderColor;
-    QObject *m_dot = nullptr; // a child, made when it is first shown
+    QQuickItem *m_icon = nullptr; // these are children, made when first shown
+    QQuickItem *m_dot = nullptr;
+    QQuickItem *m_focusFrame = nullptr;
     bool m_readOnly = false;
     bool m_confirmed = true;
+    bool m_focusVisible = false;
 };
 
 } // namespace tamble::client

@@ -1,5 +1,6 @@
 #include "fields/RComboBoxBase.h"
 
+#include "base/PartComponents.h"
 #include "base/PendingValue.h"
 #include "fields/ComboEntries.h"
 #include "fields/RComboBoxEntryBase.h"
@@ -15,23 +16,16 @@
 namespace tamble::client {
 
 RComboBoxBase::RComboBoxBase(QQuickItem *parent)
-    : QQuickComboBox(parent)
+    : StyledComboBox(parent)
     , m_unknownText(tr("unknown (%1)"))
     , m_highlight(*this)
 {
     connect(this, &QQuickComboBox::activated, this, &RComboBoxBase::onActivated);
-    connect(this, &QQuickComboBox::editTextChanged, this, &RComboBoxBase::onEditTextChanged);
-    connect(this, &QQuickComboBox::currentTextChanged, this, &RComboBoxBase::shownTextChanged);
     connect(this, &QQuickComboBox::displayTextChanged, this, &RComboBoxBase::shownTextChanged);
-    connect(this, &QQuickComboBox::editableChanged, this, &RComboBoxBase::shownTextChanged);
     connect(this, &QQuickComboBox::currentIndexChanged, this, &RComboBoxBase::shownTextChanged);
-    connect(this, &RComboBoxBase::unknownTextChanged, this, &RComboBoxBase::shownTextChanged);
+    connect(this, &QQuickComboBox::editableChanged, this, &RComboBoxBase::needField);
     connect(this, &QQuickComboBox::delegateModelChanged, this, &RComboBoxBase::watchModel);
     connect(this, &QQuickComboBox::modelChanged, this, &RComboBoxBase::onModelChanged);
-    for (auto changed : {&QQuickComboBox::textRoleChanged, &QQuickComboBox::valueRoleChanged})
-        connect(this, changed, this, &RComboBoxBase::followValueLater);
-    for (auto changed : {&RComboBoxBase::enabledRoleChanged, &RComboBoxBase::iconRoleChanged})
-        connect(this, changed, this, &RComboBoxBase::entriesChanged);
 }
 
 void RComboBoxBase::setValue(const QVariant &value)
@@ -49,6 +43,7 @@ void RComboBoxBase::setConsistent(bool consistent)
 {
     if (std::exchange(m_isConsistent, consistent) == consistent)
         return;
+    needMarks();
     Q_EMIT consistentChanged();
     Q_EMIT shownTextChanged();
     announce(*this, QAccessible::DescriptionChanged);
@@ -58,6 +53,7 @@ void RComboBoxBase::setConfirmed(bool confirmed)
 {
     if (std::exchange(m_isConfirmed, confirmed) == confirmed)
         return;
+    needMarks();
     Q_EMIT confirmedChanged();
     announce(*this, QAccessible::DescriptionChanged);
 }
@@ -69,6 +65,30 @@ void RComboBoxBase::setReadOnly(bool readOnly)
     if (readOnly)
         close();
     Q_EMIT readOnlyChanged();
+}
+
+void RComboBoxBase::setUnknownText(const QString &text)
+{
+    if (std::exchange(m_unknownText, text) == text)
+        return;
+    Q_EMIT unknownTextChanged();
+    Q_EMIT shownTextChanged();
+}
+
+void RComboBoxBase::setEnabledRole(const QString &role)
+{
+    if (std::exchange(m_enabledRole, role) == role)
+        return;
+    Q_EMIT enabledRoleChanged();
+    Q_EMIT entriesChanged();
+}
+
+void RComboBoxBase::setIconRole(const QString &role)
+{
+    if (std::exchange(m_iconRole, role) == role)
+        return;
+    Q_EMIT iconRoleChanged();
+    Q_EMIT entriesChanged();
 }
 
 bool RComboBoxBase::isEditing() const
@@ -198,11 +218,26 @@ void RComboBoxBase::componentComplete()
     // a value has chosen none.
     if (m_isValueGiven && currentIndex() == -1)
         setCurrentIndex(-1);
+    needField();
     QQuickComboBox::componentComplete();
-    // Before the field's own: the list's keys are not for it.
-    if (m_field)
-        m_field->installEventFilter(this);
     followValue();
+}
+
+// Nearly all boxes only show a text, which costs a third of a field.
+void RComboBoxBase::needField()
+{
+    Q_EMIT shownTextChanged();
+    if (!isEditable() || m_field)
+        return;
+    if (QQuickItem *field = PartComponents::makeItem(Part::ComboField, *this))
+        setContentItem(field);
+}
+
+// A field has its own.
+void RComboBoxBase::needMarks()
+{
+    if (!m_marks && !(m_isConfirmed && m_isConsistent))
+        m_marks = PartComponents::makeItem(Part::ComboMarks, *this);
 }
 
 void RComboBoxBase::contentItemChange(QQuickItem *newItem, QQuickItem *oldItem)
@@ -213,6 +248,7 @@ void RComboBoxBase::contentItemChange(QQuickItem *newItem, QQuickItem *oldItem)
     m_field = qobject_cast<RTextFieldBase *>(newItem);
     if (!m_field)
         return;
+    connect(this, &QQuickComboBox::editTextChanged, this, &RComboBoxBase::onEditTextChanged, Qt::UniqueConnection);
     connect(m_field->edit(), &FieldEdit::editedChanged, this, &RComboBoxBase::editingChanged);
     connect(m_field, &QQuickTextInput::textEdited, this, &RComboBoxBase::onTextTyped);
     connect(m_field, &RTextFieldBase::valueEdited, this,

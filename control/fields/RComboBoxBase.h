@@ -3,13 +3,12 @@
 #include "base/ControlExport.h"
 #include "base/SpokenControl.h"
 #include "fields/ComboHighlight.h"
+#include "fields/StyledComboBox.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QVariant>
-#include <QtGui/QColor>
 #include <QtQml/qqmlregistration.h>
 #include <QtQmlModels/private/qqmlobjectmodel_p.h>
-#include <QtQuickTemplates2/private/qquickcombobox_p.h>
 
 class QQmlChangeSet;
 
@@ -25,7 +24,7 @@ class RTextFieldBase;
 ///
 /// Keys: Space, Enter, F4, Up, Down and Alt+Down open the list. There Up, Down, PageUp, PageDown, Home, End and the
 /// first letters of an entry move the highlight, Enter and Space choose, Esc closes without a choice.
-class TAMBLE_CLIENT_CONTROL_EXPORT RComboBoxBase : public QQuickComboBox, public SpokenControl
+class TAMBLE_CLIENT_CONTROL_EXPORT RComboBoxBase : public tamble::client::StyledComboBox, public SpokenControl
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RComboBoxBase)
@@ -40,12 +39,9 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RComboBoxBase : public QQuickComboBox, public
     Q_PROPERTY(QString label MEMBER m_label NOTIFY labelChanged FINAL)
     /// Text shown while nothing is chosen.
     Q_PROPERTY(QString placeholderText MEMBER m_placeholderText NOTIFY placeholderTextChanged FINAL)
-    /// Text shown for a `value` that no entry has, with "%1" for it.
-    Q_PROPERTY(QString unknownText MEMBER m_unknownText NOTIFY unknownTextChanged FINAL)
-    /// Of the model: the role that says whether an entry can be chosen (`enabledRole`), and that of its icon's key
-    /// (`iconRole`); empty, the default, for none.
-    Q_PROPERTY(QString enabledRole MEMBER m_enabledRole NOTIFY enabledRoleChanged FINAL)
-    Q_PROPERTY(QString iconRole MEMBER m_iconRole NOTIFY iconRoleChanged FINAL)
+    Q_PROPERTY(QString unknownText READ unknownText WRITE setUnknownText NOTIFY unknownTextChanged FINAL)
+    Q_PROPERTY(QString enabledRole READ enabledRole WRITE setEnabledRole NOTIFY enabledRoleChanged FINAL)
+    Q_PROPERTY(QString iconRole READ iconRole WRITE setIconRole NOTIFY iconRoleChanged FINAL)
     /// Most entries that the list shows at once; 8 by default.
     Q_PROPERTY(int maximumVisibleItems MEMBER m_maximumVisibleItems NOTIFY maximumVisibleItemsChanged FINAL)
     Q_PROPERTY(bool mixed READ isMixed NOTIFY shownTextChanged FINAL)
@@ -53,20 +49,6 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RComboBoxBase : public QQuickComboBox, public
     Q_PROPERTY(QQmlInstanceModel *entries READ entries NOTIFY entriesReplaced FINAL)
     Q_PROPERTY(int highlightedEntry READ highlightedEntry NOTIFY highlightedEntryChanged FINAL)
     Q_PROPERTY(qreal entryWidth READ entryWidth NOTIFY entryWidthChanged FINAL)
-    /// Of the style, for the open list: the bar beside an entry, its text, what is behind it, and the list itself.
-    /// `ssItemColorCurrent`, `ssItemColorHover`, `ssForegroundItem`, `ssForegroundItemHover`,
-    /// `ssForegroundItemSelected`, `ssBackgroundItem`, `ssBackgroundItemHover`, `ssBackgroundItemSelected`,
-    /// `ssPopupColor`, `ssPopupBorderColor`.
-    Q_PROPERTY(QColor ssItemColorCurrent MEMBER m_ssItemColorCurrent NOTIFY ssListChanged)
-    Q_PROPERTY(QColor ssItemColorHover MEMBER m_ssItemColorHover NOTIFY ssListChanged)
-    Q_PROPERTY(QColor ssForegroundItem MEMBER m_ssForegroundItem NOTIFY ssListChanged)
-    Q_PROPERTY(QColor ssForegroundItemHover MEMBER m_ssForegroundItemHover NOTIFY ssListChanged)
-    Q_PROPERTY(QColor ssForegroundItemSelected MEMBER m_ssForegroundItemSelected NOTIFY ssListChanged)
-    Q_PROPERTY(QColor ssBackgroundItem MEMBER m_ssBackgroundItem NOTIFY ssListChanged)
-    Q_PROPERTY(QColor ssBackgroundItemHover MEMBER m_ssBackgroundItemHover NOTIFY ssListChanged)
-    Q_PROPERTY(QColor ssBackgroundItemSelected MEMBER m_ssBackgroundItemSelected NOTIFY ssListChanged)
-    Q_PROPERTY(QColor ssPopupColor MEMBER m_ssPopupColor NOTIFY ssListChanged)
-    Q_PROPERTY(QColor ssPopupBorderColor MEMBER m_ssPopupBorderColor NOTIFY ssListChanged)
 
 public:
     explicit RComboBoxBase(QQuickItem *parent = nullptr);
@@ -84,6 +66,15 @@ public:
     /// Whether the box shows and can have the focus, but does not open; false by default.
     bool isReadOnly() const { return m_isReadOnly; }
     void setReadOnly(bool readOnly);
+    /// Text shown for a `value` that no entry has, with "%1" for it.
+    QString unknownText() const { return m_unknownText; }
+    void setUnknownText(const QString &text);
+    /// Of the model: the role that says whether an entry can be chosen (`enabledRole`), and that of its icon's key
+    /// (`iconRole`); empty, the default, for none.
+    QString enabledRole() const { return m_enabledRole; }
+    void setEnabledRole(const QString &role);
+    QString iconRole() const { return m_iconRole; }
+    void setIconRole(const QString &role);
     /// Whether the list is open, or something was typed and not entered.
     bool isEditing() const;
     /// Whether "mixed" is shown: not while a choice settles.
@@ -137,7 +128,6 @@ Q_SIGNALS:
     void entryWidthChanged();
     void entriesReplaced();
     void entriesChanged();
-    void ssListChanged();
     /// Keys have moved the highlight to an entry, which is to be in view.
     void highlightMoved(int index);
     /// The user has chosen the entry with this value.
@@ -154,6 +144,8 @@ protected:
     void accessibilityActiveChanged(bool active) override;
 
 private:
+    void needField();
+    void needMarks();
     void onActivated(int index);
     void onTextEntered(const QString &text);
     void onEditTextChanged();
@@ -182,18 +174,9 @@ private:
     QString m_enteredText; ///< A text of the user's own in an editable box.
     QPointer<QQmlInstanceModel> m_watchedModel;
     QPointer<RTextFieldBase> m_field;
+    QQuickItem *m_marks = nullptr;     // a child, made when first shown
     PendingValue *m_pending = nullptr; // a child, made at the first choice
     ComboHighlight m_highlight;
-    QColor m_ssItemColorCurrent;
-    QColor m_ssItemColorHover;
-    QColor m_ssForegroundItem;
-    QColor m_ssForegroundItemHover;
-    QColor m_ssForegroundItemSelected;
-    QColor m_ssBackgroundItem;
-    QColor m_ssBackgroundItemHover;
-    QColor m_ssBackgroundItemSelected;
-    QColor m_ssPopupColor;
-    QColor m_ssPopupBorderColor;
     qreal m_entryWidth = 0.0;
     int m_settleTime = 300;
     int m_maximumVisibleItems = 8;

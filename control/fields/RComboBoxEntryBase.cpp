@@ -3,8 +3,6 @@
 #include "base/PartComponents.h"
 #include "fields/RComboBoxBase.h"
 
-#include <QtQml/qqml.h>
-
 #include <utility>
 
 namespace tamble::client {
@@ -41,11 +39,8 @@ void RComboBoxEntryBase::readEntry()
     m_entryText = m_comboBox->textAt(m_index);
     m_entryIcon = m_comboBox->entryIcon(m_index);
     setEnabled(m_comboBox->isEntryEnabled(m_index));
-    QQmlEngine *engine = qmlEngine(this);
-    if (!m_icon && !m_entryIcon.isEmpty() && engine) {
-        const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue<QQuickItem *>(this)}};
-        m_icon = PartComponents::of(engine).make(Part::EntryIcon, this, properties);
-    }
+    if (!m_icon && !m_entryIcon.isEmpty())
+        m_icon = PartComponents::makeItem(Part::EntryIcon, *this);
     Q_EMIT entryChanged();
 }
 

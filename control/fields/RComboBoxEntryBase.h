@@ -62,7 +62,7 @@ private:
     RComboBoxBase *m_comboBox = nullptr; // outlives its list
     QString m_entryText;
     QString m_entryIcon;
-    QObject *m_icon = nullptr; // a child, made for the first entry with an icon
+    QQuickItem *m_icon = nullptr; // a child, made for the first entry with an icon
     int m_index = -1;
     bool m_isCurrent = false;
     bool m_isHighlighted = false;

@@ -36,11 +36,8 @@ RCheckBoxBase {
     hoverEnabled: RThemeValues.hoverEnabled && !root.readOnly
     focusPolicy: Qt.StrongFocus
     enterClicks: false
+    focusVisible: root.RStyleSet.stateHelper.focus
 
-    background: RControlBackground { // qmllint disable deferred-property-id
-        color: "transparent"
-        focusVisible: root.RStyleSet.stateHelper.focus
-    }
     contentItem: RText { // qmllint disable deferred-property-id
         id: words
         text: root.plainText
@@ -64,15 +61,5 @@ RCheckBoxBase {
         color: root.ssBackground
         border.width: RThemeValues.unit
         border.color: root.ssBorderColor
-
-        RTintedImage {
-            x: 2 * RThemeValues.unit
-            y: x
-            width: 16 * RThemeValues.unit
-            height: width
-            source: !root.consistent ? "qrc:/icons/dash_16x16.png" : root.selected ? "qrc:/icons/check_16x16.png" : ""
-            tint: root.ssColor
-            enlargement: RThemeValues.unit
-        }
     }
 }

@@ -7,25 +7,6 @@ RComboBoxBase {
 
     RStyleSet.typeName: "RComboBox"
 
-    property color ssBackground: root.RStyleSet.props.background
-    property color ssColor: root.RStyleSet.props.foreground
-    property color ssLineColor: root.RStyleSet.props.line
-    property color ssBorderColor: root.RStyleSet.props.isSet("border") ? root.RStyleSet.props.border : "transparent"
-    property color ssBorderColorFocus: root.RStyleSet.props.isSet("border-color-focus") ? root.RStyleSet.props.borderColorFocus : "transparent"
-    property color ssIndicatorBackground: root.RStyleSet.props.indicatorBackground
-    property color ssIndicatorBackgroundHover: root.RStyleSet.props.indicatorBackgroundHover
-
-    ssItemColorCurrent: root.RStyleSet.props.itemColorCurrent
-    ssItemColorHover: root.RStyleSet.props.itemColorHover
-    ssForegroundItem: root.RStyleSet.props.foregroundItem
-    ssForegroundItemHover: root.RStyleSet.props.foregroundItemHover
-    ssForegroundItemSelected: root.RStyleSet.props.foregroundItemSelected
-    ssBackgroundItem: root.RStyleSet.props.backgroundItem
-    ssBackgroundItemHover: root.RStyleSet.props.backgroundItemHover
-    ssBackgroundItemSelected: root.RStyleSet.props.backgroundItemSelected
-    ssPopupColor: root.RStyleSet.props.popupColor
-    ssPopupBorderColor: root.RStyleSet.props.popupBorderColor
-
     RStyleSet.stateHelper.hovered: root.hovered
     RStyleSet.stateHelper.pressed: root.pressed
     RStyleSet.stateHelper.disabled: !root.enabled
@@ -43,22 +24,8 @@ RComboBoxBase {
 
     delegate: RComboBoxEntry {}
 
-    contentItem: RTextField { // qmllint disable deferred-property-id
-        RStyleSet.stateHelper.disabled: !root.enabled
-
-        enabled: root.editable
-        readOnly: !root.editable || root.readOnly
-        activeFocusOnTab: false
-        autoScroll: root.editable
-        value: root.shownText
-        // What was typed is the box's to show from then on.
-        settleTime: 0
-        consistent: !root.mixed
-        confirmed: root.confirmed
-        placeholderText: root.mixed ? qsTr("mixed") : root.placeholderText
-        validator: root.validator
-        inputMethodHints: root.inputMethodHints
-        background: null
+    contentItem: RComboBoxText { // qmllint disable deferred-property-id
+        comboBox: root
     }
 
     background: RControlBackground { // qmllint disable deferred-property-id

@@ -31,7 +31,8 @@ ThemedTestCase {
         page.forceActiveFocus()
         page.box.forceActiveFocus(Qt.TabFocusReason)
         tryCompare(page.box, "currentIndex", 1)
-        page.box.contentItem.selectAll()
+        if (page.box.editable)
+            page.box.contentItem.selectAll()
         return page
     }
     function logOf(box: var): var {
@@ -175,13 +176,13 @@ ThemedTestCase {
 
     function test_mixed() {
         const page = makePage("consistent: false")
-        compare([shown(page.box), page.box.contentItem.placeholderText], ["", "mixed"])
+        compare(shown(page.box), "mixed")
         keyClick(Qt.Key_Down)
         compare(page.box.highlightedEntry, -1)
         press([Qt.Key_Down, Qt.Key_Return])
         compare([page.device, shown(page.box)], [1, "Input 1"])
         tryCompare(page.box, "mixed", true)
-        compare(shown(page.box), "")
+        compare(shown(page.box), "mixed")
     }
 
     function test_modelThatChangesUnderTheOpenList() {
