@@ -67,7 +67,6 @@ set(unregistered
     RComboBox/RComboBoxIcon.qml
     RComboBox/RComboBoxList.qml
     RComboBox/RComboBoxMarks.qml
-    RComboBox/RComboBoxText.qml
     RFader/RFaderHandle.qml
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml

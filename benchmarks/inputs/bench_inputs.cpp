@@ -33,7 +33,7 @@ constexpr std::array pairs = {
     Pair{"text field", "RTextField { text: 'Level' }", "TextField { text: 'Level' }"},
     Pair{"check box", "RCheckBox { text: 'Level' }", "CheckBox { text: 'Level' }"},
     Pair{"combo box", "RComboBox { model: 3 }", "ComboBox { model: 3 }"},
-    // Pair{"spin box", "RSpinBox {}", "SpinBox {}"},
+    Pair{"spin box", "RSpinBox {}", "SpinBox {}"},
     Pair{"text area", "RTextArea {}", "ScrollView { TextArea {} }"},
 };
 constexpr Pair longList = {"10,000 entries", "RComboBox { model: channels; textRole: 'display' }",

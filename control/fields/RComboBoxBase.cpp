@@ -17,16 +17,8 @@ namespace tamble::client {
 
 RComboBoxBase::RComboBoxBase(QQuickItem *parent)
     : StyledComboBox(parent)
-    , m_unknownText(tr("unknown (%1)"))
     , m_highlight(*this)
-{
-    connect(this, &QQuickComboBox::activated, this, &RComboBoxBase::onActivated);
-    connect(this, &QQuickComboBox::displayTextChanged, this, &RComboBoxBase::shownTextChanged);
-    connect(this, &QQuickComboBox::currentIndexChanged, this, &RComboBoxBase::shownTextChanged);
-    connect(this, &QQuickComboBox::editableChanged, this, &RComboBoxBase::needField);
-    connect(this, &QQuickComboBox::delegateModelChanged, this, &RComboBoxBase::watchModel);
-    connect(this, &QQuickComboBox::modelChanged, this, &RComboBoxBase::onModelChanged);
-}
+{}
 
 void RComboBoxBase::setValue(const QVariant &value)
 {
@@ -35,6 +27,8 @@ void RComboBoxBase::setValue(const QVariant &value)
         return;
     m_value = value;
     m_hadValue = m_hadValue || namesAnything(value);
+    if (m_hadValue)
+        entries();
     followValue();
     Q_EMIT valueChanged();
 }
@@ -45,7 +39,7 @@ void RComboBoxBase::setConsistent(bool consistent)
         return;
     needMarks();
     Q_EMIT consistentChanged();
-    Q_EMIT shownTextChanged();
+    Q_EMIT mixedChanged();
     announce(*this, QAccessible::DescriptionChanged);
 }
 
@@ -67,12 +61,17 @@ void RComboBoxBase::setReadOnly(bool readOnly)
     Q_EMIT readOnlyChanged();
 }
 
+QString RComboBoxBase::unknownText() const
+{
+    return m_unknownText.isNull() ? tr("unknown (%1)") : m_unknownText;
+}
+
 void RComboBoxBase::setUnknownText(const QString &text)
 {
     if (std::exchange(m_unknownText, text) == text)
         return;
     Q_EMIT unknownTextChanged();
-    Q_EMIT shownTextChanged();
+    Q_EMIT otherTextChanged();
 }
 
 void RComboBoxBase::setEnabledRole(const QString &role)
@@ -101,17 +100,12 @@ bool RComboBoxBase::isMixed() const
     return !m_isConsistent && !(m_pending && m_pending->isActive());
 }
 
-QString RComboBoxBase::shownText() const
+QString RComboBoxBase::otherText() const
 {
-    if (isMixed())
-        return {};
-    if (currentIndex() >= 0)
-        return isEditable() ? currentText() : displayText();
-    if (!isEditable() && !displayText().isEmpty())
-        return displayText();
-    if (m_hadValue && namesAnything(m_value))
-        return isEditable() ? m_value.toString() : m_unknownText.arg(m_value.toString());
-    return isEditable() ? m_enteredText : QString();
+    if (!m_hadValue || !namesAnything(m_value))
+        return m_enteredText;
+    const QString text = m_value.toString();
+    return isEditable() ? text : unknownText().arg(text);
 }
 
 bool RComboBoxBase::isEntryEnabled(int index) const
@@ -154,8 +148,7 @@ void RComboBoxBase::choose(int index)
         Q_EMIT activated(index);
 }
 
-// Whichever way an entry was chosen, by the template's or by choose().
-void RComboBoxBase::onActivated(int index)
+void RComboBoxBase::editTo(int index)
 {
     if (index < 0)
         return;
@@ -197,7 +190,7 @@ void RComboBoxBase::onEditTextChanged()
     if (m_field && m_field->text() == editText())
         return;
     m_enteredText = editText();
-    Q_EMIT shownTextChanged();
+    Q_EMIT otherTextChanged();
 }
 
 PendingValue &RComboBoxBase::pending()
@@ -205,7 +198,7 @@ PendingValue &RComboBoxBase::pending()
     if (!m_pending) {
         m_pending = new PendingValue(this);
         m_pending->setTarget(this);
-        connect(m_pending, &PendingValue::activeChanged, this, &RComboBoxBase::shownTextChanged);
+        connect(m_pending, &PendingValue::activeChanged, this, &RComboBoxBase::mixedChanged);
     }
     m_pending->setName(m_hadValue ? QStringLiteral("value") : QStringLiteral("currentIndex"));
     m_pending->setSettleTime(m_settleTime);
@@ -226,7 +219,7 @@ void RComboBoxBase::componentComplete()
 // Nearly all boxes only show a text, which costs a third of a field.
 void RComboBoxBase::needField()
 {
-    Q_EMIT shownTextChanged();
+    Q_EMIT otherTextChanged();
     if (!isEditable() || m_field)
         return;
     if (QQuickItem *field = PartComponents::makeItem(Part::ComboField, *this))
@@ -255,18 +248,29 @@ void RComboBoxBase::contentItemChange(QQuickItem *newItem, QQuickItem *oldItem)
             [this](const QVariant &text) { onTextEntered(text.toString()); });
 }
 
+QQmlInstanceModel *RComboBoxBase::entries()
+{
+    if (!std::exchange(m_watches, true))
+        takeModel();
+    return m_watchedModel;
+}
+
+// Before the list hears of another model: of each entry that is made, the box is told.
 void RComboBoxBase::watchModel()
+{
+    if (!m_watches || m_watchedModel == delegateModel())
+        return;
+    takeModel();
+    Q_EMIT entriesReplaced();
+}
+
+void RComboBoxBase::takeModel()
 {
     if (m_watchedModel)
         m_watchedModel->disconnect(this);
     m_watchedModel = delegateModel();
-    if (m_watchedModel)
-        watchEntries();
-    Q_EMIT entriesReplaced();
-}
-
-void RComboBoxBase::watchEntries()
-{
+    if (!m_watchedModel)
+        return;
     connect(m_watchedModel, &QQmlInstanceModel::modelUpdated, this, &RComboBoxBase::onModelUpdated);
     connect(m_watchedModel, &QQmlInstanceModel::initItem, this, [this](int, QObject *item) {
         if (auto *entry = qobject_cast<RComboBoxEntryBase *>(item))
@@ -274,8 +278,7 @@ void RComboBoxBase::watchEntries()
     });
 }
 
-// A list in the place of another one: the template has chosen its first entry.
-void RComboBoxBase::onModelChanged()
+void RComboBoxBase::followModel()
 {
     if (m_isValueGiven && !m_hadValue && isComponentComplete())
         setCurrentIndex(-1);
@@ -314,7 +317,7 @@ void RComboBoxBase::followValue()
     if (!m_hadValue || !isComponentComplete())
         return;
     setCurrentIndex(namesAnything(m_value) ? entryWithValue(*this, m_value, currentIndex()) : -1);
-    Q_EMIT shownTextChanged();
+    Q_EMIT otherTextChanged();
 }
 
 QString RComboBoxBase::spokenName() const
@@ -324,7 +327,7 @@ QString RComboBoxBase::spokenName() const
 
 QString RComboBoxBase::spokenDescription(const QString &given) const
 {
-    QStringList parts{given, isMixed() ? tr("mixed") : shownText()};
+    QStringList parts{given, isMixed() ? tr("mixed") : currentIndex() >= 0 ? displayText() : otherText()};
     if (!m_isConfirmed)
         parts << tr("not confirmed");
     parts << (m_isOpen ? tr("expanded") : tr("collapsed"));

@@ -44,8 +44,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RComboBoxBase : public tamble::client::Styled
     Q_PROPERTY(QString iconRole READ iconRole WRITE setIconRole NOTIFY iconRoleChanged FINAL)
     /// Most entries that the list shows at once; 8 by default.
     Q_PROPERTY(int maximumVisibleItems MEMBER m_maximumVisibleItems NOTIFY maximumVisibleItemsChanged FINAL)
-    Q_PROPERTY(bool mixed READ isMixed NOTIFY shownTextChanged FINAL)
-    Q_PROPERTY(QString shownText READ shownText NOTIFY shownTextChanged FINAL)
+    Q_PROPERTY(bool mixed READ isMixed NOTIFY mixedChanged FINAL)
+    Q_PROPERTY(QString otherText READ otherText NOTIFY otherTextChanged FINAL)
     Q_PROPERTY(QQmlInstanceModel *entries READ entries NOTIFY entriesReplaced FINAL)
     Q_PROPERTY(int highlightedEntry READ highlightedEntry NOTIFY highlightedEntryChanged FINAL)
     Q_PROPERTY(qreal entryWidth READ entryWidth NOTIFY entryWidthChanged FINAL)
@@ -66,8 +66,8 @@ public:
     /// Whether the box shows and can have the focus, but does not open; false by default.
     bool isReadOnly() const { return m_isReadOnly; }
     void setReadOnly(bool readOnly);
-    /// Text shown for a `value` that no entry has, with "%1" for it.
-    QString unknownText() const { return m_unknownText; }
+    /// Text shown for a `value` that no entry has, with "%1" for it; "unknown (%1)" by default.
+    QString unknownText() const;
     void setUnknownText(const QString &text);
     /// Of the model: the role that says whether an entry can be chosen (`enabledRole`), and that of its icon's key
     /// (`iconRole`); empty, the default, for none.
@@ -79,15 +79,23 @@ public:
     bool isEditing() const;
     /// Whether "mixed" is shown: not while a choice settles.
     bool isMixed() const;
-    /// The text in the box; empty for nothing chosen and for mixed.
-    QString shownText() const;
-    /// The model of the list. In place of `delegateModel`, which tells bindings of another one before anybody can watch
-    /// it.
-    QQmlInstanceModel *entries() const { return m_watchedModel; }
+    /// What stands in the box while no entry is chosen: an unknown value, or what was typed; else empty.
+    QString otherText() const;
+    /// The model of the list, watched from then on.
+    QQmlInstanceModel *entries();
     /// The entry that Enter would choose; -1 for none.
     int highlightedEntry() const { return m_highlight.entry(); }
     /// Width of the widest entry that was in view since the list opened, in pixels.
     qreal entryWidth() const { return m_entryWidth; }
+
+    // The template's signals lead here by handlers in QML: connections would be a tenth of a box's memory.
+    /// An entry was chosen, whichever way.
+    Q_INVOKABLE void editTo(int index);
+    /// The box has become editable, or ceased to be.
+    Q_INVOKABLE void needField();
+    /// Another model is there (`watchModel`), and the template has chosen its first entry (`followModel`).
+    Q_INVOKABLE void watchModel();
+    Q_INVOKABLE void followModel();
 
     bool canOpen() const;
     /// Opens the list, unless it is empty or the box read-only.
@@ -123,7 +131,8 @@ Q_SIGNALS:
     void enabledRoleChanged();
     void iconRoleChanged();
     void maximumVisibleItemsChanged();
-    void shownTextChanged();
+    void mixedChanged();
+    void otherTextChanged();
     void highlightedEntryChanged();
     void entryWidthChanged();
     void entriesReplaced();
@@ -144,16 +153,12 @@ protected:
     void accessibilityActiveChanged(bool active) override;
 
 private:
-    void needField();
     void needMarks();
-    void onActivated(int index);
+    void takeModel();
     void onTextEntered(const QString &text);
     void onEditTextChanged();
     void onTextTyped();
-    void onModelChanged();
     void onModelUpdated(const QQmlChangeSet &change, bool reset);
-    void watchModel();
-    void watchEntries();
     void followValue();
     void followValueLater();
 
@@ -187,6 +192,7 @@ private:
     bool m_isOpen = false;
     bool m_isValueGiven = false; ///< A page has bound or set `value`, if only to undefined.
     bool m_hadValue = false;     ///< `value` has named something: from then on it counts, not `currentIndex`.
+    bool m_watches = false; ///< Somebody has asked for the entries, or a value is looked for among them.
     bool m_followsLater = false;
     bool m_openedByKey = false;
     bool m_typesInField = false; ///< What was typed last counts, not the highlight.

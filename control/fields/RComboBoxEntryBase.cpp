@@ -26,7 +26,8 @@ void RComboBoxEntryBase::setComboBox(RComboBoxBase *box)
     m_comboBox = box;
     connect(box, &RComboBoxBase::entriesChanged, this, &RComboBoxEntryBase::readEntry);
     connect(box, &RComboBoxBase::highlightedEntryChanged, this, &RComboBoxEntryBase::readMarks);
-    connect(box, &RComboBoxBase::shownTextChanged, this, &RComboBoxEntryBase::readMarks);
+    connect(box, &RComboBoxBase::mixedChanged, this, &RComboBoxEntryBase::readMarks);
+    connect(box, &QQuickComboBox::currentIndexChanged, this, &RComboBoxEntryBase::readMarks);
     Q_EMIT comboBoxChanged();
     readEntry();
     readMarks();

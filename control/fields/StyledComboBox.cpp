@@ -5,6 +5,8 @@
 
 #include <QtQml/qqml.h>
 
+#include <utility>
+
 namespace tamble::client {
 
 StyledComboBox::StyledComboBox(QQuickItem *parent)
@@ -38,8 +40,8 @@ QColor StyledComboBox::color(Name name)
         &StyleSetProps::popupColor,
         &StyleSetProps::popupBorderColor,
     };
-    if (m_colors.at(name).isValid())
-        return m_colors.at(name);
+    if (m_colors && m_colors->at(name).isValid())
+        return m_colors->at(name);
     if (!m_styleSet) {
         m_styleSet = static_cast<StyleSet *>(qmlAttachedPropertiesObject<StyleSet>(this));
         m_styleSet->setFollower(this);
@@ -53,9 +55,10 @@ QColor StyledComboBox::color(Name name)
 
 void StyledComboBox::setColor(Name name, const QColor &color)
 {
-    if (m_colors.at(name) == color)
+    if (!m_colors)
+        m_colors = std::make_unique<std::array<QColor, nameCount>>();
+    if (std::exchange(m_colors->at(name), color) == color)
         return;
-    m_colors.at(name) = color;
     Q_EMIT ssChanged();
 }
 

@@ -8,6 +8,7 @@
 #include <QtQuickTemplates2/private/qquickcombobox_p.h>
 
 #include <array>
+#include <memory>
 
 namespace tamble::client {
 
@@ -110,7 +111,7 @@ private:
     void setColor(Name name, const QColor &color);
     void onStyleChanged() override;
 
-    std::array<QColor, nameCount> m_colors; ///< What the page has set in place of the sheets.
+    std::unique_ptr<std::array<QColor, nameCount>> m_colors; ///< What the page has set in place of the sheets.
     StyleSet *m_styleSet = nullptr;         ///< The attached one, once it is read.
 };
 

@@ -20,12 +20,25 @@ RComboBoxBase {
     rightPadding: root.mirrored ? 0 : 32 * RThemeValues.unit
     hoverEnabled: RThemeValues.hoverEnabled
     focusPolicy: Qt.StrongFocus
-    selectTextByMouse: true
 
     delegate: RComboBoxEntry {}
 
-    contentItem: RComboBoxText { // qmllint disable deferred-property-id
-        comboBox: root
+    onActivated: index => root.editTo(index)
+    onEditableChanged: root.needField()
+    onDelegateModelChanged: root.watchModel()
+    onModelChanged: root.followModel()
+
+    // In the colours of a field, as which the sheets know it. An editable box has a real one in its place.
+    contentItem: RText { // qmllint disable deferred-property-id
+        RStyleSet.typeName: "RTextField"
+        RStyleSet.stateHelper.disabled: !root.enabled
+
+        leftPadding: 8 * RThemeValues.unit
+        rightPadding: (root.confirmed ? 4 : 20) * RThemeValues.unit
+        text: root.mixed ? qsTr("mixed") : root.displayText !== "" ? root.displayText : root.otherText !== "" ? root.otherText : root.placeholderText
+        opacity: root.mixed || (root.displayText === "" && root.otherText === "") ? 0.6 : 1
+        elide: Text.ElideRight
+        verticalAlignment: Text.AlignVCenter
     }
 
     background: RControlBackground { // qmllint disable deferred-property-id
@@ -51,10 +64,9 @@ RComboBoxBase {
         color: root.hovered ? root.ssIndicatorBackgroundHover : root.ssIndicatorBackground
 
         RTintedImage {
-            x: (parent.width - width) / 2
-            y: (parent.height - height) / 2
+            anchors.centerIn: parent
             width: 16 * RThemeValues.unit
-            height: width
+            height: 16 * RThemeValues.unit
             source: "qrc:/icons/chevron-down_16x16.png"
             tint: root.ssColor
             enlargement: RThemeValues.unit

@@ -13,7 +13,7 @@ RTextField {
     readOnly: !root.comboBox.editable || root.comboBox.readOnly
     activeFocusOnTab: false
     autoScroll: root.comboBox.editable
-    value: root.comboBox.shownText
+    value: root.comboBox.mixed ? "" : root.comboBox.currentIndex >= 0 ? root.comboBox.currentText : root.comboBox.otherText
     // What was typed is the box's to show from then on.
     settleTime: 0
     consistent: !root.comboBox.mixed
