@@ -4,6 +4,7 @@
 
 #include <QtCore/QTimerEvent>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QWheelEvent>
 
 #include <utility>
 
@@ -22,6 +23,7 @@ RSpinBoxBase::RSpinBoxBase(QQuickItem *parent)
 {
     setFlag(ItemIsFocusScope);
     setAcceptedMouseButtons(Qt::LeftButton);
+    setWheelEnabled(true);
 }
 
 void RSpinBoxBase::setEdit(FieldEdit *edit)
@@ -124,6 +126,7 @@ QString RSpinBoxBase::spokenDescription(const QString &given) const
 
 void RSpinBoxBase::addSpokenStates(QAccessible::State &state) const
 {
+    state.focusable = true; // by its editor
     state.readOnly = m_edit && !m_edit->canEdit();
     state.editable = !state.readOnly;
 }
@@ -173,6 +176,11 @@ void RSpinBoxBase::touchEvent(QTouchEvent *event)
     event->ignore();
 }
 
+void RSpinBoxBase::wheelEvent(QWheelEvent *event)
+{
+    event->setAccepted(m_steps && m_steps->takeWheel(*event));
+}
+
 void RSpinBoxBase::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickControl::itemChange(change, data);
@@ -185,7 +193,9 @@ void RSpinBoxBase::stepByButton()
     const Qt::KeyboardModifiers held = QGuiApplication::keyboardModifiers();
     const bool isPage = (held & Qt::ControlModifier) && (m_repeats == 0 || m_repeats > repeatsBeforePages);
     if (m_steps)
-        m_steps->step(held & Qt::ShiftModifier ? StepSize::Fine : isPage ? StepSize::Page : StepSize::Normal,
+        m_steps->step(held & Qt::ShiftModifier ? StepSize::Fine
+                      : isPage                 ? StepSize::Page
+                                               : StepSize::Normal,
                       m_pressedButton);
 }
 

@@ -13,8 +13,8 @@ namespace tamble::client {
 
 /// A number with two buttons; FieldEdit is its conversation with the device, NumberSteps knows its range.
 ///
-/// A held button steps after 500 ms, then every 60 ms, and after 20 such steps by pages while Ctrl is held. Shift and Ctrl
-/// count as for the keys.
+/// A held button steps after 500 ms, then every 60 ms, and after 20 such steps by pages while Ctrl is held. Shift and
+/// Ctrl count as for the keys.
 class TAMBLE_CLIENT_CONTROL_EXPORT RSpinBoxBase : public QQuickControl, public FieldSpeech
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ public:
     /// Width in pixels of one button, "minus" or "plus"; both stand at the end.
     qreal buttonWidth() const { return m_buttonWidth; }
     void setButtonWidth(qreal width);
-    /// Text before and after the number, which is not part of what is typed; none by default.
+    /// `prefix` and `suffix`: text before and after the number, which is not part of what is typed; none by default.
     QString prefix() const { return m_prefix; }
     void setPrefix(const QString &prefix);
     QString suffix() const { return m_suffix; }
@@ -88,6 +88,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseUngrabEvent() override;
     void touchEvent(QTouchEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
     void accessibilityActiveChanged(bool active) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;

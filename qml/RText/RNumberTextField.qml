@@ -5,8 +5,11 @@ import TambleClient.Control 1.0
 RTextField {
     id: root
 
+    /*! The range, `from` and `to`; infinite, the default, for no bound. */
     property alias from: steps.from
     property alias to: steps.to
+    /*! One step by key or wheel; 0, the default, for none. `fineStepSize` is a tenth of it and `pageStepSize` ten of it, unless
+        they are set. */
     property alias stepSize: steps.stepSize
     property alias fineStepSize: steps.fineStepSize
     property alias pageStepSize: steps.pageStepSize
@@ -15,6 +18,7 @@ RTextField {
     property alias minimumText: steps.minimumText
     property alias snapToStep: steps.snapToStep
     property alias live: steps.live
+    /*! Whether the wheel steps, and with `wheelNeedsFocus` only while the field has the focus; both are true by default. */
     property alias wheelEnabled: steps.wheelEnabled
     property alias wheelNeedsFocus: steps.wheelNeedsFocus
     /*! Drawn behind the number, not part of what is typed; none by default. */
@@ -22,7 +26,7 @@ RTextField {
 
     horizontalAlignment: TextInput.AlignRight
     inputMethodHints: Qt.ImhFormattedNumbersOnly
-    rightPadding: (8 + (root.edit.marked ? 16 : 0)) * RThemeValues.unit + (unit.text === "" ? 0 : unit.implicitWidth + 4 * RThemeValues.unit)
+    rightPadding: (8 + (root.edit.marked ? 16 : 0)) * RThemeValues.unit + (unit.visible ? unit.implicitWidth + 4 * RThemeValues.unit : 0)
 
     RNumberSteps {
         id: steps
@@ -33,11 +37,11 @@ RTextField {
     }
     RText {
         id: unit
-        x: root.effectiveLayoutMirroring ? root.width - root.rightPadding + 4 * RThemeValues.unit : root.width - unit.implicitWidth - (8 + (root.edit.marked ? 16 : 0)) * RThemeValues.unit
+        x: root.effectiveHorizontalAlignment === TextInput.AlignLeft ? root.width - root.rightPadding + 4 * RThemeValues.unit : root.width - unit.implicitWidth - (8 + (root.edit.marked ? 16 : 0)) * RThemeValues.unit
         height: root.height
         color: root.color
         verticalAlignment: Text.AlignVCenter
-        visible: root.consistent
+        visible: root.consistent && unit.text !== ""
         Accessible.ignored: true
     }
 }
