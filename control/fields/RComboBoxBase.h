@@ -192,7 +192,7 @@ private:
     bool m_isOpen = false;
     bool m_isValueGiven = false; ///< A page has bound or set `value`, if only to undefined.
     bool m_hadValue = false;     ///< `value` has named something: from then on it counts, not `currentIndex`.
-    bool m_watches = false; ///< Somebody has asked for the entries, or a value is looked for among them.
+    bool m_watches = false;      ///< Somebody has asked for the entries, or a value is looked for among them.
     bool m_followsLater = false;
     bool m_openedByKey = false;
     bool m_typesInField = false; ///< What was typed last counts, not the highlight.

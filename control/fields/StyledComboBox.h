@@ -14,8 +14,8 @@ namespace tamble::client {
 
 class StyleSet;
 
-/// The style properties of a combo box. Most are those of its open list, which few boxes of a page ever show, so each is
-/// read from the sheets when it is asked for; as bindings they would be a tenth of a box's memory.
+/// The style properties of a combo box. Most are those of its open list, which few boxes of a page ever show, so each
+/// is read from the sheets when it is asked for; as bindings they would be a tenth of a box's memory.
 class TAMBLE_CLIENT_CONTROL_EXPORT StyledComboBox : public QQuickComboBox, private StyleFollower
 {
     Q_OBJECT
@@ -31,15 +31,18 @@ class TAMBLE_CLIENT_CONTROL_EXPORT StyledComboBox : public QQuickComboBox, priva
     Q_PROPERTY(QColor ssBorderColor READ ssBorderColor WRITE setSsBorderColor NOTIFY ssChanged)
     Q_PROPERTY(QColor ssBorderColorFocus READ ssBorderColorFocus WRITE setSsBorderColorFocus NOTIFY ssChanged)
     Q_PROPERTY(QColor ssIndicatorBackground READ ssIndicatorBackground WRITE setSsIndicatorBackground NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssIndicatorBackgroundHover READ ssIndicatorBackgroundHover WRITE setSsIndicatorBackgroundHover NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssIndicatorBackgroundHover READ ssIndicatorBackgroundHover WRITE setSsIndicatorBackgroundHover
+                   NOTIFY ssChanged)
     Q_PROPERTY(QColor ssItemColorCurrent READ ssItemColorCurrent WRITE setSsItemColorCurrent NOTIFY ssChanged)
     Q_PROPERTY(QColor ssItemColorHover READ ssItemColorHover WRITE setSsItemColorHover NOTIFY ssChanged)
     Q_PROPERTY(QColor ssForegroundItem READ ssForegroundItem WRITE setSsForegroundItem NOTIFY ssChanged)
     Q_PROPERTY(QColor ssForegroundItemHover READ ssForegroundItemHover WRITE setSsForegroundItemHover NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssForegroundItemSelected READ ssForegroundItemSelected WRITE setSsForegroundItemSelected NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssForegroundItemSelected READ ssForegroundItemSelected WRITE setSsForegroundItemSelected NOTIFY
+                   ssChanged)
     Q_PROPERTY(QColor ssBackgroundItem READ ssBackgroundItem WRITE setSsBackgroundItem NOTIFY ssChanged)
     Q_PROPERTY(QColor ssBackgroundItemHover READ ssBackgroundItemHover WRITE setSsBackgroundItemHover NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssBackgroundItemSelected READ ssBackgroundItemSelected WRITE setSsBackgroundItemSelected NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssBackgroundItemSelected READ ssBackgroundItemSelected WRITE setSsBackgroundItemSelected NOTIFY
+                   ssChanged)
     Q_PROPERTY(QColor ssPopupColor READ ssPopupColor WRITE setSsPopupColor NOTIFY ssChanged)
     Q_PROPERTY(QColor ssPopupBorderColor READ ssPopupBorderColor WRITE setSsPopupBorderColor NOTIFY ssChanged)
 
@@ -112,7 +115,7 @@ private:
     void onStyleChanged() override;
 
     std::unique_ptr<std::array<QColor, nameCount>> m_colors; ///< What the page has set in place of the sheets.
-    StyleSet *m_styleSet = nullptr;         ///< The attached one, once it is read.
+    StyleSet *m_styleSet = nullptr;                          ///< The attached one, once it is read.
 };
 
 } // namespace tamble::client
