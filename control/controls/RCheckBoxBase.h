@@ -16,6 +16,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RCheckBoxBase : public tamble::client::RButto
     Q_PROPERTY(bool readOnly MEMBER m_readOnly NOTIFY readOnlyChanged FINAL)
     Q_PROPERTY(bool confirmed READ isConfirmed WRITE setConfirmed NOTIFY confirmedChanged FINAL)
     Q_PROPERTY(bool focusVisible READ focusVisible WRITE setFocusVisible NOTIFY focusVisibleChanged FINAL)
+    /// Of the style: the edge of the box.
     Q_PROPERTY(QColor ssBorderColor MEMBER m_ssBorderColor NOTIFY ssBorderColorChanged)
 
 public:

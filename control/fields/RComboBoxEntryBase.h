@@ -35,8 +35,9 @@ public:
     QString entryText() const { return m_entryText; }
     /// The key of its icon; empty for none.
     QString entryIcon() const { return m_entryIcon; }
-    /// Whether the entry is the chosen one (`current`), and the one that Enter would choose (`highlighted`).
+    /// Whether the entry is the chosen one.
     bool isCurrent() const { return m_isCurrent; }
+    /// Whether Enter would choose the entry.
     bool isHighlighted() const { return m_isHighlighted; }
 
     QAccessible::Role spokenRole() const override { return QAccessible::ListItem; }

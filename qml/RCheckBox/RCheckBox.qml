@@ -12,9 +12,12 @@ RCheckBoxBase {
     /*! Whether the box stands behind the text. */
     property bool boxOnRight: false
 
+    /*! Edge length of the box, and what it takes of the width beside a text (`boxSpace`, and `textMargin` at the other
+        end), in pixels. */
     readonly property real boxSize: 20 * RThemeValues.unit
     readonly property real boxSpace: root.text === "" ? root.boxSize : 28 * RThemeValues.unit
     readonly property real textMargin: root.text === "" ? 0 : 4 * RThemeValues.unit
+    /*! Where the box stands, once the layout is mirrored or not. */
     readonly property bool boxAtRightEdge: root.boxOnRight !== root.mirrored
 
     ssBackground: box.RStyleSet.props.background
