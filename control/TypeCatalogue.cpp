@@ -15,6 +15,7 @@
 #include "bodeplot/frame/RBodeplotAxis.h"
 #include "bodeplot/frame/RBodeplotGrid.h"
 #include "controls/RButtonBase.h"
+#include "controls/RCheckBoxBase.h"
 #include "controls/RControlBackground.h"
 #include "controls/RLabelBase.h"
 #include "controls/RTabButtonBase.h"
@@ -31,6 +32,9 @@
 #include "fader/RTransferTable.h"
 #include "fields/FieldEdit.h"
 #include "fields/NumberSteps.h"
+#include "fields/RComboBoxBase.h"
+#include "fields/RComboBoxEntryBase.h"
+#include "fields/RComboBoxPopup.h"
 #include "fields/RSpinBoxBase.h"
 #include "fields/RStringRuleValidator.h"
 #include "fields/RStringRuleValidatorRule.h"
@@ -321,6 +325,10 @@ void registerInputHelpers(const Registrar &registrar)
 void registerInternals(const Registrar &registrar)
 {
     registrar.creatable<RButtonBase>("RButtonBase");
+    registrar.creatable<RCheckBoxBase>("RCheckBoxBase");
+    registrar.creatable<RComboBoxBase>("RComboBoxBase");
+    registrar.creatable<RComboBoxEntryBase>("RComboBoxEntryBase");
+    registrar.creatable<RComboBoxPopup>("RComboBoxPopup");
     registrar.creatable<RControlBackground>("RControlBackground");
     registrar.creatable<RFaderBase>("RFaderBase");
     registrar.creatable<RHandleBase>("RHandleBase");
@@ -340,6 +348,7 @@ void registerInternals(const Registrar &registrar)
     registrar.withLaterProperties<QQuickAbstractButton>();
     registrar.withLaterProperties<QQuickPopup>();
     registrar.withLaterProperties<QQuickMenu>();
+    registrar.withLaterProperties<QQuickComboBox>();
     registrar.withLaterProperties<QQuickText>();
     registrar.withLaterProperties<QQuickLabel>();
     registrar.withLaterProperties<QQuickTextInput>();
@@ -361,7 +370,12 @@ void registerParts()
         setPartSource(part, QUrl(QStringLiteral("qrc:/qml/") + QLatin1String(file)));
     };
     name(Part::ValueBinding, "Shared/RValueBinding.qml");
+    name(Part::CheckDot, "RCheckBox/RCheckDot.qml");
+    name(Part::CheckIcon, "RCheckBox/RCheckIcon.qml");
+    name(Part::ComboField, "RComboBox/RComboBoxField.qml");
+    name(Part::ComboMarks, "RComboBox/RComboBoxMarks.qml");
     name(Part::ControlLine, "Shared/RControlLine.qml");
+    name(Part::EntryIcon, "RComboBox/RComboBoxIcon.qml");
     name(Part::FocusFrame, "Shared/RFocusRectangle.qml");
     name(Part::LabelLine, "RLabel/RLabelLine.qml");
     name(Part::ToolTip, "Shared/RToolTip.qml");

@@ -24,6 +24,8 @@ set(registered
     RButton/RButtonLabelText.qml
     RButton/RButtonRow.qml
     RButton/RButtonSwitch.qml
+    RCheckBox/RCheckBox.qml
+    RComboBox/RComboBox.qml
     RCompressor/RCompressor.qml
     RDucker/RDucker.qml
     RFader/RFader.qml
@@ -64,6 +66,13 @@ set(unregistered
     RApplicationWindow/RBusyDots.qml
     RApplicationWindow/RBusyVeil.qml
     RApplicationWindow/RBusyVeilLoader.qml
+    RCheckBox/RCheckDot.qml
+    RCheckBox/RCheckIcon.qml
+    RComboBox/RComboBoxEntry.qml
+    RComboBox/RComboBoxField.qml
+    RComboBox/RComboBoxIcon.qml
+    RComboBox/RComboBoxList.qml
+    RComboBox/RComboBoxMarks.qml
     RFader/RFaderHandle.qml
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml
@@ -83,6 +92,7 @@ set(unregistered
     RTabButton/RStyledTab.qml
     RTabButton/RTabMarks.qml
     RTabButton/RTabText.qml
+    Shared/RConfirmDot.qml
     Shared/RControlLine.qml
     Shared/RDynamicsPlot.qml
     Shared/RFieldBubble.qml
@@ -90,6 +100,7 @@ set(unregistered
     Shared/RFieldMarks.qml
     Shared/RFieldMenu.qml
     Shared/RHandleBubble.qml
+    Shared/RMixedFlag.qml
     Shared/RPlotHandle.qml
     Shared/RPopupFrame.qml
     Shared/RScrollBar.qml

@@ -5,6 +5,8 @@
 #include <QtCore/QHash>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
+#include <QtQml/qqml.h>
+#include <QtQuick/QQuickItem>
 
 namespace tamble::client {
 
@@ -50,6 +52,13 @@ QObject *PartComponents::make(Part part, QObject *owner, const QVariantMap &init
     else
         qCWarning(controlLog).noquote() << component->errorString();
     return made;
+}
+
+QQuickItem *PartComponents::makeItem(Part part, QQuickItem &parent)
+{
+    QQmlEngine *engine = qmlEngine(&parent);
+    const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue(&parent)}};
+    return engine ? qobject_cast<QQuickItem *>(of(engine).make(part, &parent, properties)) : nullptr;
 }
 
 } // namespace tamble::client
