@@ -22,6 +22,7 @@ set(TAMBLE_CONTROL_FOLDERS
     meter
     controls
     fields
+    cells
     pointer
     screen
     models
