@@ -3,8 +3,7 @@
 #include "ControlImageProvider.h"
 #include "InterfaceFont.h"
 #include "TypeCatalogue.h"
-#include "ValueRequests.h"
-#include "controls/ButtonInterface.h"
+#include "base/ToolInterfaces.h"
 #include "pointer/RMouseEventSpy.h"
 
 #include <QtGui/QPointingDevice>
@@ -44,8 +43,7 @@ void TambleClientControlModule::initializeEngine(QQmlEngine *engine, const char 
         engine->addImportPath(QString::fromLatin1(path));
     engine->rootContext()->setContextProperty(QStringLiteral("maximumTouchPoints"), maximumTouchPoints());
     registerInterfaceFont();
-    installValueRequests();
-    installButtonInterfaces();
+    installToolInterfaces();
 }
 
 } // namespace tamble::client

@@ -1,14 +1,10 @@
 #include "controls/RButtonBase.h"
 
-#include "base/ControlLog.h"
 #include "base/Mnemonic.h"
 #include "base/PendingValue.h"
-#include "base/StyleTypeName.h"
-#include "controls/ButtonInterface.h"
 #include "style/StyleSet.h"
 #include "style/StyleSetProps.h"
 
-#include <QtCore/QSet>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QStyleHints>
@@ -100,7 +96,7 @@ void RButtonBase::setConsistent(bool consistent)
         return;
     m_consistent = consistent;
     announceState();
-    announce(QAccessible::DescriptionChanged);
+    announce(*this, QAccessible::DescriptionChanged);
     Q_EMIT consistentChanged();
 }
 
@@ -260,7 +256,7 @@ void RButtonBase::useText()
     const qsizetype mark = m_literalText ? -1 : mnemonicPosition(text());
     setShortcut(mark < 0 ? QKeySequence() : QKeySequence(Qt::ALT | Qt::Key(text()[mark + 1].toUpper().unicode())));
     clickOncePerKey();
-    announce(QAccessible::NameChanged);
+    announce(*this, QAccessible::NameChanged);
     Q_EMIT plainTextChanged();
 }
 
@@ -279,44 +275,37 @@ void RButtonBase::clickOncePerKey()
         QGuiApplicationPrivate::instance()->shortcutMap.setShortcutAutoRepeat(false, d->shortcutId, this);
 }
 
-// In place of the template, which makes an attached object to tell what the button's own interface tells.
+// In place of the template, which makes an attached object to tell what the button tells itself.
 void RButtonBase::accessibilityActiveChanged(bool active)
 {
-    Q_D(RButtonBase);
-    if (!active || isIgnoredByTools(*this))
-        return;
-    // Not before: Qt makes an interface to tell of each change of what is accessible, whether or not somebody listens.
-    d->setAccessible();
-    announce(QAccessible::ObjectCreated);
-    warnAboutMissingName();
+    if (active)
+        beginToSpeak(*this);
 }
 
-void RButtonBase::warnAboutMissingName() const
+QString RButtonBase::spokenDescription(const QString &given) const
 {
-    static QSet<QString> warnedTypes;
-    const QString type = styleTypeName(metaObject()->className());
-    if (accessibleNameOf(*this).isEmpty() && !warnedTypes.contains(type)) {
-        warnedTypes.insert(type);
-        qCWarning(controlLog, "WARN: %s has no accessible name", qPrintable(type));
-    }
+    return given.isEmpty() && !m_consistent ? tr("mixed") : given;
 }
 
-void RButtonBase::announce(QAccessible::Event change)
+void RButtonBase::addSpokenStates(QAccessible::State &state) const
 {
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleEvent event(this, change);
-    QAccessible::updateAccessibility(&event);
+    state.pressed = isDown();
+    state.checkable = state.checkable || m_selectable || m_selected;
+    state.checked = m_consistent && m_selected;
+    state.checkStateMixed = !m_consistent;
+}
+
+bool RButtonBase::pressBySpeech()
+{
+    click();
+    return true;
 }
 
 void RButtonBase::announceState()
 {
-    if (!QAccessible::isActive())
-        return;
     QAccessible::State changed;
     changed.checkable = changed.checked = changed.checkStateMixed = changed.pressed = true;
-    QAccessibleStateChangeEvent event(this, changed);
-    QAccessible::updateAccessibility(&event);
+    announceStates(*this, changed);
 }
 
 // A page may bind the selection to a device, which answers late; the edit steps in front of the binding meanwhile.

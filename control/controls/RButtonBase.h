@@ -1,9 +1,9 @@
 #pragma once
 
 #include "base/ControlExport.h"
+#include "base/SpokenControl.h"
 #include "style/StyleFollower.h"
 
-#include <QtGui/QAccessible>
 #include <QtGui/QColor>
 #include <QtQml/qqmlregistration.h>
 #include <QtQuickTemplates2/private/qquickabstractbutton_p.h>
@@ -18,11 +18,12 @@ class StyleSet;
 class StyleSetProps;
 
 /// The behaviour of all buttons: selection, which is not the template's check state, "mixed", Enter, and mnemonics.
-/// ButtonInterface tells assistive tools about it.
 ///
 /// Keys: Space presses, and clicks when it is released; Enter clicks when it is released, unless `enterClicks` is
 /// false. Esc lets go of a held Space without a click. Alt and the letter behind "&" click.
-class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton, private StyleFollower
+class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton,
+                                                 public SpokenControl,
+                                                 private StyleFollower
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RButtonBase)
@@ -82,6 +83,12 @@ public:
     /// What a click does to the selection. A button that is not selectable keeps it.
     Q_INVOKABLE void editSelection(bool selected);
 
+    QAccessible::Role spokenRole() const override { return QAccessible::Button; }
+    QString spokenName() const override { return plainText(); }
+    QString spokenDescription(const QString &given) const override;
+    void addSpokenStates(QAccessible::State &state) const override;
+    bool pressBySpeech() override;
+
 Q_SIGNALS:
     void selectableChanged();
     void selectedChanged();
@@ -123,9 +130,7 @@ private:
     bool takesBack(const QKeyEvent &event) const;
     void useText();
     void clickOncePerKey();
-    void announce(QAccessible::Event change);
     void announceState();
-    void warnAboutMissingName() const;
 
     PendingValue *m_pendingSelection = nullptr; // a child, made at the first click that edits
     StyleSet *m_styleSet = nullptr;             // the attached one, once it is followed

@@ -8,7 +8,7 @@
 using namespace tamble::client;
 
 /// Assistive tools set the values of faders, parameters and plain handles.
-class tst_ValueRequests : public QObject
+class tst_ToolInterfaces : public QObject
 {
     Q_OBJECT
 
@@ -63,5 +63,5 @@ private Q_SLOTS:
     }
 };
 
-template struct TestClass<tst_ValueRequests>;
-#include "tst_ValueRequests.moc"
+template struct TestClass<tst_ToolInterfaces>;
+#include "tst_ToolInterfaces.moc"
