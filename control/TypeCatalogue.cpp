@@ -14,6 +14,9 @@
 #include "bodeplot/frame/RBodeplot.h"
 #include "bodeplot/frame/RBodeplotAxis.h"
 #include "bodeplot/frame/RBodeplotGrid.h"
+#include "cells/RCellBase.h"
+#include "cells/RCellContainerBase.h"
+#include "cells/RCellGridPropertiesBase.h"
 #include "controls/RButtonBase.h"
 #include "controls/RControlBackground.h"
 #include "controls/RLabelBase.h"
@@ -314,6 +317,9 @@ void registerInputHelpers(const Registrar &registrar)
 void registerInternals(const Registrar &registrar)
 {
     registrar.creatable<RButtonBase>("RButtonBase");
+    registrar.creatable<RCellBase>("RCellBase");
+    registrar.creatable<RCellContainerBase>("RCellContainerBase");
+    registrar.creatable<RCellGridPropertiesBase>("RCellGridPropertiesBase");
     registrar.creatable<RControlBackground>("RControlBackground");
     registrar.creatable<RFaderBase>("RFaderBase");
     registrar.creatable<RHandleBase>("RHandleBase");
@@ -347,6 +353,8 @@ void registerParts()
     name(Part::FocusFrame, "Shared/RFocusRectangle.qml");
     name(Part::LabelLine, "RLabel/RLabelLine.qml");
     name(Part::ToolTip, "Shared/RToolTip.qml");
+    name(Part::CellSelection, "RCell/RCellSelection.qml");
+    name(Part::CellRefusal, "RCell/RCellRefusal.qml");
 }
 
 } // namespace

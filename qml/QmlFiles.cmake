@@ -24,6 +24,13 @@ set(registered
     RButton/RButtonLabelText.qml
     RButton/RButtonRow.qml
     RButton/RButtonSwitch.qml
+    RCell/RCell.qml
+    RCell/RCellButton.qml
+    RCell/RCellContainer.qml
+    RCell/RCellGridProperties.qml
+    RCell/RCellLabel.qml
+    RCell/RCellText.qml
+    RCell/RCellTextField.qml
     RCompressor/RCompressor.qml
     RDucker/RDucker.qml
     RFader/RFader.qml
@@ -55,6 +62,9 @@ set(unregistered
     RApplicationWindow/RBusyDots.qml
     RApplicationWindow/RBusyVeil.qml
     RApplicationWindow/RBusyVeilLoader.qml
+    RCell/RCellGround.qml
+    RCell/RCellRefusal.qml
+    RCell/RCellSelection.qml
     RFader/RFaderHandle.qml
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml

@@ -19,8 +19,10 @@ enum class Part {
     FocusFrame,   ///< The frame of a control's background while it has the focus.
     LabelLine,    ///< The line of a label.
     ToolTip,
+    CellSelection, ///< The frame and tint of a selected cell.
+    CellRefusal,   ///< The mark of a cell that did not take a pasted text.
 };
-constexpr std::size_t partCount = 5;
+constexpr std::size_t partCount = 7;
 
 /// Names the QML file of a part, for all engines.
 void setPartSource(Part part, const QUrl &file);

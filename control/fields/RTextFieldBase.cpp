@@ -128,6 +128,24 @@ bool RTextFieldBase::enter()
     return true;
 }
 
+QString RTextFieldBase::enterText(const QString &text)
+{
+    if (isReadOnly() || !isEnabled())
+        return tr("This cannot be edited");
+    if (text.size() > maxLength())
+        return tr("At most %n characters", nullptr, maxLength());
+    // An error that the page found is about the text before.
+    const bool errorCounted = std::exchange(m_errorCounts, false);
+    const QString problem = problemOf(tidied(text));
+    m_errorCounts = errorCounted && !problem.isEmpty();
+    if (!problem.isEmpty())
+        return problem;
+    setText(text);
+    judge();
+    enter();
+    return {};
+}
+
 void RTextFieldBase::cancel()
 {
     if (!m_isEdited)

@@ -1,0 +1,249 @@
+#include "cells/RCellBase.h"
+#include "cells/RCellContainerBase.h"
+#include "controls/RButtonBase.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QItemSelectionModel>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QStyleHints>
+#include <QtQuick/QQuickWindow>
+
+#include <utility>
+
+// The part of RCellBase that answers keys and the mouse, and leads into editing and out of it.
+
+namespace tamble::client {
+
+namespace {
+
+constexpr int longPressMs = 500;
+
+bool isEnterKey(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Enter || event.key() == Qt::Key_Return;
+}
+
+bool asksForMenu(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Menu || (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
+}
+
+/// A character that begins a text. AltGr counts as Ctrl and Alt on some systems.
+bool typesText(const QKeyEvent &event)
+{
+    const Qt::KeyboardModifiers held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const bool isPlain = held == Qt::NoModifier || held == (Qt::ControlModifier | Qt::AltModifier);
+    return isPlain && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
+/// Keys that would lead to another cell; while one is edited they are the editor's.
+bool leadsElsewhere(const QKeyEvent &event)
+{
+    switch (event.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool takesKeys(const QQuickItem &item)
+{
+    return item.isFocusScope() || item.flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
+}
+
+/// The user stays with the text when another window or a popup takes the focus.
+bool leavesForGood(const QFocusEvent &event)
+{
+    return event.reason() != Qt::ActiveWindowFocusReason && event.reason() != Qt::PopupFocusReason &&
+           event.reason() != Qt::MenuBarFocusReason;
+}
+
+} // namespace
+
+bool RCellBase::edit()
+{
+    if (!m_control || isLocked() || !m_control->isEnabled() || !takesKeys(*m_control))
+        return false;
+    m_control->forceActiveFocus(Qt::TabFocusReason);
+    return m_control && m_control->hasActiveFocus();
+}
+
+void RCellBase::endEditing()
+{
+    if (m_editor)
+        m_control->setFocus(false, Qt::OtherFocusReason);
+}
+
+void RCellBase::use()
+{
+    const QPointer<RCellBase> guard(this);
+    auto *button = qobject_cast<RButtonBase *>(m_control.get());
+    if (button && !isLocked()) {
+        button->click();
+        return;
+    }
+    edit();
+    if (guard)
+        Q_EMIT activated();
+}
+
+void RCellBase::followFocus()
+{
+    const bool isOpen = m_control && m_control->hasActiveFocus() && takesKeys(*m_control) && !isLocked();
+    QQuickItem *editor = isOpen ? window()->activeFocusItem() : nullptr;
+    if (m_editor != editor) {
+        if (m_editor)
+            m_editor->removeEventFilter(this);
+        const bool wasEditing = isEditing();
+        m_editor = editor;
+        if (editor) {
+            editor->installEventFilter(this);
+            setRefusal({});
+        }
+        if (wasEditing != isEditing())
+            Q_EMIT editingChanged();
+    }
+    updateFrames();
+}
+
+// Before the editor, which takes Enter for itself and tells nobody whether the text was good.
+bool RCellBase::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress)
+        return filterKey(static_cast<QKeyEvent *>(event));
+    if (event->type() == QEvent::FocusOut && leavesForGood(*static_cast<QFocusEvent *>(event))) {
+        // When the focus comes back to the table, it is to be in the cell again.
+        const auto close = [this] {
+            if (m_control && !hasActiveFocus())
+                m_control->setFocus(false);
+        };
+        QMetaObject::invokeMethod(this, close, Qt::QueuedConnection);
+    }
+    return QQuickItem::eventFilter(watched, event);
+}
+
+bool RCellBase::filterKey(QKeyEvent *event)
+{
+    const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    const bool isConfirming = isEnterKey(*event) && (!m_multiLine || event->modifiers() == Qt::ControlModifier);
+    if (event->key() != Qt::Key_Escape && !isTab && !isConfirming)
+        return false;
+
+    const QPointer<RCellBase> guard(this);
+    if (event->key() == Qt::Key_Escape) {
+        m_editor->event(event);
+        if (guard)
+            endEditing();
+    } else if (confirm() && guard) {
+        const bool isBack = event->modifiers() & Qt::ShiftModifier;
+        endEditing();
+        if (guard && m_container && isTab)
+            m_container->step(isBack ? CellMove::Left : CellMove::Right);
+        else if (guard && m_container)
+            m_container->step(isBack ? CellMove::Up : CellMove::Down);
+    }
+    event->accept();
+    return true;
+}
+
+// As the editor confirms by itself; what it refuses stays open.
+bool RCellBase::confirm()
+{
+    const QPointer<RCellBase> guard(this);
+    const Qt::KeyboardModifiers modifiers = m_multiLine ? Qt::ControlModifier : Qt::NoModifier;
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, modifiers, QStringLiteral("\r"));
+    m_editor->event(&enter);
+    return !guard || !m_control || !m_control->property("editing").toBool();
+}
+
+void RCellBase::keyPressEvent(QKeyEvent *event)
+{
+    if (isEditing()) {
+        event->setAccepted(leadsElsewhere(*event));
+    } else if (isEnterKey(*event) || event->key() == Qt::Key_F2) {
+        // Held down, it answers once: what a button does may get loud.
+        if (!event->isAutoRepeat())
+            use();
+    } else if (asksForMenu(*event)) {
+        Q_EMIT contextMenuRequested(boundingRect().center());
+    } else if (typesText(*event) && edit()) {
+        QKeyEvent typed(QEvent::KeyPress, event->key(), event->modifiers(), event->text());
+        QCoreApplication::sendEvent(window()->activeFocusItem(), &typed);
+    } else {
+        event->ignore();
+    }
+}
+
+void RCellBase::mousePressEvent(QMouseEvent *event)
+{
+    m_pressedAt = event->position();
+    if (!m_container || m_container->isReachable(*this))
+        forceActiveFocus(Qt::MouseFocusReason);
+    if (event->button() == Qt::RightButton)
+        Q_EMIT contextMenuRequested(m_pressedAt);
+    else
+        m_longPress.start(longPressMs, this);
+}
+
+void RCellBase::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPointF way = event->position() - m_pressedAt;
+    if (way.manhattanLength() > QGuiApplication::styleHints()->startDragDistance())
+        m_longPress.stop();
+}
+
+void RCellBase::mouseReleaseEvent(QMouseEvent *)
+{
+    m_longPress.stop();
+}
+
+void RCellBase::mouseUngrabEvent()
+{
+    m_longPress.stop();
+}
+
+void RCellBase::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    m_longPress.stop();
+    if (event->button() == Qt::LeftButton)
+        use();
+}
+
+void RCellBase::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_longPress.timerId())
+        return;
+    m_longPress.stop();
+    Q_EMIT contextMenuRequested(m_pressedAt);
+}
+
+// Only while the cell holds a button that must not be pressed.
+bool RCellBase::childMouseEventFilter(QQuickItem *, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin)
+        forceActiveFocus(Qt::MouseFocusReason);
+    return true;
+}
+
+// A TableView moves its current index with the arrow keys, but knows nothing of presses that a delegate takes.
+void RCellBase::tellView()
+{
+    for (QQuickItem *item = parentItem(); item; item = item->parentItem()) {
+        auto *selection = item->property("selectionModel").value<QItemSelectionModel *>();
+        if (!selection || !selection->model())
+            continue;
+        selection->setCurrentIndex(selection->model()->index(m_row, m_column), QItemSelectionModel::NoUpdate);
+        return;
+    }
+}
+
+} // namespace tamble::client
