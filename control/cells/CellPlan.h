@@ -26,7 +26,7 @@ struct CellArea
     /// Of a cell as a page describes it: negative positions count as 0, spans below 1 as 1, and nothing lies behind
     /// `limit` rows or columns, since one wrong number must not make a table that fills the memory.
     static CellArea ofCell(int row, int column, int rowSpan, int columnSpan);
-    static constexpr int limit = 1 << 16;
+    static constexpr int limit = 4096;
 
     CellPlace place() const { return {row, column}; }
     int endRow() const { return row + rows; }

@@ -280,7 +280,7 @@ ThemedTestCase {
             ${data.body}
         }`)
         if (data.ignored)
-            compare(page.columnCount, 65536)
+            compare(page.columnCount, 4096)
         waitForRendering(page)
         page.forceActiveFocus()
         for (const key of [Qt.Key_Right, Qt.Key_Down, Qt.Key_End, Qt.Key_F2, Qt.Key_X, Qt.Key_Return, Qt.Key_Home]) {
@@ -289,6 +289,5 @@ ThemedTestCase {
         }
         page.copy()
         page.paste()
-        waitForRendering(page)
     }
 }
