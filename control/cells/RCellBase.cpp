@@ -15,6 +15,18 @@
 
 namespace tamble::client {
 
+namespace {
+
+/// A table is one stop of the Tab key.
+void passByTab(QQuickItem &item)
+{
+    item.setActiveFocusOnTab(false);
+    for (QQuickItem *child : item.childItems())
+        passByTab(*child);
+}
+
+} // namespace
+
 RCellBase::RCellBase(QQuickItem *parent)
     : QQuickItem(parent)
 {
@@ -87,8 +99,7 @@ void RCellBase::setControl(QQuickItem *control)
         return;
     m_control = control;
     if (control) {
-        // A table is one stop of the Tab key.
-        control->setActiveFocusOnTab(false);
+        passByTab(*control);
         nameControl();
     }
     followLock();

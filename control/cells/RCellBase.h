@@ -159,7 +159,6 @@ private:
     void tellView();
     void use();
     bool filterKey(QKeyEvent *event);
-    bool confirm();
 
     int m_row = 0;
     int m_column = 0;

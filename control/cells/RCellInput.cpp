@@ -1,6 +1,7 @@
 #include "cells/RCellBase.h"
 #include "cells/RCellContainerBase.h"
 #include "controls/RButtonBase.h"
+#include "fields/FieldEdit.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QItemSelectionModel>
@@ -60,6 +61,13 @@ bool takesKeys(const QQuickItem &item)
     return item.isFocusScope() || item.flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
 }
 
+/// The conversation with the device; null for a control of the page's own.
+FieldEdit *fieldOf(const QObject &editor, const QObject &control)
+{
+    auto *field = control.property("edit").value<FieldEdit *>();
+    return field ? field : editor.property("edit").value<FieldEdit *>();
+}
+
 /// The user stays with the text when another window or a popup takes the focus.
 bool leavesForGood(const QFocusEvent &event)
 {
@@ -115,7 +123,7 @@ void RCellBase::followFocus()
     updateFrames();
 }
 
-// Before the editor, which takes Enter for itself and tells nobody whether the text was good.
+// Before the editor, which knows nothing of the table.
 bool RCellBase::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress)
@@ -138,31 +146,27 @@ bool RCellBase::filterKey(QKeyEvent *event)
     if (event->key() != Qt::Key_Escape && !isTab && !isConfirming)
         return false;
 
+    event->accept();
     const QPointer<RCellBase> guard(this);
+    FieldEdit *field = fieldOf(*m_editor, *m_control);
     if (event->key() == Qt::Key_Escape) {
-        m_editor->event(event);
+        if (field)
+            field->cancel();
         if (guard)
             endEditing();
-    } else if (confirm() && guard) {
-        const bool isBack = event->modifiers() & Qt::ShiftModifier;
-        endEditing();
-        if (guard && m_container && isTab)
-            m_container->step(isBack ? CellMove::Left : CellMove::Right);
-        else if (guard && m_container)
-            m_container->step(isBack ? CellMove::Up : CellMove::Down);
+        return true;
     }
-    event->accept();
+    // What the field refuses stays open.
+    if (field && field->isEdited() && !field->enter())
+        return true;
+    const bool isBack = event->modifiers() & Qt::ShiftModifier;
+    if (guard)
+        endEditing();
+    if (guard && m_container && isTab)
+        m_container->step(isBack ? CellMove::Left : CellMove::Right);
+    else if (guard && m_container)
+        m_container->step(isBack ? CellMove::Up : CellMove::Down);
     return true;
-}
-
-// As the editor confirms by itself; what it refuses stays open.
-bool RCellBase::confirm()
-{
-    const QPointer<RCellBase> guard(this);
-    const Qt::KeyboardModifiers modifiers = m_multiLine ? Qt::ControlModifier : Qt::NoModifier;
-    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, modifiers, QStringLiteral("\r"));
-    m_editor->event(&enter);
-    return !guard || !m_control || !m_control->property("editing").toBool();
 }
 
 void RCellBase::keyPressEvent(QKeyEvent *event)

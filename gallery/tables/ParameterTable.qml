@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Gallery
 import TambleClient.Control 1.0
 
-/*! The channels of a device, with names that can be edited. */
+/*! The channels of a device, with parameters that can be edited. */
 Flickable {
     id: root
 
@@ -25,16 +25,10 @@ Flickable {
             for (let i = 0; i < 16; ++i)
                 channels.append({
                     name: qsTr("Channel %1").arg(i + 1),
-                    gain: String(-3 * (i % 5)),
+                    gain: -3 * (i % 5),
                     phantom: i % 4 === 0
                 })
         }
-    }
-    RTextFieldDoubleValidator {
-        id: gains
-        bottom: -80
-        top: 10
-        decimals: 1
     }
     RCellContainer {
         id: cells
@@ -42,7 +36,7 @@ Flickable {
         selectionMode: RCellContainer.Rectangle
         gridProperties: RCellGridProperties {
             columnWidth: theme.dp(96)
-            columnWidths: [theme.dp(48), theme.dp(144), theme.dp(112), theme.dp(80)]
+            columnWidths: [theme.dp(48), theme.dp(144), theme.dp(112), theme.dp(128)]
             headerRows: 1
             headerColumns: 1
         }
@@ -61,7 +55,6 @@ Flickable {
         RCellLabel {
             column: 3
             text: qsTr("Gain")
-            horizontalAlignment: Text.AlignRight
         }
         RCellLabel {
             column: 4
@@ -114,7 +107,7 @@ Flickable {
         Repeater {
             model: channels
 
-            RCellTextField {
+            RCellSpinBox {
                 id: gain
 
                 required property int index
@@ -123,9 +116,11 @@ Flickable {
                 row: gain.index + 1
                 column: 3
                 label: qsTr("Gain of channel %1 in dB").arg(gain.row)
-                horizontalAlignment: TextInput.AlignRight
+                from: -80
+                to: 10
+                stepSize: 0.5
+                suffix: qsTr(" dB")
                 value: gain.model.gain
-                validator: gains
                 onValueEdited: value => gain.model.gain = value
             }
         }

@@ -27,14 +27,13 @@ RCell {
     }
     /*! Enters a text as if it had been typed. */
     function takeText(text: string): string {
-        return field.enterText(text)
+        return field.edit.enterText(text)
     }
 
     control: field
 
     RTextField {
         id: field
-        label: root.label
         readOnly: root.locked
         onValueEdited: value => root.valueEdited(value)
         onValueCommitted: value => root.valueCommitted(value)
