@@ -40,10 +40,10 @@ public:
     Table(QQmlEngine &engine, Levels &model, const char *type)
     {
         QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/TableBench/%1.qml").arg(QLatin1String(type))));
+        if (!component.isReady())
+            qFatal("%s", qPrintable(component.errorString()));
         m_table.reset(qobject_cast<QQuickItem *>(
             component.createWithInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&model)}})));
-        if (!m_table)
-            qFatal("%s", qPrintable(component.errorString()));
         m_window.showPage(*m_table);
         secondsPerRow(); // to warm up
     }

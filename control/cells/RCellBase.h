@@ -126,8 +126,9 @@ Q_SIGNALS:
     void controlChanged();
     void editingChanged();
     void refusalChanged();
-    /// The user wants to use the cell: by Enter, F2, a double click, or a click on the button in it.
-    void activated();
+    /// The user wants to use the cell: by Enter, F2, a double click, or a click on the button in it. `index` is that of
+    /// the tab that was chosen in a tab bar, elsewhere −1.
+    void activated(int index = -1);
     /// A right click, a long press or the Menu key; `position` is in the cell's coordinates.
     void contextMenuRequested(const QPointF &position);
 
@@ -158,7 +159,7 @@ private:
     void showPart(QPointer<QObject> &part, Part kind, bool visible);
     void tellView();
     void use();
-    bool filterKey(QKeyEvent *event);
+    bool leaveBy(QKeyEvent *event);
 
     int m_row = 0;
     int m_column = 0;

@@ -61,11 +61,10 @@ bool takesKeys(const QQuickItem &item)
     return item.isFocusScope() || item.flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
 }
 
-/// The conversation with the device; null for a control of the page's own.
-FieldEdit *fieldOf(const QObject &editor, const QObject &control)
+/// The conversation with the device; null for a control that answers its own keys.
+FieldEdit *fieldOf(const QObject &control, const QObject &editor, bool multiLine)
 {
-    auto *field = control.property("edit").value<FieldEdit *>();
-    return field ? field : editor.property("edit").value<FieldEdit *>();
+    return (multiLine ? editor : control).property("edit").value<FieldEdit *>();
 }
 
 /// The user stays with the text when another window or a popup takes the focus.
@@ -126,8 +125,8 @@ void RCellBase::followFocus()
 // Before the editor, which knows nothing of the table.
 bool RCellBase::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::KeyPress)
-        return filterKey(static_cast<QKeyEvent *>(event));
+    if (event->type() == QEvent::KeyPress && fieldOf(*m_control, *m_editor, m_multiLine))
+        return leaveBy(static_cast<QKeyEvent *>(event));
     if (event->type() == QEvent::FocusOut && leavesForGood(*static_cast<QFocusEvent *>(event))) {
         // When the focus comes back to the table, it is to be in the cell again.
         const auto close = [this] {
@@ -139,7 +138,8 @@ bool RCellBase::eventFilter(QObject *watched, QEvent *event)
     return QQuickItem::eventFilter(watched, event);
 }
 
-bool RCellBase::filterKey(QKeyEvent *event)
+/// Whether the key is one that ends editing; a text that is refused stays open.
+bool RCellBase::leaveBy(QKeyEvent *event)
 {
     const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
     const bool isConfirming = isEnterKey(*event) && (!m_multiLine || event->modifiers() == Qt::ControlModifier);
@@ -148,7 +148,7 @@ bool RCellBase::filterKey(QKeyEvent *event)
 
     event->accept();
     const QPointer<RCellBase> guard(this);
-    FieldEdit *field = fieldOf(*m_editor, *m_control);
+    FieldEdit *field = fieldOf(*m_control, *m_editor, m_multiLine);
     if (event->key() == Qt::Key_Escape) {
         if (field)
             field->cancel();
@@ -156,7 +156,6 @@ bool RCellBase::filterKey(QKeyEvent *event)
             endEditing();
         return true;
     }
-    // What the field refuses stays open.
     if (field && field->isEdited() && !field->enter())
         return true;
     const bool isBack = event->modifiers() & Qt::ShiftModifier;
@@ -172,7 +171,7 @@ bool RCellBase::filterKey(QKeyEvent *event)
 void RCellBase::keyPressEvent(QKeyEvent *event)
 {
     if (isEditing()) {
-        event->setAccepted(leadsElsewhere(*event));
+        event->setAccepted(leaveBy(event) || leadsElsewhere(*event));
     } else if (isEnterKey(*event) || event->key() == Qt::Key_F2) {
         // Held down, it answers once: what a button does may get loud.
         if (!event->isAutoRepeat())

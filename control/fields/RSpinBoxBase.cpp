@@ -185,7 +185,9 @@ void RSpinBoxBase::stepByButton()
     const Qt::KeyboardModifiers held = QGuiApplication::keyboardModifiers();
     const bool isPage = (held & Qt::ControlModifier) && (m_repeats == 0 || m_repeats > repeatsBeforePages);
     if (m_steps)
-        m_steps->step(held & Qt::ShiftModifier ? StepSize::Fine : isPage ? StepSize::Page : StepSize::Normal,
+        m_steps->step(held & Qt::ShiftModifier ? StepSize::Fine
+                      : isPage                 ? StepSize::Page
+                                               : StepSize::Normal,
                       m_pressedButton);
 }
 

@@ -13,7 +13,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RTextInputBase : public QQuickTextInput, publ
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RTextInputBase)
-    Q_PROPERTY(QString placeholderText READ placeholderText WRITE setPlaceholderText NOTIFY placeholderTextChanged FINAL)
+    Q_PROPERTY(
+        QString placeholderText READ placeholderText WRITE setPlaceholderText NOTIFY placeholderTextChanged FINAL)
 
 public:
     explicit RTextInputBase(QQuickItem *parent = nullptr);

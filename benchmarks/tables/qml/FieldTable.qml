@@ -8,8 +8,6 @@ TablePage {
 
         required property real number
 
-        implicitWidth: 144
-        implicitHeight: 32
         text: cell.number
         font.family: RThemeValues.fontFamily
         font.pixelSize: RThemeValues.fontSizeM

@@ -7,8 +7,6 @@ TablePage {
 
         required property string display
 
-        implicitWidth: 144
-        implicitHeight: 32
         text: cell.display
         color: "white"
         elide: Text.ElideRight

@@ -11,6 +11,8 @@ TableView {
     columnSpacing: 1
     rowSpacing: 1
     reuseItems: true
+    columnWidthProvider: () => 144
+    rowHeightProvider: () => 32
 
     RThemeSelector {
         themeComponent: Component {

@@ -148,6 +148,7 @@ ThemedTestCase {
         const cell = cellAt(page.table, 1, 0)
         mouseClick(cell.control)
         compare([cell.editing, placeOf(page.table)], [true, [1, 0]])
+        cell.control.selectAll()
         type("Dome")
         mouseClick(page.after)
         compare([page.names[0], cell.editing], ["Dome", false])

@@ -21,14 +21,15 @@ ThemedTestCase {
                 id: table
                 y: 20; width: 300; height: 200
                 activeFocusOnTab: true
-                model: 200
+                model: ListModel { Component.onCompleted: { for (let i = 0; i < 200; ++i) append({ name: "name " + i }) } }
                 selectionModel: ItemSelectionModel { model: table.model }
                 delegate: RCellTextField {
                     required row
                     required column
                     required current
                     gridProperties: raster
-                    text: "name " + row
+                    required property string name
+                    text: name
                     onValueEdited: value => entered.push(row + " " + value)
                 }
                 RCellGridProperties { id: raster; rowHeight: 40; columnWidths: [250] }
@@ -72,6 +73,7 @@ ThemedTestCase {
     function test_scrolledAway() {
         const page = makeView()
         mouseClick(cellAt(page.view, 1))
+        cellAt(page.view, 1).control.selectAll()
         keyClick(Qt.Key_Y)
         page.view.contentY = 4000
         waitForRendering(page.view)
