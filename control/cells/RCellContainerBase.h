@@ -115,6 +115,7 @@ public:
 
 Q_SIGNALS:
     void gridPropertiesChanged();
+    /// The cells have been placed.
     void arranged();
     void currentRowChanged();
     void currentColumnChanged();
@@ -125,6 +126,7 @@ Q_SIGNALS:
     void ssBackgroundChanged();
     void ssLineHorizontalChanged();
     void ssLineVerticalChanged();
+    /// The headers have been placed, as they stay in view.
     void headersMoved();
     /// The user wants to use a cell: by Enter, F2, a double click, or a click on the button in it.
     void cellActivated(int row, int column);

@@ -89,7 +89,7 @@ Flickable {
                 column: 1
                 label: qsTr("Name of channel %1").arg(name.row)
                 value: name.model.name
-                control.required: true
+                required: true
                 onValueEdited: value => name.model.name = value
             }
         }

@@ -6,7 +6,7 @@ RCell {
     id: root
 
     /*! Of the field: `value`, `text`, `validator`, `converter`, `errorText`, `confirmed`, `consistent`,
-        `settleTime`, `horizontalAlignment`. */
+        `required`, `maximumBytes`, `settleTime`, `horizontalAlignment`. */
     property alias value: field.value
     property alias text: field.text
     property alias validator: field.validator
@@ -14,6 +14,8 @@ RCell {
     property alias errorText: field.errorText
     property alias confirmed: field.confirmed
     property alias consistent: field.consistent
+    property alias required: field.required
+    property alias maximumBytes: field.maximumBytes
     property alias settleTime: field.settleTime
     property alias horizontalAlignment: field.horizontalAlignment
 

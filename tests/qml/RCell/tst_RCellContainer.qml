@@ -143,6 +143,38 @@ ThemedTestCase {
         verify(!cell.editing)
     }
 
+    function test_numbersAndLines() {
+        const table = make(`RCellContainer {
+            property real level: -6
+            property string note: "one"
+            gridProperties: RCellGridProperties { rowHeights: [32, 96] }
+            RCellSpinBox { from: -80; to: 10; stepSize: 0.5; value: parent.level; onValueEdited: value => parent.level = value }
+            RCellTextArea { row: 1; value: parent.note; onValueEdited: value => parent.note = value }
+        }`)
+        const number = cellAt(table, 0, 0)
+        verify(!number.control.buttonsVisible)
+        table.forceActiveFocus()
+        keyClick(Qt.Key_Down)
+        verify(number.control.buttonsVisible)
+        type("3.")
+        keyClick(Qt.Key_Up)
+        compare([table.currentRow, number.editing], [0, true])
+        keyClick(Qt.Key_Escape)
+        table.level = -6
+        type("-3")
+        keyClick(Qt.Key_Return)
+        compare([table.level, table.currentRow], [-3, 1])
+        compare(number.takeText("99").length > 0, true)
+        compare([number.takeText("-12"), table.level, number.cellText()], ["", -12, "-12"])
+        keyClick(Qt.Key_F2)
+        keyClick(Qt.Key_A, Qt.ControlModifier)
+        type("two")
+        keyClick(Qt.Key_Return)
+        type("three")
+        keyClick(Qt.Key_Return, Qt.ControlModifier)
+        compare([table.note, cellAt(table, 1, 0).activeFocus, cellAt(table, 1, 0).editing], ["two\nthree", true, false])
+    }
+
     function test_focusComesBackToTheCell() {
         const page = makeTable("")
         const cell = cellAt(page.table, 1, 0)
