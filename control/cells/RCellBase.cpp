@@ -32,8 +32,9 @@ RCellBase::RCellBase(QQuickItem *parent)
 {
     setFlag(ItemIsFocusScope);
     setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
-    connect(this, &RCellBase::placeChanged, this, &RCellBase::followRaster);
-    connect(this, &RCellBase::gridPropertiesChanged, this, &RCellBase::followRaster);
+    for (const auto change : {&RCellBase::rowChanged, &RCellBase::columnChanged, &RCellBase::rowSpanChanged,
+                              &RCellBase::columnSpanChanged, &RCellBase::gridPropertiesChanged})
+        connect(this, change, this, &RCellBase::followRaster);
     connect(this, &RCellBase::lockedChanged, this, &RCellBase::followLock);
     connect(this, &RCellBase::controlChanged, this, &RCellBase::placeControl);
     QAccessible::installActivationObserver(this);
@@ -97,6 +98,8 @@ void RCellBase::setControl(QQuickItem *control)
 {
     if (m_control == control)
         return;
+    if (m_control)
+        m_control->disconnect(this);
     m_control = control;
     if (control) {
         passByTab(*control);
@@ -283,6 +286,7 @@ void RCellBase::followLock()
     setFiltersChildMouseEvents(button && isLocked());
     if (button)
         button->setFocus(!isLocked());
+    followFocus();
 }
 
 void RCellBase::placeControl()

@@ -31,11 +31,11 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RCellBase : public QQuickItem,
     Q_OBJECT
     QML_NAMED_ELEMENT(RCellBase)
     /// Place of the cell's upper left corner, `row` and `column`, counted from 0; negative ones count as 0.
-    Q_PROPERTY(int row MEMBER m_row NOTIFY placeChanged)
-    Q_PROPERTY(int column MEMBER m_column NOTIFY placeChanged)
+    Q_PROPERTY(int row MEMBER m_row NOTIFY rowChanged)
+    Q_PROPERTY(int column MEMBER m_column NOTIFY columnChanged)
     /// How many rows (`rowSpan`) and columns (`columnSpan`) the cell takes; 1 by default.
-    Q_PROPERTY(int rowSpan MEMBER m_rowSpan NOTIFY placeChanged)
-    Q_PROPERTY(int columnSpan MEMBER m_columnSpan NOTIFY placeChanged)
+    Q_PROPERTY(int rowSpan MEMBER m_rowSpan NOTIFY rowSpanChanged)
+    Q_PROPERTY(int columnSpan MEMBER m_columnSpan NOTIFY columnSpanChanged)
     Q_PROPERTY(tamble::client::RCellGridPropertiesBase *gridProperties READ gridProperties WRITE setGridProperties
                    NOTIFY gridPropertiesChanged)
     /// What the cell is about, for people who cannot see it, such as "Gain of channel 3".
@@ -115,7 +115,10 @@ public:
     bool pressBySpeech() override;
 
 Q_SIGNALS:
-    void placeChanged();
+    void rowChanged();
+    void columnChanged();
+    void rowSpanChanged();
+    void columnSpanChanged();
     void gridPropertiesChanged();
     void labelChanged();
     void selectedChanged();
@@ -157,6 +160,7 @@ private:
     void nameControl();
     void updateFrames();
     void showPart(QPointer<QObject> &part, Part kind, bool visible);
+    void takeFocus();
     void tellView();
     void use();
     bool leaveBy(QKeyEvent *event);

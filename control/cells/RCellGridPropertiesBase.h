@@ -15,24 +15,24 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RCellGridPropertiesBase : public QObject
     Q_OBJECT
     QML_NAMED_ELEMENT(RCellGridPropertiesBase)
     /// Sizes of all columns and rows, `columnWidth` and `rowHeight`, but those that have one of their own.
-    Q_PROPERTY(qreal columnWidth MEMBER m_columnWidth NOTIFY rasterChanged FINAL)
-    Q_PROPERTY(qreal rowHeight MEMBER m_rowHeight NOTIFY rasterChanged FINAL)
+    Q_PROPERTY(qreal columnWidth MEMBER m_columnWidth NOTIFY columnWidthChanged FINAL)
+    Q_PROPERTY(qreal rowHeight MEMBER m_rowHeight NOTIFY rowHeightChanged FINAL)
     /// Sizes of single columns and rows, `columnWidths` and `rowHeights`, from the first one on; entries that are not
     /// positive are passed over.
-    Q_PROPERTY(QList<qreal> columnWidths MEMBER m_columnWidths NOTIFY rasterChanged FINAL)
-    Q_PROPERTY(QList<qreal> rowHeights MEMBER m_rowHeights NOTIFY rasterChanged FINAL)
+    Q_PROPERTY(QList<qreal> columnWidths MEMBER m_columnWidths NOTIFY columnWidthsChanged FINAL)
+    Q_PROPERTY(QList<qreal> rowHeights MEMBER m_rowHeights NOTIFY rowHeightsChanged FINAL)
     /// Between neighbouring cells.
-    Q_PROPERTY(qreal spacing MEMBER m_spacing NOTIFY rasterChanged FINAL)
+    Q_PROPERTY(qreal spacing MEMBER m_spacing NOTIFY spacingChanged FINAL)
     /// Between the sides of a cell and a text in it.
-    Q_PROPERTY(qreal padding MEMBER m_padding NOTIFY rasterChanged FINAL)
+    Q_PROPERTY(qreal padding MEMBER m_padding NOTIFY paddingChanged FINAL)
     /// How many rows at the top (`headerRows`) and columns at the left (`headerColumns`) name the others: they stay in
     /// view while the page scrolls, and the current cell is never one of theirs. 0 by default.
-    Q_PROPERTY(int headerRows MEMBER m_headerRows NOTIFY rasterChanged FINAL)
-    Q_PROPERTY(int headerColumns MEMBER m_headerColumns NOTIFY rasterChanged FINAL)
+    Q_PROPERTY(int headerRows MEMBER m_headerRows NOTIFY headerRowsChanged FINAL)
+    Q_PROPERTY(int headerColumns MEMBER m_headerColumns NOTIFY headerColumnsChanged FINAL)
     /// Whether lines separate the cells; true by default.
-    Q_PROPERTY(bool lineVisible MEMBER m_lineVisible NOTIFY rasterChanged FINAL)
+    Q_PROPERTY(bool lineVisible MEMBER m_lineVisible NOTIFY lineVisibleChanged FINAL)
     /// Of the separating lines; 1 by default.
-    Q_PROPERTY(qreal lineWidth MEMBER m_lineWidth NOTIFY rasterChanged FINAL)
+    Q_PROPERTY(qreal lineWidth MEMBER m_lineWidth NOTIFY lineWidthChanged FINAL)
 
 public:
     explicit RCellGridPropertiesBase(QObject *parent = nullptr);
@@ -53,9 +53,22 @@ public:
     bool lineVisible() const { return m_lineVisible; }
 
 Q_SIGNALS:
+    void columnWidthChanged();
+    void rowHeightChanged();
+    void columnWidthsChanged();
+    void rowHeightsChanged();
+    void spacingChanged();
+    void paddingChanged();
+    void headerRowsChanged();
+    void headerColumnsChanged();
+    void lineVisibleChanged();
+    void lineWidthChanged();
+    /// Follows each of the signals above.
     void rasterChanged();
 
 private:
+    void measure();
+
     qreal m_columnWidth = 144.0;
     qreal m_rowHeight = 32.0;
     QList<qreal> m_columnWidths;

@@ -189,8 +189,8 @@ void RCellBase::keyPressEvent(QKeyEvent *event)
 void RCellBase::mousePressEvent(QMouseEvent *event)
 {
     m_pressedAt = event->position();
-    if (!m_container || m_container->isReachable(*this))
-        forceActiveFocus(Qt::MouseFocusReason);
+    if (event->source() == Qt::MouseEventNotSynthesized)
+        takeFocus();
     if (event->button() == Qt::RightButton)
         Q_EMIT contextMenuRequested(m_pressedAt);
     else
@@ -204,9 +204,18 @@ void RCellBase::mouseMoveEvent(QMouseEvent *event)
         m_longPress.stop();
 }
 
-void RCellBase::mouseReleaseEvent(QMouseEvent *)
+void RCellBase::mouseReleaseEvent(QMouseEvent *event)
 {
     m_longPress.stop();
+    // A finger may scroll until it is lifted.
+    if (event->source() != Qt::MouseEventNotSynthesized)
+        takeFocus();
+}
+
+void RCellBase::takeFocus()
+{
+    if (!m_container || m_container->isReachable(*this))
+        forceActiveFocus(Qt::MouseFocusReason);
 }
 
 void RCellBase::mouseUngrabEvent()

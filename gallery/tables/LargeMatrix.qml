@@ -8,7 +8,7 @@ import TambleClient.Control 1.0
 TableView {
     id: root
 
-    implicitHeight: theme.dp(33) * 10
+    implicitHeight: theme.dp(33) * 12
     clip: true
     columnSpacing: theme.dp(1)
     rowSpacing: theme.dp(1)
@@ -46,6 +46,13 @@ TableView {
     }
     // qmllint enable unqualified
 
+    // Shows between the crosspoints.
+    Surface {
+        z: -1
+        width: root.contentWidth
+        height: root.contentHeight
+        RStyleSet.typeName: "RBodeplotGrid"
+    }
     RCellGridProperties {
         id: raster
         columnWidth: theme.dp(32)
