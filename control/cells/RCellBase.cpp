@@ -32,17 +32,40 @@ RCellBase::RCellBase(QQuickItem *parent)
 {
     setFlag(ItemIsFocusScope);
     setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
-    for (const auto change : {&RCellBase::rowChanged, &RCellBase::columnChanged, &RCellBase::rowSpanChanged,
-                              &RCellBase::columnSpanChanged, &RCellBase::gridPropertiesChanged})
-        connect(this, change, this, &RCellBase::followRaster);
-    connect(this, &RCellBase::lockedChanged, this, &RCellBase::followLock);
-    connect(this, &RCellBase::controlChanged, this, &RCellBase::placeControl);
     QAccessible::installActivationObserver(this);
 }
 
 RCellBase::~RCellBase()
 {
     QAccessible::removeActivationObserver(this);
+}
+
+void RCellBase::setRow(int row)
+{
+    place(m_row, row, &RCellBase::rowChanged);
+}
+
+void RCellBase::setColumn(int column)
+{
+    place(m_column, column, &RCellBase::columnChanged);
+}
+
+void RCellBase::setRowSpan(int span)
+{
+    place(m_rowSpan, span, &RCellBase::rowSpanChanged);
+}
+
+void RCellBase::setColumnSpan(int span)
+{
+    place(m_columnSpan, span, &RCellBase::columnSpanChanged);
+}
+
+void RCellBase::place(int &part, int value, void (RCellBase::*changed)())
+{
+    if (std::exchange(part, value) == value)
+        return;
+    followRaster();
+    Q_EMIT(this->*changed)();
 }
 
 RCellGridPropertiesBase *RCellBase::gridProperties() const
@@ -59,6 +82,7 @@ void RCellBase::setGridProperties(RCellGridPropertiesBase *properties)
     m_ownGrid = properties;
     if (properties)
         connect(properties, &RCellGridPropertiesBase::rasterChanged, this, &RCellBase::followRaster);
+    followRaster();
     Q_EMIT gridPropertiesChanged();
 }
 
@@ -79,6 +103,15 @@ void RCellBase::setSelected(bool selected)
     Q_EMIT selectedChanged();
 }
 
+void RCellBase::setSelectable(bool selectable)
+{
+    if (std::exchange(m_selectable, selectable) == selectable)
+        return;
+    if (m_container)
+        m_container->arrange();
+    Q_EMIT selectableChanged();
+}
+
 // The current cell is where the focus is when its table has it.
 void RCellBase::setCurrent(bool current)
 {
@@ -87,6 +120,14 @@ void RCellBase::setCurrent(bool current)
     if (current || hasFocus())
         setFocus(current);
     Q_EMIT currentChanged();
+}
+
+void RCellBase::setReadOnly(bool readOnly)
+{
+    if (std::exchange(m_readOnly, readOnly) == readOnly)
+        return;
+    followLock();
+    Q_EMIT readOnlyChanged();
 }
 
 bool RCellBase::isLocked() const
@@ -105,8 +146,25 @@ void RCellBase::setControl(QQuickItem *control)
         passByTab(*control);
         nameControl();
     }
+    placeControl();
     followLock();
     Q_EMIT controlChanged();
+}
+
+void RCellBase::setControlPadded(bool padded)
+{
+    if (std::exchange(m_controlPadded, padded) == padded)
+        return;
+    placeControl();
+    Q_EMIT controlPaddedChanged();
+}
+
+void RCellBase::setUnit(qreal unit)
+{
+    if (std::exchange(m_unit, unit) == unit)
+        return;
+    followRaster();
+    Q_EMIT unitChanged();
 }
 
 void RCellBase::setRefusal(const QString &reason)
@@ -129,8 +187,9 @@ void RCellBase::setContainer(RCellContainerBase *container)
     m_container = container;
     if (container)
         connect(this, &RCellBase::activated, container, [this, container] { container->activate(*this); });
+    followRaster();
     Q_EMIT gridPropertiesChanged();
-    Q_EMIT lockedChanged();
+    followLock();
 }
 
 void RCellBase::setHighlighted(bool highlighted)
@@ -287,6 +346,7 @@ void RCellBase::followLock()
     if (button)
         button->setFocus(!isLocked());
     followFocus();
+    Q_EMIT lockedChanged();
 }
 
 void RCellBase::placeControl()

@@ -31,38 +31,46 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RCellBase : public QQuickItem,
     Q_OBJECT
     QML_NAMED_ELEMENT(RCellBase)
     /// Place of the cell's upper left corner, `row` and `column`, counted from 0; negative ones count as 0.
-    Q_PROPERTY(int row MEMBER m_row NOTIFY rowChanged)
-    Q_PROPERTY(int column MEMBER m_column NOTIFY columnChanged)
+    Q_PROPERTY(int row READ row WRITE setRow NOTIFY rowChanged)
+    Q_PROPERTY(int column READ column WRITE setColumn NOTIFY columnChanged)
     /// How many rows (`rowSpan`) and columns (`columnSpan`) the cell takes; 1 by default.
-    Q_PROPERTY(int rowSpan MEMBER m_rowSpan NOTIFY rowSpanChanged)
-    Q_PROPERTY(int columnSpan MEMBER m_columnSpan NOTIFY columnSpanChanged)
+    Q_PROPERTY(int rowSpan READ rowSpan WRITE setRowSpan NOTIFY rowSpanChanged)
+    Q_PROPERTY(int columnSpan READ columnSpan WRITE setColumnSpan NOTIFY columnSpanChanged)
     Q_PROPERTY(tamble::client::RCellGridPropertiesBase *gridProperties READ gridProperties WRITE setGridProperties
                    NOTIFY gridPropertiesChanged)
     /// What the cell is about, for people who cannot see it, such as "Gain of channel 3".
     Q_PROPERTY(QString label READ label WRITE setLabel NOTIFY labelChanged)
     Q_PROPERTY(bool selected READ isSelected WRITE setSelected NOTIFY selectedChanged)
     /// Whether a selection of the container takes the cell in; true by default.
-    Q_PROPERTY(bool selectable MEMBER m_selectable NOTIFY selectableChanged)
+    Q_PROPERTY(bool selectable READ isSelectable WRITE setSelectable NOTIFY selectableChanged)
     /// False while several devices differ in what the cell shows ("mixed"); true by default.
     Q_PROPERTY(bool consistent MEMBER m_consistent NOTIFY consistentChanged)
     Q_PROPERTY(bool current READ isCurrent WRITE setCurrent NOTIFY currentChanged)
     /// Shows what it shows and is never edited; false by default.
-    Q_PROPERTY(bool readOnly MEMBER m_readOnly NOTIFY lockedChanged)
+    Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly NOTIFY readOnlyChanged)
     Q_PROPERTY(bool locked READ isLocked NOTIFY lockedChanged)
     Q_PROPERTY(QQuickItem *control READ control WRITE setControl NOTIFY controlChanged)
     /// Whether there is the raster's `padding` at both sides of the control; false by default.
-    Q_PROPERTY(bool controlPadded MEMBER m_controlPadded NOTIFY controlChanged)
+    Q_PROPERTY(bool controlPadded READ isControlPadded WRITE setControlPadded NOTIFY controlPaddedChanged)
     /// Whether Enter belongs to the control while it is edited, and Ctrl+Enter confirms; false by default.
-    Q_PROPERTY(bool multiLine MEMBER m_multiLine NOTIFY controlChanged)
+    Q_PROPERTY(bool multiLine MEMBER m_multiLine NOTIFY multiLineChanged)
     Q_PROPERTY(bool editing READ isEditing NOTIFY editingChanged)
     Q_PROPERTY(QString refusal READ refusal NOTIFY refusalChanged)
     /// Pixels per density-independent unit, for the size of a cell without `gridProperties`.
-    Q_PROPERTY(qreal unit MEMBER m_unit NOTIFY gridPropertiesChanged)
+    Q_PROPERTY(qreal unit READ unit WRITE setUnit NOTIFY unitChanged)
 
 public:
     explicit RCellBase(QQuickItem *parent = nullptr);
     ~RCellBase() override;
 
+    int row() const { return m_row; }
+    void setRow(int row);
+    int column() const { return m_column; }
+    void setColumn(int column);
+    int rowSpan() const { return m_rowSpan; }
+    void setRowSpan(int span);
+    int columnSpan() const { return m_columnSpan; }
+    void setColumnSpan(int span);
     /// The raster: the container's, unless the cell has one of its own.
     RCellGridPropertiesBase *gridProperties() const;
     void setGridProperties(RCellGridPropertiesBase *properties);
@@ -71,15 +79,21 @@ public:
     /// Whether the page has the cell framed and tinted; false by default.
     bool isSelected() const { return m_selected; }
     void setSelected(bool selected);
+    bool isSelectable() const { return m_selectable; }
+    void setSelectable(bool selectable);
     /// Whether this is the current cell. The container says so; in a TableView it is a required property, which the
     /// view sets.
     bool isCurrent() const { return m_current; }
     void setCurrent(bool current);
+    bool isReadOnly() const { return m_readOnly; }
+    void setReadOnly(bool readOnly);
     /// Whether nothing here can be edited, since the cell or its container is read-only.
     bool isLocked() const;
     /// The control in the cell, which fills it; null by default.
     QQuickItem *control() const { return m_control; }
     void setControl(QQuickItem *control);
+    bool isControlPadded() const { return m_controlPadded; }
+    void setControlPadded(bool padded);
     /// Whether the control is being edited.
     bool isEditing() const { return m_editor; }
     /// Why a pasted text was not taken; empty otherwise. The cell shows it until it is edited or something is pasted.
@@ -96,13 +110,17 @@ public:
     /// Takes the focus back from the control; what is typed and not entered then depends on that.
     Q_INVOKABLE void endEditing();
 
+    qreal unit() const { return m_unit; }
+    void setUnit(qreal unit);
+
     CellArea area() const { return CellArea::ofCell(m_row, m_column, m_rowSpan, m_columnSpan); }
     /// The cell's own answers to cellText() and takeText().
     QString textToCopy() const;
     QString pasteText(const QString &text);
 
     // What the container says.
-    bool isSelectable() const { return m_selectable; }
+    /// The container's part in `locked` has changed.
+    void followLock();
     /// Part of the container's selection.
     void setHighlighted(bool highlighted);
     /// What is behind the cell, where lines must not cross it; an invalid colour for nothing.
@@ -125,10 +143,14 @@ Q_SIGNALS:
     void selectableChanged();
     void consistentChanged();
     void currentChanged();
+    void readOnlyChanged();
     void lockedChanged();
     void controlChanged();
+    void controlPaddedChanged();
+    void multiLineChanged();
     void editingChanged();
     void refusalChanged();
+    void unitChanged();
     /// The user wants to use the cell: by Enter, F2, a double click, or a click on the button in it. `index` is that of
     /// the tab that was chosen in a tab bar, elsewhere −1.
     void activated(int index = -1);
@@ -153,8 +175,8 @@ protected:
 private:
     void accessibilityActiveChanged(bool active) override;
     void setContainer(RCellContainerBase *container);
+    void place(int &part, int value, void (RCellBase::*changed)());
     void followRaster();
-    void followLock();
     void followFocus();
     void placeControl();
     void nameControl();

@@ -70,7 +70,7 @@ void RCellContainerBase::setReadOnly(bool readOnly)
         return;
     for (const auto &cell : std::vector(m_cells)) {
         if (cell)
-            Q_EMIT cell->lockedChanged();
+            cell->followLock();
     }
     Q_EMIT readOnlyChanged();
 }
