@@ -264,7 +264,9 @@ void FieldEdit::notice(const QString &text)
 
 void FieldEdit::noticeRefusal(const QString &wanted)
 {
-    notice(validatorProblemOf(m_editor->validator(), wanted));
+    const QString problem = validatorProblemOf(m_editor->validator(), wanted);
+    if (!problem.isEmpty())
+        notice(problem);
 }
 
 bool FieldEdit::eventFilter(QObject *editor, QEvent *event)

@@ -126,6 +126,7 @@ QString RSpinBoxBase::spokenDescription(const QString &given) const
 
 void RSpinBoxBase::addSpokenStates(QAccessible::State &state) const
 {
+    state.focusable = true; // by its editor
     state.readOnly = m_edit && !m_edit->canEdit();
     state.editable = !state.readOnly;
 }
