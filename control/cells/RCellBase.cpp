@@ -372,7 +372,8 @@ void RCellBase::nameControl()
 void RCellBase::updateFrames()
 {
     showPart(m_focusFrame, Part::FocusFrame, hasActiveFocus() && !(m_control && m_control->hasActiveFocus()));
-    showPart(m_selectionFrame, Part::CellSelection, m_highlighted || m_selected);
+    // Without a tint, the current cell is seen among selected ones.
+    showPart(m_selectionFrame, Part::CellSelection, m_selected || (m_highlighted && !hasActiveFocus()));
 }
 
 void RCellBase::showPart(QPointer<QObject> &part, Part kind, bool visible)

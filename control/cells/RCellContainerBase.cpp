@@ -199,14 +199,10 @@ QRectF RCellContainerBase::rectOf(const CellArea &area) const
 {
     QRectF rect(m_grid->columnX(area.column), m_grid->rowY(area.row), m_grid->spanWidth(area.column, area.columns),
                 m_grid->spanHeight(area.row, area.rows));
-    const QPointF offset = headerOffset();
-    if (isHeaderColumn(area))
-        rect.translate(offset.x(), 0.0);
-    if (isHeaderRow(area))
-        rect.translate(0.0, offset.y());
     if (m_mirrored)
         rect.moveLeft(implicitWidth() - rect.right());
-    return rect;
+    const QPointF shift = headerShift();
+    return rect.translated(isHeaderColumn(area) ? shift.x() : 0.0, isHeaderRow(area) ? shift.y() : 0.0);
 }
 
 /// The header rows' height and the header columns' width.
@@ -217,32 +213,30 @@ QSizeF RCellContainerBase::headerSize() const
     return {columns > 0 ? m_grid->columnX(columns) : 0.0, rows > 0 ? m_grid->rowY(rows) : 0.0};
 }
 
-/// How far the headers are from where they belong, so that the view shows them.
-QPointF RCellContainerBase::headerOffset() const
+QPointF RCellContainerBase::headerShift() const
 {
     const QSizeF header = headerSize();
     if (header.isNull())
         return {};
     const QRectF visible = m_view.visibleRect();
     const double hiddenAside = m_mirrored ? implicitWidth() - visible.right() : visible.left();
-    return {std::clamp(hiddenAside, 0.0, std::max(0.0, implicitWidth() - header.width())),
-            std::clamp(visible.top(), 0.0, std::max(0.0, implicitHeight() - header.height()))};
+    const double x = std::clamp(hiddenAside, 0.0, std::max(0.0, implicitWidth() - header.width()));
+    const double y = std::clamp(visible.top(), 0.0, std::max(0.0, implicitHeight() - header.height()));
+    return {m_mirrored ? -x : x, y};
 }
 
 QRectF RCellContainerBase::headerRowsRect() const
 {
-    const QPointF offset = headerOffset();
-    return offset.isNull() ? QRectF() : QRectF(0.0, offset.y(), implicitWidth(), headerSize().height());
+    const QPointF shift = headerShift();
+    return shift.isNull() ? QRectF() : QRectF(0.0, shift.y(), implicitWidth(), headerSize().height());
 }
 
 QRectF RCellContainerBase::headerColumnsRect() const
 {
-    const QPointF offset = headerOffset();
-    if (offset.isNull())
-        return {};
+    const QPointF shift = headerShift();
     const double width = headerSize().width();
-    const double x = m_mirrored ? implicitWidth() - offset.x() - width : offset.x();
-    return {x, 0.0, width, implicitHeight()};
+    const double home = m_mirrored ? implicitWidth() - width : 0.0;
+    return shift.isNull() ? QRectF() : QRectF(home + shift.x(), 0.0, width, implicitHeight());
 }
 
 void RCellContainerBase::componentComplete()

@@ -57,6 +57,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RCellContainerBase : public QQuickItem,
     /// they belong.
     Q_PROPERTY(QRectF headerRowsRect READ headerRowsRect NOTIFY headersMoved)
     Q_PROPERTY(QRectF headerColumnsRect READ headerColumnsRect NOTIFY headersMoved)
+    /// How far the headers are from there.
+    Q_PROPERTY(QPointF headerShift READ headerShift NOTIFY headersMoved)
 
 public:
     enum SelectionMode {
@@ -92,6 +94,7 @@ public:
     const QList<qreal> &columnLines() const { return m_columnLines; }
     QRectF headerRowsRect() const;
     QRectF headerColumnsRect() const;
+    QPointF headerShift() const;
 
     /// Copies the selected cells to the clipboard.
     Q_INVOKABLE void copy();
@@ -157,7 +160,6 @@ private:
     void warnOfOverlap();
     QRectF rectOf(const CellArea &area) const;
     QSizeF headerSize() const;
-    QPointF headerOffset() const;
     bool isHeaderRow(const CellArea &area) const;
     bool isHeaderColumn(const CellArea &area) const;
 

@@ -29,16 +29,19 @@ RCellContainerBase {
     RCellGround {
         table: root
         part: root.headerRowsRect
+        shift.y: root.headerShift.y
         z: 1
     }
     RCellGround {
         table: root
         part: root.headerColumnsRect
+        shift.x: root.headerShift.x
         z: 1
     }
     RCellGround {
         table: root
         part: Qt.rect(root.headerColumnsRect.x, root.headerRowsRect.y, root.headerColumnsRect.width, root.headerRowsRect.height)
+        shift: root.headerShift
         z: 3
     }
     RFocusRectangle {

@@ -6,7 +6,10 @@ Item {
     id: root
 
     required property RCellContainerBase table
+    /*! Where the part is shown. */
     property rect part
+    /*! How far the part is from its place in the table. */
+    property point shift
 
     x: root.part.x
     y: root.part.y
@@ -16,8 +19,8 @@ Item {
     clip: true
 
     Rectangle {
-        x: -root.x
-        y: -root.y
+        x: root.shift.x - root.x
+        y: root.shift.y - root.y
         width: root.table.implicitWidth
         height: root.table.implicitHeight
         color: root.table.ssBackground

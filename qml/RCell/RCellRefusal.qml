@@ -13,12 +13,24 @@ Item {
 
     anchors.fill: parent
 
-    RIcon {
-        x: root.width - width - 4 * RThemeValues.unit
-        y: (root.height - height) / 2
-        key: "warning"
-        sizeClass: "XS"
-        ssIconForeground: root.ssForegroundInvalid
+    Rectangle {
+        id: corner
+
+        RStyleSet.typeName: "RBodeplotGrid"
+
+        property color ssBackground: corner.RStyleSet.props.background
+
+        anchors.right: root.right
+        width: 12 * RThemeValues.unit
+        height: corner.width
+        color: corner.ssBackground
+
+        RIcon {
+            anchors.centerIn: corner
+            key: "warning"
+            sizeClass: "XXS"
+            ssIconForeground: root.ssForegroundInvalid
+        }
     }
     HoverHandler {
         id: pointer

@@ -38,9 +38,9 @@ private Q_SLOTS:
             u"RCellText { objectName: 'cell'; row: 1; label: 'Gain'; text: '-6'; consistent: false }"_s,
             QAccessible::Cell, u"Gain"_s, u"row 2, column 1, -6, mixed"_s);
         row("the button of a cell has the focus",
-            u"RCellButton { row: 1; label: 'Input 1 to output 2'; control.objectName: 'cell' }"_s, QAccessible::Button,
-            u"Input 1 to output 2"_s, QString());
-        row("field", u"RCellTextField { row: 1; label: 'Name'; control.objectName: 'cell' }"_s,
+            u"RCellButton { row: 1; label: 'Input 1 to output 2'; Component.onCompleted: control.objectName = 'cell' }"_s,
+            QAccessible::Button, u"Input 1 to output 2"_s, QString());
+        row("field", u"RCellTextField { row: 1; label: 'Name'; Component.onCompleted: control.objectName = 'cell' }"_s,
             QAccessible::EditableText, u"Name"_s, QString());
     }
     void cells() { checkRow(); }
