@@ -134,28 +134,29 @@ void RCellContainerBase::updatePolish()
         Q_EMIT headersMoved();
 }
 
+// Over a copy, since a page may answer a new size with other cells.
 void RCellContainerBase::placeCells()
 {
-    for (std::size_t i = 0; i < m_cells.size(); ++i) {
-        RCellBase *cell = m_cells[i];
-        const CellArea &area = m_plan.cells()[i].area;
-        const QRectF rect = rectOf(area);
-        cell->setPosition(rect.topLeft());
-        cell->setSize(rect.size());
+    for (const auto &cell : std::vector(m_cells)) {
+        if (!cell)
+            continue;
+        const CellArea area = cell->area();
         cell->setGround(area.rows > 1 || area.columns > 1 ? m_ssBackground : QColor());
         if (isHeaderRow(area) || isHeaderColumn(area))
             cell->setZ(isHeaderRow(area) && isHeaderColumn(area) ? cornerZ : headerZ);
+        const QRectF rect = rectOf(area);
+        cell->setPosition(rect.topLeft());
+        cell->setSize(rect.size());
     }
 }
 
 void RCellContainerBase::placeHeaders()
 {
-    if (!m_grid || m_isStale || (m_grid->headerRows() <= 0 && m_grid->headerColumns() <= 0))
+    if (!m_grid || (m_grid->headerRows() <= 0 && m_grid->headerColumns() <= 0))
         return;
-    for (std::size_t i = 0; i < m_cells.size(); ++i) {
-        const CellArea &area = m_plan.cells()[i].area;
-        if (m_cells[i] && (isHeaderRow(area) || isHeaderColumn(area)))
-            m_cells[i]->setPosition(rectOf(area).topLeft());
+    for (const auto &cell : std::vector(m_cells)) {
+        if (cell && (isHeaderRow(cell->area()) || isHeaderColumn(cell->area())))
+            cell->setPosition(rectOf(cell->area()).topLeft());
     }
     Q_EMIT headersMoved();
 }
