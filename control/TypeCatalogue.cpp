@@ -20,6 +20,7 @@
 #include "controls/RButtonBase.h"
 #include "controls/RControlBackground.h"
 #include "controls/RLabelBase.h"
+#include "controls/RTabButtonBase.h"
 #include "controls/RTintedImage.h"
 #include "controls/RUnderlay.h"
 #include "dynamics/AGCCalculator.h"
@@ -44,6 +45,7 @@
 #include "fields/RTextFieldPinValidator.h"
 #include "fields/RTextInputBase.h"
 #include "handles/RHandleBase.h"
+#include "menus/RMenuBase.h"
 #include "meter/RMeterBar.h"
 #include "meter/RMeterBase.h"
 #include "models/RSortFilterProxyModel.h"
@@ -328,8 +330,10 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RControlBackground>("RControlBackground");
     registrar.creatable<RFaderBase>("RFaderBase");
     registrar.creatable<RHandleBase>("RHandleBase");
+    registrar.creatable<RMenuBase>("RMenuBase");
     registrar.creatable<RMeterBar>("RMeterBar");
     registrar.creatable<RLabelBase>("RLabelBase");
+    registrar.creatable<RTabButtonBase>("RTabButtonBase");
     registrar.creatable<RTextFieldBase>("RTextFieldBase");
     registrar.creatable<RTextInputBase>("RTextInputBase");
     registrar.creatable<RTextAreaBase>("RTextAreaBase");
@@ -340,6 +344,8 @@ void registerInternals(const Registrar &registrar)
     registrar.withLaterProperties<QQuickItem>();
     registrar.withLaterProperties<QQuickControl>();
     registrar.withLaterProperties<QQuickAbstractButton>();
+    registrar.withLaterProperties<QQuickPopup>();
+    registrar.withLaterProperties<QQuickMenu>();
     registrar.withLaterProperties<QQuickText>();
     registrar.withLaterProperties<QQuickLabel>();
     registrar.withLaterProperties<QQuickTextInput>();
@@ -375,6 +381,10 @@ void registerParts()
     name(Part::SpinInvalidLook, "RSpinBox/RSpinInvalidLook.qml");
     name(Part::CellSelection, "RCell/RCellSelection.qml");
     name(Part::CellRefusal, "RCell/RCellRefusal.qml");
+    name(Part::MenuRow, "RMenu/RMenuRow.qml");
+    name(Part::MenuLine, "RMenu/RMenuLine.qml");
+    name(Part::SubMenu, "RMenu/RMenu.qml");
+    name(Part::FieldMenu, "Shared/RFieldMenu.qml");
 }
 
 } // namespace

@@ -29,8 +29,12 @@ enum class Part {
     SpinInvalidLook, ///< The colours of an unacceptable number.
     CellSelection,   ///< The frame and tint of a selected cell.
     CellRefusal,     ///< The mark of a cell that did not take a pasted text.
+    MenuRow,         ///< What an entry of a menu looks like.
+    MenuLine,        ///< Likewise a separator.
+    SubMenu,
+    FieldMenu, ///< The context menu of text fields.
 };
-constexpr std::size_t partCount = 15;
+constexpr std::size_t partCount = 19;
 
 /// Names the QML file of a part, for all engines.
 void setPartSource(Part part, const QUrl &file);

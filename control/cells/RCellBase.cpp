@@ -115,11 +115,11 @@ void RCellBase::setSelectable(bool selectable)
 // The current cell is where the focus is when its table has it.
 void RCellBase::setCurrent(bool current)
 {
-    if (std::exchange(m_current, current) == current)
-        return;
+    // Also without a change: a view hides cells, which costs them the focus, and uses them again.
     if (current || hasFocus())
         setFocus(current);
-    Q_EMIT currentChanged();
+    if (std::exchange(m_current, current) != current)
+        Q_EMIT currentChanged();
 }
 
 void RCellBase::setReadOnly(bool readOnly)
@@ -300,6 +300,9 @@ void RCellBase::itemChange(ItemChange change, const ItemChangeData &data)
         setContainer(qobject_cast<RCellContainerBase *>(data.item));
         break;
     case ItemVisibleHasChanged:
+        if (m_current && data.boolValue)
+            setFocus(true);
+        [[fallthrough]];
     case ItemEnabledHasChanged:
         if (m_container)
             m_container->arrange();

@@ -175,6 +175,23 @@ ThemedTestCase {
         compare([table.note, cellAt(table, 1, 0).activeFocus, cellAt(table, 1, 0).editing], ["two\nthree", true, false])
     }
 
+    function test_tabs() {
+        const table = make(`RCellContainer {
+            RCellTabBar { columnSpan: 2; model: ["In", { text: "Out", iconKey: "mute" }, { text: "Spare", enabled: false }] }
+        }`)
+        waitForRendering(table)
+        const cell = cellAt(table, 0, 0)
+        const log = logged(cell, { activated: "tab" })
+        table.forceActiveFocus()
+        keyClick(Qt.Key_Down)
+        keyClick(Qt.Key_Return)
+        keyClick(Qt.Key_Right)
+        keyClick(Qt.Key_Space)
+        compare([cell.currentIndex, log], [1, ["tab -1", "tab 1"]])
+        keyClick(Qt.Key_Escape)
+        verify(cell.activeFocus && !cell.editing)
+    }
+
     function test_focusComesBackToTheCell() {
         const page = makeTable("")
         const cell = cellAt(page.table, 1, 0)
