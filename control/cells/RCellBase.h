@@ -153,7 +153,7 @@ Q_SIGNALS:
     void unitChanged();
     /// The user wants to use the cell: by Enter, F2, a double click, or a click on the button in it. `index` is that of
     /// the tab that was chosen in a tab bar, elsewhere −1.
-    void activated(int index = -1);
+    void activated(int index);
     /// A right click, a long press or the Menu key; `position` is in the cell's coordinates.
     void contextMenuRequested(const QPointF &position);
 

@@ -100,7 +100,7 @@ void RCellBase::use()
     }
     edit();
     if (guard)
-        Q_EMIT activated();
+        Q_EMIT activated(-1);
 }
 
 void RCellBase::followFocus()

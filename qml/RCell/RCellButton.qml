@@ -45,7 +45,7 @@ RCell {
         onSelectionEdited: selected => root.selectionEdited(selected)
         onClicked: {
             root.clicked()
-            root.activated()
+            root.activated(-1)
         }
     }
     Loader {

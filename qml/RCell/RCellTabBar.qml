@@ -50,6 +50,8 @@ RCell {
                         list.positionViewAtIndex(tab.index, ListView.Contain)
                 }
                 onClicked: {
+                    if (tab.selected)
+                        return
                     choice.show(tab.index)
                     choice.commit()
                     root.activated(tab.index)
