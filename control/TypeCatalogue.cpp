@@ -14,6 +14,9 @@
 #include "bodeplot/frame/RBodeplot.h"
 #include "bodeplot/frame/RBodeplotAxis.h"
 #include "bodeplot/frame/RBodeplotGrid.h"
+#include "cells/RCellBase.h"
+#include "cells/RCellContainerBase.h"
+#include "cells/RCellGridPropertiesBase.h"
 #include "controls/RButtonBase.h"
 #include "controls/RCheckBoxBase.h"
 #include "controls/RControlBackground.h"
@@ -329,6 +332,9 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RComboBoxBase>("RComboBoxBase");
     registrar.creatable<RComboBoxEntryBase>("RComboBoxEntryBase");
     registrar.creatable<RComboBoxPopup>("RComboBoxPopup");
+    registrar.creatable<RCellBase>("RCellBase");
+    registrar.creatable<RCellContainerBase>("RCellContainerBase");
+    registrar.creatable<RCellGridPropertiesBase>("RCellGridPropertiesBase");
     registrar.creatable<RControlBackground>("RControlBackground");
     registrar.creatable<RFaderBase>("RFaderBase");
     registrar.creatable<RHandleBase>("RHandleBase");
@@ -387,6 +393,8 @@ void registerParts()
     name(Part::SpinButtons, "RSpinBox/RSpinButtons.qml");
     name(Part::SpinAffixes, "RSpinBox/RSpinAffixes.qml");
     name(Part::SpinInvalidLook, "RSpinBox/RSpinInvalidLook.qml");
+    name(Part::CellSelection, "RCell/RCellSelection.qml");
+    name(Part::CellRefusal, "RCell/RCellRefusal.qml");
     name(Part::MenuRow, "RMenu/RMenuRow.qml");
     name(Part::MenuLine, "RMenu/RMenuLine.qml");
     name(Part::SubMenu, "RMenu/RMenu.qml");

@@ -26,6 +26,17 @@ set(registered
     RButton/RButtonSwitch.qml
     RCheckBox/RCheckBox.qml
     RComboBox/RComboBox.qml
+    RCell/RCell.qml
+    RCell/RCellButton.qml
+    RCell/RCellContainer.qml
+    RCell/RCellGridProperties.qml
+    RCell/RCellLabel.qml
+    RCell/RCellSpinBox.qml
+    RCell/RCellTabBar.qml
+    RCell/RCellTabButton.qml
+    RCell/RCellText.qml
+    RCell/RCellTextArea.qml
+    RCell/RCellTextField.qml
     RCompressor/RCompressor.qml
     RDucker/RDucker.qml
     RFader/RFader.qml
@@ -73,6 +84,9 @@ set(unregistered
     RComboBox/RComboBoxIcon.qml
     RComboBox/RComboBoxList.qml
     RComboBox/RComboBoxMarks.qml
+    RCell/RCellGround.qml
+    RCell/RCellRefusal.qml
+    RCell/RCellSelection.qml
     RFader/RFaderHandle.qml
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml

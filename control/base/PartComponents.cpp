@@ -46,7 +46,8 @@ QObject *PartComponents::make(Part part, QObject *owner, const QVariantMap &init
     QQmlComponent *&component = m_components[std::size_t(part)];
     if (!component)
         component = new QQmlComponent(m_engine, partSources()[std::size_t(part)], this);
-    QObject *made = component->createWithInitialProperties(initialProperties);
+    // Qt 6.4 crashes on one that is not.
+    QObject *made = component->isReady() ? component->createWithInitialProperties(initialProperties) : nullptr;
     if (made)
         made->setParent(owner);
     else

@@ -33,6 +33,8 @@ enum class Part {
     SpinButtons,
     SpinAffixes,     ///< What stands before and after the number of a spin box.
     SpinInvalidLook, ///< The colours of an unacceptable number.
+    CellSelection,   ///< The frame and tint of a selected cell.
+    CellRefusal,     ///< The mark of a cell that did not take a pasted text.
     MenuRow,         ///< What an entry of a menu looks like.
     MenuLine,        ///< Likewise a separator.
     SubMenu,
