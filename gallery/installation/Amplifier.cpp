@@ -12,7 +12,7 @@ Amplifier::Amplifier(QObject *parent)
     : QObject(parent)
 {}
 
-void Amplifier::setDevices(const QList<int> &devices)
+void Amplifier::setDevices(const QVariantList &devices)
 {
     if (devices == m_devices)
         return;
@@ -46,8 +46,10 @@ void Amplifier::findKnown()
     m_known.clear();
     if (!m_installation)
         return;
-    for (const int device : m_devices) {
-        if (device >= 0 && device < m_installation->devices().count() && !m_known.contains(device))
+    for (const QVariant &number : m_devices) {
+        bool isNumber = false;
+        const int device = number.toInt(&isNumber);
+        if (isNumber && device >= 0 && device < m_installation->devices().count() && !m_known.contains(device))
             m_known.append(device);
     }
 }

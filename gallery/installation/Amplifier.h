@@ -16,15 +16,15 @@ class Amplifier : public QObject, public QQmlParserStatus
     Q_INTERFACES(QQmlParserStatus)
     QML_ELEMENT
     /// Numbers of the devices, from 0; those that are not there do not count. Empty by default.
-    Q_PROPERTY(QList<int> devices READ devices WRITE setDevices NOTIFY devicesChanged)
+    Q_PROPERTY(QVariantList devices READ devices WRITE setDevices NOTIFY devicesChanged)
     /// Whether all of them are on the network.
     Q_PROPERTY(bool online READ isOnline NOTIFY onlineChanged)
 
 public:
     explicit Amplifier(QObject *parent = nullptr);
 
-    QList<int> devices() const { return m_devices; }
-    void setDevices(const QList<int> &devices);
+    QVariantList devices() const { return m_devices; }
+    void setDevices(const QVariantList &devices);
     bool isOnline() const { return m_isOnline; }
 
     /// Asks every device to take a value in the field of that name.
@@ -47,7 +47,7 @@ private:
     void updateOnline();
 
     QPointer<GalleryInstallation> m_installation;
-    QList<int> m_devices;
+    QVariantList m_devices;
     QList<int> m_known;
     bool m_isOnline = false;
 };

@@ -36,12 +36,15 @@ void AmplifierField::setField(const QString &name)
     update();
 }
 
-QVariant AmplifierField::actual() const
+QString AmplifierField::actualText() const
 {
-    QVariantList values;
-    for (const int device : devices())
-        values.append(m_installation->devices().record(device).read(m_field));
-    return values.size() == 1 ? values.constFirst() : QVariant(values);
+    QStringList texts;
+    for (const int device : devices()) {
+        const QVariant &value = m_installation->devices().record(device).read(m_field);
+        const bool isReal = value.metaType() == QMetaType::fromType<double>();
+        texts.append(isReal ? QString::number(value.toDouble(), 'g', 6) : value.toString());
+    }
+    return texts.join(QStringLiteral(", "));
 }
 
 double AmplifierField::minimum() const
@@ -78,7 +81,7 @@ void AmplifierField::componentComplete()
     connect(&m_installation->client(), &InstallationClient::fieldChanged, this, &AmplifierField::updateIfOurs);
     connect(m_installation, &GalleryInstallation::deviceChanged, this, [this](int device) {
         if (devices().contains(device))
-            Q_EMIT actualChanged();
+            Q_EMIT actualTextChanged();
     });
     update();
 }
@@ -135,7 +138,7 @@ void AmplifierField::update()
         Q_EMIT confirmedChanged();
     if (now.errorText != before.errorText)
         Q_EMIT errorTextChanged();
-    Q_EMIT actualChanged();
+    Q_EMIT actualTextChanged();
 }
 
 void AmplifierField::updateIfOurs(int device, int field)

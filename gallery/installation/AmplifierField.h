@@ -25,8 +25,8 @@ class AmplifierField : public QObject, public QQmlParserStatus
     Q_PROPERTY(bool confirmed READ isConfirmed NOTIFY confirmedChanged)
     /// Why the last request failed, with the name of the device where there are several.
     Q_PROPERTY(QString errorText READ errorText NOTIFY errorTextChanged)
-    /// What the devices really have, whatever the network does: the value of one device, a list of those of several.
-    Q_PROPERTY(QVariant actual READ actual NOTIFY actualChanged)
+    /// What the devices really have, whatever the network does, in the order of the selection.
+    Q_PROPERTY(QString actualText READ actualText NOTIFY actualTextChanged)
     /// Bounds of a number, or of the length of a text.
     Q_PROPERTY(double minimum READ minimum NOTIFY fieldChanged)
     Q_PROPERTY(double maximum READ maximum NOTIFY fieldChanged)
@@ -43,7 +43,7 @@ public:
     bool isConsistent() const { return m_state.isConsistent; }
     bool isConfirmed() const { return m_state.isConfirmed; }
     QString errorText() const { return m_state.errorText; }
-    QVariant actual() const;
+    QString actualText() const;
     double minimum() const;
     double maximum() const;
 
@@ -65,7 +65,7 @@ Q_SIGNALS:
     void consistentChanged();
     void confirmedChanged();
     void errorTextChanged();
-    void actualChanged();
+    void actualTextChanged();
 
 private:
     struct State

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QtCore/QAbstractListModel>
-#include <QtQml/qqmlregistration.h>
 
 class InstallationClient;
 
@@ -10,8 +9,6 @@ class InstallationClient;
 class AmplifierListModel : public QAbstractListModel
 {
     Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("Exposed as GalleryInstallation.amplifiers")
 
 public:
     AmplifierListModel(InstallationClient &client, QObject *parent);

@@ -29,10 +29,10 @@ class GalleryInstallation : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    /// The amplifiers as the client sees them.
-    Q_PROPERTY(AmplifierListModel *amplifiers READ amplifiers CONSTANT)
-    /// What channels can be given.
-    Q_PROPERTY(SourceListModel *sources READ sources CONSTANT)
+    /// The amplifiers as the client sees them, an `AmplifierListModel`.
+    Q_PROPERTY(QAbstractItemModel *amplifiers READ amplifiers CONSTANT)
+    /// What channels can be given, a `SourceListModel`.
+    Q_PROPERTY(QAbstractItemModel *sources READ sources CONSTANT)
     /// How the network behaves; may be changed at any time, also by its parts.
     Q_PROPERTY(NetworkBehaviour behaviour READ behaviour WRITE setBehaviour NOTIFY behaviourChanged)
 

@@ -1,14 +1,11 @@
 #pragma once
 
 #include <QtCore/QAbstractListModel>
-#include <QtQml/qqmlregistration.h>
 
 /// "None", and the sources that are known: roles "sourceId" and "name".
 class SourceListModel : public QAbstractListModel
 {
     Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("Exposed as GalleryInstallation.sources")
 
 public:
     using QAbstractListModel::QAbstractListModel;
