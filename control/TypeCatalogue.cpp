@@ -28,13 +28,18 @@
 #include "dynamics/RPlotRules.h"
 #include "fader/RFaderBase.h"
 #include "fader/RTransferTable.h"
+#include "fields/FieldEdit.h"
+#include "fields/NumberSteps.h"
+#include "fields/RSpinBoxBase.h"
 #include "fields/RStringRuleValidator.h"
 #include "fields/RStringRuleValidatorRule.h"
+#include "fields/RTextAreaBase.h"
 #include "fields/RTextFieldBase.h"
 #include "fields/RTextFieldDoubleValidator.h"
 #include "fields/RTextFieldIntValidator.h"
 #include "fields/RTextFieldIpAddressValidator.h"
 #include "fields/RTextFieldPinValidator.h"
+#include "fields/RTextInputBase.h"
 #include "handles/RHandleBase.h"
 #include "meter/RMeterBar.h"
 #include "meter/RMeterBase.h"
@@ -320,6 +325,11 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RMeterBar>("RMeterBar");
     registrar.creatable<RLabelBase>("RLabelBase");
     registrar.creatable<RTextFieldBase>("RTextFieldBase");
+    registrar.creatable<RTextInputBase>("RTextInputBase");
+    registrar.creatable<RTextAreaBase>("RTextAreaBase");
+    registrar.creatable<RSpinBoxBase>("RSpinBoxBase");
+    registrar.creatable<FieldEdit>("RFieldEdit");
+    registrar.creatable<NumberSteps>("RNumberSteps");
     registrar.creatable<PendingValue>("RPendingValue");
     registrar.withLaterProperties<QQuickItem>();
     registrar.withLaterProperties<QQuickControl>();
@@ -328,6 +338,8 @@ void registerInternals(const Registrar &registrar)
     registrar.withLaterProperties<QQuickLabel>();
     registrar.withLaterProperties<QQuickTextInput>();
     registrar.withLaterProperties<QQuickTextField>();
+    registrar.withLaterProperties<QQuickTextEdit>();
+    registrar.withLaterProperties<QQuickTextArea>();
     registrar.singleton<RPlotRules>("RPlotRules");
     registrar.creatable<SheetName>("RSheetName");
     registrar.creatable<RTintedImage>("RTintedImage");
@@ -347,6 +359,14 @@ void registerParts()
     name(Part::FocusFrame, "Shared/RFocusRectangle.qml");
     name(Part::LabelLine, "RLabel/RLabelLine.qml");
     name(Part::ToolTip, "Shared/RToolTip.qml");
+    name(Part::FieldMarks, "Shared/RFieldMarks.qml");
+    name(Part::FieldBubble, "Shared/RFieldBubble.qml");
+    name(Part::FieldHint, "RText/RFieldHint.qml");
+    name(Part::FieldButtons, "RText/RFieldButtons.qml");
+    name(Part::FieldIcon, "RText/RFieldIcon.qml");
+    name(Part::SpinButtons, "RSpinBox/RSpinButtons.qml");
+    name(Part::SpinAffixes, "RSpinBox/RSpinAffixes.qml");
+    name(Part::SpinInvalidLook, "RSpinBox/RSpinInvalidLook.qml");
 }
 
 } // namespace

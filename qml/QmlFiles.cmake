@@ -41,7 +41,10 @@ set(registered
     RMeter/RMeter.qml
     RStyleDebugMouseArea/RStyleDebugMouseArea.qml
     RStyleEngineSetup/RStyleEngineSetup.qml
+    RSpinBox/RSpinBox.qml
+    RText/RNumberTextField.qml
     RText/RText.qml
+    RText/RTextArea.qml
     RText/RTextField.qml
     RText/RTextInput.qml
     RTheme/RTheme.qml
@@ -58,16 +61,26 @@ set(unregistered
     RFader/RFaderHandle.qml
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml
+    RSpinBox/RSpinAffixes.qml
+    RSpinBox/RSpinButton.qml
+    RSpinBox/RSpinButtons.qml
+    RSpinBox/RSpinInvalidLook.qml
+    RText/RFieldButton.qml
+    RText/RFieldButtons.qml
+    RText/RFieldHint.qml
+    RText/RFieldIcon.qml
     RLimiter/RGainMeter.qml
     RLimiter/RLevelHandle.qml
     RLimiter/RParameterHandle.qml
     Shared/RControlLine.qml
     Shared/RDynamicsPlot.qml
+    Shared/RFieldBubble.qml
     Shared/RFieldFrame.qml
     Shared/RFieldMarks.qml
     Shared/RHandleBubble.qml
     Shared/RPlotHandle.qml
     Shared/RPopupFrame.qml
+    Shared/RScrollBar.qml
     Shared/RStyleProbe.qml
     Shared/RStyledButton.qml
     Shared/RToolTip.qml

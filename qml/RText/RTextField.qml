@@ -2,12 +2,31 @@ import QtQuick
 import TambleClient.Control 1.0
 import "../Shared" as Shared
 
-/*! One line of text that a device stores. What is typed is marked until it is entered; see RTextFieldBase. */
+/*! One line of text that a device stores. What is typed is marked until it is entered. */
 RTextFieldBase {
     id: root
 
-    /*! What the field is called, for people who cannot see it. */
-    property string label: ""
+    edit: RFieldEdit {
+        id: edit
+        field: root
+        editor: root
+    }
+
+    property alias value: edit.value
+    property alias edited: edit.edited
+    /*! Whether something was typed that is not entered yet. */
+    property alias editing: edit.edited
+    property alias acceptable: edit.acceptable
+    property alias invalidText: edit.invalidText
+    property alias errorText: edit.errorText
+    property alias required: edit.required
+    property alias maximumBytes: edit.maximumBytes
+    property alias trim: edit.trim
+    property alias commitOnFocusLoss: edit.commitOnFocusLoss
+    property alias confirmed: edit.confirmed
+    property alias consistent: edit.consistent
+    property alias settleTime: edit.settleTime
+    property alias converter: edit.converter
 
     property color ssBackground: root.RStyleSet.props.background
     property color ssColor: root.RStyleSet.props.foreground
@@ -26,17 +45,16 @@ RTextFieldBase {
     RStyleSet.stateHelper.disabled: !root.enabled
     RStyleSet.stateHelper.focus: root.activeFocus
     RStyleSet.stateHelper.readOnly: root.readOnly
-    RStyleSet.stateHelper.inconsistent: !root.consistent
+    RStyleSet.stateHelper.inconsistent: !edit.consistent
 
     implicitWidth: 144 * RThemeValues.unit
     implicitHeight: 32 * RThemeValues.unit
-    leftPadding: 8 * RThemeValues.unit
-    rightPadding: (marks.visible ? 24 : 8) * RThemeValues.unit
-    color: root.acceptable ? root.ssColor : root.ssForegroundInvalid
+    leftPadding: (root.iconKey !== "" ? 32 : 8) * RThemeValues.unit
+    rightPadding: (8 + (edit.marked ? 16 : 0) + (root.clearable ? 32 : 0) + (root.revealable ? 32 : 0)) * RThemeValues.unit
+    color: edit.acceptable ? root.ssColor : root.ssForegroundInvalid
     selectionColor: root.ssSelection
     selectedTextColor: root.ssForegroundSelection
-    placeholderText: root.consistent ? "" : qsTr("mixed")
-    placeholderTextColor: root.ssColor
+    placeholderText: edit.consistent ? "" : qsTr("mixed")
     font.family: RThemeValues.fontFamily
     font.pixelSize: RThemeValues.fontSizeM
     renderType: RThemeValues.renderType
@@ -49,20 +67,7 @@ RTextFieldBase {
         color: root.ssBackground
         border.color: root.ssBorderColor
         border.width: root.activeFocus ? RThemeValues.unit : 0
-        lineColor: !root.acceptable ? root.ssLineInvalid : root.edited || !root.confirmed ? root.ssLineUnconfirmed : root.ssLineColor
+        lineColor: !edit.acceptable ? root.ssLineInvalid : edit.edited || !edit.confirmed ? root.ssLineUnconfirmed : root.ssLineColor
         lineWidth: (root.activeFocus ? 2 : 1) * RThemeValues.unit
-    }
-
-    Shared.RFieldMarks {
-        id: marks
-        anchors.fill: parent
-        visible: root.edited || !root.confirmed || !root.consistent || !root.acceptable
-        unentered: root.edited
-        confirmed: root.confirmed
-        consistent: root.consistent
-        invalid: !root.acceptable
-        dotColor: root.ssConfirmIndicator
-        flagColor: root.ssInconsistentFlag
-        warningColor: root.ssForegroundInvalid
     }
 }

@@ -6,18 +6,17 @@ import TambleClient.Control 1.0
 Item {
     id: root
 
-    /*! Whether something was typed and not entered. */
-    required property bool unentered
-    /*! Whether the device has acknowledged; the dot pulses while not. */
-    required property bool confirmed
-    /*! Whether all devices agree. */
-    required property bool consistent
-    /*! Whether the text is not acceptable. */
-    required property bool invalid
-    /*! Of the three marks: `dotColor`, `flagColor`, `warningColor`. */
-    required property color dotColor
-    required property color flagColor
-    required property color warningColor
+    /*! The control that has the marks, and the colours for them. */
+    required property Item field
+    required property RFieldEdit edit
+
+    // One spelling for all kinds of fields, of which some have no colour for a kind of mark.
+    readonly property color dotColor: root.field["ssConfirmIndicator"]
+    readonly property color flagColor: root.field["ssInconsistentFlag"]
+    readonly property color warningColor: root.field["ssForegroundInvalid"]
+
+    anchors.fill: parent
+    visible: root.edit.marked
 
     Rectangle {
         id: dot
@@ -27,10 +26,15 @@ Item {
         height: dot.width
         radius: dot.width / 2
         color: root.dotColor
-        visible: root.unentered || !root.confirmed
+        visible: root.edit.edited || !root.edit.confirmed
 
+        SequentialAnimation {
+            id: blink
+            NumberAnimation { target: dot; property: "scale"; to: 2; duration: 150 }
+            NumberAnimation { target: dot; property: "scale"; to: 1; duration: 150 }
+        }
         SequentialAnimation on opacity {
-            running: !root.confirmed
+            running: !root.edit.confirmed
             loops: Animation.Infinite
             alwaysRunToEnd: true
             NumberAnimation { to: 0.3; duration: 500 }
@@ -38,13 +42,17 @@ Item {
         }
     }
 
+    Connections {
+        target: root.edit
+        function onValueWaits() { blink.restart() }
+    }
     RIcon {
         x: root.width - 20 * RThemeValues.unit
         y: (root.height - height) / 2
         key: "warning"
         sizeClass: "XXS"
         ssIconForeground: root.warningColor
-        visible: root.invalid
+        visible: !root.edit.acceptable
     }
 
     // A triangle: the quarter of a square that stands on its tip.
@@ -52,7 +60,7 @@ Item {
         width: 8 * RThemeValues.unit
         height: width
         clip: true
-        visible: !root.consistent
+        visible: !root.edit.consistent
 
         Rectangle {
             x: -width / 2

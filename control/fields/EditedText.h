@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtQuick/QQuickItem>
+
+#include <memory>
+
+class QValidator;
+
+namespace tamble::client {
+
+/// Qt's editor of one line or of many, as a field needs it.
+class EditedText
+{
+public:
+    /// Null for an item that is no editor.
+    static std::unique_ptr<EditedText> of(QQuickItem *item);
+    virtual ~EditedText() = default;
+
+    virtual QQuickItem &item() const = 0;
+    virtual QString text() const = 0;
+    virtual void setText(const QString &text) = 0;
+    virtual int caret() const = 0;
+    virtual void remove(int begin, int end) = 0;
+    virtual bool hasSelection() const = 0;
+    virtual void selectAll() = 0;
+    virtual bool isReadOnly() const = 0;
+    /// Null for none.
+    virtual QValidator *validator() const = 0;
+    virtual bool hasManyLines() const = 0;
+};
+
+} // namespace tamble::client

@@ -1,0 +1,429 @@
+#include "fields/FieldEdit.h"
+
+#include "base/PendingValue.h"
+#include "fields/FieldParts.h"
+#include "fields/FieldReason.h"
+#include "fields/FieldRules.h"
+
+#include <QtCore/QTextBoundaryFinder>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QValidator>
+
+#include <algorithm>
+#include <utility>
+
+namespace tamble::client {
+
+namespace {
+
+/// Where the last character before a position begins; a character may be several code points.
+int characterBefore(const QString &text, int position)
+{
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    finder.setPosition(position);
+    return std::max(0, int(finder.toPreviousBoundary()));
+}
+
+QString validatorProblemOf(const QValidator *validator, const QString &text)
+{
+    QString checked = text;
+    int cursor = 0;
+    if (!validator || validator->validate(checked, cursor) == QValidator::Acceptable)
+        return {};
+    const QString message = FieldReason::of(validator, text);
+    return message.isEmpty() ? FieldEdit::tr("This is not valid") : message;
+}
+
+} // namespace
+
+FieldEdit::FieldEdit(QObject *parent)
+    : QObject(parent)
+    , m_gestures(*this)
+{}
+
+FieldEdit::~FieldEdit() = default;
+
+QQuickItem *FieldEdit::editor() const
+{
+    return m_editor ? &m_editor->item() : nullptr;
+}
+
+void FieldEdit::setEditor(QQuickItem *editor)
+{
+    if (this->editor() == editor)
+        return;
+    if (m_editor) {
+        m_editor->item().removeEventFilter(this);
+        m_editor->item().disconnect(this);
+    }
+    m_editor = EditedText::of(editor);
+    if (m_editor) {
+        editor->installEventFilter(this);
+        connect(editor, SIGNAL(textChanged()), this, SLOT(onTextChanged()));
+        if (!m_editor->hasManyLines())
+            connect(editor, SIGNAL(validatorChanged()), this, SLOT(onValidatorChanged()));
+        connect(editor, &QObject::destroyed, this, [this] { m_editor.reset(); });
+        onValidatorChanged();
+    }
+    showValue();
+    Q_EMIT editorChanged();
+}
+
+void FieldEdit::componentComplete()
+{
+    m_isComplete = true;
+    if (m_editor)
+        m_plainText = m_editor->text();
+    showValue();
+    judge();
+    updateMarks();
+}
+
+void FieldEdit::setValue(const QVariant &value)
+{
+    // Of equal texts and numbers the type may differ, which NaN never equals.
+    if (m_value == value && m_value.isValid() == value.isValid())
+        return;
+    m_value = value;
+    if (m_isEdited) {
+        notice(tr("Changed meanwhile to %1").arg(textOfValue()));
+        Q_EMIT valueWaits();
+    }
+    showValue();
+    Q_EMIT valueChanged();
+}
+
+void FieldEdit::setErrorText(const QString &text)
+{
+    m_errorCounts = true;
+    const bool changed = std::exchange(m_errorText, text) != text;
+    judge();
+    if (changed)
+        Q_EMIT errorTextChanged();
+}
+
+void FieldEdit::setRequired(bool required)
+{
+    if (std::exchange(m_isRequired, required) == required)
+        return;
+    judge();
+    Q_EMIT requiredChanged();
+}
+
+void FieldEdit::setMaximumBytes(int bytes)
+{
+    if (std::exchange(m_maximumBytes, bytes) == bytes)
+        return;
+    judge();
+    Q_EMIT maximumBytesChanged();
+}
+
+void FieldEdit::setMaximumLines(int lines)
+{
+    if (std::exchange(m_maximumLines, lines) == lines)
+        return;
+    judge();
+    Q_EMIT maximumLinesChanged();
+}
+
+void FieldEdit::setConfirmed(bool confirmed)
+{
+    if (std::exchange(m_isConfirmed, confirmed) == confirmed)
+        return;
+    updateMarks();
+    Q_EMIT confirmedChanged();
+}
+
+void FieldEdit::setConsistent(bool consistent)
+{
+    if (std::exchange(m_isConsistent, consistent) == consistent)
+        return;
+    showValue();
+    judge();
+    updateMarks();
+    Q_EMIT consistentChanged();
+}
+
+void FieldEdit::setConverter(RValueConverter *converter)
+{
+    if (m_converter == converter)
+        return;
+    if (m_converter)
+        m_converter->disconnect(this);
+    m_converter = converter;
+    // Its own value is not used, but its text changes with all of its settings.
+    if (converter)
+        connect(converter, &RValueConverter::displayTextChanged, this, &FieldEdit::applyRules);
+    applyRules();
+    Q_EMIT converterChanged();
+}
+
+void FieldEdit::setRules(FieldRules *rules)
+{
+    m_rules = rules;
+    applyRules();
+}
+
+void FieldEdit::applyRules()
+{
+    showValue();
+    judge();
+}
+
+bool FieldEdit::enter()
+{
+    const QString typed = this->text();
+    const QString text = tidied(typed);
+    if (!isAcceptable()) {
+        Q_EMIT rejected(text, m_invalidText);
+        return false;
+    }
+    const QVariant value = m_rules ? m_rules->valueOf(text) : m_converter ? m_converter->fromText(text) : QVariant(text);
+    const QPointer<FieldEdit> guard(this);
+    setEdited(false);
+    m_plainText = text;
+    if (!m_value.isValid())
+        setText(text);
+    if (guard && text != typed && text == typed.trimmed())
+        notice(tr("Blanks at the ends were removed"));
+    if (guard)
+        show(value);
+    if (guard)
+        commit();
+    return true;
+}
+
+void FieldEdit::cancel()
+{
+    if (!m_isEdited)
+        return;
+    setEdited(false);
+    notice({});
+    showValue();
+    Q_EMIT canceled();
+}
+
+QString FieldEdit::text() const
+{
+    return m_editor ? m_editor->text() : QString();
+}
+
+bool FieldEdit::canEdit() const
+{
+    return m_editor && !m_editor->isReadOnly() && m_editor->item().isEnabled();
+}
+
+void FieldEdit::show(const QVariant &value, bool tells)
+{
+    m_shown = value;
+    if (m_value.isValid())
+        pending().show(value);
+    if (tells)
+        Q_EMIT valueEdited(value);
+}
+
+void FieldEdit::commit(bool tells)
+{
+    const QPointer<FieldEdit> guard(this);
+    if (tells)
+        Q_EMIT valueEdited(m_shown);
+    if (guard)
+        Q_EMIT valueCommitted(m_shown);
+    if (guard && m_pending)
+        m_pending->commit();
+}
+
+void FieldEdit::notice(const QString &text)
+{
+    m_noticeText = text;
+    updateBubble();
+}
+
+void FieldEdit::noticeRefusal(const QString &wanted)
+{
+    notice(validatorProblemOf(m_editor->validator(), wanted));
+}
+
+bool FieldEdit::eventFilter(QObject *editor, QEvent *event)
+{
+    if (m_editor && editor == &m_editor->item() && m_gestures.handle(*m_editor, *event))
+        return true;
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        updateBubble();
+    return false;
+}
+
+void FieldEdit::onTextChanged()
+{
+    if (!m_isShowing && m_editor) {
+        // A page that writes into a field which nobody types into means the text of a plain one.
+        if (!m_editor->item().hasActiveFocus()) {
+            if (!m_isEdited && m_isConsistent)
+                m_plainText = m_editor->text();
+        } else {
+            m_noticeText.clear();
+            m_errorCounts = false;
+            keepWithinBytes();
+            setEdited(m_editor->text() != textOfValue());
+        }
+    }
+    judge();
+    m_textBefore = m_editor ? m_editor->text() : QString();
+}
+
+void FieldEdit::onValidatorChanged()
+{
+    if (m_watchedValidator)
+        m_watchedValidator->disconnect(this);
+    m_watchedValidator = m_editor ? m_editor->validator() : nullptr;
+    if (m_watchedValidator)
+        connect(m_watchedValidator, &QValidator::changed, this, &FieldEdit::judge);
+    judge();
+}
+
+void FieldEdit::keepWithinBytes()
+{
+    if (m_maximumBytes <= 0)
+        return;
+    // From the end of what was typed or pasted just now, never from what was there before.
+    const QString now = m_editor->text();
+    const int caret = m_editor->caret();
+    const auto begin = std::ranges::mismatch(now, m_textBefore).in1 - now.begin();
+    int cut = caret;
+    qsizetype bytes = now.toUtf8().size();
+    while (bytes > m_maximumBytes && cut > begin) {
+        const int character = characterBefore(now, cut);
+        bytes -= now.mid(character, cut - character).toUtf8().size();
+        cut = character;
+    }
+    if (cut == caret)
+        return;
+    const bool wasShowing = std::exchange(m_isShowing, true);
+    m_editor->remove(cut, caret);
+    m_isShowing = wasShowing;
+    notice(tr("Cut to %n bytes", nullptr, m_maximumBytes));
+}
+
+void FieldEdit::judge()
+{
+    if (!m_isComplete || !m_editor)
+        return;
+    const bool isMixed = !m_isConsistent && !m_isEdited;
+    const QString found = isMixed ? QString() : problemOf(tidied(m_editor->text()));
+    if (std::exchange(m_invalidText, found) != found) {
+        updateMarks();
+        Q_EMIT invalidTextChanged();
+    }
+    updateBubble();
+}
+
+QString FieldEdit::problemOf(const QString &text) const
+{
+    if (m_errorCounts && !m_errorText.isEmpty())
+        return m_errorText;
+    if (text.isEmpty() && m_isRequired)
+        return tr("This must be filled in");
+    if (m_maximumBytes > 0 && text.toUtf8().size() > m_maximumBytes)
+        return tr("At most %n bytes", nullptr, m_maximumBytes);
+    if (m_maximumLines > 0 && text.count(u'\n') >= m_maximumLines)
+        return tr("At most %n lines", nullptr, m_maximumLines);
+    if (m_rules)
+        return m_rules->problemOf(text);
+    if (text.isEmpty())
+        return {};
+    if (m_converter && !m_converter->accepts(text))
+        return tr("This cannot be read");
+    return validatorProblemOf(m_editor->validator(), text);
+}
+
+QString FieldEdit::tidied(const QString &text) const
+{
+    QString tidy = text;
+    if (m_trim && m_editor && m_editor->validator())
+        m_editor->validator()->fixup(tidy);
+    return m_trim ? tidy.trimmed() : tidy;
+}
+
+QString FieldEdit::textOfValue() const
+{
+    if (!m_isConsistent && !(m_pending && m_pending->isActive()))
+        return {};
+    if (!m_value.isValid())
+        return m_plainText;
+    return m_rules ? m_rules->textOf(m_value) : m_converter ? m_converter->toText(m_value) : m_value.toString();
+}
+
+void FieldEdit::showValue()
+{
+    if (!m_isEdited && m_isComplete && m_editor)
+        setText(textOfValue());
+}
+
+void FieldEdit::setText(const QString &text)
+{
+    const QPointer<FieldEdit> guard(this);
+    const bool wasShowing = std::exchange(m_isShowing, true);
+    m_editor->setText(text);
+    if (guard)
+        m_isShowing = wasShowing;
+}
+
+void FieldEdit::setEdited(bool edited)
+{
+    if (std::exchange(m_isEdited, edited) == edited)
+        return;
+    updateMarks();
+    Q_EMIT editedChanged();
+}
+
+void FieldEdit::updateMarks()
+{
+    const bool isMarked = m_isEdited || !m_isConfirmed || !m_isConsistent || !m_invalidText.isEmpty();
+    if (!m_isComplete || std::exchange(m_isMarked, isMarked) == isMarked)
+        return;
+    if (isMarked && !m_marks && m_field)
+        m_marks = makeFieldPart(Part::FieldMarks, *m_field, this);
+    Q_EMIT markedChanged();
+}
+
+// A field that nobody has touched is not scolded, though it may be marked.
+void FieldEdit::updateBubble()
+{
+    QString text;
+    if (m_editor && m_editor->item().hasActiveFocus()) {
+        const bool tellsReason = m_isEdited || (m_errorCounts && !m_errorText.isEmpty());
+        text = m_noticeText.isEmpty() && tellsReason ? m_invalidText : m_noticeText;
+    }
+    if (std::exchange(m_bubbleText, text) == text)
+        return;
+    if (!text.isEmpty() && !m_bubble && m_field)
+        m_bubble = makeFieldPart(Part::FieldBubble, *m_field, this);
+    Q_EMIT bubbleTextChanged();
+}
+
+QString FieldEdit::description(const QString &given) const
+{
+    QStringList parts;
+    const auto add = [&parts](bool holds, const QString &part) {
+        if (holds && !part.isEmpty())
+            parts.append(part);
+    };
+    add(true, given);
+    add(!m_isConsistent, tr("mixed"));
+    add(m_isEdited, tr("not entered"));
+    add(!m_isConfirmed, tr("not confirmed"));
+    add(!isAcceptable(), tr("invalid: %1").arg(m_invalidText));
+    return parts.join(QStringLiteral(", "));
+}
+
+PendingValue &FieldEdit::pending()
+{
+    if (!m_pending) {
+        m_pending = new PendingValue(this, QStringLiteral("value"));
+        connect(m_pending, &PendingValue::activeChanged, this, &FieldEdit::showValue);
+    }
+    m_pending->setSettleTime(m_settleTime);
+    return *m_pending;
+}
+
+} // namespace tamble::client

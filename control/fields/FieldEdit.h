@@ -1,0 +1,211 @@
+#pragma once
+
+#include "base/ControlExport.h"
+#include "fields/EditedText.h"
+#include "fields/FieldGestures.h"
+
+#include <tambleclient-common/RValueConverter.h>
+
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+#include <QtCore/QVariant>
+#include <QtQml/QQmlParserStatus>
+#include <QtQml/qqmlregistration.h>
+#include <QtQuick/QQuickItem>
+
+#include <memory>
+
+class QValidator;
+
+namespace tamble::client {
+
+class FieldRules;
+class PendingValue;
+
+/// The conversation between a user who types and a device that stores the value of what is typed. The text is the
+/// user's until it is entered or taken back; what the device says meanwhile waits, and is never overwritten by accident.
+///
+/// Without a `value` the text itself counts, as in a plain field.
+///
+/// Keys: Enter enters the text (Ctrl+Enter where there are lines), and goes on to the dialog when nothing was typed. Esc
+/// takes back what was typed.
+class TAMBLE_CLIENT_CONTROL_EXPORT FieldEdit : public QObject, public QQmlParserStatus
+{
+    Q_OBJECT
+    Q_INTERFACES(QQmlParserStatus)
+    QML_NAMED_ELEMENT(RFieldEdit)
+    /// The control that the text belongs to, which shows the marks.
+    Q_PROPERTY(QQuickItem *field MEMBER m_field NOTIFY fieldChanged REQUIRED FINAL)
+    Q_PROPERTY(QQuickItem *editor READ editor WRITE setEditor NOTIFY editorChanged FINAL)
+    Q_PROPERTY(QVariant value READ value WRITE setValue NOTIFY valueChanged FINAL)
+    Q_PROPERTY(bool edited READ isEdited NOTIFY editedChanged FINAL)
+    Q_PROPERTY(bool acceptable READ isAcceptable NOTIFY invalidTextChanged FINAL)
+    Q_PROPERTY(QString invalidText READ invalidText NOTIFY invalidTextChanged FINAL)
+    Q_PROPERTY(QString errorText READ errorText WRITE setErrorText NOTIFY errorTextChanged FINAL)
+    Q_PROPERTY(QString bubbleText READ bubbleText NOTIFY bubbleTextChanged FINAL)
+    Q_PROPERTY(bool required READ isRequired WRITE setRequired NOTIFY requiredChanged FINAL)
+    Q_PROPERTY(int maximumBytes READ maximumBytes WRITE setMaximumBytes NOTIFY maximumBytesChanged FINAL)
+    Q_PROPERTY(int maximumLines READ maximumLines WRITE setMaximumLines NOTIFY maximumLinesChanged FINAL)
+    /// Whether entering takes outer blanks away and lets the validator tidy the text; true by default.
+    Q_PROPERTY(bool trim MEMBER m_trim NOTIFY trimChanged FINAL)
+    /// Whether an acceptable text is entered when the focus goes elsewhere; else it waits for Enter or Esc. True by
+    /// default.
+    Q_PROPERTY(bool commitOnFocusLoss MEMBER m_commitsOnFocusLoss NOTIFY commitOnFocusLossChanged FINAL)
+    Q_PROPERTY(bool confirmed READ isConfirmed WRITE setConfirmed NOTIFY confirmedChanged FINAL)
+    Q_PROPERTY(bool consistent READ isConsistent WRITE setConsistent NOTIFY consistentChanged FINAL)
+    /// How long, in ms, an entered value is shown before the bound one counts again; 300 by default.
+    Q_PROPERTY(int settleTime MEMBER m_settleTime NOTIFY settleTimeChanged FINAL)
+    Q_PROPERTY(
+        tamble::client::RValueConverter *converter READ converter WRITE setConverter NOTIFY converterChanged FINAL)
+    Q_PROPERTY(bool marked READ isMarked NOTIFY markedChanged FINAL)
+
+public:
+    explicit FieldEdit(QObject *parent = nullptr);
+    ~FieldEdit() override;
+
+    /// The item that the text is typed into, a TextInput or a TextEdit; null by default.
+    QQuickItem *editor() const;
+    void setEditor(QQuickItem *editor);
+    /// What the device or model says; undefined by default.
+    QVariant value() const { return m_value; }
+    void setValue(const QVariant &value);
+    /// Whether something was typed and neither entered nor taken back.
+    bool isEdited() const { return m_isEdited; }
+    /// Whether Enter would take the text.
+    bool isAcceptable() const { return m_invalidText.isEmpty(); }
+    /// Why the text is not acceptable, for people; empty for an acceptable one.
+    QString invalidText() const { return m_invalidText; }
+    /// A reason that the page or the device found; it counts until the text is edited.
+    QString errorText() const { return m_errorText; }
+    void setErrorText(const QString &text);
+    /// What a bubble at the field tells whoever types; empty for nothing.
+    QString bubbleText() const { return m_bubbleText; }
+    /// Whether the text must not be empty; false by default.
+    bool isRequired() const { return m_isRequired; }
+    void setRequired(bool required);
+    /// Most bytes of UTF-8 that can be typed or pasted, at whole characters; 0, the default, for no limit.
+    int maximumBytes() const { return m_maximumBytes; }
+    void setMaximumBytes(int bytes);
+    /// Most lines of an acceptable text; more can be typed. 0, the default, for no limit.
+    int maximumLines() const { return m_maximumLines; }
+    void setMaximumLines(int lines);
+    bool commitsOnFocusLoss() const { return m_commitsOnFocusLoss; }
+    /// False while the page waits for the device to acknowledge; true by default.
+    bool isConfirmed() const { return m_isConfirmed; }
+    void setConfirmed(bool confirmed);
+    /// False while several devices differ ("mixed"): the field is empty then, and what is entered goes to all. True by
+    /// default.
+    bool isConsistent() const { return m_isConsistent; }
+    void setConsistent(bool consistent);
+    /// Turns values into texts and back; null, the default, for values that are texts.
+    RValueConverter *converter() const { return m_converter; }
+    void setConverter(RValueConverter *converter);
+    /// Whether the field shows one of its marks: not entered, not confirmed, mixed, not acceptable.
+    bool isMarked() const { return m_isMarked; }
+
+    /// Count in place of the converter and validator while they are set.
+    void setRules(FieldRules *rules);
+    /// The rules have changed.
+    void applyRules();
+    /// For assistive tools: `given`, and then what the marks say.
+    QString description(const QString &given) const;
+
+    /// Enters the text as Enter does; false when it is not acceptable.
+    Q_INVOKABLE bool enter();
+    /// Takes back what was typed, as Esc does.
+    Q_INVOKABLE void cancel();
+    /// What the field shows at present.
+    QString text() const;
+    /// Whether the user may change the value.
+    bool canEdit() const;
+    /// Shows an edit that was not typed, and tells it; it is over with commit().
+    void show(const QVariant &value, bool tells = true);
+    /// Ends such an edit; `tells` it first where it was not told before.
+    void commit(bool tells = false);
+    /// Tells whoever types something in the bubble, until the next key.
+    void notice(const QString &text);
+    /// Tells why `wanted` could not be typed or pasted.
+    void noticeRefusal(const QString &wanted);
+
+Q_SIGNALS:
+    void fieldChanged();
+    void editorChanged();
+    void valueChanged();
+    void editedChanged();
+    void invalidTextChanged();
+    void errorTextChanged();
+    void bubbleTextChanged();
+    void requiredChanged();
+    void maximumBytesChanged();
+    void maximumLinesChanged();
+    void trimChanged();
+    void commitOnFocusLossChanged();
+    void confirmedChanged();
+    void consistentChanged();
+    void settleTimeChanged();
+    void converterChanged();
+    void markedChanged();
+    /// The user has entered this, or made a step to it.
+    void valueEdited(const QVariant &value);
+    /// What the user entered, or the last step of a gesture.
+    void valueCommitted(const QVariant &value);
+    /// What was typed was taken back.
+    void canceled();
+    /// Enter was pressed on a text that is not acceptable.
+    void rejected(const QString &text, const QString &reason);
+    /// Another value has come while something was typed; Esc shows it.
+    void valueWaits();
+
+protected:
+    void classBegin() override {}
+    void componentComplete() override;
+    bool eventFilter(QObject *editor, QEvent *event) override;
+
+private:
+    Q_SLOT void onTextChanged();
+    Q_SLOT void onValidatorChanged();
+    void keepWithinBytes();
+    void judge();
+    void updateMarks();
+    void updateBubble();
+    QString problemOf(const QString &text) const;
+    QString tidied(const QString &text) const;
+    QString textOfValue() const;
+    void showValue();
+    void setText(const QString &text);
+    void setEdited(bool edited);
+    PendingValue &pending();
+
+    QPointer<QQuickItem> m_field;
+    std::unique_ptr<EditedText> m_editor;
+    FieldGestures m_gestures;
+    QPointer<QObject> m_marks;  // parts of the field, made when first shown
+    QPointer<QObject> m_bubble;
+    QVariant m_value;
+    QVariant m_shown; ///< The last edit.
+    QString m_plainText; ///< The text that counts when there is no value.
+    QString m_textBefore; ///< The text before the present change.
+    QString m_invalidText;
+    QString m_errorText;
+    QString m_noticeText;
+    QString m_bubbleText;
+    QPointer<RValueConverter> m_converter;
+    QPointer<QValidator> m_watchedValidator;
+    FieldRules *m_rules = nullptr;
+    PendingValue *m_pending = nullptr; // a child, made at the first edit of a value
+    int m_maximumBytes = 0;
+    int m_maximumLines = 0;
+    int m_settleTime = 300;
+    bool m_isComplete = false; ///< Before, nothing is shown or judged.
+    bool m_isEdited = false;
+    bool m_isShowing = false; ///< Whether the text changes because of a value.
+    bool m_errorCounts = false;
+    bool m_isRequired = false;
+    bool m_trim = true;
+    bool m_commitsOnFocusLoss = true;
+    bool m_isConfirmed = true;
+    bool m_isConsistent = true;
+    bool m_isMarked = false;
+};
+
+} // namespace tamble::client

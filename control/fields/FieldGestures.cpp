@@ -1,0 +1,125 @@
+#include "fields/FieldGestures.h"
+
+#include "fields/EditedText.h"
+#include "fields/FieldEdit.h"
+
+#include <QtCore/QPointer>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
+
+#include <utility>
+
+namespace tamble::client {
+
+namespace {
+
+bool isEnter(const QKeyEvent &key)
+{
+    return key.key() == Qt::Key_Enter || key.key() == Qt::Key_Return;
+}
+
+bool enters(const EditedText &text, const QKeyEvent &key)
+{
+    return isEnter(key) && (!text.hasManyLines() || (key.modifiers() & Qt::ControlModifier));
+}
+
+bool types(const QKeyEvent &key)
+{
+    return (!key.text().isEmpty() && key.text()[0].isPrint()) || key.matches(QKeySequence::Paste);
+}
+
+/// Leaving for another window or a popup is no end of typing.
+bool staysWithTheUser(Qt::FocusReason reason)
+{
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+}
+
+bool comesByKey(Qt::FocusReason reason)
+{
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+}
+
+} // namespace
+
+FieldGestures::FieldGestures(FieldEdit &edit)
+    : m_edit(edit)
+{}
+
+bool FieldGestures::handle(EditedText &text, QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::ShortcutOverride: {
+        // Before whatever Esc or Enter do around the field.
+        const auto &key = static_cast<QKeyEvent &>(event);
+        const bool isMine = m_edit.isEdited() && (key.key() == Qt::Key_Escape || enters(text, key));
+        if (isMine)
+            event.accept();
+        return isMine;
+    }
+    case QEvent::KeyPress:
+        return onKey(text, static_cast<QKeyEvent &>(event));
+    case QEvent::FocusIn:
+        if (!text.hasManyLines() && comesByKey(static_cast<QFocusEvent &>(event).reason()))
+            text.selectAll();
+        return false;
+    case QEvent::FocusOut:
+        onFocusLost(static_cast<QFocusEvent &>(event).reason());
+        return false;
+    case QEvent::MouseButtonPress:
+        m_focusedByPress = !text.item().hasActiveFocus();
+        return false;
+    case QEvent::MouseButtonRelease:
+        if (std::exchange(m_focusedByPress, false) && !text.hasManyLines() && text.item().hasActiveFocus() &&
+            !text.hasSelection())
+            text.selectAll();
+        return false;
+    default:
+        return false;
+    }
+}
+
+bool FieldGestures::onKey(EditedText &text, QKeyEvent &key)
+{
+    const bool isEntered = enters(text, key);
+    if (!isEntered && key.key() != Qt::Key_Escape)
+        return types(key) && !text.isReadOnly() && onTypingKey(text, key);
+    // Of an unedited field they mean the dialog around it.
+    key.setAccepted(m_edit.isEdited());
+    if (!m_edit.isEdited())
+        return true;
+    const QPointer<FieldEdit> guard(&m_edit);
+    if (!isEntered)
+        m_edit.cancel();
+    else if (m_edit.enter() && guard && !text.hasManyLines())
+        text.selectAll();
+    return true;
+}
+
+bool FieldGestures::onTypingKey(EditedText &text, QKeyEvent &key)
+{
+    const QPointer<FieldEdit> guard(&m_edit);
+    const QString before = text.text();
+    const QString typed = key.matches(QKeySequence::Paste) ? QGuiApplication::clipboard()->text() : key.text();
+    const QString wanted = text.hasSelection() ? typed : QString(before).insert(text.caret(), typed);
+    QObject &editor = text.item();
+    editor.event(&key);
+    // Its validator has kept it out, without a word.
+    if (guard && key.isAccepted() && text.text() == before && before != wanted)
+        m_edit.noticeRefusal(wanted);
+    return true;
+}
+
+void FieldGestures::onFocusLost(Qt::FocusReason reason)
+{
+    if (staysWithTheUser(reason))
+        return;
+    if (m_edit.isEdited() && m_edit.commitsOnFocusLoss()) {
+        if (m_edit.isAcceptable())
+            m_edit.enter();
+        else
+            m_edit.cancel();
+    }
+}
+
+} // namespace tamble::client

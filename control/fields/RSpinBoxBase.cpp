@@ -1,0 +1,215 @@
+#include "fields/RSpinBoxBase.h"
+
+#include "fields/FieldParts.h"
+
+#include <QtCore/QTimerEvent>
+#include <QtGui/QGuiApplication>
+
+#include <utility>
+
+namespace tamble::client {
+
+namespace {
+
+constexpr int repeatDelayMs = 500;
+constexpr int repeatIntervalMs = 60;
+constexpr int repeatsBeforePages = 20;
+
+} // namespace
+
+RSpinBoxBase::RSpinBoxBase(QQuickItem *parent)
+    : QQuickControl(parent)
+{
+    setFlag(ItemIsFocusScope);
+    setAcceptedMouseButtons(Qt::LeftButton);
+}
+
+void RSpinBoxBase::setEdit(FieldEdit *edit)
+{
+    if (m_edit == edit)
+        return;
+    if (m_edit)
+        m_edit->disconnect(this);
+    m_edit = edit;
+    if (edit) {
+        connect(edit, &FieldEdit::valueEdited, this,
+                [this](const QVariant &value) { Q_EMIT valueEdited(value.toDouble()); });
+        connect(edit, &FieldEdit::valueCommitted, this,
+                [this](const QVariant &value) { Q_EMIT valueCommitted(value.toDouble()); });
+        connect(edit, &FieldEdit::canceled, this, &RSpinBoxBase::editCanceled);
+        connect(edit, &FieldEdit::rejected, this, &RSpinBoxBase::rejected);
+        connect(edit, &FieldEdit::invalidTextChanged, this, &RSpinBoxBase::onInvalid);
+    }
+    Q_EMIT editChanged();
+}
+
+void RSpinBoxBase::setSteps(NumberSteps *steps)
+{
+    if (m_steps == steps)
+        return;
+    if (m_steps)
+        m_steps->disconnect(this);
+    m_steps = steps;
+    if (steps)
+        connect(steps, &NumberSteps::stepped, this, &RSpinBoxBase::stepped);
+    Q_EMIT stepsChanged();
+}
+
+void RSpinBoxBase::setButtonsVisible(bool visible)
+{
+    if (std::exchange(m_buttonsVisible, visible) == visible)
+        return;
+    release();
+    if (visible && !m_buttons && isComponentComplete())
+        m_buttons = makeFieldPart(Part::SpinButtons, *this);
+    Q_EMIT buttonsVisibleChanged();
+}
+
+void RSpinBoxBase::setButtonWidth(qreal width)
+{
+    if (std::exchange(m_buttonWidth, width) != width)
+        Q_EMIT buttonWidthChanged();
+}
+
+void RSpinBoxBase::setPrefix(const QString &prefix)
+{
+    if (std::exchange(m_prefix, prefix) == prefix)
+        return;
+    needAffixes();
+    Q_EMIT prefixChanged();
+}
+
+void RSpinBoxBase::setSuffix(const QString &suffix)
+{
+    if (std::exchange(m_suffix, suffix) == suffix)
+        return;
+    needAffixes();
+    Q_EMIT suffixChanged();
+}
+
+void RSpinBoxBase::needAffixes()
+{
+    if (!m_affixes && isComponentComplete() && !(m_prefix.isEmpty() && m_suffix.isEmpty()))
+        m_affixes = makeFieldPart(Part::SpinAffixes, *this);
+}
+
+// The sheets have no such colours for spin boxes; what gives them those of text fields is made when it is needed.
+void RSpinBoxBase::onInvalid()
+{
+    if (!m_invalidLook && !m_edit->isAcceptable())
+        m_invalidLook = makeFieldPart(Part::SpinInvalidLook, *this);
+}
+
+void RSpinBoxBase::componentComplete()
+{
+    QQuickControl::componentComplete();
+    if (m_buttonsVisible && !m_buttons)
+        m_buttons = makeFieldPart(Part::SpinButtons, *this);
+    needAffixes();
+}
+
+void RSpinBoxBase::requestValue(const QVariant &value)
+{
+    if (m_steps)
+        m_steps->request(value.toDouble());
+}
+
+QString RSpinBoxBase::spokenDescription(const QString &given) const
+{
+    if (!m_edit)
+        return given;
+    const QString shown = m_edit->isConsistent() ? m_prefix + m_edit->text() + m_suffix : QString();
+    return m_edit->description(given.isEmpty() ? shown : given);
+}
+
+void RSpinBoxBase::addSpokenStates(QAccessible::State &state) const
+{
+    state.readOnly = m_edit && !m_edit->canEdit();
+    state.editable = !state.readOnly;
+}
+
+void RSpinBoxBase::accessibilityActiveChanged(bool active)
+{
+    if (active)
+        beginToSpeak(*this);
+}
+
+int RSpinBoxBase::buttonAt(qreal x) const
+{
+    const qreal fromEnd = isMirrored() ? x : width() - x;
+    if (!m_buttonsVisible || fromEnd < 0.0 || fromEnd >= 2.0 * m_buttonWidth)
+        return 0;
+    return fromEnd < m_buttonWidth ? 1 : -1;
+}
+
+void RSpinBoxBase::mousePressEvent(QMouseEvent *event)
+{
+    const int button = buttonAt(event->position().x());
+    forceActiveFocus(Qt::MouseFocusReason);
+    event->accept();
+    if (button == 0 || m_pressedButton != 0)
+        return;
+    m_pressedButton = button;
+    m_repeats = 0;
+    if (m_autoRepeat)
+        m_repeat.start(repeatDelayMs, this);
+    Q_EMIT pressedButtonChanged();
+    stepByButton();
+}
+
+void RSpinBoxBase::mouseReleaseEvent(QMouseEvent *)
+{
+    release();
+}
+
+void RSpinBoxBase::mouseUngrabEvent()
+{
+    release();
+}
+
+// Left to the mouse events that are made of touches which nobody takes.
+void RSpinBoxBase::touchEvent(QTouchEvent *event)
+{
+    event->ignore();
+}
+
+void RSpinBoxBase::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    QQuickControl::itemChange(change, data);
+    if ((change == ItemVisibleHasChanged || change == ItemEnabledHasChanged) && !data.boolValue)
+        release();
+}
+
+void RSpinBoxBase::stepByButton()
+{
+    const Qt::KeyboardModifiers held = QGuiApplication::keyboardModifiers();
+    const bool isPage = (held & Qt::ControlModifier) && (m_repeats == 0 || m_repeats > repeatsBeforePages);
+    if (m_steps)
+        m_steps->step(held & Qt::ShiftModifier ? StepSize::Fine : isPage ? StepSize::Page : StepSize::Normal,
+                      m_pressedButton);
+}
+
+void RSpinBoxBase::release()
+{
+    m_repeat.stop();
+    if (std::exchange(m_pressedButton, 0) == 0)
+        return;
+    const QPointer<RSpinBoxBase> guard(this);
+    if (m_steps)
+        m_steps->finish();
+    if (guard)
+        Q_EMIT pressedButtonChanged();
+}
+
+void RSpinBoxBase::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_repeat.timerId()) {
+        QQuickControl::timerEvent(event);
+        return;
+    }
+    ++m_repeats;
+    m_repeat.start(repeatIntervalMs, this);
+    stepByButton();
+}
+
+} // namespace tamble::client

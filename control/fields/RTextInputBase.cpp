@@ -1,0 +1,35 @@
+#include "fields/RTextInputBase.h"
+
+#include "fields/FieldParts.h"
+
+#include <utility>
+
+namespace tamble::client {
+
+RTextInputBase::RTextInputBase(QQuickItem *parent)
+    : QQuickTextInput(parent)
+{
+    connect(this, &QQuickTextInput::textChanged, this, &RTextInputBase::updateHint);
+}
+
+void RTextInputBase::setPlaceholderText(const QString &text)
+{
+    if (std::exchange(m_placeholderText, text) == text)
+        return;
+    updateHint();
+    Q_EMIT placeholderTextChanged();
+}
+
+void RTextInputBase::componentComplete()
+{
+    QQuickTextInput::componentComplete();
+    updateHint();
+}
+
+void RTextInputBase::updateHint()
+{
+    if (isComponentComplete() && !m_hint && length() == 0 && !m_placeholderText.isEmpty())
+        m_hint = makeFieldPart(Part::FieldHint, *this);
+}
+
+} // namespace tamble::client

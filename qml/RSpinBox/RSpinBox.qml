@@ -1,0 +1,103 @@
+import QtQuick
+import TambleClient.Control 1.0
+import "../Shared" as Shared
+
+/*! Number with steps. A step is told at once, a typed number when it is entered. */
+RSpinBoxBase {
+    id: root
+
+    edit: RFieldEdit {
+        id: edit
+        field: root
+        editor: input
+        value: 0
+    }
+    steps: RNumberSteps {
+        id: steps
+        edit: edit
+        from: 0
+        to: 100
+        stepping: !root.readOnly
+    }
+
+    property alias value: edit.value
+    property alias from: steps.from
+    property alias to: steps.to
+    /*! The range as assistive tools ask for it. */
+    readonly property alias minimumValue: steps.from
+    readonly property alias maximumValue: steps.to
+    property alias stepSize: steps.stepSize
+    property alias fineStepSize: steps.fineStepSize
+    property alias pageStepSize: steps.pageStepSize
+    property alias defaultValue: steps.defaultValue
+    property alias decimals: steps.decimals
+    property alias minimumText: steps.minimumText
+    property alias wrap: steps.wrap
+    property alias snapToStep: steps.snapToStep
+    property alias live: steps.live
+    property alias wheelEnabled: steps.wheelEnabled
+    property alias wheelNeedsFocus: steps.wheelNeedsFocus
+    /*! What is typed, without `prefix` and `suffix`. */
+    readonly property alias text: input.text
+    /*! What stands in an empty box. */
+    property alias placeholderText: input.placeholderText
+    /*! Shows, selects and copies, never edits; false by default. */
+    property alias readOnly: input.readOnly
+    /*! Whether a gesture of steps or a text that is not entered yet is under way. */
+    readonly property bool editing: edit.edited || root.pressedButton !== 0
+    property alias edited: edit.edited
+    property alias acceptable: edit.acceptable
+    property alias invalidText: edit.invalidText
+    property alias errorText: edit.errorText
+    property alias commitOnFocusLoss: edit.commitOnFocusLoss
+    property alias confirmed: edit.confirmed
+    property alias consistent: edit.consistent
+    property alias settleTime: edit.settleTime
+    property alias converter: edit.converter
+
+    property color ssBackground: root.RStyleSet.props.background
+    property color ssColor: root.RStyleSet.props.foreground
+    property color ssLineColor: root.RStyleSet.props.line
+    property color ssBorderColor: root.RStyleSet.props.isSet("border") ? root.RStyleSet.props.border : "transparent"
+    property color ssSelection: root.RStyleSet.props.selection
+    property color ssForegroundSelection: root.RStyleSet.props.foregroundSelection
+    property color ssConfirmIndicator: root.RStyleSet.props.confirmIndicator
+    property color ssInconsistentFlag: root.RStyleSet.props.inconsistentFlag
+    // Those of text fields, once a text is not acceptable.
+    property color ssForegroundInvalid: root.ssColor
+    property color ssLineInvalid: root.ssLineColor
+
+    RStyleSet.typeName: "RSpinBox"
+    RStyleSet.stateHelper.hovered: root.hovered
+    RStyleSet.stateHelper.disabled: !root.enabled
+    RStyleSet.stateHelper.focus: input.activeFocus
+    RStyleSet.stateHelper.readOnly: input.readOnly
+    RStyleSet.stateHelper.inconsistent: !edit.consistent
+
+    implicitWidth: 144 * RThemeValues.unit
+    implicitHeight: 32 * RThemeValues.unit
+    buttonWidth: 32 * RThemeValues.unit
+    hoverEnabled: RThemeValues.hoverEnabled
+
+    background: Shared.RFieldFrame {
+        color: root.ssBackground
+        border.color: root.ssBorderColor
+        border.width: input.activeFocus ? RThemeValues.unit : 0
+        lineColor: edit.acceptable ? root.ssLineColor : root.ssLineInvalid
+        lineWidth: (input.activeFocus ? 2 : 1) * RThemeValues.unit
+    }
+
+    RTextInput {
+        id: input
+        x: root.mirrored ? root.width - input.width : 0
+        width: root.width - (root.buttonsVisible ? 2 * root.buttonWidth : 0)
+        height: root.height
+        leftPadding: 8 * RThemeValues.unit
+        rightPadding: (edit.marked ? 24 : 4) * RThemeValues.unit
+        focus: true
+        color: edit.acceptable ? root.ssColor : root.ssForegroundInvalid
+        selectionColor: root.ssSelection
+        selectedTextColor: root.ssForegroundSelection
+        inputMethodHints: Qt.ImhFormattedNumbersOnly
+    }
+}

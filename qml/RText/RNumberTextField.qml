@@ -1,0 +1,43 @@
+import QtQuick
+import TambleClient.Control 1.0
+
+/*! Typed number without step buttons. `value` holds a number, or nothing. */
+RTextField {
+    id: root
+
+    property alias from: steps.from
+    property alias to: steps.to
+    property alias stepSize: steps.stepSize
+    property alias fineStepSize: steps.fineStepSize
+    property alias pageStepSize: steps.pageStepSize
+    property alias defaultValue: steps.defaultValue
+    property alias decimals: steps.decimals
+    property alias minimumText: steps.minimumText
+    property alias snapToStep: steps.snapToStep
+    property alias live: steps.live
+    property alias wheelEnabled: steps.wheelEnabled
+    property alias wheelNeedsFocus: steps.wheelNeedsFocus
+    /*! Drawn behind the number, not part of what is typed; none by default. */
+    property alias unit: unit.text
+
+    horizontalAlignment: TextInput.AlignRight
+    inputMethodHints: Qt.ImhFormattedNumbersOnly
+    rightPadding: (8 + (root.edit.marked ? 16 : 0)) * RThemeValues.unit + (unit.text === "" ? 0 : unit.implicitWidth + 4 * RThemeValues.unit)
+
+    RNumberSteps {
+        id: steps
+        edit: root.edit
+        stepSize: 0
+        decimals: 2
+        stepping: steps.stepSize > 0 && !root.readOnly
+    }
+    RText {
+        id: unit
+        x: root.effectiveLayoutMirroring ? root.width - root.rightPadding + 4 * RThemeValues.unit : root.width - unit.implicitWidth - (8 + (root.edit.marked ? 16 : 0)) * RThemeValues.unit
+        height: root.height
+        color: root.color
+        verticalAlignment: Text.AlignVCenter
+        visible: root.consistent
+        Accessible.ignored: true
+    }
+}
