@@ -5,6 +5,7 @@
 
 #include <QtQml/QQmlEngine>
 
+#include <algorithm>
 #include <utility>
 
 AmplifierField::AmplifierField(QObject *parent)
@@ -61,6 +62,14 @@ void AmplifierField::request(const QVariant &value)
 {
     if (m_amplifier)
         m_amplifier->request(m_name, value);
+}
+
+void AmplifierField::shift(double by)
+{
+    for (const int device : devices()) {
+        const double shown = m_installation->client().shown(device, m_field).toDouble();
+        m_installation->request(device, m_field, std::clamp(shown + by, minimum(), maximum()));
+    }
 }
 
 void AmplifierField::dismiss()

@@ -49,6 +49,8 @@ public:
 
     /// Asks every device to take a value.
     Q_INVOKABLE void request(const QVariant &value);
+    /// Asks every device for a number that is by so much greater than what it shows, within the bounds.
+    Q_INVOKABLE void shift(double by);
     /// Forgets requests that failed.
     Q_INVOKABLE void dismiss();
     /// Lets another client edit the field of the first device.

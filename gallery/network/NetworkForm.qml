@@ -68,4 +68,10 @@ ColumnLayout {
         title: qsTr("&PIN")
         validator: RTextFieldPinValidator {}
     }
+    NotesLine {
+        Layout.fillWidth: true
+        amplifier: root.amplifier
+        field: "notes"
+        title: qsTr("N&otes")
+    }
 }

@@ -18,6 +18,14 @@ GalleryPage {
             value: "192.168.10.12"
         }
     }
+    FieldStates {
+        title: "RTextArea"
+        note: qsTr("Enter makes a line, Ctrl+Enter enters the text.")
+        sample: RTextArea {
+            value: qsTr("Rack 3\nnext to the stairs")
+            height: theme.dp(64)
+        }
+    }
     TileGrid {
         Section {
             title: qsTr("Network settings")

@@ -73,6 +73,19 @@ private Q_SLOTS:
         QCOMPARE(page.field.value(), QVariant(page.field.actualText()));
     }
 
+    void shiftKeepsTheDifferences()
+    {
+        FieldPage page({0, 6, 7}, QStringLiteral("input4Gain"));
+        page.selection.request(QStringLiteral("input4Gain"), 1.0);
+        page.installation.advance(100);
+        page.installation.request(6, fieldIndex(u"input4Gain"), 17.5);
+        page.installation.advance(100);
+        page.field.shift(1.5);
+        page.installation.advance(100);
+        QCOMPARE(page.field.actualText(), QStringLiteral("2.5, 18, 2.5"));
+        QVERIFY(page.field.errorText().isEmpty());
+    }
+
     void oddSelections()
     {
         FieldPage page({-1, 99, 7, 7, "x", 1e9});
