@@ -81,6 +81,7 @@ set(unregistered
     Shared/RPlotHandle.qml
     Shared/RPopupFrame.qml
     Shared/RScrollBar.qml
+    Shared/RScrollView.qml
     Shared/RStyleProbe.qml
     Shared/RStyledButton.qml
     Shared/RToolTip.qml

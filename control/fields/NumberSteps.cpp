@@ -256,7 +256,7 @@ bool NumberSteps::eventFilter(QObject *, QEvent *event)
     case QEvent::KeyPress:
         return onKey(static_cast<const QKeyEvent &>(*event));
     case QEvent::Wheel: {
-        const bool isTaken = onWheel(static_cast<const QWheelEvent &>(*event));
+        const bool isTaken = takeWheel(static_cast<const QWheelEvent &>(*event));
         event->setAccepted(isTaken);
         return isTaken;
     }
@@ -286,7 +286,7 @@ bool NumberSteps::onKey(const QKeyEvent &key)
     return true;
 }
 
-bool NumberSteps::onWheel(const QWheelEvent &wheel)
+bool NumberSteps::takeWheel(const QWheelEvent &wheel)
 {
     const bool isMouse = !wheel.pointingDevice() || wheel.pointingDevice()->type() == QInputDevice::DeviceType::Mouse;
     if (!m_wheelEnabled || !isMouse || !canEdit() || (m_wheelNeedsFocus && !m_watched->hasActiveFocus()))

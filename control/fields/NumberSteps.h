@@ -89,6 +89,8 @@ public:
     void finish();
     /// Goes to `defaultValue`, if there is one.
     Q_INVOKABLE void reset();
+    /// Steps by the wheel; false when the page shall have it.
+    bool takeWheel(const QWheelEvent &wheel);
     /// Sets a number as the user does, within the bounds.
     void request(double value);
 
@@ -116,7 +118,6 @@ private:
     void onRuleChanged();
     void watch();
     bool onKey(const QKeyEvent &key);
-    bool onWheel(const QWheelEvent &wheel);
     bool canEdit() const;
     bool canStep(int direction) const;
     double number() const;

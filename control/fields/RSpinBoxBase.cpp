@@ -4,6 +4,7 @@
 
 #include <QtCore/QTimerEvent>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QWheelEvent>
 
 #include <utility>
 
@@ -22,6 +23,7 @@ RSpinBoxBase::RSpinBoxBase(QQuickItem *parent)
 {
     setFlag(ItemIsFocusScope);
     setAcceptedMouseButtons(Qt::LeftButton);
+    setWheelEnabled(true);
 }
 
 void RSpinBoxBase::setEdit(FieldEdit *edit)
@@ -171,6 +173,11 @@ void RSpinBoxBase::mouseUngrabEvent()
 void RSpinBoxBase::touchEvent(QTouchEvent *event)
 {
     event->ignore();
+}
+
+void RSpinBoxBase::wheelEvent(QWheelEvent *event)
+{
+    event->setAccepted(m_steps && m_steps->takeWheel(*event));
 }
 
 void RSpinBoxBase::itemChange(ItemChange change, const ItemChangeData &data)

@@ -88,6 +88,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseUngrabEvent() override;
     void touchEvent(QTouchEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
     void accessibilityActiveChanged(bool active) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;

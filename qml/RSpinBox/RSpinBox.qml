@@ -18,6 +18,7 @@ RSpinBoxBase {
         from: 0
         to: 100
         stepping: !root.readOnly
+        wheelEnabled: root.wheelEnabled
     }
 
     property alias value: edit.value
@@ -35,12 +36,11 @@ RSpinBoxBase {
     property alias wrap: steps.wrap
     property alias snapToStep: steps.snapToStep
     property alias live: steps.live
-    property alias wheelEnabled: steps.wheelEnabled
     property alias wheelNeedsFocus: steps.wheelNeedsFocus
     /*! What is typed, without `prefix` and `suffix`. */
     readonly property alias text: input.text
     /*! What stands in an empty box. */
-    property alias placeholderText: input.placeholderText
+    property string placeholderText: ""
     /*! Shows, selects and copies, never edits; false by default. */
     property alias readOnly: input.readOnly
     /*! Whether a gesture of steps or a text that is not entered yet is under way. */
@@ -63,6 +63,8 @@ RSpinBoxBase {
     property color ssForegroundSelection: root.RStyleSet.props.foregroundSelection
     property color ssConfirmIndicator: root.RStyleSet.props.confirmIndicator
     property color ssInconsistentFlag: root.RStyleSet.props.inconsistentFlag
+    /*! Room at the end that the marks leave free, in pixels. */
+    readonly property real marksInset: root.buttonsVisible ? 2 * root.buttonWidth : 0
     // Those of text fields, once a text is not acceptable.
     property color ssForegroundInvalid: root.ssColor
     property color ssLineInvalid: root.ssLineColor
@@ -98,6 +100,7 @@ RSpinBoxBase {
         color: edit.acceptable ? root.ssColor : root.ssForegroundInvalid
         selectionColor: root.ssSelection
         selectedTextColor: root.ssForegroundSelection
+        placeholderText: edit.consistent ? root.placeholderText : qsTr("mixed")
         inputMethodHints: Qt.ImhFormattedNumbersOnly
     }
 }

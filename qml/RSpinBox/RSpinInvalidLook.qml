@@ -7,18 +7,17 @@ Shared.RStyleProbe {
     id: root
 
     required property Item field
-    readonly property RStyleSetProps props: root.RStyleSet.props
 
     type: "RTextField"
 
     Binding {
         target: root.field
         property: "ssForegroundInvalid"
-        value: root.props.isSet("foreground-invalid") ? root.props.foregroundInvalid : root.props.lineInvalid
+        value: root.RStyleSet.props.isSet("foreground-invalid") ? root.RStyleSet.props.foregroundInvalid : root.RStyleSet.props.lineInvalid
     }
     Binding {
         target: root.field
         property: "ssLineInvalid"
-        value: root.props.isSet("line-invalid") ? root.props.lineInvalid : root.props.foregroundInvalid
+        value: root.RStyleSet.props.isSet("line-invalid") ? root.RStyleSet.props.lineInvalid : root.RStyleSet.props.foregroundInvalid
     }
 }

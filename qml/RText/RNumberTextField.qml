@@ -22,7 +22,7 @@ RTextField {
 
     horizontalAlignment: TextInput.AlignRight
     inputMethodHints: Qt.ImhFormattedNumbersOnly
-    rightPadding: (8 + (root.edit.marked ? 16 : 0)) * RThemeValues.unit + (unit.text === "" ? 0 : unit.implicitWidth + 4 * RThemeValues.unit)
+    rightPadding: (8 + (root.edit.marked ? 16 : 0)) * RThemeValues.unit + (unit.visible ? unit.implicitWidth + 4 * RThemeValues.unit : 0)
 
     RNumberSteps {
         id: steps
@@ -37,7 +37,7 @@ RTextField {
         height: root.height
         color: root.color
         verticalAlignment: Text.AlignVCenter
-        visible: root.consistent
+        visible: root.consistent && unit.text !== ""
         Accessible.ignored: true
     }
 }

@@ -1,12 +1,11 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 import "../Shared" as Shared
 
 /*! Several lines of text that a device stores. What is typed is marked until it is entered.
 
     Keys: Enter makes a new line, Ctrl+Enter enters the text, Esc takes back what was typed. */
-T.ScrollView {
+Shared.RScrollView {
     id: root
 
     /*! The editor. */
@@ -64,7 +63,6 @@ T.ScrollView {
 
     implicitWidth: 288 * RThemeValues.unit
     implicitHeight: 96 * RThemeValues.unit
-    contentWidth: root.availableWidth
     hoverEnabled: RThemeValues.hoverEnabled
     // The focus of the root is meant for the text.
     focusPolicy: Qt.NoFocus
@@ -75,12 +73,6 @@ T.ScrollView {
         border.width: area.activeFocus ? RThemeValues.unit : 0
         lineColor: !edit.acceptable ? root.ssForegroundInvalid : edit.edited || !edit.confirmed ? root.ssConfirmIndicator : root.ssLineColor
         lineWidth: (area.activeFocus ? 2 : 1) * RThemeValues.unit
-    }
-
-    T.ScrollBar.vertical: Shared.RScrollBar {
-        parent: root
-        x: root.mirrored ? 0 : root.width - width
-        height: root.height
     }
 
     RTextAreaBase {

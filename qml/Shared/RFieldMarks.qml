@@ -15,7 +15,8 @@ Item {
     readonly property color flagColor: root.field["ssInconsistentFlag"]
     readonly property color warningColor: root.field["ssForegroundInvalid"]
 
-    anchors.fill: parent
+    width: root.field.width - (root.field["marksInset"] ?? 0)
+    height: Math.min(root.field.height, 32 * RThemeValues.unit)
     visible: root.edit.marked
 
     Rectangle {
