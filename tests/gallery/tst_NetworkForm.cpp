@@ -7,6 +7,8 @@
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickView>
 
+#include <limits>
+
 namespace {
 
 constexpr auto formPage = R"(
@@ -47,6 +49,9 @@ struct FormWindow
         : installation(1, nullptr)
     {
         installation.setStepped(true);
+        NetworkBehaviour orderly;
+        orderly.jitter = 0;
+        installation.setBehaviour(orderly);
         qmlRegisterType<Amplifier>("Gallery", 1, 0, "Amplifier");
         qmlRegisterType<AmplifierField>("Gallery", 1, 0, "AmplifierField");
         view.engine()->addImportPath(QStringLiteral(TAMBLE_QML_DIRECTORY));
@@ -69,6 +74,14 @@ struct FormWindow
     QObject *editor() { return view.activeFocusItem(); }
     QString text() { return editor()->property("text").toString(); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&view, key, modifiers); }
+    /// Gives the focus to the control of that name.
+    void focus(const QString &label)
+    {
+        for (QQuickItem *item : page->findChildren<QQuickItem *>()) {
+            if (item->property("label") == label && item->property("value").isValid())
+                item->forceActiveFocus(Qt::TabFocusReason);
+        }
+    }
     QVariant really(int device, QStringView field)
     {
         return installation.devices().record(device).read(fieldIndex(field));
@@ -171,9 +184,62 @@ private Q_SLOTS:
         QTRY_COMPARE(window.text(), QStringLiteral("Roof"));
     }
 
+    void stepsFromOffAndBack()
+    {
+        FormWindow window("ChannelForm");
+        QVERIFY(window.isReady());
+        window.page->setProperty("devices", QVariantList{2, 7});
+        const int gain = fieldIndex(u"input1Gain");
+        for (const int device : {2, 7})
+            window.installation.request(device, gain, -std::numeric_limits<double>::infinity());
+        window.installation.advance(100);
+        window.focus(QStringLiteral("&Gain"));
+        window.press(Qt::Key_Up);
+        window.installation.advance(100);
+        QCOMPARE(window.really(7, u"input1Gain"), QVariant(-79.5));
+        enter(window, QStringLiteral("-80"));
+        window.installation.advance(100);
+        QCOMPARE(window.really(2, u"input1Gain"), QVariant(-std::numeric_limits<double>::infinity()));
+    }
+
+    void stepsOfMixedDevicesShiftEach()
+    {
+        FormWindow window("ChannelForm");
+        QVERIFY(window.isReady());
+        window.page->setProperty("devices", QVariantList{0, 1});
+        window.installation.request(1, fieldIndex(u"input1Gain"), 6.0);
+        window.installation.advance(100);
+        window.focus(QStringLiteral("&Gain"));
+        window.press(Qt::Key_Up);
+        window.press(Qt::Key_PageDown);
+        window.installation.advance(100);
+        QCOMPARE(window.really(0, u"input1Gain"), QVariant(-2.5));
+        QCOMPARE(window.really(1, u"input1Gain"), QVariant(3.5));
+    }
+
+    void millisecondsBecomeSamples()
+    {
+        FormWindow window("ChannelForm");
+        QVERIFY(window.isReady());
+        window.focus(QStringLiteral("&Delay"));
+        enter(window, QStringLiteral("10,01"));
+        window.installation.advance(100);
+        QCOMPARE(window.really(0, u"input1DelaySamples"), QVariant(480));
+        window.focus(QStringLiteral("&Samples"));
+        window.press(Qt::Key_PageUp);
+        window.installation.advance(100);
+        QCOMPARE(window.really(0, u"input1DelayMs"), QVariant(11.0));
+        // Out of range: nothing is sent.
+        enter(window, QStringLiteral("96001"));
+        window.installation.advance(100);
+        QCOMPARE(window.really(0, u"input1DelaySamples"), QVariant(528));
+        QVERIFY(!window.installation.client().error(0, fieldIndex(u"input1DelaySamples")).size());
+    }
+
 private:
     static void enter(FormWindow &window, const QString &text)
     {
+        window.press(Qt::Key_A, Qt::ControlModifier);
         for (const QChar letter : text)
             QTest::keyClick(&window.view, letter.toLatin1());
         // In fields of several lines, too.
