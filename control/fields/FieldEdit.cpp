@@ -178,7 +178,9 @@ bool FieldEdit::enter()
         Q_EMIT rejected(text, m_invalidText);
         return false;
     }
-    const QVariant value = m_rules ? m_rules->valueOf(text) : m_converter ? m_converter->fromText(text) : QVariant(text);
+    const QVariant value = m_rules       ? m_rules->valueOf(text)
+                           : m_converter ? m_converter->fromText(text)
+                                         : QVariant(text);
     const QPointer<FieldEdit> guard(this);
     setEdited(false);
     m_plainText = text;
@@ -241,7 +243,9 @@ void FieldEdit::notice(const QString &text)
 
 void FieldEdit::noticeRefusal(const QString &wanted)
 {
-    notice(validatorProblemOf(m_editor->validator(), wanted));
+    const QString problem = validatorProblemOf(m_editor->validator(), wanted);
+    if (!problem.isEmpty())
+        notice(problem);
 }
 
 bool FieldEdit::eventFilter(QObject *editor, QEvent *event)

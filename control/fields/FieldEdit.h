@@ -23,12 +23,13 @@ class FieldRules;
 class PendingValue;
 
 /// The conversation between a user who types and a device that stores the value of what is typed. The text is the
-/// user's until it is entered or taken back; what the device says meanwhile waits, and is never overwritten by accident.
+/// user's until it is entered or taken back; what the device says meanwhile waits, and is never overwritten by
+/// accident.
 ///
 /// Without a `value` the text itself counts, as in a plain field.
 ///
-/// Keys: Enter enters the text (Ctrl+Enter where there are lines), and goes on to the dialog when nothing was typed. Esc
-/// takes back what was typed.
+/// Keys: Enter enters the text (Ctrl+Enter where there are lines), and goes on to the dialog when nothing was typed.
+/// Esc takes back what was typed.
 class TAMBLE_CLIENT_CONTROL_EXPORT FieldEdit : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
@@ -179,11 +180,11 @@ private:
     QPointer<QQuickItem> m_field;
     std::unique_ptr<EditedText> m_editor;
     FieldGestures m_gestures;
-    QPointer<QObject> m_marks;  // parts of the field, made when first shown
+    QPointer<QObject> m_marks; // parts of the field, made when first shown
     QPointer<QObject> m_bubble;
     QVariant m_value;
-    QVariant m_shown; ///< The last edit.
-    QString m_plainText; ///< The text that counts when there is no value.
+    QVariant m_shown;     ///< The last edit.
+    QString m_plainText;  ///< The text that counts when there is no value.
     QString m_textBefore; ///< The text before the present change.
     QString m_invalidText;
     QString m_errorText;

@@ -126,6 +126,7 @@ QString RSpinBoxBase::spokenDescription(const QString &given) const
 
 void RSpinBoxBase::addSpokenStates(QAccessible::State &state) const
 {
+    state.focusable = true; // by its editor
     state.readOnly = m_edit && !m_edit->canEdit();
     state.editable = !state.readOnly;
 }
@@ -192,7 +193,9 @@ void RSpinBoxBase::stepByButton()
     const Qt::KeyboardModifiers held = QGuiApplication::keyboardModifiers();
     const bool isPage = (held & Qt::ControlModifier) && (m_repeats == 0 || m_repeats > repeatsBeforePages);
     if (m_steps)
-        m_steps->step(held & Qt::ShiftModifier ? StepSize::Fine : isPage ? StepSize::Page : StepSize::Normal,
+        m_steps->step(held & Qt::ShiftModifier ? StepSize::Fine
+                      : isPage                 ? StepSize::Page
+                                               : StepSize::Normal,
                       m_pressedButton);
 }
 

@@ -13,8 +13,8 @@ namespace tamble::client {
 
 /// A number with two buttons; FieldEdit is its conversation with the device, NumberSteps knows its range.
 ///
-/// A held button steps after 500 ms, then every 60 ms, and after 20 such steps by pages while Ctrl is held. Shift and Ctrl
-/// count as for the keys.
+/// A held button steps after 500 ms, then every 60 ms, and after 20 such steps by pages while Ctrl is held. Shift and
+/// Ctrl count as for the keys.
 class TAMBLE_CLIENT_CONTROL_EXPORT RSpinBoxBase : public QQuickControl, public FieldSpeech
 {
     Q_OBJECT

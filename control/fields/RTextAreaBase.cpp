@@ -1,18 +1,27 @@
 #include "fields/RTextAreaBase.h"
 
+#include "fields/FieldParts.h"
+
 #include <QtGui/QKeyEvent>
 
 namespace tamble::client {
 
 RTextAreaBase::RTextAreaBase(QQuickItem *parent)
     : QQuickTextArea(parent)
-{}
+{
+    connect(this, &QQuickTextEdit::textChanged, this, &RTextAreaBase::updateHint);
+    connect(this, &QQuickTextArea::placeholderTextChanged, this, &RTextAreaBase::updateHint);
+}
 
 void RTextAreaBase::setEdit(FieldEdit *edit)
 {
     if (m_edit == edit)
         return;
+    if (m_edit)
+        m_edit->disconnect(this);
     m_edit = edit;
+    if (edit)
+        connect(edit, &FieldEdit::consistentChanged, this, &RTextAreaBase::updateHint);
     Q_EMIT editChanged();
 }
 
@@ -21,6 +30,19 @@ void RTextAreaBase::addSpokenStates(QAccessible::State &state) const
     state.multiLine = true;
     state.editable = !isReadOnly();
     state.readOnly = isReadOnly();
+}
+
+void RTextAreaBase::componentComplete()
+{
+    QQuickTextArea::componentComplete();
+    updateHint();
+}
+
+void RTextAreaBase::updateHint()
+{
+    const bool isMixed = m_edit && !m_edit->isConsistent();
+    if (isComponentComplete() && (isMixed || !placeholderText().isEmpty()) && length() == 0 && !m_hint)
+        m_hint = makeFieldPart(Part::FieldHint, *this);
 }
 
 void RTextAreaBase::keyPressEvent(QKeyEvent *event)

@@ -37,10 +37,14 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void componentComplete() override;
 
 private:
     QString spokenHint() const override { return placeholderText(); }
 
+    void updateHint();
+
+    QObject *m_hint = nullptr; // a child, made when first shown
     bool m_tabChangesFocus = false;
 };
 

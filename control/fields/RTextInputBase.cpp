@@ -20,6 +20,17 @@ void RTextInputBase::setPlaceholderText(const QString &text)
     Q_EMIT placeholderTextChanged();
 }
 
+QString RTextInputBase::spokenName() const
+{
+    return parentItem() && m_placeholderText.isEmpty() ? spokenNameOf(*parentItem()) : m_placeholderText;
+}
+
+QString RTextInputBase::spokenDescription(const QString &given) const
+{
+    const auto *around = dynamic_cast<const SpokenControl *>(parentItem());
+    return around ? around->spokenDescription(given) : given;
+}
+
 void RTextInputBase::componentComplete()
 {
     QQuickTextInput::componentComplete();

@@ -8,12 +8,14 @@
 
 namespace tamble::client {
 
-/// A bare editor of one line with a hint for an empty one, which is made when it is first shown.
+/// A bare editor of one line, which speaks for the control that it is a part of, with a hint for an empty one, which is
+/// made when it is first shown.
 class TAMBLE_CLIENT_CONTROL_EXPORT RTextInputBase : public QQuickTextInput, public SpokenControl
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RTextInputBase)
-    Q_PROPERTY(QString placeholderText READ placeholderText WRITE setPlaceholderText NOTIFY placeholderTextChanged FINAL)
+    Q_PROPERTY(
+        QString placeholderText READ placeholderText WRITE setPlaceholderText NOTIFY placeholderTextChanged FINAL)
 
 public:
     explicit RTextInputBase(QQuickItem *parent = nullptr);
@@ -23,7 +25,8 @@ public:
     void setPlaceholderText(const QString &text);
 
     QAccessible::Role spokenRole() const override { return QAccessible::EditableText; }
-    QString spokenName() const override { return m_placeholderText; }
+    QString spokenName() const override;
+    QString spokenDescription(const QString &given) const override;
 
 Q_SIGNALS:
     void placeholderTextChanged();

@@ -8,12 +8,12 @@ enum class StepSize { Fine, Normal, Page };
 /// How a number moves by steps between its bounds.
 struct StepRule
 {
-    double from = 0.0; ///< Infinite for none.
-    double to = 100.0; ///< Likewise. A range without width, or one the wrong way round, cannot be stepped through.
+    double from = 0.0;   ///< Infinite for none.
+    double to = 100.0;   ///< Likewise. A range without width, or one the wrong way round, cannot be stepped through.
     double normal = 1.0; ///< 0 stands for continuous: 1 % of the range. The sign does not count in any of the three.
     double fine = 0.1;
     double page = 10.0;
-    int decimals = -1; ///< Of stepped and shown numbers; negative for those that the two smaller steps need.
+    int decimals = -1;  ///< Of stepped and shown numbers; negative for those that the two smaller steps need.
     bool wraps = false; ///< Whether a step beyond a bound goes to the other one.
 
     bool isUsable() const;
@@ -23,8 +23,8 @@ struct StepRule
     double rounded(double value) const;
     /// The nearest whole number of steps from `from`, or from 0 where that is infinite, within the bounds.
     double snapped(double value) const;
-    /// One step up or down (`direction` 1 or -1). From outside of the bounds, and from NaN, the first goes to the nearest
-    /// of them.
+    /// One step up or down (`direction` 1 or -1). From outside of the bounds, and from NaN, the first goes to the
+    /// nearest of them.
     double stepped(double value, StepSize size, int direction) const;
 };
 

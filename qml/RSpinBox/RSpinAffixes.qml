@@ -10,7 +10,7 @@ Item {
     readonly property real gap: 4 * RThemeValues.unit
 
     height: root.field.height
-    visible: root.field.consistent !== false // qmllint disable missing-property
+    visible: root.field.edit.consistent
     Accessible.ignored: true
 
     RText {

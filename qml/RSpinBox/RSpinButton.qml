@@ -11,7 +11,7 @@ Item {
     /*! Whether there is a step in this direction. */
     required property bool possible
 
-    readonly property color color: root.field["ssColor"]
+    required property color color
     readonly property real barLength: 10 * RThemeValues.unit
     readonly property real barWidth: Math.max(1, Math.round(1.5 * RThemeValues.unit))
 

@@ -6,6 +6,7 @@ Item {
     id: root
 
     required property RSpinBoxBase field
+    readonly property var box: root.field
 
     x: root.field.mirrored ? 0 : root.field.width - root.width
     width: 2 * root.field.buttonWidth
@@ -17,12 +18,14 @@ Item {
         x: root.field.mirrored ? root.field.buttonWidth : 0
         field: root.field
         direction: -1
+        color: root.box.ssColor
         possible: root.field.steps.canStepDown
     }
     RSpinButton {
         x: root.field.mirrored ? 0 : root.field.buttonWidth
         field: root.field
         direction: 1
+        color: root.box.ssColor
         possible: root.field.steps.canStepUp
     }
 }

@@ -5,19 +5,20 @@ import TambleClient.Control 1.0
 RText {
     id: root
 
-    required property TextInput field
+    // A TextInput or a TextEdit.
+    required property var field
 
     x: root.field.leftPadding
     y: root.field.topPadding
     width: root.field.width - root.field.leftPadding - root.field.rightPadding
     height: root.field.height - root.field.topPadding - root.field.bottomPadding
-    text: root.field["consistent"] === false ? qsTr("mixed") : root.field["placeholderText"]
+    text: root.field.edit?.consistent === false ? qsTr("mixed") : root.field.placeholderText
     color: root.field.color
     opacity: 0.6
     font: root.field.font
     elide: Text.ElideRight
     horizontalAlignment: root.field.effectiveHorizontalAlignment
-    verticalAlignment: Text.AlignVCenter
+    verticalAlignment: root.field.verticalAlignment
     visible: root.field.length === 0 && root.field.preeditText === ""
     Accessible.ignored: true
 }

@@ -7,7 +7,7 @@ RIcon {
 
     required property RTextFieldBase field
 
-    x: (root.field.effectiveLayoutMirroring ? root.field.width - 24 * RThemeValues.unit : 8 * RThemeValues.unit)
+    x: (root.field.LayoutMirroring.enabled ? root.field.width - 24 * RThemeValues.unit : 8 * RThemeValues.unit)
     y: (root.field.height - root.height) / 2
     key: root.field.iconKey
     sizeClass: "XS"

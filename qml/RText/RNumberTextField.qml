@@ -33,7 +33,7 @@ RTextField {
     }
     RText {
         id: unit
-        x: root.effectiveLayoutMirroring ? root.width - root.rightPadding + 4 * RThemeValues.unit : root.width - unit.implicitWidth - (8 + (root.edit.marked ? 16 : 0)) * RThemeValues.unit
+        x: root.effectiveHorizontalAlignment === TextInput.AlignLeft ? root.width - root.rightPadding + 4 * RThemeValues.unit : root.width - unit.implicitWidth - (8 + (root.edit.marked ? 16 : 0)) * RThemeValues.unit
         height: root.height
         color: root.color
         verticalAlignment: Text.AlignVCenter

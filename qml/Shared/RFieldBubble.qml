@@ -15,6 +15,7 @@ T.Popup {
     readonly property bool fitsBelow: root.edit.bubbleText !== "" &&
                                       root.field.mapToItem(null, 0, root.field.height).y + root.gap + root.height + root.margins <= root.field.Window.height
 
+    objectName: "bubble"
     y: root.fitsBelow ? root.field.height + root.gap : -root.height - root.gap
     implicitWidth: Math.min(words.implicitWidth, root.widest)
     implicitHeight: words.implicitHeight
@@ -25,7 +26,6 @@ T.Popup {
 
     contentItem: RPopupFrame { // qmllint disable deferred-property-id
         id: frame
-        objectName: "bubble"
         Accessible.role: Accessible.AlertMessage
         Accessible.name: words.text
 

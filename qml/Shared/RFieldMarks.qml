@@ -7,15 +7,10 @@ Item {
     id: root
 
     /*! The control that has the marks, and the colours for them. */
-    required property Item field
+    required property var field
     required property RFieldEdit edit
 
-    // One spelling for all kinds of fields, of which some have no colour for a kind of mark.
-    readonly property color dotColor: root.field["ssConfirmIndicator"]
-    readonly property color flagColor: root.field["ssInconsistentFlag"]
-    readonly property color warningColor: root.field["ssForegroundInvalid"]
-
-    width: root.field.width - (root.field["marksInset"] ?? 0)
+    width: root.field.width - (root.field.marksInset ?? 0)
     height: Math.min(root.field.height, 32 * RThemeValues.unit)
     visible: root.edit.marked
 
@@ -26,7 +21,7 @@ Item {
         width: 6 * RThemeValues.unit
         height: dot.width
         radius: dot.width / 2
-        color: root.dotColor
+        color: root.field.ssConfirmIndicator
         visible: root.edit.edited || !root.edit.confirmed
 
         SequentialAnimation {
@@ -52,7 +47,7 @@ Item {
         y: (root.height - height) / 2
         key: "warning"
         sizeClass: "XXS"
-        ssIconForeground: root.warningColor
+        ssIconForeground: root.field.ssForegroundInvalid
         visible: !root.edit.acceptable
     }
 
@@ -69,7 +64,7 @@ Item {
             width: parent.width * Math.SQRT2
             height: width
             rotation: 45
-            color: root.flagColor
+            color: root.field.ssInconsistentFlag
             antialiasing: true
         }
     }

@@ -295,14 +295,7 @@ private:
         return QTest::qWaitForWindowActive(&m_window);
     }
 
-    std::unique_ptr<QQuickItem> make(const QString &body)
-    {
-        auto object = objectFrom(m_page.engine, "import QtQuick\nimport TambleClient.Control 1.0\n" + body.toUtf8());
-        std::unique_ptr<QQuickItem> item(qobject_cast<QQuickItem *>(object.release()));
-        if (item)
-            item->setParentItem(m_window.contentItem());
-        return item;
-    }
+    std::unique_ptr<QQuickItem> make(const QString &body) { return m_page.make(body); }
 
     SeenPage m_page{{}};
     QQuickWindow &m_window = m_page.window;

@@ -32,6 +32,16 @@ struct SeenPage
         if (root)
             qobject_cast<QQuickItem *>(root.get())->setParentItem(window.contentItem());
     }
+
+    /// An item from the text of its declaration, in the window; null for none.
+    std::unique_ptr<QQuickItem> make(const QString &body)
+    {
+        auto object = objectFrom(engine, "import QtQuick\nimport TambleClient.Control 1.0\n" + body.toUtf8());
+        std::unique_ptr<QQuickItem> item(qobject_cast<QQuickItem *>(object.release()));
+        if (item)
+            item->setParentItem(window.contentItem());
+        return item;
+    }
 };
 
 } // namespace tamble::client

@@ -179,4 +179,41 @@ ThemedTestCase {
         keyClick(Qt.Key_Return)
         compare([page.field.text, log], ["Hall", []])
     }
+
+    function test_bubble_data() {
+        return [
+            { tag: "key kept out", body: "validator: RTextFieldIntValidator { bottom: 0; top: 9 }", typed: "x", bubble: "Enter a whole number from 0 to 9" },
+            { tag: "not acceptable yet", body: "validator: RTextFieldIpAddressValidator {}", typed: "1", bubble: "Enter an address such as 192.168.1.10" },
+            { tag: "cut", body: "maximumBytes: 2", typed: "abc", bubble: "Cut to 2 bytes" },
+            { tag: "blank removed", typed: "ab ", key: Qt.Key_Return, bubble: "Blanks at the ends were removed" },
+            { tag: "fine", typed: "ab", bubble: "" },
+        ]
+    }
+    function test_bubble(data) {
+        const page = makePage(data.body ?? "")
+        type(data.typed)
+        if (data.key)
+            keyClick(data.key)
+        compare(page.field.edit.bubbleText, data.bubble)
+        const bubble = findChild(page.field, "bubble")
+        compare(Boolean(bubble && bubble.visible), data.bubble !== "")
+        page.other.forceActiveFocus(Qt.TabFocusReason)
+        compare(page.field.edit.bubbleText, "", "gone with the focus")
+    }
+
+    function test_untouchedFieldIsNotScolded() {
+        const page = makePage("required: true")
+        page.device = ""
+        compare([page.field.acceptable, page.field.edit.bubbleText], [false, ""])
+    }
+
+    function test_clearAndReveal() {
+        const page = makePage("clearable: true; revealable: true; echoMode: TextInput.Password")
+        mouseClick(findChild(page.field, "reveal"))
+        compare([page.field.echoMode, page.field.edited], [TextInput.Normal, false])
+        mouseClick(findChild(page.field, "reveal"))
+        compare(page.field.echoMode, TextInput.Password)
+        mouseClick(findChild(page.field, "clear"))
+        compare([page.field.text, page.field.edited, page.device], ["", true, "Hall"], "waits for Enter")
+    }
 }
