@@ -43,7 +43,7 @@ QString AmplifierField::actualText() const
     for (const int device : devices()) {
         const QVariant &value = m_installation->devices().record(device).read(m_field);
         const bool isReal = value.metaType() == QMetaType::fromType<double>();
-        texts.append(isReal ? QString::number(value.toDouble(), 'g', 6) : value.toString());
+        texts.append(isReal ? QString::number(value.toDouble(), 'g', 6) : value.toString().simplified());
     }
     return texts.join(QStringLiteral(", "));
 }

@@ -25,7 +25,7 @@ class AmplifierField : public QObject, public QQmlParserStatus
     Q_PROPERTY(bool confirmed READ isConfirmed NOTIFY confirmedChanged)
     /// Why the last request failed, with the name of the device where there are several.
     Q_PROPERTY(QString errorText READ errorText NOTIFY errorTextChanged)
-    /// What the devices really have, whatever the network does, in the order of the selection.
+    /// What the devices really have, whatever the network does, in the order of the selection and on one line.
     Q_PROPERTY(QString actualText READ actualText NOTIFY actualTextChanged)
     /// Bounds of a number, or of the length of a text.
     Q_PROPERTY(double minimum READ minimum NOTIFY fieldChanged)
