@@ -5,6 +5,7 @@
 #include <QtQuick/private/qquicktextinput_p.h>
 
 #include <type_traits>
+#include <utility>
 
 namespace tamble::client {
 
@@ -34,6 +35,17 @@ public:
             return m_editor.validator();
         else
             return nullptr;
+    }
+
+    void onTextChanged(QObject &context, std::function<void()> call) override
+    {
+        QObject::connect(&m_editor, &Editor::textChanged, &context, std::move(call));
+    }
+
+    void onValidatorChanged(QObject &context, std::function<void()> call) override
+    {
+        if constexpr (std::is_same_v<Editor, QQuickTextInput>)
+            QObject::connect(&m_editor, &Editor::validatorChanged, &context, std::move(call));
     }
 
 private:

@@ -3,6 +3,7 @@
 #include <QtCore/QString>
 #include <QtQuick/QQuickItem>
 
+#include <functional>
 #include <memory>
 
 class QValidator;
@@ -28,6 +29,9 @@ public:
     /// Null for none.
     virtual QValidator *validator() const = 0;
     virtual bool hasManyLines() const = 0;
+    /// Calls back while `context` lives, after each change.
+    virtual void onTextChanged(QObject &context, std::function<void()> call) = 0;
+    virtual void onValidatorChanged(QObject &context, std::function<void()> call) = 0;
 };
 
 } // namespace tamble::client

@@ -5,36 +5,12 @@
 #include "fields/FieldReason.h"
 #include "fields/FieldRules.h"
 
-#include <QtCore/QTextBoundaryFinder>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QValidator>
 
-#include <algorithm>
 #include <utility>
 
 namespace tamble::client {
-
-namespace {
-
-/// Where the last character before a position begins; a character may be several code points.
-int characterBefore(const QString &text, int position)
-{
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    finder.setPosition(position);
-    return std::max(0, int(finder.toPreviousBoundary()));
-}
-
-QString validatorProblemOf(const QValidator *validator, const QString &text)
-{
-    QString checked = text;
-    int cursor = 0;
-    if (!validator || validator->validate(checked, cursor) == QValidator::Acceptable)
-        return {};
-    const QString message = FieldReason::of(validator, text);
-    return message.isEmpty() ? FieldEdit::tr("This is not valid") : message;
-}
-
-} // namespace
 
 FieldEdit::FieldEdit(QObject *parent)
     : QObject(parent)
@@ -59,9 +35,8 @@ void FieldEdit::setEditor(QQuickItem *editor)
     m_editor = EditedText::of(editor);
     if (m_editor) {
         editor->installEventFilter(this);
-        connect(editor, SIGNAL(textChanged()), this, SLOT(onTextChanged()));
-        if (!m_editor->hasManyLines())
-            connect(editor, SIGNAL(validatorChanged()), this, SLOT(onValidatorChanged()));
+        m_editor->onTextChanged(*this, [this] { onTextChanged(); });
+        m_editor->onValidatorChanged(*this, [this] { onValidatorChanged(); });
         connect(editor, &QObject::destroyed, this, [this] { m_editor.reset(); });
         onValidatorChanged();
     }
@@ -104,7 +79,7 @@ void FieldEdit::setErrorText(const QString &text)
 
 void FieldEdit::setRequired(bool required)
 {
-    if (std::exchange(m_isRequired, required) == required)
+    if (std::exchange(m_limits.isRequired, required) == required)
         return;
     judge();
     Q_EMIT requiredChanged();
@@ -112,7 +87,7 @@ void FieldEdit::setRequired(bool required)
 
 void FieldEdit::setMaximumBytes(int bytes)
 {
-    if (std::exchange(m_maximumBytes, bytes) == bytes)
+    if (std::exchange(m_limits.maximumBytes, bytes) == bytes)
         return;
     judge();
     Q_EMIT maximumBytesChanged();
@@ -120,7 +95,7 @@ void FieldEdit::setMaximumBytes(int bytes)
 
 void FieldEdit::setMaximumLines(int lines)
 {
-    if (std::exchange(m_maximumLines, lines) == lines)
+    if (std::exchange(m_limits.maximumLines, lines) == lines)
         return;
     judge();
     Q_EMIT maximumLinesChanged();
@@ -243,7 +218,7 @@ void FieldEdit::notice(const QString &text)
 
 void FieldEdit::noticeRefusal(const QString &wanted)
 {
-    const QString problem = validatorProblemOf(m_editor->validator(), wanted);
+    const QString problem = FieldReason::problemOf(m_editor->validator(), wanted);
     if (!problem.isEmpty())
         notice(problem);
 }
@@ -287,25 +262,14 @@ void FieldEdit::onValidatorChanged()
 
 void FieldEdit::keepWithinBytes()
 {
-    if (m_maximumBytes <= 0)
-        return;
-    // From the end of what was typed or pasted just now, never from what was there before.
-    const QString now = m_editor->text();
     const int caret = m_editor->caret();
-    const auto begin = std::ranges::mismatch(now, m_textBefore).in1 - now.begin();
-    int cut = caret;
-    qsizetype bytes = now.toUtf8().size();
-    while (bytes > m_maximumBytes && cut > begin) {
-        const int character = characterBefore(now, cut);
-        bytes -= now.mid(character, cut - character).toUtf8().size();
-        cut = character;
-    }
-    if (cut == caret)
+    const int end = m_limits.endWithinBytes(m_editor->text(), m_textBefore, caret);
+    if (end == caret)
         return;
     const bool wasShowing = std::exchange(m_isShowing, true);
-    m_editor->remove(cut, caret);
+    m_editor->remove(end, caret);
     m_isShowing = wasShowing;
-    notice(tr("Cut to %n bytes", nullptr, m_maximumBytes));
+    notice(tr("Cut to %n bytes", nullptr, m_limits.maximumBytes));
 }
 
 void FieldEdit::judge()
@@ -325,19 +289,16 @@ QString FieldEdit::problemOf(const QString &text) const
 {
     if (m_errorCounts && !m_errorText.isEmpty())
         return m_errorText;
-    if (text.isEmpty() && m_isRequired)
-        return tr("This must be filled in");
-    if (m_maximumBytes > 0 && text.toUtf8().size() > m_maximumBytes)
-        return tr("At most %n bytes", nullptr, m_maximumBytes);
-    if (m_maximumLines > 0 && text.count(u'\n') >= m_maximumLines)
-        return tr("At most %n lines", nullptr, m_maximumLines);
+    const QString beyondLimits = m_limits.problemOf(text);
+    if (!beyondLimits.isEmpty())
+        return beyondLimits;
     if (m_rules)
         return m_rules->problemOf(text);
     if (text.isEmpty())
         return {};
     if (m_converter && !m_converter->accepts(text))
         return tr("This cannot be read");
-    return validatorProblemOf(m_editor->validator(), text);
+    return FieldReason::problemOf(m_editor->validator(), text);
 }
 
 QString FieldEdit::tidied(const QString &text) const

@@ -3,6 +3,7 @@
 #include "base/ControlExport.h"
 #include "fields/EditedText.h"
 #include "fields/FieldGestures.h"
+#include "fields/FieldLimits.h"
 
 #include <tambleclient-common/RValueConverter.h>
 
@@ -82,13 +83,13 @@ public:
     /// What a bubble at the field tells whoever types; empty for nothing.
     QString bubbleText() const { return m_bubbleText; }
     /// Whether the text must not be empty; false by default.
-    bool isRequired() const { return m_isRequired; }
+    bool isRequired() const { return m_limits.isRequired; }
     void setRequired(bool required);
     /// Most bytes of UTF-8 that can be typed or pasted, at whole characters; 0, the default, for no limit.
-    int maximumBytes() const { return m_maximumBytes; }
+    int maximumBytes() const { return m_limits.maximumBytes; }
     void setMaximumBytes(int bytes);
     /// Most lines of an acceptable text; more can be typed. 0, the default, for no limit.
-    int maximumLines() const { return m_maximumLines; }
+    int maximumLines() const { return m_limits.maximumLines; }
     void setMaximumLines(int lines);
     bool commitsOnFocusLoss() const { return m_commitsOnFocusLoss; }
     /// False while the page waits for the device to acknowledge; true by default.
@@ -163,8 +164,8 @@ protected:
     bool eventFilter(QObject *editor, QEvent *event) override;
 
 private:
-    Q_SLOT void onTextChanged();
-    Q_SLOT void onValidatorChanged();
+    void onTextChanged();
+    void onValidatorChanged();
     void keepWithinBytes();
     void judge();
     void updateMarks();
@@ -180,6 +181,7 @@ private:
     QPointer<QQuickItem> m_field;
     std::unique_ptr<EditedText> m_editor;
     FieldGestures m_gestures;
+    FieldLimits m_limits;
     QPointer<QObject> m_marks; // parts of the field, made when first shown
     QPointer<QObject> m_bubble;
     QVariant m_value;
@@ -194,14 +196,11 @@ private:
     QPointer<QValidator> m_watchedValidator;
     FieldRules *m_rules = nullptr;
     PendingValue *m_pending = nullptr; // a child, made at the first edit of a value
-    int m_maximumBytes = 0;
-    int m_maximumLines = 0;
     int m_settleTime = 300;
     bool m_isComplete = false; ///< Before, nothing is shown or judged.
     bool m_isEdited = false;
     bool m_isShowing = false; ///< Whether the text changes because of a value.
     bool m_errorCounts = false;
-    bool m_isRequired = false;
     bool m_trim = true;
     bool m_commitsOnFocusLoss = true;
     bool m_isConfirmed = true;

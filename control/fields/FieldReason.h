@@ -21,6 +21,8 @@ public:
 
     /// The message of whatever validator a field has; empty for none and for those of other kinds.
     static QString of(const QValidator *validator, const QString &text);
+    /// Why a validator does not accept a text, whatever kind it is of; empty when it does, and for none.
+    static QString problemOf(const QValidator *validator, const QString &text);
 };
 
 } // namespace tamble::client

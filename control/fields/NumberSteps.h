@@ -38,7 +38,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT NumberSteps : public QObject, public FieldRul
     Q_PROPERTY(bool snapToStep MEMBER m_snapsToStep NOTIFY snapToStepChanged FINAL)
     /// Whether steps are possible at all; true by default.
     Q_PROPERTY(bool stepping MEMBER m_isStepping NOTIFY steppingChanged FINAL)
-    /// Whether the wheel steps, and whether it needs the focus for that; true by default.
+    /// Whether the wheel steps, and with `wheelNeedsFocus` only while the field has the focus; both are true by
+    /// default.
     Q_PROPERTY(bool wheelEnabled MEMBER m_wheelEnabled NOTIFY wheelEnabledChanged FINAL)
     Q_PROPERTY(bool wheelNeedsFocus MEMBER m_wheelNeedsFocus NOTIFY wheelNeedsFocusChanged FINAL)
     /// Whether each step is told at once, or only the last of a gesture; true by default.
@@ -53,12 +54,12 @@ public:
     /// The conversation of the field with its device.
     FieldEdit *edit() const { return m_edit; }
     void setEdit(FieldEdit *edit);
-    /// The range of the numbers, in the unit of the value; infinite, the default, for no bound.
+    /// The range of the numbers, `from` and `to`, in the unit of the value; infinite, the default, for no bound.
     double from() const { return m_rule.from; }
     void setFrom(double from);
     double to() const { return m_rule.to; }
     void setTo(double to);
-    /// One step: 1 by default; 0 for 1 % of the range. The fine one is a tenth of it and the one of a page ten of it,
+    /// One step: 1 by default; 0 for 1 % of the range. `fineStepSize` is a tenth of it and `pageStepSize` ten of it,
     /// unless they are set.
     double stepSize() const { return m_rule.normal; }
     void setStepSize(double size);
@@ -75,7 +76,7 @@ public:
     /// Text for `from` ("−∞"), which can also be typed, as can "-inf"; none by default.
     QString minimumText() const { return m_minimumText; }
     void setMinimumText(const QString &text);
-    /// Whether there is a step in that direction.
+    /// `canStepUp` and `canStepDown`: whether there is a step in that direction.
     bool canStepUp() const { return canStep(1); }
     bool canStepDown() const { return canStep(-1); }
 

@@ -46,7 +46,7 @@ public:
     /// Width in pixels of one button, "minus" or "plus"; both stand at the end.
     qreal buttonWidth() const { return m_buttonWidth; }
     void setButtonWidth(qreal width);
-    /// Text before and after the number, which is not part of what is typed; none by default.
+    /// `prefix` and `suffix`: text before and after the number, which is not part of what is typed; none by default.
     QString prefix() const { return m_prefix; }
     void setPrefix(const QString &prefix);
     QString suffix() const { return m_suffix; }

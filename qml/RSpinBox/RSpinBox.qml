@@ -22,11 +22,14 @@ RSpinBoxBase {
     }
 
     property alias value: edit.value
+    /*! The range: `from` is 0 and `to` 100 by default. */
     property alias from: steps.from
     property alias to: steps.to
-    /*! The range as assistive tools ask for it. */
+    /*! The range as assistive tools ask for it: `minimumValue`, `maximumValue`. */
     readonly property alias minimumValue: steps.from
     readonly property alias maximumValue: steps.to
+    /*! One step: 1 by default, 0 for 1 % of the range. `fineStepSize` is a tenth of it and `pageStepSize` ten of it, unless
+        they are set. */
     property alias stepSize: steps.stepSize
     property alias fineStepSize: steps.fineStepSize
     property alias pageStepSize: steps.pageStepSize
@@ -36,6 +39,7 @@ RSpinBoxBase {
     property alias wrap: steps.wrap
     property alias snapToStep: steps.snapToStep
     property alias live: steps.live
+    /*! Whether the wheel steps only while the box has the focus; true by default. */
     property alias wheelNeedsFocus: steps.wheelNeedsFocus
     /*! What is typed, without `prefix` and `suffix`. */
     readonly property alias text: input.text
@@ -65,7 +69,7 @@ RSpinBoxBase {
     property color ssInconsistentFlag: root.RStyleSet.props.inconsistentFlag
     /*! Room at the end that the marks leave free, in pixels. */
     readonly property real marksInset: root.buttonsVisible ? 2 * root.buttonWidth : 0
-    // Those of text fields, once a text is not acceptable.
+    /*! `ssForegroundInvalid` and `ssLineInvalid` are those of text fields, once a text is not acceptable. */
     property color ssForegroundInvalid: root.ssColor
     property color ssLineInvalid: root.ssLineColor
 
@@ -76,6 +80,7 @@ RSpinBoxBase {
     RStyleSet.stateHelper.readOnly: input.readOnly
     RStyleSet.stateHelper.inconsistent: !edit.consistent
 
+    opacity: root.enabled ? 1 : 0.5
     implicitWidth: 144 * RThemeValues.unit
     implicitHeight: 32 * RThemeValues.unit
     buttonWidth: 32 * RThemeValues.unit

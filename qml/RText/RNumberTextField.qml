@@ -5,8 +5,11 @@ import TambleClient.Control 1.0
 RTextField {
     id: root
 
+    /*! The range, `from` and `to`; infinite, the default, for no bound. */
     property alias from: steps.from
     property alias to: steps.to
+    /*! One step by key or wheel; 0, the default, for none. `fineStepSize` is a tenth of it and `pageStepSize` ten of it, unless
+        they are set. */
     property alias stepSize: steps.stepSize
     property alias fineStepSize: steps.fineStepSize
     property alias pageStepSize: steps.pageStepSize
@@ -15,6 +18,7 @@ RTextField {
     property alias minimumText: steps.minimumText
     property alias snapToStep: steps.snapToStep
     property alias live: steps.live
+    /*! Whether the wheel steps, and with `wheelNeedsFocus` only while the field has the focus; both are true by default. */
     property alias wheelEnabled: steps.wheelEnabled
     property alias wheelNeedsFocus: steps.wheelNeedsFocus
     /*! Drawn behind the number, not part of what is typed; none by default. */

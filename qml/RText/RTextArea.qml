@@ -10,6 +10,7 @@ Shared.RScrollView {
 
     /*! The editor. */
     readonly property alias textArea: area
+    /*! What is typed. */
     property alias text: area.text
     /*! What stands in an empty field. */
     property alias placeholderText: area.placeholderText
@@ -61,6 +62,7 @@ Shared.RScrollView {
     RStyleSet.stateHelper.readOnly: area.readOnly
     RStyleSet.stateHelper.inconsistent: !edit.consistent
 
+    opacity: root.enabled ? 1 : 0.5
     implicitWidth: 288 * RThemeValues.unit
     implicitHeight: 96 * RThemeValues.unit
     hoverEnabled: RThemeValues.hoverEnabled

@@ -47,6 +47,7 @@ RTextFieldBase {
     RStyleSet.stateHelper.readOnly: root.readOnly
     RStyleSet.stateHelper.inconsistent: !edit.consistent
 
+    opacity: root.enabled ? 1 : 0.5
     implicitWidth: 144 * RThemeValues.unit
     implicitHeight: 32 * RThemeValues.unit
     leftPadding: (root.iconKey !== "" ? 32 : 8) * RThemeValues.unit

@@ -36,6 +36,10 @@ TestCase {
     }
 
     readonly property var controls: [
+        "RTextField { consistent: false; confirmed: false; errorText: 'x'; clearable: true; revealable: true; iconKey: 'key'; placeholderText: 'x' }",
+        "RNumberTextField { value: 1; unit: 'dB' }",
+        "RTextArea { consistent: false; confirmed: false; errorText: 'x' }",
+        "RSpinBox { value: 1000; confirmed: false; prefix: 'x'; suffix: 'dB' }",
         "RAGC { gainMeterVisible: true; levelVisible: true }",
         "RANC { ambientMeterVisible: true; freezeGain: true }",
         "RAxis { width: 40; height: 200 }",
