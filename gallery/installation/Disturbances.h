@@ -12,7 +12,7 @@ public:
 
     /// Begins anew with the present rates.
     void restart();
-    /// Another client edits this field now, with a value that the device takes.
+    /// Another client gives this field any value now. One that the device refuses changes nothing.
     void edit(int device, int field);
 
 private:

@@ -16,5 +16,6 @@ void EventQueue::advance(qint64 ms)
         m_now = next.key();
         next.mapped()();
     }
-    m_now = end;
+    // An event may have moved the clock further.
+    m_now = std::max(m_now, end);
 }

@@ -4,12 +4,13 @@
 
 namespace {
 
-QList<FieldSpec> channelFields(const QString &channel, int samplesField)
+/// `first` is the index that the first of them is going to have.
+QList<FieldSpec> channelFields(const QString &channel, int first)
 {
     const auto name = [&](const char *suffix) { return channel + QLatin1String(suffix); };
     return {
         {name("DelaySamples"), ValueKind::Samples, 0.0, 96000.0},
-        {name("DelayMs"), ValueKind::Milliseconds, 0.0, 2000.0, samplesField},
+        {name("DelayMs"), ValueKind::Milliseconds, 0.0, 2000.0, first},
         {name("Name"), ValueKind::Line, 0.0, 24.0},
         {name("Source"), ValueKind::Source, 0.0, 9999.0},
         {name("Gain"), ValueKind::Gain, -80.0, 18.0},

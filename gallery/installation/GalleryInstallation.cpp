@@ -7,7 +7,8 @@
 
 namespace {
 
-constexpr int tick = 15; // ms, while anything is under way
+constexpr int tick = 15;          // ms, while anything is under way
+constexpr int longestTick = 1000; // ms; nothing is made up for after a sleep of the machine
 
 GalleryInstallation *theInstallation = nullptr;
 
@@ -89,7 +90,7 @@ void GalleryInstallation::request(int device, int field, const QVariant &value)
 void GalleryInstallation::timerEvent(QTimerEvent *event)
 {
     if (event->timerId() == m_timer.timerId())
-        advance(int(m_sinceTick.restart()));
+        advance(int(qMin<qint64>(m_sinceTick.restart(), longestTick)));
 }
 
 /// Ticks while anything is under way, and rests otherwise.

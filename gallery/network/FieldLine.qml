@@ -18,16 +18,19 @@ RowLayout {
 
     readonly property bool failed: source.errorText.length > 0
 
+    function repeat(event: var) {
+        event.accepted = root.failed
+        if (root.failed)
+            source.request(source.shown)
+    }
+
     spacing: theme.dp(12)
     Keys.onEscapePressed: event => {
         event.accepted = root.failed
         source.dismiss()
     }
-    Keys.onReturnPressed: event => {
-        event.accepted = root.failed
-        if (root.failed)
-            source.request(source.shown)
-    }
+    Keys.onReturnPressed: event => root.repeat(event)
+    Keys.onEnterPressed: event => root.repeat(event)
 
     AmplifierField {
         id: source
@@ -52,7 +55,7 @@ RowLayout {
         RText {
             Layout.fillWidth: true
             visible: text.length > 0
-            text: source.errorText || (source.confirmed ? "" : qsTr("waits for the answer"))
+            text: source.errorText || (!source.confirmed ? qsTr("waits for the answer") : root.amplifier.online ? "" : qsTr("offline, as it was"))
             elide: Text.ElideRight
             font.pixelSize: theme.fontSizeS
             font.bold: root.failed

@@ -79,6 +79,9 @@ private Q_SLOTS:
         queue.advance(5);
         QCOMPARE(seen.last(), QStringLiteral("late 30"));
         QVERIFY(queue.isEmpty());
+        queue.after(1, [&] { queue.advance(100); });
+        queue.advance(2);
+        QCOMPARE(queue.now(), 131);
     }
 
     void devicesBeginConsistent()
