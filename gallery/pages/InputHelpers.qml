@@ -4,7 +4,7 @@ import TambleClient.Control 1.0
 import "../helpers"
 
 GalleryPage {
-    description: qsTr("What stands behind fields and lists: validators, converters, sorting and searching.")
+    description: qsTr("What stands behind fields and lists: validators, converters, sorting, searching, the pointer.")
 
     TileGrid {
         Section {
@@ -30,6 +30,12 @@ GalleryPage {
             note: qsTr("Type a value and press Enter. Blanks, units and either decimal separator are read.")
 
             Converters {}
+        }
+        Section {
+            title: "RMouseDetection, RMouseCursor, RMouseEventSpy"
+            note: qsTr("The spy sees every press in the window and takes none.")
+
+            PointerSample {}
         }
     }
 }
