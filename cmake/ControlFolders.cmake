@@ -21,6 +21,7 @@ set(TAMBLE_CONTROL_FOLDERS
     fader
     meter
     controls
+    menus
     fields
     pointer
     screen

@@ -17,6 +17,7 @@
 #include "controls/RButtonBase.h"
 #include "controls/RControlBackground.h"
 #include "controls/RLabelBase.h"
+#include "controls/RTabButtonBase.h"
 #include "controls/RTintedImage.h"
 #include "controls/RUnderlay.h"
 #include "dynamics/AGCCalculator.h"
@@ -41,6 +42,7 @@
 #include "fields/RTextFieldPinValidator.h"
 #include "fields/RTextInputBase.h"
 #include "handles/RHandleBase.h"
+#include "menus/RMenuBase.h"
 #include "meter/RMeterBar.h"
 #include "meter/RMeterBase.h"
 #include "models/RSortFilterProxyModel.h"
@@ -322,8 +324,10 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RControlBackground>("RControlBackground");
     registrar.creatable<RFaderBase>("RFaderBase");
     registrar.creatable<RHandleBase>("RHandleBase");
+    registrar.creatable<RMenuBase>("RMenuBase");
     registrar.creatable<RMeterBar>("RMeterBar");
     registrar.creatable<RLabelBase>("RLabelBase");
+    registrar.creatable<RTabButtonBase>("RTabButtonBase");
     registrar.creatable<RTextFieldBase>("RTextFieldBase");
     registrar.creatable<RTextInputBase>("RTextInputBase");
     registrar.creatable<RTextAreaBase>("RTextAreaBase");
@@ -334,6 +338,8 @@ void registerInternals(const Registrar &registrar)
     registrar.withLaterProperties<QQuickItem>();
     registrar.withLaterProperties<QQuickControl>();
     registrar.withLaterProperties<QQuickAbstractButton>();
+    registrar.withLaterProperties<QQuickPopup>();
+    registrar.withLaterProperties<QQuickMenu>();
     registrar.withLaterProperties<QQuickText>();
     registrar.withLaterProperties<QQuickLabel>();
     registrar.withLaterProperties<QQuickTextInput>();
@@ -367,6 +373,10 @@ void registerParts()
     name(Part::SpinButtons, "RSpinBox/RSpinButtons.qml");
     name(Part::SpinAffixes, "RSpinBox/RSpinAffixes.qml");
     name(Part::SpinInvalidLook, "RSpinBox/RSpinInvalidLook.qml");
+    name(Part::MenuRow, "RMenu/RMenuRow.qml");
+    name(Part::MenuLine, "RMenu/RMenuLine.qml");
+    name(Part::SubMenu, "RMenu/RMenu.qml");
+    name(Part::FieldMenu, "Shared/RFieldMenu.qml");
 }
 
 } // namespace

@@ -38,10 +38,16 @@ set(registered
     RLimiter/RDragHandler.qml
     RLimiter/RLimiter.qml
     RLimiter/RPlotGrid.qml
+    RMenu/RMenu.qml
     RMeter/RMeter.qml
+    RPopupMenu/RPopupMenu.qml
     RStyleDebugMouseArea/RStyleDebugMouseArea.qml
     RStyleEngineSetup/RStyleEngineSetup.qml
     RSpinBox/RSpinBox.qml
+    RTabButton/RTabButton.qml
+    RTabButton/RTabButtonIcon.qml
+    RTabButton/RTabButtonIconLabelH.qml
+    RTabButton/RTabButtonIconLabelV.qml
     RText/RNumberTextField.qml
     RText/RText.qml
     RText/RTextArea.qml
@@ -72,11 +78,17 @@ set(unregistered
     RLimiter/RGainMeter.qml
     RLimiter/RLevelHandle.qml
     RLimiter/RParameterHandle.qml
+    RMenu/RMenuLine.qml
+    RMenu/RMenuRow.qml
+    RTabButton/RStyledTab.qml
+    RTabButton/RTabMarks.qml
+    RTabButton/RTabText.qml
     Shared/RControlLine.qml
     Shared/RDynamicsPlot.qml
     Shared/RFieldBubble.qml
     Shared/RFieldFrame.qml
     Shared/RFieldMarks.qml
+    Shared/RFieldMenu.qml
     Shared/RHandleBubble.qml
     Shared/RPlotHandle.qml
     Shared/RPopupFrame.qml

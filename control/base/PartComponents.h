@@ -27,8 +27,12 @@ enum class Part {
     SpinButtons,
     SpinAffixes,     ///< What stands before and after the number of a spin box.
     SpinInvalidLook, ///< The colours of an unacceptable number.
+    MenuRow,         ///< What an entry of a menu looks like.
+    MenuLine,        ///< Likewise a separator.
+    SubMenu,
+    FieldMenu, ///< The context menu of text fields.
 };
-constexpr std::size_t partCount = 13;
+constexpr std::size_t partCount = 17;
 
 /// Names the QML file of a part, for all engines.
 void setPartSource(Part part, const QUrl &file);

@@ -304,7 +304,7 @@ bool RButtonBase::pressBySpeech()
 void RButtonBase::announceState()
 {
     QAccessible::State changed;
-    changed.checkable = changed.checked = changed.checkStateMixed = changed.pressed = true;
+    changed.checkable = changed.checked = changed.checkStateMixed = changed.pressed = changed.selected = true;
     announceStates(*this, changed);
 }
 

@@ -24,10 +24,17 @@ public:
     void setText(const QString &text) override { m_editor.setText(text); }
     int caret() const override { return m_editor.cursorPosition(); }
     void remove(int begin, int end) override { m_editor.remove(begin, end); }
-    bool hasSelection() const override { return m_editor.selectionStart() != m_editor.selectionEnd(); }
+    void insert(int position, const QString &text) override { m_editor.insert(position, text); }
+    int selectionStart() const override { return m_editor.selectionStart(); }
+    int selectionEnd() const override { return m_editor.selectionEnd(); }
     void selectAll() override { m_editor.selectAll(); }
     bool isReadOnly() const override { return m_editor.isReadOnly(); }
     bool hasManyLines() const override { return std::is_same_v<Editor, QQuickTextEdit>; }
+
+    int positionAt(const QPointF &point) const override
+    {
+        return m_editor.inputMethodQuery(Qt::ImCursorPosition, point).toInt();
+    }
 
     QValidator *validator() const override
     {

@@ -22,8 +22,14 @@ public:
     virtual QString text() const = 0;
     virtual void setText(const QString &text) = 0;
     virtual int caret() const = 0;
+    /// Where a press at a point of the item puts the caret.
+    virtual int positionAt(const QPointF &point) const = 0;
     virtual void remove(int begin, int end) = 0;
-    virtual bool hasSelection() const = 0;
+    virtual void insert(int position, const QString &text) = 0;
+    /// The selection; both are the caret where there is none.
+    virtual int selectionStart() const = 0;
+    virtual int selectionEnd() const = 0;
+    bool hasSelection() const { return selectionStart() != selectionEnd(); }
     virtual void selectAll() = 0;
     virtual bool isReadOnly() const = 0;
     /// Null for none.

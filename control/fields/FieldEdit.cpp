@@ -5,7 +5,7 @@
 #include "fields/FieldReason.h"
 #include "fields/FieldRules.h"
 
-#include <QtGui/QKeyEvent>
+#include <QtCore/QRegularExpression>
 #include <QtGui/QValidator>
 
 #include <utility>
@@ -35,6 +35,7 @@ void FieldEdit::setEditor(QQuickItem *editor)
     m_editor = EditedText::of(editor);
     if (m_editor) {
         editor->installEventFilter(this);
+        editor->setFlag(QQuickItem::ItemAcceptsDrops);
         m_editor->onTextChanged(*this, [this] { onTextChanged(); });
         m_editor->onValidatorChanged(*this, [this] { onValidatorChanged(); });
         connect(editor, &QObject::destroyed, this, [this] { m_editor.reset(); });
@@ -214,6 +215,23 @@ void FieldEdit::notice(const QString &text)
 {
     m_noticeText = text;
     updateBubble();
+}
+
+void FieldEdit::paste(const QString &text, int begin, int end)
+{
+    static const QRegularExpression lineBreak(QStringLiteral("\\r\\n|[\\r\\n]"));
+    QString pasted = text;
+    if (!m_editor->hasManyLines())
+        pasted.replace(lineBreak, QStringLiteral(" "));
+    QString wanted = m_editor->text().replace(begin, end - begin, pasted);
+    int caret = begin;
+    const QValidator *validator = m_editor->validator();
+    if (validator && validator->validate(wanted, caret) == QValidator::Invalid) {
+        noticeRefusal(wanted);
+        return;
+    }
+    m_editor->remove(begin, end);
+    m_editor->insert(begin, pasted);
 }
 
 void FieldEdit::noticeRefusal(const QString &wanted)

@@ -124,6 +124,9 @@ public:
     void show(const QVariant &value, bool tells = true);
     /// Ends such an edit; `tells` it first where it was not told before.
     void commit(bool tells = false);
+    /// Puts a text in place of a part of what is typed, as a paste does: line breaks become blanks where there is one
+    /// line only, and what the validator does not take is refused as a whole.
+    void paste(const QString &text, int begin, int end);
     /// Tells whoever types something in the bubble, until the next key.
     void notice(const QString &text);
     /// Tells why `wanted` could not be typed or pasted.

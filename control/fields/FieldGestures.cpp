@@ -3,6 +3,7 @@
 #include "fields/EditedText.h"
 #include "fields/FieldEdit.h"
 
+#include <QtCore/QMimeData>
 #include <QtCore/QPointer>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
@@ -59,6 +60,10 @@ bool FieldGestures::handle(EditedText &text, QEvent &event)
     }
     case QEvent::KeyPress:
         return onKey(text, static_cast<QKeyEvent &>(event));
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        return onDrag(text, static_cast<QDropEvent &>(event));
     case QEvent::FocusIn:
         if (!text.hasManyLines() && comesByKey(static_cast<QFocusEvent &>(event).reason()))
             text.selectAll();
@@ -98,15 +103,33 @@ bool FieldGestures::onKey(EditedText &text, QKeyEvent &key)
 
 bool FieldGestures::onTypingKey(EditedText &text, QKeyEvent &key)
 {
+    if (key.matches(QKeySequence::Paste)) {
+        m_edit.paste(QGuiApplication::clipboard()->text(), text.selectionStart(), text.selectionEnd());
+        return true;
+    }
     const QPointer<FieldEdit> guard(&m_edit);
     const QString before = text.text();
-    const QString typed = key.matches(QKeySequence::Paste) ? QGuiApplication::clipboard()->text() : key.text();
-    const QString wanted = text.hasSelection() ? typed : QString(before).insert(text.caret(), typed);
+    const QString wanted = text.hasSelection() ? key.text() : QString(before).insert(text.caret(), key.text());
     QObject &editor = text.item();
     editor.event(&key);
     // Its validator has kept it out, without a word.
     if (guard && key.isAccepted() && text.text() == before && before != wanted)
         m_edit.noticeRefusal(wanted);
+    return true;
+}
+
+bool FieldGestures::onDrag(EditedText &text, QDropEvent &drag)
+{
+    if (text.isReadOnly() || !drag.mimeData()->hasText()) {
+        drag.ignore();
+        return true;
+    }
+    drag.acceptProposedAction();
+    if (drag.type() == QEvent::Drop) {
+        const int position = text.positionAt(drag.position());
+        text.item().forceActiveFocus(Qt::MouseFocusReason);
+        m_edit.paste(drag.mimeData()->text(), position, position);
+    }
     return true;
 }
 

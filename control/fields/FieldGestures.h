@@ -2,6 +2,7 @@
 
 #include <QtCore/Qt>
 
+class QDropEvent;
 class QEvent;
 class QKeyEvent;
 
@@ -22,6 +23,7 @@ public:
 private:
     bool onKey(EditedText &text, QKeyEvent &key);
     bool onTypingKey(EditedText &text, QKeyEvent &key);
+    bool onDrag(EditedText &text, QDropEvent &drag);
     void onFocusLost(Qt::FocusReason reason);
 
     FieldEdit &m_edit;

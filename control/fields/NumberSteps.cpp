@@ -64,7 +64,7 @@ void NumberSteps::watch()
 template <typename Value>
 void NumberSteps::set(Value &member, Value value)
 {
-    if (member == value || (member != member && value != value)) // NaN is no change of NaN
+    if (member == value)
         return;
     member = value;
     onRuleChanged();

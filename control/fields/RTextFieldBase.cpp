@@ -2,6 +2,9 @@
 
 #include "fields/FieldParts.h"
 
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+
 #include <utility>
 
 namespace tamble::client {
@@ -63,6 +66,12 @@ void RTextFieldBase::reveal(bool shown)
     if (shown)
         m_hidingEcho = echoMode();
     setEchoMode(shown ? Normal : m_hidingEcho);
+}
+
+void RTextFieldBase::paste()
+{
+    if (m_edit && !isReadOnly())
+        m_edit->paste(QGuiApplication::clipboard()->text(), selectionStart(), selectionEnd());
 }
 
 void RTextFieldBase::clearByUser()

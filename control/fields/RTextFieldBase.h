@@ -40,6 +40,8 @@ public:
 
     /// Shows the text, or hides it again as the page's `echoMode` did.
     Q_INVOKABLE void reveal(bool shown);
+    /// Pastes from the clipboard, in place of the selection.
+    Q_INVOKABLE void paste();
     /// Takes the whole text away, as typing does.
     Q_INVOKABLE void clearByUser();
 

@@ -8,10 +8,13 @@ Section {
     id: root
 
     required property Component sample
+    /*! Class words, and the states with their titles. */
+    property var classes: ButtonLooks.classes
+    property var looks: ButtonLooks.looks
 
     readonly property real labelWidth: theme.dp(120)
     readonly property real gap: theme.dp(8)
-    readonly property real cellWidth: Math.floor((root.contentWidth - root.labelWidth) / ButtonLooks.classes.length - root.gap)
+    readonly property real cellWidth: Math.floor((root.contentWidth - root.labelWidth) / root.classes.length - root.gap)
 
     Column {
         spacing: root.gap
@@ -22,7 +25,7 @@ Section {
 
             // qmllint disable unqualified
             Repeater {
-                model: ButtonLooks.classes
+                model: root.classes
 
                 RText {
                     required property string modelData
@@ -37,7 +40,7 @@ Section {
         }
         // qmllint disable unqualified
         Repeater {
-            model: ButtonLooks.looks
+            model: root.looks
 
             Row {
                 id: look
@@ -53,7 +56,7 @@ Section {
                     elide: Text.ElideRight
                 }
                 Repeater {
-                    model: ButtonLooks.classes
+                    model: root.classes
 
                     ButtonSample {
                         required property string modelData

@@ -7,6 +7,9 @@ Rectangle {
 
     RStyleSet.typeName: "RMenu"
 
+    /*! Whether the border shows. */
+    property bool borderVisible: true
+
     property color ssBackground: root.RStyleSet.props.background
     property color ssForegroundItem: root.RStyleSet.props.foregroundItem
 
@@ -23,7 +26,7 @@ Rectangle {
         anchors.fill: parent
         z: 1
         color: "transparent"
-        border.width: RThemeValues.unit
+        border.width: root.borderVisible ? RThemeValues.unit : 0
         border.color: edge.ssPopupBorderColor
     }
 }

@@ -193,8 +193,8 @@ private Q_SLOTS:
             QVERIFY2(page, qPrintable(component->errorString()));
             QVERIFY(readEverything(m_engine, page->property("object").value<QObject *>()) > 2);
         });
-        for (const char *name : {"RButtonBase", "RControlBackground", "RFaderBase", "RMeterBar", "RLabelBase",
-                                 "RTintedImage", "RUnderlay"})
+        for (const char *name : {"RButtonBase", "RControlBackground", "RFaderBase", "RMeterBar", "RMenuBase",
+                                 "RLabelBase", "RTabButtonBase", "RTintedImage", "RUnderlay"})
             row(name, QString::fromLatin1(name) + QStringLiteral(" {}"));
         for (const char *name : {"RMouseEventSpy", "RPlotRules", "RTransferTable", "RThemeValues"})
             row(name, QString::fromLatin1(name));

@@ -24,6 +24,7 @@ QString statesOf(const QAccessibleInterface &seen)
     add(state.checkable, "checkable");
     add(state.checked, "checked");
     add(state.checkStateMixed, "mixed");
+    add(state.selectable && state.selected, "chosen");
     add(state.disabled, "disabled");
     add(state.pressed, "pressed");
     return names.join(u' ');
@@ -73,6 +74,8 @@ private Q_SLOTS:
             "focusable checkable checked", "");
         row("named by a label", "RButtonSwitch { id: power; RLabel { text: '&Power'; buddy: power } }", "Power",
             "focusable", "");
+        row("tab", "RTabButton { text: 'Inputs'; selected: true; modified: true; badge: '3' }", "Inputs",
+            "focusable checkable checked chosen", "modified, 3");
         row("asking", "RInconsistentButton { text: 'Mute'; consistent: false }", "Mute", "focusable mixed", "mixed");
         row("asking switch", "RInconsistentButtonSwitch { label: 'Power'; consistent: false }", "Power",
             "focusable mixed", "mixed");
@@ -87,7 +90,7 @@ private Q_SLOTS:
             QVERIFY(button);
             QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(button.get());
             QVERIFY(seen);
-            QCOMPARE(seen->role(), QAccessible::Button);
+            QCOMPARE(seen->role(), seen->state().selectable ? QAccessible::PageTab : QAccessible::Button);
             QCOMPARE(seen->text(QAccessible::Name), name);
             QCOMPARE(statesOf(*seen), states);
             QCOMPARE(seen->text(QAccessible::Description), description);

@@ -73,8 +73,18 @@ TestCase {
         "RLabel { text: 'A caption that is too long'; width: 40 }",
         "RLimiter { limiterBypassed: true }",
         "RLimiter { levelVisible: true }",
+        "RButton { RMenu { visible: true; currentIndexSelected: 0; model: [{ text: 'Mute', checked: true }, { separator: true }, { text: 'More', items: ['Solo'] }] } }",
+        "RButton { RPopupMenu { visible: true; model: Array(50).fill('Mute') } }",
+        "RButton { RMenu { visible: true; currentIndexSelected: 0; model: [{ text: 'Mute', checked: true }, { separator: true }, { text: 'More', items: ['Solo'] }] } }",
+        "RButton { RPopupMenu { visible: true; model: Array(50).fill('Mute') } }",
         "RMeter { faderIndicatorActive: true; clipIndicatorSupported: true }",
         "RMeter { split: true }",
+        "RTabButton { text: 'Mute'; closable: true; modified: true; badge: '3' }",
+        "RTabButton { text: 'Mute'; selected: true }",
+        "RTabButton { text: 'Mute'; RStyleSet.name: 'filled'; consistent: false }",
+        "RTabButtonIcon { label: 'Mute'; iconKey: 'mute'; modified: true }",
+        "RTabButtonIconLabelH { text: 'Mute'; iconKey: 'mute' }",
+        "RTabButtonIconLabelV { text: 'Mute'; iconKey: 'mute' }",
         "RText { text: 'Mute' }",
     ]
 

@@ -216,4 +216,21 @@ ThemedTestCase {
         mouseClick(findChild(page.field, "clear"))
         compare([page.field.text, page.field.edited, page.device], ["", true, "Hall"], "waits for Enter")
     }
+
+    function test_paste_data() {
+        return [
+            { tag: "line breaks", copied: "a\nb", text: "a ball" },
+            { tag: "what the validator does not take", body: "validator: RTextFieldIpAddressValidator {}", copied: "x", text: "Hall", bubble: "Enter an address such as 192.168.1.10" },
+        ]
+    }
+    function test_paste(data) {
+        const page = makePage(data.body ?? "")
+        const editor = make("TextEdit {}")
+        editor.text = data.copied
+        editor.selectAll()
+        editor.copy()
+        page.field.select(0, 1)
+        page.field.paste()
+        compare([page.field.text, page.field.edit.bubbleText], [data.text, data.bubble ?? ""])
+    }
 }
