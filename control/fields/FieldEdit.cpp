@@ -36,6 +36,7 @@ void FieldEdit::setEditor(QQuickItem *editor)
     if (m_editor) {
         editor->installEventFilter(this);
         editor->setFlag(QQuickItem::ItemAcceptsDrops);
+        editor->setAcceptedMouseButtons(editor->acceptedMouseButtons() | Qt::RightButton);
         m_editor->onTextChanged(*this, [this] { onTextChanged(); });
         m_editor->onValidatorChanged(*this, [this] { onValidatorChanged(); });
         connect(editor, &QObject::destroyed, this, [this] { m_editor.reset(); });

@@ -30,7 +30,7 @@ class PendingValue;
 /// Without a `value` the text itself counts, as in a plain field.
 ///
 /// Keys: Enter enters the text (Ctrl+Enter where there are lines), and goes on to the dialog when nothing was typed.
-/// Esc takes back what was typed.
+/// Esc takes back what was typed. The Menu key and Shift+F10 open the context menu, as the right mouse button does.
 class TAMBLE_CLIENT_CONTROL_EXPORT FieldEdit : public QObject, public QQmlParserStatus
 {
     Q_OBJECT

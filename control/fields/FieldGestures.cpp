@@ -2,6 +2,7 @@
 
 #include "fields/EditedText.h"
 #include "fields/FieldEdit.h"
+#include "fields/FieldMenu.h"
 
 #include <QtCore/QMimeData>
 #include <QtCore/QPointer>
@@ -72,6 +73,11 @@ bool FieldGestures::handle(EditedText &text, QEvent &event)
         onFocusLost(static_cast<QFocusEvent &>(event).reason());
         return false;
     case QEvent::MouseButtonPress:
+        if (const auto &press = static_cast<QMouseEvent &>(event); press.button() == Qt::RightButton) {
+            text.item().forceActiveFocus(Qt::MouseFocusReason);
+            openFieldMenu(&text.item(), press.position());
+            return true;
+        }
         m_focusedByPress = !text.item().hasActiveFocus();
         return false;
     case QEvent::MouseButtonRelease:
@@ -86,6 +92,10 @@ bool FieldGestures::handle(EditedText &text, QEvent &event)
 
 bool FieldGestures::onKey(EditedText &text, QKeyEvent &key)
 {
+    if (key.key() == Qt::Key_Menu || (key.key() == Qt::Key_F10 && (key.modifiers() & Qt::ShiftModifier))) {
+        openFieldMenu(&text.item());
+        return true;
+    }
     const bool isEntered = enters(text, key);
     if (!isEntered && key.key() != Qt::Key_Escape)
         return types(key) && !text.isReadOnly() && onTypingKey(text, key);

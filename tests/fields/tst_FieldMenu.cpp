@@ -84,8 +84,9 @@ private Q_SLOTS:
         const auto row = rowsOf([this](const QString &text, const QString &clipboard) {
             for (const QString &type : {QStringLiteral("TextInput"), QStringLiteral("TextEdit")}) {
                 QGuiApplication::clipboard()->setText(QStringLiteral("pasted"));
-                const auto editor =
-                    m_page.make(type + QStringLiteral(" { text: 'abcdef'; Component.onCompleted: { insert(6, 'g'); select(1, 3) } }"));
+                const auto editor = m_page.make(
+                    type +
+                    QStringLiteral(" { text: 'abcdef'; Component.onCompleted: { insert(6, 'g'); select(1, 3) } }"));
                 editor->forceActiveFocus();
                 openFieldMenu(editor.get(), QPointF(5, 5));
                 const QPointer<RMenuBase> menu = editor->findChild<RMenuBase *>();
@@ -108,7 +109,8 @@ private Q_SLOTS:
 
     void deletingIsAnEdit()
     {
-        const auto editor = m_page.make(QStringLiteral("TextInput { text: 'abc'; Component.onCompleted: selectAll() }"));
+        const auto editor =
+            m_page.make(QStringLiteral("TextInput { text: 'abc'; Component.onCompleted: selectAll() }"));
         editor->forceActiveFocus();
         QSignalSpy edits(editor.get(), SIGNAL(textEdited()));
         openFieldMenu(editor.get());

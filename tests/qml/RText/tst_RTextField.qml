@@ -233,4 +233,22 @@ ThemedTestCase {
         page.field.paste()
         compare([page.field.text, page.field.edit.bubbleText], [data.text, data.bubble ?? ""])
     }
+
+    function test_contextMenu_data() {
+        return [
+            { tag: "right button", open: field => mouseClick(field, 10, 10, Qt.RightButton) },
+            { tag: "Menu key", open: () => keyClick(Qt.Key_Menu) },
+            { tag: "Shift+F10", open: () => keyClick(Qt.Key_F10, Qt.ShiftModifier) },
+        ]
+    }
+    function test_contextMenu(data) {
+        const page = makePage("")
+        type("Bar")
+        data.open(page.field)
+        tryVerify(() => !page.field.activeFocus, 2000, "the menu has the focus")
+        compare([page.field.edited, page.device], [true, "Hall"], "nothing is entered for it")
+        keyClick(Qt.Key_Escape)
+        tryVerify(() => page.field.activeFocus)
+        compare(page.field.text, "Bar")
+    }
 }
