@@ -1,5 +1,4 @@
 import QtQuick
-import Gallery
 import TambleClient.Control 1.0
 
 /*! An area with a cursor of its own, and what the helpers know of the pointer. */
@@ -9,10 +8,12 @@ Column {
     width: parent?.width ?? 0
     spacing: theme.dp(8)
 
-    Surface {
-        RStyleSet.typeName: "RTextField"
+    Rectangle {
         width: parent.width
         height: theme.dp(96)
+        color: "transparent"
+        border.width: theme.dp(1)
+        border.color: said.color
 
         RMouseCursor {
             shape: Qt.CrossCursor
@@ -22,6 +23,7 @@ Column {
             anchors.fill: parent
         }
         RText {
+            id: said
             anchors.centerIn: parent
             text: !detection.containsMouse ? qsTr("The pointer is elsewhere") : detection.pressedInside ? qsTr("Pressed at %1, %2").arg(Math.round(detection.mouseX)).arg(Math.round(detection.mouseY)) : qsTr("The pointer is at %1, %2").arg(Math.round(detection.mouseX)).arg(Math.round(detection.mouseY))
         }
