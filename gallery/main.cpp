@@ -1,4 +1,5 @@
 #include "GalleryAudio.h"
+#include "GalleryInstallation.h"
 #include "GalleryOptions.h"
 #include "PageList.h"
 #include "Screenshots.h"
@@ -54,6 +55,8 @@ int main(int argc, char **argv)
 
     GalleryAudio audio(nullptr);
     audio.setStepped(!options.screenshotDir.isEmpty());
+    GalleryInstallation installation(1, nullptr);
+    installation.setStepped(!options.screenshotDir.isEmpty());
     if (!options.audioFile.isEmpty() && !audio.open(options.audioFile))
         return fail(audio.errorText(), EXIT_FAILURE);
 

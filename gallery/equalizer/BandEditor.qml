@@ -2,7 +2,7 @@ import QtQuick
 import TambleClient.Control 1.0
 import "BandRules.js" as Rules
 
-/*! The values of the selected filter with buttons to step them. */
+/*! The values of the selected filter to type, to step and to choose. */
 Flow {
     id: root
 
@@ -16,9 +16,8 @@ Flow {
     Column {
         spacing: theme.dp(4)
 
-        RText {
+        RLabel {
             text: qsTr("Filter %1").arg(root.band.label)
-            font.pixelSize: theme.fontSizeS
         }
         RButton {
             RStyleSet.name: root.band.bypass ? "red" : ""
@@ -32,20 +31,16 @@ Flow {
     }
     // qmllint disable unqualified
     Repeater {
-        // Their number, so that the buttons stay under the pointer while the values change.
+        // Their number, so that the fields stay under the pointer while the values change.
         model: root.parameters.length
 
-        ValueStepper {
+        BandValue {
             required property int index
             readonly property var entry: root.parameters[index] ?? root.parameters[0]
 
-            width: theme.dp(key === "type" ? 200 : 116)
             key: entry.key
             name: entry.name
-            band: root.band
-            onStepped: value => root.store.edit(root.store.selected, key, {
-                [key]: value
-            })
+            store: root.store
         }
     }
     // qmllint enable unqualified

@@ -102,21 +102,26 @@ function text(band, key) {
     return key.startsWith("quality") ? Number(band[key]).toFixed(2) : ""
 }
 
-function limited(value, least, most) {
-    return Math.max(least, Math.min(most, value))
+/*! Range, unit and decimals of a number. */
+function limits(key) {
+    if (key.startsWith("freq"))
+        return { from: 20, to: 20000, decimals: 1, shownDecimals: 0, unit: qsTr("Hz"), signed: false, kilo: true }
+    if (key === "gain")
+        return { from: -18, to: 12, decimals: 1, shownDecimals: 1, unit: qsTr("dB"), signed: true, kilo: false }
+    return { from: 0.4, to: 40, decimals: 2, shownDecimals: 2, unit: "", signed: false, kilo: false }
 }
 
-/*! The value of `key` a step up (`direction` 1) or down (-1): a twelfth of an octave, half a dB, a sixth of an octave of
-    the width, or the next word. */
-function stepped(band, key, direction) {
+/*! One step from a number: half a dB, and a round number near a twelfth of an octave of a frequency or a sixth of the
+    width. */
+function stepSize(key, number) {
+    if (key === "gain" || !(number > 0))
+        return 0.5
+    return Number((number / (key.startsWith("freq") ? 17 : 8)).toPrecision(1))
+}
+
+/*! The word a step further (`direction` 1) or back (-1) than that of the filter. */
+function steppedWord(band, key, direction) {
     const words = choices(band, key)
-    if (words.length > 0) {
-        const place = words.findIndex(choice => choice.value === band[key])
-        return words[limited(place + direction, 0, words.length - 1)].value
-    }
-    if (key.startsWith("freq"))
-        return limited(Number((band[key] * Math.pow(2, direction / 12)).toPrecision(3)), 20, 20000)
-    if (key === "gain")
-        return limited(Math.round(2 * band.gain + direction) / 2, -18, 12)
-    return limited(Number((band[key] * Math.pow(2, direction / 6)).toFixed(2)), 0.4, 40)
+    const place = words.findIndex(choice => choice.value === band[key]) + direction
+    return words[Math.max(0, Math.min(words.length - 1, place))].value
 }

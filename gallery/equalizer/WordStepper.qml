@@ -2,7 +2,7 @@ import QtQuick
 import TambleClient.Control 1.0
 import "BandRules.js" as Rules
 
-/*! A value of a filter between the buttons that step it. */
+/*! A word of a filter between the buttons that lead to the next ones. */
 Column {
     id: root
 
@@ -15,11 +15,11 @@ Column {
     signal stepped(real value)
 
     function step(direction: int) {
-        root.stepped(Rules.stepped(root.band, root.key, direction))
+        root.stepped(Rules.steppedWord(root.band, root.key, direction))
     }
 
     function canStep(direction: int): bool {
-        return Rules.has(root.band, root.key) && Rules.stepped(root.band, root.key, direction) !== root.band[root.key]
+        return Rules.has(root.band, root.key) && Rules.steppedWord(root.band, root.key, direction) !== root.band[root.key]
     }
 
     spacing: theme.dp(4)
@@ -27,11 +27,9 @@ Column {
     Accessible.name: root.name
     Accessible.description: root.text
 
-    RText {
+    RLabel {
         width: parent.width
         text: root.name
-        elide: Text.ElideRight
-        font.pixelSize: theme.fontSizeS
         horizontalAlignment: Text.AlignHCenter
     }
     RButtonRow {

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QVariant>
+
+/// A value of a field, by its index.
+struct FieldChange
+{
+    int field;
+    QVariant value;
+
+    bool operator==(const FieldChange &) const = default;
+};
+
+/// The values of one amplifier, by the indices of its fields.
+class AmplifierRecord
+{
+public:
+    /// Every text empty, every number 0.
+    AmplifierRecord();
+
+    const QVariant &read(int field) const { return m_values.at(field); }
+    /// Writes a value of the field's own type and returns what is different now: a delay is held in samples and in ms.
+    QList<FieldChange> write(int field, const QVariant &value);
+    /// Every field with its value.
+    QList<FieldChange> all() const;
+
+    bool operator==(const AmplifierRecord &) const = default;
+
+private:
+    QVariantList m_values;
+};

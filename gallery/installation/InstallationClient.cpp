@@ -1,0 +1,116 @@
+#include "InstallationClient.h"
+
+#include "AmplifierDevices.h"
+
+#include <utility>
+
+InstallationClient::InstallationClient(EventQueue &queue, const AmplifierDevices &devices, SimulatedNetwork &network)
+    : m_queue(queue)
+    , m_network(network)
+{
+    for (int device = 0; device < devices.count(); ++device) {
+        DeviceState known{{}, devices.isOnline(device)};
+        for (const FieldChange &value : devices.record(device).all())
+            known.fields.append({value.value});
+        m_devices.append(known);
+    }
+    network.setReceiver(
+        [this](const NetworkMessage &message) { std::visit([this](const auto &said) { take(said); }, message); });
+}
+
+const QVariant &InstallationClient::shown(int device, int field) const
+{
+    const FieldState &known = state(device, field);
+    return known.asked.isValid() ? known.asked : known.said;
+}
+
+void InstallationClient::request(int device, int field, const QVariant &value)
+{
+    FieldState &known = state(device, field);
+    known.asked = value;
+    known.lastRequest = ++m_lastRequest;
+    if (!isOnline(device)) {
+        known.error = tr("The device is not online");
+    } else {
+        const int number = m_lastRequest;
+        known.error.clear();
+        ++known.openRequests;
+        m_open.insert(number, {device, field});
+        m_network.send(number, device, field, value);
+        m_queue.after(m_network.behaviour().timeout, [=, this] { giveUp(number); });
+    }
+    Q_EMIT fieldChanged(device, field);
+}
+
+void InstallationClient::dismiss(int device, int field)
+{
+    FieldState &known = state(device, field);
+    if (known.error.isEmpty())
+        return;
+    known.error.clear();
+    known.asked.clear();
+    Q_EMIT fieldChanged(device, field);
+}
+
+void InstallationClient::take(const ValuesSaid &message)
+{
+    for (const FieldChange &change : message.values) {
+        if (learn(message, change))
+            Q_EMIT fieldChanged(message.device, change.field);
+    }
+}
+
+void InstallationClient::take(const RequestAnswered &message)
+{
+    // The request is over before what it led to is told, so that the two are seen as one change.
+    if (const auto open = m_open.constFind(message.request); open != m_open.constEnd()) {
+        for (const FieldChange &change : message.said.values)
+            learn(message.said, change);
+        conclude(message.request, *open, message.reason);
+    } else {
+        take(message.said);
+    }
+}
+
+void InstallationClient::take(const PresenceSaid &message)
+{
+    if (std::exchange(m_devices[message.device].isOnline, message.isOnline) != message.isOnline)
+        Q_EMIT onlineChanged(message.device);
+}
+
+/// What is older than what the client knows already tells it nothing.
+bool InstallationClient::learn(const ValuesSaid &message, const FieldChange &change)
+{
+    FieldState &known = state(message.device, change.field);
+    if (message.revision < known.revision)
+        return false;
+    known.revision = message.revision;
+    const bool isDifferent = std::exchange(known.said, change.value) != change.value;
+    // News from the device is worth more than a request that failed.
+    if (isDifferent && !known.error.isEmpty()) {
+        known.error.clear();
+        known.asked.clear();
+    }
+    return isDifferent;
+}
+
+void InstallationClient::giveUp(int request)
+{
+    if (const auto open = m_open.constFind(request); open != m_open.constEnd())
+        conclude(request, *open, tr("The device does not answer"));
+}
+
+void InstallationClient::conclude(int request, const OpenRequest &open, const QString &reason)
+{
+    const auto [device, field] = open;
+    m_open.remove(request);
+    FieldState &known = state(device, field);
+    --known.openRequests;
+    // The answer to an earlier request says nothing about the one that counts.
+    if (request == known.lastRequest) {
+        known.error = reason;
+        if (reason.isEmpty())
+            known.asked.clear();
+    }
+    Q_EMIT fieldChanged(device, field);
+}

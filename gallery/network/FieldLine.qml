@@ -1,0 +1,83 @@
+import QtQuick
+import QtQuick.Layouts
+import Gallery
+import TambleClient.Control 1.0
+
+/*! A line of a form: the caption of a field, the control that edits it, what became of the last request, and what the
+    devices really have. Esc gives up a request that failed, Enter repeats it. */
+RowLayout {
+    id: root
+
+    required property Amplifier amplifier
+    required property string field
+    required property string title
+    /*! The control, bound to `source`. */
+    required property Item editor
+    default property alias content: place.data
+    readonly property alias source: source
+
+    readonly property bool failed: source.errorText.length > 0
+
+    function repeat(event: var) {
+        event.accepted = root.failed
+        if (root.failed)
+            source.request(source.shown)
+    }
+
+    spacing: theme.dp(12)
+    Keys.onEscapePressed: event => {
+        event.accepted = root.failed
+        source.dismiss()
+    }
+    Keys.onReturnPressed: event => root.repeat(event)
+    Keys.onEnterPressed: event => root.repeat(event)
+
+    AmplifierField {
+        id: source
+        amplifier: root.amplifier
+        field: root.field
+    }
+    RLabel {
+        Layout.preferredWidth: theme.dp(76)
+        text: root.title
+        buddy: root.editor
+    }
+    Item {
+        id: place
+        Layout.preferredWidth: theme.dp(168)
+        implicitHeight: root.editor.height
+    }
+    ColumnLayout {
+        Layout.fillWidth: true
+        Layout.preferredWidth: 1
+        spacing: 0
+
+        RText {
+            Layout.fillWidth: true
+            visible: text.length > 0
+            text: source.errorText || (!source.confirmed ? qsTr("waits for the answer") : root.amplifier.online ? "" : qsTr("offline, as it was"))
+            elide: Text.ElideRight
+            font.pixelSize: theme.fontSizeS
+            font.bold: root.failed
+            Accessible.role: Accessible.AlertMessage
+            Accessible.name: text
+        }
+        RText {
+            Layout.fillWidth: true
+            text: qsTr("has %1").arg(source.actualText)
+            elide: Text.ElideRight
+            font.pixelSize: theme.fontSizeS
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+    }
+    // Without the focus, so that it can be clicked while the field is being edited.
+    RButtonIcon {
+        Layout.preferredWidth: theme.dp(28)
+        focusPolicy: Qt.NoFocus
+        label: qsTr("Another client edits %1").arg(root.title)
+        iconItem.key: "user"
+        iconItem.sizeClass: "XS"
+        onClicked: source.editElsewhere()
+    }
+}

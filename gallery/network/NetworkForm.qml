@@ -1,0 +1,77 @@
+import QtQuick
+import QtQuick.Layouts
+import Gallery
+import TambleClient.Control 1.0
+
+/*! Names and network settings of the chosen amplifiers. */
+ColumnLayout {
+    id: root
+
+    required property Amplifier amplifier
+    /*! Whether all of them get their addresses from DHCP. */
+    readonly property bool addressed: dhcp.source.consistent && Boolean(dhcp.source.shown)
+
+    spacing: theme.dp(8)
+
+    TextLine {
+        Layout.fillWidth: true
+        amplifier: root.amplifier
+        field: "name"
+        title: qsTr("&Name")
+        mustBeFilled: true
+        validator: RStringRuleValidator {
+            rule: RStringRuleValidatorRule.RULE_NAME
+            maximumLength: 24
+        }
+    }
+    TextLine {
+        Layout.fillWidth: true
+        amplifier: root.amplifier
+        field: "location"
+        title: qsTr("&Location")
+    }
+    FlagLine {
+        id: dhcp
+        Layout.fillWidth: true
+        amplifier: root.amplifier
+        field: "dhcp"
+        title: qsTr("&DHCP")
+    }
+    TextLine {
+        Layout.fillWidth: true
+        amplifier: root.amplifier
+        field: "ipAddress"
+        title: qsTr("&IP address")
+        readOnly: root.addressed
+        validator: RTextFieldIpAddressValidator {}
+    }
+    TextLine {
+        Layout.fillWidth: true
+        amplifier: root.amplifier
+        field: "subnetMask"
+        title: qsTr("&Subnet mask")
+        readOnly: root.addressed
+        validator: RTextFieldIpAddressValidator {}
+    }
+    TextLine {
+        Layout.fillWidth: true
+        amplifier: root.amplifier
+        field: "gateway"
+        title: qsTr("&Gateway")
+        readOnly: root.addressed
+        validator: RTextFieldIpAddressValidator {}
+    }
+    TextLine {
+        Layout.fillWidth: true
+        amplifier: root.amplifier
+        field: "pin"
+        title: qsTr("&PIN")
+        validator: RTextFieldPinValidator {}
+    }
+    NotesLine {
+        Layout.fillWidth: true
+        amplifier: root.amplifier
+        field: "notes"
+        title: qsTr("N&otes")
+    }
+}

@@ -1,0 +1,56 @@
+import QtQuick
+import Gallery
+import TambleClient.Control 1.0
+import "../fields"
+import "../network"
+
+GalleryPage {
+    description: qsTr("Fields for numbers, against devices that round, clamp, answer late and are edited by others.")
+
+    Amplifier {
+        id: selection
+        devices: chooser.chosen
+    }
+    FieldStates {
+        title: "RSpinBox"
+        note: qsTr("Arrow keys and the wheel step, with Shift finely and with Ctrl coarsely. Steps of a mixed box shift each device.")
+        sample: RSpinBox {
+            from: -80
+            to: 18
+            stepSize: 0.5
+            value: -6
+            suffix: qsTr("dB")
+        }
+    }
+    FieldStates {
+        title: "RNumberTextField"
+        sample: RNumberTextField {
+            value: 12.5
+            unit: qsTr("ms")
+        }
+    }
+    TileGrid {
+        Section {
+            title: qsTr("Channels")
+            note: qsTr("The device rounds a delay to samples, of which 48 are a millisecond.")
+
+            DeviceChooser {
+                id: chooser
+                width: parent.width
+            }
+            ChannelForm {
+                width: parent.width
+                amplifier: selection
+            }
+        }
+        Section {
+            title: qsTr("Network")
+            note: qsTr("Its behaviour may change at any time.")
+
+            NetworkPanel {
+                width: parent.width
+                amplifier: selection
+            }
+        }
+    }
+}

@@ -1,0 +1,266 @@
+#include "AmplifierField.h"
+#include "FieldTable.h"
+#include "GalleryInstallation.h"
+#include "support/TestProgram.h"
+
+#include <QtQml/QQmlEngine>
+#include <QtQuick/QQuickItem>
+#include <QtQuick/QQuickView>
+
+#include <limits>
+
+namespace {
+
+constexpr auto formPage = R"(
+    import QtQuick
+    import Gallery 1.0
+    import TambleClient.Control 1.0
+    import "%1"
+
+    FocusScope {
+        id: page
+
+        property alias devices: selection.devices
+
+        width: 600
+        height: 600
+        focus: true
+
+        RThemeSelector {
+            themeComponent: Component { RTheme {} }
+        }
+        RStyleEngineSetup {
+            engine.defaultStyleSheetSource: "qrc:/style/tamble.dark.style"
+        }
+        Amplifier {
+            id: selection
+            devices: [0]
+        }
+        %2 {
+            width: parent.width
+            amplifier: selection
+        }
+    })";
+
+/// A form of the gallery in a window, and the installation behind it, whose clock stands.
+struct FormWindow
+{
+    explicit FormWindow(const char *form)
+        : installation(1, nullptr)
+    {
+        installation.setStepped(true);
+        NetworkBehaviour orderly;
+        orderly.jitter = 0;
+        installation.setBehaviour(orderly);
+        qmlRegisterType<Amplifier>("Gallery", 1, 0, "Amplifier");
+        qmlRegisterType<AmplifierField>("Gallery", 1, 0, "AmplifierField");
+        view.engine()->addImportPath(QStringLiteral(TAMBLE_QML_DIRECTORY));
+        QQmlComponent component(view.engine());
+        component.setData(QString::fromLatin1(formPage)
+                              .arg(QStringLiteral("file:" TAMBLE_GALLERY_DIRECTORY "/network"), QLatin1String(form))
+                              .toUtf8(),
+                          {});
+        page = qobject_cast<QQuickItem *>(component.create());
+        if (!page) {
+            qWarning() << component.errors();
+            return;
+        }
+        view.setContent({}, nullptr, page);
+        view.show();
+        view.requestActivate();
+    }
+
+    bool isReady() { return page && QTest::qWaitForWindowActive(&view); }
+    QObject *editor() { return view.activeFocusItem(); }
+    QString text() { return editor()->property("text").toString(); }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&view, key, modifiers); }
+    /// Gives the focus to the control of that name.
+    void focus(const QString &label)
+    {
+        for (QQuickItem *item : page->findChildren<QQuickItem *>()) {
+            if (item->property("label") == label && item->property("value").isValid())
+                item->forceActiveFocus(Qt::TabFocusReason);
+        }
+    }
+    QVariant really(int device, QStringView field)
+    {
+        return installation.devices().record(device).read(fieldIndex(field));
+    }
+    QVariant shown(QStringView field) { return installation.client().shown(0, fieldIndex(field)); }
+
+    GalleryInstallation installation;
+    QQuickView view;
+    QQuickItem *page = nullptr;
+};
+
+NetworkBehaviour badNetwork()
+{
+    NetworkBehaviour behaviour;
+    behaviour.latency = 3000;
+    behaviour.jitter = 3000;
+    behaviour.loss = 0.2;
+    behaviour.refusals = 0.2;
+    behaviour.dropOutsPerMinute = 10.0;
+    behaviour.otherEditsPerMinute = 300.0;
+    return behaviour;
+}
+
+} // namespace
+
+class tst_NetworkForm : public QuietTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Every field is reached by Tab and ends as typed, though half of the attempts fail and others edit the same fields
+    // meanwhile; and not a letter of what is being typed changes by it.
+    void filledByKeyboardAtTheWorst()
+    {
+        const struct
+        {
+            QString field;
+            QString text;
+        } entries[]{
+            {QStringLiteral("name"), QStringLiteral("Main hang")},
+            {QStringLiteral("location"), QStringLiteral("Roof")},
+            {QStringLiteral("dhcp"), {}},
+            {QStringLiteral("ipAddress"), QStringLiteral("192.168.10.200")},
+            {QStringLiteral("subnetMask"), QStringLiteral("255.255.0.0")},
+            {QStringLiteral("gateway"), QStringLiteral("192.168.10.2")},
+            {QStringLiteral("pin"), QStringLiteral("8153")},
+            {QStringLiteral("notes"), QStringLiteral("Rack 9")},
+        };
+        FormWindow window("NetworkForm");
+        QVERIFY(window.isReady());
+        window.installation.setBehaviour(badNetwork());
+        int attempts = 0;
+        for (const auto &[field, text] : entries) {
+            window.press(Qt::Key_Tab);
+            if (text.isEmpty())
+                continue;
+            while (window.really(0, field) != text) {
+                QVERIFY2(++attempts < 100, qPrintable(field));
+                if (window.shown(field) == text) {
+                    // It has failed, and Enter repeats it.
+                    window.press(Qt::Key_Return, Qt::ControlModifier);
+                } else {
+                    QTRY_COMPARE(window.text(), window.shown(field).toString());
+                    enterAmidstNews(window, field, text);
+                }
+                window.installation.advance(20'000);
+            }
+        }
+        QVERIFY(attempts > 8);
+    }
+
+    void failureStaysUntilGivenUp()
+    {
+        FormWindow window("NetworkForm");
+        QVERIFY(window.isReady());
+        for (int i = 0; i < 4; ++i)
+            window.press(Qt::Key_Tab);
+        enter(window, QStringLiteral("192.168.10.12"));
+        window.installation.advance(100);
+        QTRY_VERIFY(!window.editor()->property("acceptable").toBool());
+        QCOMPARE(window.text(), QStringLiteral("192.168.10.12"));
+        QCOMPARE(window.editor()->property("invalidText").toString(), QStringLiteral("The address is in use"));
+        window.press(Qt::Key_Escape);
+        QTRY_COMPARE(window.text(), QStringLiteral("192.168.10.11"));
+        QVERIFY(window.editor()->property("acceptable").toBool());
+    }
+
+    void entryGoesToAll()
+    {
+        FormWindow window("NetworkForm");
+        QVERIFY(window.isReady());
+        window.page->setProperty("devices", QVariantList{0, 1, 2});
+        window.press(Qt::Key_Tab);
+        window.press(Qt::Key_Tab);
+        QCOMPARE(window.text(), QString());
+        enter(window, QStringLiteral("Roof"));
+        window.installation.advance(100);
+        for (const int device : {0, 1, 2})
+            QCOMPARE(window.really(device, u"location"), QVariant("Roof"));
+        QTRY_COMPARE(window.text(), QStringLiteral("Roof"));
+    }
+
+    void stepsFromOffAndBack()
+    {
+        FormWindow window("ChannelForm");
+        QVERIFY(window.isReady());
+        window.page->setProperty("devices", QVariantList{2, 7});
+        const int gain = fieldIndex(u"input1Gain");
+        for (const int device : {2, 7})
+            window.installation.request(device, gain, -std::numeric_limits<double>::infinity());
+        window.installation.advance(100);
+        window.focus(QStringLiteral("&Gain"));
+        window.press(Qt::Key_Up);
+        window.installation.advance(100);
+        QCOMPARE(window.really(7, u"input1Gain"), QVariant(-79.5));
+        enter(window, QStringLiteral("-80"));
+        window.installation.advance(100);
+        QCOMPARE(window.really(2, u"input1Gain"), QVariant(-std::numeric_limits<double>::infinity()));
+    }
+
+    void stepsOfMixedDevicesShiftEach()
+    {
+        FormWindow window("ChannelForm");
+        QVERIFY(window.isReady());
+        window.page->setProperty("devices", QVariantList{0, 1});
+        window.installation.request(1, fieldIndex(u"input1Gain"), 6.0);
+        window.installation.advance(100);
+        window.focus(QStringLiteral("&Gain"));
+        window.press(Qt::Key_Up);
+        window.press(Qt::Key_PageDown);
+        window.installation.advance(100);
+        QCOMPARE(window.really(0, u"input1Gain"), QVariant(-2.5));
+        QCOMPARE(window.really(1, u"input1Gain"), QVariant(3.5));
+    }
+
+    void millisecondsBecomeSamples()
+    {
+        FormWindow window("ChannelForm");
+        QVERIFY(window.isReady());
+        window.focus(QStringLiteral("&Delay"));
+        enter(window, QStringLiteral("10,01"));
+        window.installation.advance(100);
+        QCOMPARE(window.really(0, u"input1DelaySamples"), QVariant(480));
+        window.focus(QStringLiteral("&Samples"));
+        window.press(Qt::Key_PageUp);
+        window.installation.advance(100);
+        QCOMPARE(window.really(0, u"input1DelayMs"), QVariant(11.0));
+        // Out of range: nothing is sent.
+        enter(window, QStringLiteral("96001"));
+        window.installation.advance(100);
+        QCOMPARE(window.really(0, u"input1DelaySamples"), QVariant(528));
+        QVERIFY(!window.installation.client().error(0, fieldIndex(u"input1DelaySamples")).size());
+    }
+
+private:
+    static void enter(FormWindow &window, const QString &text)
+    {
+        window.press(Qt::Key_A, Qt::ControlModifier);
+        for (const QChar letter : text)
+            QTest::keyClick(&window.view, letter.toLatin1());
+        // In fields of several lines, too.
+        window.press(Qt::Key_Return, Qt::ControlModifier);
+    }
+
+    static void enterAmidstNews(FormWindow &window, const QString &field, const QString &text)
+    {
+        window.press(Qt::Key_A, Qt::ControlModifier);
+        QString typed;
+        for (const QChar letter : text) {
+            QTest::keyClick(&window.view, letter.toLatin1());
+            typed += letter;
+            window.installation.editElsewhere(0, field);
+            window.installation.advance(700);
+            QCOMPARE(window.text(), typed);
+        }
+        window.press(Qt::Key_Return, Qt::ControlModifier);
+        QVERIFY(!window.editor()->property("edited").toBool());
+    }
+};
+
+template struct TestClass<tst_NetworkForm>;
+#include "tst_NetworkForm.moc"
