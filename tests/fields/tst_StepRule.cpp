@@ -9,8 +9,8 @@ using namespace tamble::client;
 
 namespace {
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double endless = std::numeric_limits<double>::infinity();
+constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
 
 StepRule range(double from, double to, double step = 1.0)
 {
@@ -38,12 +38,12 @@ private Q_SLOTS:
         row("page beyond the bound", range(0, 100), 95, StepSize::Page, 1, 100);
         row("at the bound", range(0, 100), 0, StepSize::Normal, -1, 0);
         row("from above", range(0, 100), 1e9, StepSize::Normal, 1, 100);
-        row("from below", range(0, 100), -infinity, StepSize::Normal, 1, 0);
-        row("from nowhere", range(-80, 10), notANumber, StepSize::Normal, -1, -80);
-        row("from nowhere without bounds", range(-infinity, infinity), notANumber, StepSize::Normal, 1, 0);
+        row("from below", range(0, 100), -endless, StepSize::Normal, 1, 0);
+        row("from nowhere", range(-80, 10), noNumber, StepSize::Normal, -1, -80);
+        row("from nowhere without bounds", range(-endless, endless), noNumber, StepSize::Normal, 1, 0);
         row("continuous", range(0, 200, 0), 50, StepSize::Normal, 1, 52);
         row("negative step", range(0, 100, -3), 5, StepSize::Normal, 1, 8);
-        row("step that is no number", range(0, 200, notANumber), 50, StepSize::Normal, 1, 52);
+        row("step that is no number", range(0, 200, noNumber), 50, StepSize::Normal, 1, 52);
         row("wrong way round", range(100, 0), 5, StepSize::Normal, 1, 5);
         StepRule around = range(0, 11);
         around.wraps = true;
@@ -58,7 +58,7 @@ private Q_SLOTS:
         const auto row = rowsOf(
             [](const StepRule &rule, double value, double expected) { QCOMPARE(rule.snapped(value), expected); });
         row("from the lower bound", range(3, 100, 5), 14, 13);
-        row("without bounds", range(-infinity, infinity, 0.5), 1.3, 1.5);
+        row("without bounds", range(-endless, endless, 0.5), 1.3, 1.5);
         row("within the bound", range(0, 7, 5), 7, 5);
         row("last step is cut", range(0, 9, 5), 9, 9);
     }
