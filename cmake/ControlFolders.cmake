@@ -23,6 +23,7 @@ set(TAMBLE_CONTROL_FOLDERS
     controls
     menus
     fields
+    cells
     pointer
     screen
     models

@@ -14,7 +14,11 @@
 #include "bodeplot/frame/RBodeplot.h"
 #include "bodeplot/frame/RBodeplotAxis.h"
 #include "bodeplot/frame/RBodeplotGrid.h"
+#include "cells/RCellBase.h"
+#include "cells/RCellContainerBase.h"
+#include "cells/RCellGridPropertiesBase.h"
 #include "controls/RButtonBase.h"
+#include "controls/RCheckBoxBase.h"
 #include "controls/RControlBackground.h"
 #include "controls/RLabelBase.h"
 #include "controls/RTabButtonBase.h"
@@ -31,6 +35,9 @@
 #include "fader/RTransferTable.h"
 #include "fields/FieldEdit.h"
 #include "fields/NumberSteps.h"
+#include "fields/RComboBoxBase.h"
+#include "fields/RComboBoxEntryBase.h"
+#include "fields/RComboBoxPopup.h"
 #include "fields/RSpinBoxBase.h"
 #include "fields/RStringRuleValidator.h"
 #include "fields/RStringRuleValidatorRule.h"
@@ -321,6 +328,13 @@ void registerInputHelpers(const Registrar &registrar)
 void registerInternals(const Registrar &registrar)
 {
     registrar.creatable<RButtonBase>("RButtonBase");
+    registrar.creatable<RCheckBoxBase>("RCheckBoxBase");
+    registrar.creatable<RComboBoxBase>("RComboBoxBase");
+    registrar.creatable<RComboBoxEntryBase>("RComboBoxEntryBase");
+    registrar.creatable<RComboBoxPopup>("RComboBoxPopup");
+    registrar.creatable<RCellBase>("RCellBase");
+    registrar.creatable<RCellContainerBase>("RCellContainerBase");
+    registrar.creatable<RCellGridPropertiesBase>("RCellGridPropertiesBase");
     registrar.creatable<RControlBackground>("RControlBackground");
     registrar.creatable<RFaderBase>("RFaderBase");
     registrar.creatable<RHandleBase>("RHandleBase");
@@ -340,6 +354,7 @@ void registerInternals(const Registrar &registrar)
     registrar.withLaterProperties<QQuickAbstractButton>();
     registrar.withLaterProperties<QQuickPopup>();
     registrar.withLaterProperties<QQuickMenu>();
+    registrar.withLaterProperties<QQuickComboBox>();
     registrar.withLaterProperties<QQuickText>();
     registrar.withLaterProperties<QQuickLabel>();
     registrar.withLaterProperties<QQuickTextInput>();
@@ -361,7 +376,12 @@ void registerParts()
         setPartSource(part, QUrl(QStringLiteral("qrc:/qml/") + QLatin1String(file)));
     };
     name(Part::ValueBinding, "Shared/RValueBinding.qml");
+    name(Part::CheckDot, "RCheckBox/RCheckDot.qml");
+    name(Part::CheckIcon, "RCheckBox/RCheckIcon.qml");
+    name(Part::ComboField, "RComboBox/RComboBoxField.qml");
+    name(Part::ComboMarks, "RComboBox/RComboBoxMarks.qml");
     name(Part::ControlLine, "Shared/RControlLine.qml");
+    name(Part::EntryIcon, "RComboBox/RComboBoxIcon.qml");
     name(Part::FocusFrame, "Shared/RFocusRectangle.qml");
     name(Part::LabelLine, "RLabel/RLabelLine.qml");
     name(Part::ToolTip, "Shared/RToolTip.qml");
@@ -373,6 +393,8 @@ void registerParts()
     name(Part::SpinButtons, "RSpinBox/RSpinButtons.qml");
     name(Part::SpinAffixes, "RSpinBox/RSpinAffixes.qml");
     name(Part::SpinInvalidLook, "RSpinBox/RSpinInvalidLook.qml");
+    name(Part::CellSelection, "RCell/RCellSelection.qml");
+    name(Part::CellRefusal, "RCell/RCellRefusal.qml");
     name(Part::MenuRow, "RMenu/RMenuRow.qml");
     name(Part::MenuLine, "RMenu/RMenuLine.qml");
     name(Part::SubMenu, "RMenu/RMenu.qml");

@@ -24,6 +24,19 @@ set(registered
     RButton/RButtonLabelText.qml
     RButton/RButtonRow.qml
     RButton/RButtonSwitch.qml
+    RCheckBox/RCheckBox.qml
+    RComboBox/RComboBox.qml
+    RCell/RCell.qml
+    RCell/RCellButton.qml
+    RCell/RCellContainer.qml
+    RCell/RCellGridProperties.qml
+    RCell/RCellLabel.qml
+    RCell/RCellSpinBox.qml
+    RCell/RCellTabBar.qml
+    RCell/RCellTabButton.qml
+    RCell/RCellText.qml
+    RCell/RCellTextArea.qml
+    RCell/RCellTextField.qml
     RCompressor/RCompressor.qml
     RDucker/RDucker.qml
     RFader/RFader.qml
@@ -64,6 +77,16 @@ set(unregistered
     RApplicationWindow/RBusyDots.qml
     RApplicationWindow/RBusyVeil.qml
     RApplicationWindow/RBusyVeilLoader.qml
+    RCheckBox/RCheckDot.qml
+    RCheckBox/RCheckIcon.qml
+    RComboBox/RComboBoxEntry.qml
+    RComboBox/RComboBoxField.qml
+    RComboBox/RComboBoxIcon.qml
+    RComboBox/RComboBoxList.qml
+    RComboBox/RComboBoxMarks.qml
+    RCell/RCellGround.qml
+    RCell/RCellRefusal.qml
+    RCell/RCellSelection.qml
     RFader/RFaderHandle.qml
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml
@@ -83,6 +106,7 @@ set(unregistered
     RTabButton/RStyledTab.qml
     RTabButton/RTabMarks.qml
     RTabButton/RTabText.qml
+    Shared/RConfirmDot.qml
     Shared/RControlLine.qml
     Shared/RDynamicsPlot.qml
     Shared/RFieldBubble.qml
@@ -90,6 +114,7 @@ set(unregistered
     Shared/RFieldMarks.qml
     Shared/RFieldMenu.qml
     Shared/RHandleBubble.qml
+    Shared/RMixedFlag.qml
     Shared/RPlotHandle.qml
     Shared/RPopupFrame.qml
     Shared/RScrollBar.qml

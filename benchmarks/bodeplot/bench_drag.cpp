@@ -4,43 +4,23 @@
 // the drag in a plot of 8 filters, taken by turns, so that both meet the same state of the machine. No display is
 // needed.
 
-#include "TambleClientControlModule.h"
+#include "support/BenchWindow.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QtCore/QDeadlineTimer>
-#include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickItem>
-#include <QtQuick/QQuickWindow>
 
-#include <algorithm>
-#include <atomic>
 #include <cmath>
-#include <ctime>
 #include <memory>
 #include <numbers>
 #include <string>
 #include <vector>
 
 namespace {
-
-double processSeconds()
-{
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
-}
-
-double median(std::vector<double> &values)
-{
-    const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
 
 enum class Way { Mouse, Calls };
 
@@ -56,12 +36,7 @@ public:
         m_page.reset(qobject_cast<QQuickItem *>(component.createWithInitialProperties({{"count", filters}})));
         if (!m_page)
             qFatal("%s", qPrintable(component.errorString()));
-        m_page->setParentItem(m_window.contentItem());
-        m_window.resize(m_page->size().toSize());
-        QObject::connect(
-            &m_window, &QQuickWindow::frameSwapped, &m_window, [this] { m_swapped = true; }, Qt::DirectConnection);
-        m_window.show();
-        awaitFrame();
+        m_window.showPage(*m_page);
         secondsPerMove(); // to warm up
         if (m_page->property("edits").toInt() < moves)
             qFatal("the handle does not follow the pointer");
@@ -78,10 +53,10 @@ public:
         for (int i = 0; i <= moves; ++i) {
             if (i == 1) // the frame before shows the press as well
                 begin = processSeconds();
-            m_swapped = false;
+            m_window.beginFrame();
             const double angle = 2.0 * std::numbers::pi * (i + 1) / (moves + 1);
             moveTo(grip + QPointF(40.0 * std::sin(angle), 30.0 * std::sin(3.0 * angle)));
-            awaitFrame();
+            m_window.awaitFrame();
         }
         const double end = processSeconds();
         if (m_way == Way::Mouse)
@@ -108,23 +83,10 @@ private:
         QCoreApplication::sendEvent(&m_window, &event);
     }
 
-    void awaitFrame()
-    {
-        constexpr int limitMs = 5000;
-        QDeadlineTimer deadline(limitMs);
-        QTimer wakeUp;
-        wakeUp.start(limitMs);
-        while (!m_swapped && !deadline.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        if (!m_swapped)
-            qFatal("no frame");
-    }
-
-    QQuickWindow m_window;
+    BenchWindow m_window;
     std::unique_ptr<QQuickItem> m_page;
     int m_dragged;
     Way m_way;
-    std::atomic_bool m_swapped = false; ///< The frame may be of another thread.
 };
 
 void drag(benchmark::State &state, QQmlEngine &engine, int filters, Way way)
@@ -145,23 +107,11 @@ void drag(benchmark::State &state, QQmlEngine &engine, int filters, Way way)
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Without a display, Qt Quick would paint in software instead.
-    qputenv("QT_QUICK_BACKEND", "rhi");
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Null);
+    drawNothing();
     QGuiApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
-    // Loading sheets is logged; where the log goes is no matter of a drag.
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
-        if (type == QtFatalMsg)
-            fprintf(stderr, "%s\n", qPrintable(text));
-    });
-
-    constexpr const char *uri = "TambleClient.Control";
     QQmlEngine engine;
-    tamble::client::TambleClientControlModule module;
-    module.registerTypes(uri);
-    module.initializeEngine(&engine, uri);
+    useModule(engine);
     for (const Way way : {Way::Mouse, Way::Calls}) {
         for (const int filters : {8, 64, 200}) {
             const auto name = std::string(way == Way::Mouse ? "drag/" : "call/") + "1 of " + std::to_string(filters);

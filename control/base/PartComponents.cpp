@@ -5,6 +5,8 @@
 #include <QtCore/QHash>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
+#include <QtQml/qqml.h>
+#include <QtQuick/QQuickItem>
 
 namespace tamble::client {
 
@@ -44,12 +46,20 @@ QObject *PartComponents::make(Part part, QObject *owner, const QVariantMap &init
     QQmlComponent *&component = m_components[std::size_t(part)];
     if (!component)
         component = new QQmlComponent(m_engine, partSources()[std::size_t(part)], this);
-    QObject *made = component->createWithInitialProperties(initialProperties);
+    // Qt 6.4 crashes on one that is not.
+    QObject *made = component->isReady() ? component->createWithInitialProperties(initialProperties) : nullptr;
     if (made)
         made->setParent(owner);
     else
         qCWarning(controlLog).noquote() << component->errorString();
     return made;
+}
+
+QQuickItem *PartComponents::makeItem(Part part, QQuickItem &parent)
+{
+    QQmlEngine *engine = qmlEngine(&parent);
+    const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue(&parent)}};
+    return engine ? qobject_cast<QQuickItem *>(of(engine).make(part, &parent, properties)) : nullptr;
 }
 
 } // namespace tamble::client

@@ -9,13 +9,19 @@
 
 class QQmlComponent;
 class QQmlEngine;
+class QQuickItem;
 
 namespace tamble::client {
 
 /// What native items make of themselves when it is first needed. How a part looks is said in QML.
 enum class Part {
     ValueBinding, ///< Holds back a page's binding while a user's edit is shown.
+    CheckDot,     ///< What tells that a check box is not confirmed.
+    CheckIcon,    ///< The sign in a check box.
+    ComboField,   ///< What is typed into in an editable combo box.
+    ComboMarks,   ///< What tells that a combo box is mixed or not confirmed.
     ControlLine,  ///< The bar of a control's background.
+    EntryIcon,    ///< The icon of an entry of a combo box.
     FocusFrame,   ///< The frame of a control's background while it has the focus.
     LabelLine,    ///< The line of a label.
     ToolTip,
@@ -27,12 +33,14 @@ enum class Part {
     SpinButtons,
     SpinAffixes,     ///< What stands before and after the number of a spin box.
     SpinInvalidLook, ///< The colours of an unacceptable number.
+    CellSelection,   ///< The frame and tint of a selected cell.
+    CellRefusal,     ///< The mark of a cell that did not take a pasted text.
     MenuRow,         ///< What an entry of a menu looks like.
     MenuLine,        ///< Likewise a separator.
     SubMenu,
     FieldMenu, ///< The context menu of text fields.
 };
-constexpr std::size_t partCount = 17;
+constexpr std::size_t partCount = std::size_t(Part::FieldMenu) + 1; // the last one
 
 /// Names the QML file of a part, for all engines.
 void setPartSource(Part part, const QUrl &file);
@@ -42,6 +50,9 @@ class PartComponents : public QObject
 {
 public:
     static PartComponents &of(QQmlEngine *engine);
+
+    /// Makes a part that is an item below `parent`; null outside of QML.
+    static QQuickItem *makeItem(Part part, QQuickItem &parent);
 
     /// Makes a part as a child of `owner`; null, with a log line, when its file has a fault.
     QObject *make(Part part, QObject *owner, const QVariantMap &initialProperties);

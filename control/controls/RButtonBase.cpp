@@ -87,6 +87,7 @@ void RButtonBase::setSelected(bool selected)
         return;
     m_selected = selected;
     announceState();
+    selectionChange();
     Q_EMIT selectedChanged();
 }
 
@@ -97,6 +98,7 @@ void RButtonBase::setConsistent(bool consistent)
     m_consistent = consistent;
     announceState();
     announce(*this, QAccessible::DescriptionChanged);
+    selectionChange();
     Q_EMIT consistentChanged();
 }
 

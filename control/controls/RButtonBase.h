@@ -81,7 +81,7 @@ public:
     /// Clicks, as letting the pointer go does; a disabled button does nothing.
     void click();
     /// What a click does to the selection. A button that is not selectable keeps it.
-    Q_INVOKABLE void editSelection(bool selected);
+    Q_INVOKABLE virtual void editSelection(bool selected);
 
     QAccessible::Role spokenRole() const override { return QAccessible::Button; }
     QString spokenName() const override { return plainText(); }
@@ -112,6 +112,8 @@ Q_SIGNALS:
     void customEventActivated();
 
 protected:
+    /// `selected` or `consistent` has changed.
+    virtual void selectionChange() {}
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;

@@ -1,9 +1,6 @@
 #include "controls/RControlBackground.h"
 
-#include <QtQml/QQmlContext>
-#include <QtQml/QQmlEngine>
-#include <QtQml/QQmlInfo>
-#include <QtQml/qqml.h>
+#include "base/PartComponents.h"
 
 namespace tamble::client {
 
@@ -24,7 +21,7 @@ void RControlBackground::setLineVisible(bool visible)
 QQuickRectangle *RControlBackground::line()
 {
     if (!m_line)
-        m_line = qobject_cast<QQuickRectangle *>(makePart(Part::ControlLine));
+        m_line = qobject_cast<QQuickRectangle *>(PartComponents::makeItem(Part::ControlLine, *this));
     return m_line;
 }
 
@@ -34,17 +31,10 @@ void RControlBackground::setFocusVisible(bool visible)
         return;
     m_focusVisible = visible;
     if (visible && !m_focusFrame)
-        m_focusFrame = makePart(Part::FocusFrame);
+        m_focusFrame = PartComponents::makeItem(Part::FocusFrame, *this);
     if (m_focusFrame)
         m_focusFrame->setVisible(visible);
     Q_EMIT focusVisibleChanged();
-}
-
-QQuickItem *RControlBackground::makePart(Part part)
-{
-    QQmlEngine *engine = qmlEngine(this);
-    const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue<QQuickItem *>(this)}};
-    return engine ? qobject_cast<QQuickItem *>(PartComponents::of(engine).make(part, this, properties)) : nullptr;
 }
 
 } // namespace tamble::client

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/ControlExport.h"
-#include "base/PartComponents.h"
 
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/private/qquickrectangle_p.h>
@@ -44,8 +43,6 @@ Q_SIGNALS:
     void focusVisibleChanged();
 
 private:
-    QQuickItem *makePart(Part part);
-
     Qt::Edge m_lineEdge = Qt::BottomEdge;
     qreal m_lineInset = 0.0;
     QQuickRectangle *m_line = nullptr;  // a child, made on demand

@@ -172,6 +172,27 @@ bool FieldEdit::enter()
     return true;
 }
 
+QString FieldEdit::enterText(const QString &text)
+{
+    if (!canEdit())
+        return tr("This cannot be edited");
+    // An error that the page found is about the text before.
+    const bool errorCounted = std::exchange(m_errorCounts, false);
+    const QString problem = problemOf(tidied(text));
+    if (!problem.isEmpty()) {
+        m_errorCounts = errorCounted;
+        return problem;
+    }
+    const QString before = this->text();
+    setText(text);
+    if (this->text() != text) {
+        setText(before);
+        return tr("This has no room here");
+    }
+    enter();
+    return {};
+}
+
 void FieldEdit::cancel()
 {
     if (!m_isEdited)

@@ -114,6 +114,9 @@ public:
 
     /// Enters the text as Enter does; false when it is not acceptable.
     Q_INVOKABLE bool enter();
+    /// Enters another text as if it had been typed. Says why not, and changes nothing, when that text is not
+    /// acceptable; empty when it was entered.
+    Q_INVOKABLE QString enterText(const QString &text);
     /// Takes back what was typed, as Esc does.
     Q_INVOKABLE void cancel();
     /// What the field shows at present.

@@ -29,6 +29,8 @@ Item {
         verticalAlignment: Text.AlignVCenter
     }
     Binding {
-        root.input.leftPadding: 8 * RThemeValues.unit + (root.field.prefix === "" ? 0 : prefix.implicitWidth + root.gap)
+        target: root.input
+        property: "leftPadding"
+        value: 8 * RThemeValues.unit + (root.field.prefix === "" ? 0 : prefix.implicitWidth + root.gap)
     }
 }

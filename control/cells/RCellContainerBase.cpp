@@ -1,0 +1,284 @@
+#include "cells/RCellContainerBase.h"
+
+#include "base/ControlLog.h"
+#include "cells/RCellBase.h"
+
+#include <algorithm>
+#include <utility>
+
+// How cells are placed. The current cell and the selection are in RCellCursor.cpp, the clipboard in RCellClipboard.cpp.
+
+namespace tamble::client {
+
+namespace {
+
+// Header cells lie above the others, on stripes between the two; those of the corner above them, on one of their own.
+constexpr double headerZ = 2.0;
+constexpr double cornerZ = 4.0;
+
+/// Middles of the gaps between tracks, as fractions of all their length.
+template <typename Start>
+QList<qreal> gaps(int count, double spacing, double length, Start start)
+{
+    QList<qreal> fractions;
+    for (int i = 1; i < count && length > 0.0; ++i)
+        fractions.append((start(i) - spacing / 2.0) / length);
+    return fractions;
+}
+
+void turn(QList<qreal> &fractions)
+{
+    for (qreal &fraction : fractions)
+        fraction = 1.0 - fraction;
+}
+
+} // namespace
+
+RCellContainerBase::RCellContainerBase(QQuickItem *parent)
+    : QQuickItem(parent)
+    , m_view(this)
+{
+    setFlag(ItemIsFocusScope);
+    setActiveFocusOnTab(true);
+    setFiltersChildMouseEvents(true);
+    connect(&m_view, &EnclosingView::scrolled, this, &RCellContainerBase::placeHeaders);
+    connect(this, &RCellContainerBase::ssBackgroundChanged, this, &RCellContainerBase::arrange);
+    QAccessible::installActivationObserver(this);
+}
+
+RCellContainerBase::~RCellContainerBase()
+{
+    QAccessible::removeActivationObserver(this);
+}
+
+void RCellContainerBase::setGridProperties(RCellGridPropertiesBase *properties)
+{
+    if (m_grid == properties)
+        return;
+    if (m_grid)
+        m_grid->disconnect(this);
+    m_grid = properties;
+    if (properties)
+        connect(properties, &RCellGridPropertiesBase::rasterChanged, this, &RCellContainerBase::arrange);
+    arrange();
+    Q_EMIT gridPropertiesChanged();
+}
+
+void RCellContainerBase::setReadOnly(bool readOnly)
+{
+    if (std::exchange(m_readOnly, readOnly) == readOnly)
+        return;
+    for (const auto &cell : std::vector(m_cells)) {
+        if (cell)
+            cell->followLock();
+    }
+    Q_EMIT readOnlyChanged();
+}
+
+void RCellContainerBase::setMirrored(bool mirrored)
+{
+    if (std::exchange(m_mirrored, mirrored) == mirrored)
+        return;
+    arrange();
+    Q_EMIT mirroredChanged();
+}
+
+void RCellContainerBase::arrange()
+{
+    m_isStale = true;
+    polish();
+}
+
+const CellPlan &RCellContainerBase::plan()
+{
+    if (m_isStale)
+        gather();
+    return m_plan;
+}
+
+void RCellContainerBase::gather()
+{
+    m_isStale = false;
+    m_cells.clear();
+    std::vector<CellPlan::Cell> planned;
+    for (QQuickItem *child : childItems()) {
+        auto *cell = qobject_cast<RCellBase *>(child);
+        if (!cell)
+            continue;
+        const CellArea area = cell->area();
+        const bool isOpen = cell->isSelectable() && cell->isVisible() && cell->isEnabled();
+        planned.push_back({area, isOpen && !isHeaderRow(area) && !isHeaderColumn(area)});
+        m_cells.emplace_back(cell);
+    }
+    m_plan = CellPlan(std::move(planned));
+}
+
+void RCellContainerBase::updatePolish()
+{
+    if (!m_grid)
+        return;
+    m_view.find();
+    const CellPlan &plan = this->plan();
+    setImplicitSize(plan.columnCount() > 0 ? m_grid->spanWidth(0, plan.columnCount()) : 0.0,
+                    plan.rowCount() > 0 ? m_grid->spanHeight(0, plan.rowCount()) : 0.0);
+    warnOfOverlap();
+    placeLines();
+    placeCells();
+    const QPointer<RCellContainerBase> guard(this);
+    followCurrent();
+    if (guard)
+        select();
+    if (guard)
+        Q_EMIT arranged();
+    if (guard)
+        Q_EMIT headersMoved();
+}
+
+// Over a copy, since a page may answer a new size with other cells.
+void RCellContainerBase::placeCells()
+{
+    for (const auto &cell : std::vector(m_cells)) {
+        if (!cell)
+            continue;
+        const CellArea area = cell->area();
+        cell->setGround(area.rows > 1 || area.columns > 1 ? m_ssBackground : QColor());
+        if (isHeaderRow(area) || isHeaderColumn(area))
+            cell->setZ(isHeaderRow(area) && isHeaderColumn(area) ? cornerZ : headerZ);
+        const QRectF rect = rectOf(area);
+        cell->setPosition(rect.topLeft());
+        cell->setSize(rect.size());
+    }
+}
+
+void RCellContainerBase::placeHeaders()
+{
+    if (!m_grid || (m_grid->headerRows() <= 0 && m_grid->headerColumns() <= 0))
+        return;
+    for (const auto &cell : std::vector(m_cells)) {
+        if (cell && (isHeaderRow(cell->area()) || isHeaderColumn(cell->area())))
+            cell->setPosition(rectOf(cell->area()).topLeft());
+    }
+    Q_EMIT headersMoved();
+}
+
+void RCellContainerBase::placeLines()
+{
+    m_rowLines.clear();
+    m_columnLines.clear();
+    if (!m_grid->lineVisible())
+        return;
+    m_columnLines = gaps(m_plan.columnCount(), m_grid->spacing(), implicitWidth(),
+                         [this](int column) { return m_grid->columnX(column); });
+    m_rowLines =
+        gaps(m_plan.rowCount(), m_grid->spacing(), implicitHeight(), [this](int row) { return m_grid->rowY(row); });
+    turn(m_rowLines);
+    if (m_mirrored)
+        turn(m_columnLines);
+}
+
+void RCellContainerBase::warnOfOverlap()
+{
+    if (m_hasWarned)
+        return;
+    const auto overlap = m_plan.overlap();
+    m_hasWarned = overlap.has_value();
+    if (overlap)
+        qCWarning(controlLog, "WARN: RCellContainer overlapping cells at %d %d", overlap->row, overlap->column);
+}
+
+bool RCellContainerBase::isHeaderRow(const CellArea &area) const
+{
+    return m_grid && area.row < m_grid->headerRows();
+}
+
+bool RCellContainerBase::isHeaderColumn(const CellArea &area) const
+{
+    return m_grid && area.column < m_grid->headerColumns();
+}
+
+QRectF RCellContainerBase::rectOf(const CellArea &area) const
+{
+    QRectF rect(m_grid->columnX(area.column), m_grid->rowY(area.row), m_grid->spanWidth(area.column, area.columns),
+                m_grid->spanHeight(area.row, area.rows));
+    if (m_mirrored)
+        rect.moveLeft(implicitWidth() - rect.right());
+    const QPointF shift = headerShift();
+    return rect.translated(isHeaderColumn(area) ? shift.x() : 0.0, isHeaderRow(area) ? shift.y() : 0.0);
+}
+
+/// The header rows' height and the header columns' width.
+QSizeF RCellContainerBase::headerSize() const
+{
+    const int rows = m_grid ? m_grid->headerRows() : 0;
+    const int columns = m_grid ? m_grid->headerColumns() : 0;
+    return {columns > 0 ? m_grid->columnX(columns) : 0.0, rows > 0 ? m_grid->rowY(rows) : 0.0};
+}
+
+QPointF RCellContainerBase::headerShift() const
+{
+    const QSizeF header = headerSize();
+    if (header.isNull())
+        return {};
+    const QRectF visible = m_view.visibleRect();
+    const double hiddenAside = m_mirrored ? implicitWidth() - visible.right() : visible.left();
+    const double x = std::clamp(hiddenAside, 0.0, std::max(0.0, implicitWidth() - header.width()));
+    const double y = std::clamp(visible.top(), 0.0, std::max(0.0, implicitHeight() - header.height()));
+    return {m_mirrored ? -x : x, y};
+}
+
+QRectF RCellContainerBase::headerRowsRect() const
+{
+    const QPointF shift = headerShift();
+    return shift.isNull() ? QRectF() : QRectF(0.0, shift.y(), implicitWidth(), headerSize().height());
+}
+
+QRectF RCellContainerBase::headerColumnsRect() const
+{
+    const QPointF shift = headerShift();
+    const double width = headerSize().width();
+    const double home = m_mirrored ? implicitWidth() - width : 0.0;
+    return shift.isNull() ? QRectF() : QRectF(home + shift.x(), 0.0, width, implicitHeight());
+}
+
+void RCellContainerBase::componentComplete()
+{
+    QQuickItem::componentComplete();
+    updatePolish();
+    if (QAccessible::isActive())
+        accessibilityActiveChanged(true);
+}
+
+void RCellContainerBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    placeHeaders();
+}
+
+void RCellContainerBase::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    QQuickItem::itemChange(change, data);
+    switch (change) {
+    case ItemChildAddedChange:
+    case ItemChildRemovedChange:
+    case ItemParentHasChanged:
+    case ItemSceneChange:
+        arrange();
+        break;
+    default:
+        break;
+    }
+}
+
+void RCellContainerBase::accessibilityActiveChanged(bool active)
+{
+    if (active)
+        beginToSpeak(*this);
+}
+
+void RCellContainerBase::addSpokenStates(QAccessible::State &state) const
+{
+    state.readOnly = m_readOnly;
+    state.extSelectable = m_selectionMode == Rectangle;
+}
+
+} // namespace tamble::client

@@ -1,0 +1,28 @@
+#include "fields/RComboBoxPopup.h"
+
+#include "fields/RComboBoxBase.h"
+
+namespace tamble::client {
+
+RComboBoxPopup::RComboBoxPopup(QObject *parent)
+    : QQuickPopup(parent)
+{
+    connect(this, &QQuickPopup::visibleChanged, this, [this] {
+        if (RComboBoxBase *box = comboBox())
+            box->onListVisible(isVisible());
+    });
+}
+
+void RComboBoxPopup::setVisible(bool visible)
+{
+    const RComboBoxBase *box = comboBox();
+    if (!visible || !box || box->canOpen())
+        QQuickPopup::setVisible(visible);
+}
+
+RComboBoxBase *RComboBoxPopup::comboBox() const
+{
+    return qobject_cast<RComboBoxBase *>(parentItem());
+}
+
+} // namespace tamble::client

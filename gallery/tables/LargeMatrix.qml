@@ -1,0 +1,60 @@
+import QtQuick
+import QtQuick.Templates as T
+import QtQml.Models
+import Gallery
+import TambleClient.Control 1.0
+
+/*! A matrix of 64 inputs and outputs. The view makes the crosspoints that are seen and uses them again. */
+TableView {
+    id: root
+
+    implicitHeight: theme.dp(33) * 12
+    clip: true
+    columnSpacing: theme.dp(1)
+    rowSpacing: theme.dp(1)
+    boundsBehavior: Flickable.StopAtBounds
+    activeFocusOnTab: true
+    Accessible.role: Accessible.Table
+    Accessible.name: qsTr("Large matrix")
+
+    T.ScrollBar.vertical: ScrollHandle {}
+    T.ScrollBar.horizontal: ScrollHandle {}
+
+    model: CrosspointModel {
+        size: 64
+    }
+    selectionModel: ItemSelectionModel {
+        model: root.model
+    }
+    // qmllint disable unqualified
+    delegate: RCellButton {
+        id: crosspoint
+
+        required property bool routed
+        required property bool hasSignal
+
+        required row
+        required column
+        required current
+        gridProperties: raster
+        label: qsTr("Input %1 to output %2").arg(crosspoint.row + 1).arg(crosspoint.column + 1)
+        styleName: "crossPoint"
+        selectable: true
+        selected: crosspoint.routed
+        active: crosspoint.hasSignal
+        onSelectionEdited: selected => root.model.route(crosspoint.row, crosspoint.column, selected)
+    }
+    // qmllint enable unqualified
+
+    // Shows between the crosspoints.
+    Surface {
+        z: -1
+        width: root.contentWidth
+        height: root.contentHeight
+        RStyleSet.typeName: "RBodeplotGrid"
+    }
+    RCellGridProperties {
+        id: raster
+        columnWidth: theme.dp(32)
+    }
+}

@@ -1,0 +1,16 @@
+import QtQuick
+import TambleClient.Control 1.0
+
+/*! Icon in front of the text of an entry. */
+RIcon {
+    id: root
+
+    readonly property RComboBoxEntry entry: root.parent as RComboBoxEntry
+
+    x: root.entry.mirrored ? root.entry.width - root.width - 12 * RThemeValues.unit : 12 * RThemeValues.unit
+    y: (root.entry.height - root.height) / 2
+    key: root.entry.entryIcon
+    sizeClass: "XS"
+    ssIconForeground: root.entry.textColor
+    opacity: root.entry.enabled ? 1 : 0.4
+}

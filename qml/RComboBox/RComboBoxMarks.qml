@@ -1,0 +1,29 @@
+import QtQuick
+import TambleClient.Control 1.0
+import "../Shared" as Shared
+
+/*! What tells that a combo box is mixed or not confirmed, as in fields. */
+Item {
+    id: root
+
+    readonly property RComboBoxBase comboBox: root.parent as RComboBoxBase
+
+    anchors.fill: parent
+    visible: !root.comboBox.editable
+
+    Shared.RStyleProbe {
+        id: style
+        type: "RTextField"
+    }
+    Shared.RConfirmDot {
+        x: root.comboBox.mirrored ? 42 * RThemeValues.unit - width : root.width - 42 * RThemeValues.unit
+        y: (root.height - height) / 2
+        color: style.RStyleSet.props.confirmIndicator
+        pulsing: !root.comboBox.confirmed
+        visible: pulsing
+    }
+    Shared.RMixedFlag {
+        color: style.RStyleSet.props.inconsistentFlag
+        visible: root.comboBox.mixed
+    }
+}
