@@ -49,6 +49,12 @@ ColumnLayout {
         field: root.channel + "Name"
         title: qsTr("&Name")
     }
+    SourceLine {
+        Layout.fillWidth: true
+        amplifier: root.amplifier
+        field: root.channel + "Source"
+        title: qsTr("So&urce")
+    }
     SpinLine {
         Layout.fillWidth: true
         amplifier: root.amplifier

@@ -2,20 +2,18 @@ import QtQuick
 import Gallery
 import TambleClient.Control 1.0
 
-/*! A line of a form with a switch. */
+/*! A line of a form with a check box. */
 FieldLine {
     id: root
 
     editor: input
 
-    RButtonSwitch {
+    RCheckBox {
         id: input
-        width: theme.dp(64)
-        label: root.title
         enabled: root.amplifier.devices.length > 0
-        selectable: true
         selected: Boolean(root.source.shown)
         consistent: root.source.consistent
+        confirmed: root.source.confirmed
         onSelectionEdited: selected => root.source.request(selected)
     }
 }

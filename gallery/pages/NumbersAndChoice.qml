@@ -5,7 +5,7 @@ import "../fields"
 import "../network"
 
 GalleryPage {
-    description: qsTr("Fields for numbers, against devices that round, clamp, answer late and are edited by others.")
+    description: qsTr("Fields for numbers and choices, against devices that round, clamp, answer late and are edited by others.")
 
     Amplifier {
         id: selection
@@ -27,6 +27,23 @@ GalleryPage {
         sample: RNumberTextField {
             value: 12.5
             unit: qsTr("ms")
+        }
+    }
+    FieldStates {
+        title: "RComboBox"
+        note: qsTr("Only a choice in the open list counts: no stray key or turn of the wheel routes a source.")
+        sample: RComboBox {
+            model: GalleryInstallation.sources
+            textRole: "name"
+            valueRole: "sourceId"
+            value: 102
+        }
+    }
+    FieldStates {
+        title: "RCheckBox"
+        sample: RCheckBox {
+            text: qsTr("Phantom power")
+            selected: true
         }
     }
     TileGrid {

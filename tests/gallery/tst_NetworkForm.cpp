@@ -54,6 +54,8 @@ struct FormWindow
         installation.setBehaviour(orderly);
         qmlRegisterType<Amplifier>("Gallery", 1, 0, "Amplifier");
         qmlRegisterType<AmplifierField>("Gallery", 1, 0, "AmplifierField");
+        qmlRegisterSingletonType<GalleryInstallation>("Gallery", 1, 0, "GalleryInstallation",
+                                                      &GalleryInstallation::create);
         view.engine()->addImportPath(QStringLiteral(TAMBLE_QML_DIRECTORY));
         QQmlComponent component(view.engine());
         component.setData(QString::fromLatin1(formPage)
