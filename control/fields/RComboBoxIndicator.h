@@ -11,7 +11,7 @@ namespace tamble::client {
 class RTintedImage;
 
 /// The arrow of a combo box on its ground. It knows its width and how far below the upper edge it stands; in QML, the
-/// arrow and its bindings would be a twentieth of a box's memory.
+/// arrow and its bindings would be a twelfth of a box's memory.
 class TAMBLE_CLIENT_CONTROL_EXPORT RComboBoxIndicator : public QQuickRectangle
 {
     Q_OBJECT
