@@ -2,6 +2,7 @@
 
 #include "controls/RTintedImage.h"
 
+#include <cmath>
 #include <utility>
 
 namespace tamble::client {
@@ -17,7 +18,8 @@ void RComboBoxIndicator::setUnit(qreal unit)
         return;
     m_arrow->setEnlargement(unit);
     m_arrow->setSource(QUrl(QStringLiteral("qrc:/icons/chevron-down_16x16.png")));
-    m_arrow->setSize({16.0 * unit, 16.0 * unit});
+    m_arrow->setWidth(16.0 * unit);
+    m_arrow->setHeight(16.0 * unit);
     setY(unit);
     setWidth(31.0 * unit);
     Q_EMIT unitChanged();
@@ -40,8 +42,8 @@ void RComboBoxIndicator::geometryChange(const QRectF &newGeometry, const QRectF 
 {
     QQuickRectangle::geometryChange(newGeometry, oldGeometry);
     // On whole pixels, as anchors would have it.
-    m_arrow->setPosition({qRound((newGeometry.width() - m_arrow->width()) / 2.0) * 1.0,
-                          qRound((newGeometry.height() - m_arrow->height()) / 2.0) * 1.0});
+    m_arrow->setX(std::round((newGeometry.width() - m_arrow->width()) / 2.0));
+    m_arrow->setY(std::round((newGeometry.height() - m_arrow->height()) / 2.0));
 }
 
 } // namespace tamble::client
