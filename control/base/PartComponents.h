@@ -30,7 +30,6 @@ enum class Part {
     FieldHint,    ///< What stands in an empty field.
     FieldButtons, ///< To clear a field, and to show a hidden text.
     FieldIcon,    ///< The picture in front of a field's text.
-    SpinButtons,
     SpinAffixes,     ///< What stands before and after the number of a spin box.
     SpinInvalidLook, ///< The colours of an unacceptable number.
     CellSelection,   ///< The frame and tint of a selected cell.

@@ -384,6 +384,8 @@ void FieldEdit::setEdited(bool edited)
 void FieldEdit::updateMarks()
 {
     const bool isMarked = m_isEdited || !m_isConfirmed || !m_isConsistent || !m_invalidText.isEmpty();
+    if (m_isComplete)
+        Q_EMIT lookChanged();
     if (!m_isComplete || std::exchange(m_isMarked, isMarked) == isMarked)
         return;
     if (isMarked && !m_marks && m_field)
