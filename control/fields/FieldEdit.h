@@ -178,6 +178,7 @@ private:
     void judge();
     void updateMarks();
     void updateBubble();
+    QString errorInForce() const;
     QString problemOf(const QString &text) const;
     QString tidied(const QString &text) const;
     QString textOfValue() const;
