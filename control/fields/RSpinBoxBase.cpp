@@ -34,12 +34,11 @@ const std::array<SheetColors::Source, 8> RSpinBoxBase::colorSources = {{
 
 RSpinBoxBase::RSpinBoxBase(QQuickItem *parent)
     : QQuickControl(parent)
-    , m_colors(*this, colorSources,
-               [this] {
-                   updateFrame();
-                   updateButtons();
-                   Q_EMIT ssChanged();
-               })
+    , m_colors(*this, colorSources, [this] {
+        updateFrame();
+        updateButtons();
+        Q_EMIT ssChanged();
+    })
 {
     setFlag(ItemIsFocusScope);
     setAcceptedMouseButtons(Qt::LeftButton);
@@ -113,6 +112,20 @@ void RSpinBoxBase::setSuffix(const QString &suffix)
     Q_EMIT suffixChanged();
 }
 
+void RSpinBoxBase::setSsForegroundInvalid(const QColor &color)
+{
+    if (std::exchange(m_foregroundInvalid, color) != color)
+        Q_EMIT ssChanged();
+}
+
+void RSpinBoxBase::setSsLineInvalid(const QColor &color)
+{
+    if (std::exchange(m_lineInvalid, color) == color)
+        return;
+    updateFrame();
+    Q_EMIT ssChanged();
+}
+
 void RSpinBoxBase::needAffixes()
 {
     if (!m_affixes && isComponentComplete() && !(m_prefix.isEmpty() && m_suffix.isEmpty()))
@@ -142,7 +155,7 @@ void RSpinBoxBase::updateFrame()
     frame->setColor(ssBackground());
     frame->setFocused(hasActiveFocus());
     frame->setBorderColor(ssBorderColor());
-    frame->setLineColor(m_edit->isAcceptable() || !m_lineInvalid.isValid() ? ssLineColor() : m_lineInvalid);
+    frame->setLineColor(m_edit->isAcceptable() ? ssLineColor() : ssLineInvalid());
 }
 
 void RSpinBoxBase::updateButtons()
@@ -180,7 +193,8 @@ QString RSpinBoxBase::spokenDescription(const QString &given) const
 {
     if (!m_edit)
         return given;
-    const QString shown = m_edit->isConsistent() ? m_prefix + m_edit->text() + m_suffix : QString();
+    const QString shown =
+        m_edit->isConsistent() ? (m_prefix + m_edit->text() + u' ' + m_suffix.trimmed()).trimmed() : QString();
     return m_edit->description(given.isEmpty() ? shown : given);
 }
 

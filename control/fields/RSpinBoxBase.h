@@ -48,8 +48,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RSpinBoxBase : public QQuickControl, public F
     Q_PROPERTY(QColor ssConfirmIndicator READ ssConfirmIndicator WRITE setSsConfirmIndicator NOTIFY ssChanged)
     Q_PROPERTY(QColor ssInconsistentFlag READ ssInconsistentFlag WRITE setSsInconsistentFlag NOTIFY ssChanged)
     /// The colours of an unacceptable number, those of text fields: `ssForegroundInvalid`, `ssLineInvalid`.
-    Q_PROPERTY(QColor ssForegroundInvalid MEMBER m_foregroundInvalid NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssLineInvalid MEMBER m_lineInvalid NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssForegroundInvalid READ ssForegroundInvalid WRITE setSsForegroundInvalid NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssLineInvalid READ ssLineInvalid WRITE setSsLineInvalid NOTIFY ssChanged)
 
 public:
     explicit RSpinBoxBase(QQuickItem *parent = nullptr);
@@ -68,7 +68,8 @@ public:
     void setUnit(qreal unit);
     /// Width in pixels of one button, "minus" or "plus"; both stand at the end.
     qreal buttonWidth() const { return 32.0 * m_unit; }
-    /// `prefix` and `suffix`: text before and after the number, which is not part of what is typed; none by default.
+    /// `prefix` and `suffix`: text right before the number, and after it with a small gap, which is not part of what is
+    /// typed; none by default.
     QString prefix() const { return m_prefix; }
     void setPrefix(const QString &prefix);
     QString suffix() const { return m_suffix; }
@@ -92,6 +93,11 @@ public:
     void setSsConfirmIndicator(const QColor &color) { m_colors.setColor(ConfirmIndicator, color); }
     QColor ssInconsistentFlag() const { return m_colors.color(InconsistentFlag); }
     void setSsInconsistentFlag(const QColor &color) { m_colors.setColor(InconsistentFlag, color); }
+
+    QColor ssForegroundInvalid() const { return m_foregroundInvalid.isValid() ? m_foregroundInvalid : ssColor(); }
+    void setSsForegroundInvalid(const QColor &color);
+    QColor ssLineInvalid() const { return m_lineInvalid.isValid() ? m_lineInvalid : ssLineColor(); }
+    void setSsLineInvalid(const QColor &color);
 
     /// For assistive tools: sets a number as the user does.
     Q_INVOKABLE void requestValue(const QVariant &value);
@@ -136,7 +142,16 @@ protected:
     void mirrorChange() override;
 
 private:
-    enum ColorName : std::size_t { Background, Color, LineColor, BorderColor, Selection, ForegroundSelection, ConfirmIndicator, InconsistentFlag };
+    enum ColorName : std::size_t {
+        Background,
+        Color,
+        LineColor,
+        BorderColor,
+        Selection,
+        ForegroundSelection,
+        ConfirmIndicator,
+        InconsistentFlag
+    };
     static const std::array<SheetColors::Source, 8> colorSources;
 
     int buttonAt(qreal x) const;

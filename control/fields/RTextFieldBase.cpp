@@ -27,11 +27,10 @@ const std::array<SheetColors::Source, 11> RTextFieldBase::colorSources = {{
 
 RTextFieldBase::RTextFieldBase(QQuickItem *parent)
     : QQuickTextField(parent)
-    , m_colors(*this, colorSources,
-               [this] {
-                   updateFrame();
-                   Q_EMIT ssChanged();
-               })
+    , m_colors(*this, colorSources, [this] {
+        updateFrame();
+        Q_EMIT ssChanged();
+    })
 {
     connect(this, &QQuickItem::activeFocusChanged, this, &RTextFieldBase::updateFrame);
     connect(this, &QQuickTextField::backgroundChanged, this, &RTextFieldBase::updateFrame);

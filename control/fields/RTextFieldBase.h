@@ -111,7 +111,19 @@ protected:
 
 private:
     QString spokenHint() const override { return placeholderText(); }
-    enum ColorName : std::size_t { Background, Color, ForegroundInvalid, LineColor, LineInvalid, LineUnconfirmed, BorderColor, Selection, ForegroundSelection, ConfirmIndicator, InconsistentFlag };
+    enum ColorName : std::size_t {
+        Background,
+        Color,
+        ForegroundInvalid,
+        LineColor,
+        LineInvalid,
+        LineUnconfirmed,
+        BorderColor,
+        Selection,
+        ForegroundSelection,
+        ConfirmIndicator,
+        InconsistentFlag
+    };
     static const std::array<SheetColors::Source, 11> colorSources;
 
     void updateHint();

@@ -17,7 +17,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RTextInputBase : public QQuickTextInput, publ
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RTextInputBase)
-    /// Of the style: the text, the selection, and an unacceptable text: `ssColor`, `ssSelection`, `ssForegroundInvalid`.
+    /// Of the style: the text, the selection, and an unacceptable text: `ssColor`, `ssSelection`,
+    /// `ssForegroundInvalid`.
     Q_PROPERTY(QColor ssColor READ ssColor WRITE setSsColor NOTIFY ssChanged)
     Q_PROPERTY(QColor ssSelection READ ssSelection WRITE setSsSelection NOTIFY ssChanged)
     Q_PROPERTY(QColor ssForegroundInvalid READ ssForegroundInvalid WRITE setSsForegroundInvalid NOTIFY ssChanged)

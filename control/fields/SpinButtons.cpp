@@ -19,8 +19,8 @@ void SpinButtons::show(const QColor &color, qreal unit, bool mirrored)
     const qreal half = width() / 2.0;
     const auto place = [this, &color](QQuickRectangle *bar, qreal begin, qreal buttonWidth, QSizeF size) {
         bar->setColor(color);
-        bar->setPosition({std::round(begin + (buttonWidth - size.width()) / 2.0),
-                          std::round((height() - size.height()) / 2.0)});
+        bar->setPosition(
+            {std::round(begin + (buttonWidth - size.width()) / 2.0), std::round((height() - size.height()) / 2.0)});
         bar->setSize(size);
     };
     place(m_bars[0], mirrored ? half : 0.0, half, {length, thickness});

@@ -37,8 +37,7 @@ QColor SheetColors::colorOfSheets(const Source &source) const
     StyleSetProps &props = *m_styleSet->props();
     if (!source.key || props.isSet(QLatin1String(source.key)))
         return (props.*source.read)();
-    return source.substitute < 0 ? QColor(Qt::transparent)
-                                 : (props.*m_sources[std::size_t(source.substitute)].read)();
+    return source.substitute < 0 ? QColor(Qt::transparent) : (props.*m_sources[std::size_t(source.substitute)].read)();
 }
 
 void SheetColors::setColor(std::size_t index, const QColor &color)

@@ -20,8 +20,8 @@ class StyleSetProps;
 class SheetColors : private StyleFollower
 {
 public:
-    /// Where a colour comes from. One that not every sheet sets has the key to ask for first, and the place in the table
-    /// of the one that stands in for it; without a place it is transparent then.
+    /// Where a colour comes from. One that not every sheet sets has the key to ask for first, and the place in the
+    /// table of the one that stands in for it; without a place it is transparent then.
     struct Source
     {
         QColor (StyleSetProps::*read)();
