@@ -38,6 +38,7 @@
 #include "fields/NumberSteps.h"
 #include "fields/RComboBoxBase.h"
 #include "fields/RComboBoxEntryBase.h"
+#include "fields/RComboBoxIndicator.h"
 #include "fields/RComboBoxPopup.h"
 #include "fields/RSpinBoxBase.h"
 #include "fields/RStringRuleValidator.h"
@@ -332,6 +333,7 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RCheckBoxBase>("RCheckBoxBase");
     registrar.creatable<RComboBoxBase>("RComboBoxBase");
     registrar.creatable<RComboBoxEntryBase>("RComboBoxEntryBase");
+    registrar.creatable<RComboBoxIndicator>("RComboBoxIndicator");
     registrar.creatable<RComboBoxPopup>("RComboBoxPopup");
     registrar.creatable<RCellBase>("RCellBase");
     registrar.creatable<RCellContainerBase>("RCellContainerBase");

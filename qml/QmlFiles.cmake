@@ -28,6 +28,7 @@ set(registered
     RComboBox/RComboBox.qml
     RCell/RCell.qml
     RCell/RCellButton.qml
+    RCell/RCellComboBox.qml
     RCell/RCellContainer.qml
     RCell/RCellGridProperties.qml
     RCell/RCellLabel.qml
