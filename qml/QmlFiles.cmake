@@ -92,8 +92,6 @@ set(unregistered
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml
     RSpinBox/RSpinAffixes.qml
-    RSpinBox/RSpinButton.qml
-    RSpinBox/RSpinButtons.qml
     RSpinBox/RSpinInvalidLook.qml
     RText/RFieldButton.qml
     RText/RFieldButtons.qml
@@ -111,7 +109,6 @@ set(unregistered
     Shared/RControlLine.qml
     Shared/RDynamicsPlot.qml
     Shared/RFieldBubble.qml
-    Shared/RFieldFrame.qml
     Shared/RFieldMarks.qml
     Shared/RFieldMenu.qml
     Shared/RHandleBubble.qml
