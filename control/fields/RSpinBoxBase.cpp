@@ -15,6 +15,17 @@ namespace tamble::client {
 
 namespace {
 
+constexpr std::array<void (RSpinBoxBase::*)(), 8> boxColorSignals = {
+    &RSpinBoxBase::ssBackgroundChanged,
+    &RSpinBoxBase::ssColorChanged,
+    &RSpinBoxBase::ssLineColorChanged,
+    &RSpinBoxBase::ssBorderColorChanged,
+    &RSpinBoxBase::ssSelectionChanged,
+    &RSpinBoxBase::ssForegroundSelectionChanged,
+    &RSpinBoxBase::ssConfirmIndicatorChanged,
+    &RSpinBoxBase::ssInconsistentFlagChanged,
+};
+
 constexpr int repeatDelayMs = 500;
 constexpr int repeatIntervalMs = 60;
 constexpr int repeatsBeforePages = 20;
@@ -34,10 +45,11 @@ const std::array<SheetColors::Source, 8> RSpinBoxBase::colorSources = {{
 
 RSpinBoxBase::RSpinBoxBase(QQuickItem *parent)
     : QQuickControl(parent)
-    , m_colors(*this, colorSources, [this] {
+    , m_colors(*this, colorSources, [this](std::size_t begin, std::size_t end) {
         updateFrame();
         updateButtons();
-        Q_EMIT ssChanged();
+        for (std::size_t i = begin; i < end; ++i)
+            Q_EMIT(this->*boxColorSignals[i])();
     })
 {
     setFlag(ItemIsFocusScope);
@@ -115,7 +127,7 @@ void RSpinBoxBase::setSuffix(const QString &suffix)
 void RSpinBoxBase::setSsForegroundInvalid(const QColor &color)
 {
     if (std::exchange(m_foregroundInvalid, color) != color)
-        Q_EMIT ssChanged();
+        Q_EMIT ssForegroundInvalidChanged();
 }
 
 void RSpinBoxBase::setSsLineInvalid(const QColor &color)
@@ -123,7 +135,7 @@ void RSpinBoxBase::setSsLineInvalid(const QColor &color)
     if (std::exchange(m_lineInvalid, color) == color)
         return;
     updateFrame();
-    Q_EMIT ssChanged();
+    Q_EMIT ssLineInvalidChanged();
 }
 
 void RSpinBoxBase::needAffixes()

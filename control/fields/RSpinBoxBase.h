@@ -39,17 +39,17 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RSpinBoxBase : public QQuickControl, public F
     /// Of the style: what is behind the number, the number, the line below and the border: `ssBackground`, `ssColor`,
     /// `ssLineColor`, `ssBorderColor`; the selection, and the text within: `ssSelection`, `ssForegroundSelection`; the
     /// marks: `ssConfirmIndicator`, `ssInconsistentFlag`.
-    Q_PROPERTY(QColor ssBackground READ ssBackground WRITE setSsBackground NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssColor READ ssColor WRITE setSsColor NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssLineColor READ ssLineColor WRITE setSsLineColor NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssBorderColor READ ssBorderColor WRITE setSsBorderColor NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssSelection READ ssSelection WRITE setSsSelection NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssForegroundSelection READ ssForegroundSelection WRITE setSsForegroundSelection NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssConfirmIndicator READ ssConfirmIndicator WRITE setSsConfirmIndicator NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssInconsistentFlag READ ssInconsistentFlag WRITE setSsInconsistentFlag NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssBackground READ ssBackground WRITE setSsBackground NOTIFY ssBackgroundChanged)
+    Q_PROPERTY(QColor ssColor READ ssColor WRITE setSsColor NOTIFY ssColorChanged)
+    Q_PROPERTY(QColor ssLineColor READ ssLineColor WRITE setSsLineColor NOTIFY ssLineColorChanged)
+    Q_PROPERTY(QColor ssBorderColor READ ssBorderColor WRITE setSsBorderColor NOTIFY ssBorderColorChanged)
+    Q_PROPERTY(QColor ssSelection READ ssSelection WRITE setSsSelection NOTIFY ssSelectionChanged)
+    Q_PROPERTY(QColor ssForegroundSelection READ ssForegroundSelection WRITE setSsForegroundSelection NOTIFY ssForegroundSelectionChanged)
+    Q_PROPERTY(QColor ssConfirmIndicator READ ssConfirmIndicator WRITE setSsConfirmIndicator NOTIFY ssConfirmIndicatorChanged)
+    Q_PROPERTY(QColor ssInconsistentFlag READ ssInconsistentFlag WRITE setSsInconsistentFlag NOTIFY ssInconsistentFlagChanged)
     /// The colours of an unacceptable number, those of text fields: `ssForegroundInvalid`, `ssLineInvalid`.
-    Q_PROPERTY(QColor ssForegroundInvalid READ ssForegroundInvalid WRITE setSsForegroundInvalid NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssLineInvalid READ ssLineInvalid WRITE setSsLineInvalid NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssForegroundInvalid READ ssForegroundInvalid WRITE setSsForegroundInvalid NOTIFY ssForegroundInvalidChanged)
+    Q_PROPERTY(QColor ssLineInvalid READ ssLineInvalid WRITE setSsLineInvalid NOTIFY ssLineInvalidChanged)
 
 public:
     explicit RSpinBoxBase(QQuickItem *parent = nullptr);
@@ -107,7 +107,16 @@ public:
     void addSpokenStates(QAccessible::State &state) const override;
 
 Q_SIGNALS:
-    void ssChanged();
+    void ssBackgroundChanged();
+    void ssColorChanged();
+    void ssLineColorChanged();
+    void ssBorderColorChanged();
+    void ssSelectionChanged();
+    void ssForegroundSelectionChanged();
+    void ssConfirmIndicatorChanged();
+    void ssInconsistentFlagChanged();
+    void ssForegroundInvalidChanged();
+    void ssLineInvalidChanged();
     void editChanged();
     void stepsChanged();
     void labelChanged();

@@ -11,6 +11,24 @@
 
 namespace tamble::client {
 
+namespace {
+
+constexpr std::array<void (RTextFieldBase::*)(), 11> fieldColorSignals = {
+    &RTextFieldBase::ssBackgroundChanged,
+    &RTextFieldBase::ssColorChanged,
+    &RTextFieldBase::ssForegroundInvalidChanged,
+    &RTextFieldBase::ssLineColorChanged,
+    &RTextFieldBase::ssLineInvalidChanged,
+    &RTextFieldBase::ssLineUnconfirmedChanged,
+    &RTextFieldBase::ssBorderColorChanged,
+    &RTextFieldBase::ssSelectionChanged,
+    &RTextFieldBase::ssForegroundSelectionChanged,
+    &RTextFieldBase::ssConfirmIndicatorChanged,
+    &RTextFieldBase::ssInconsistentFlagChanged,
+};
+
+} // namespace
+
 const std::array<SheetColors::Source, 11> RTextFieldBase::colorSources = {{
     {&StyleSetProps::background},
     {&StyleSetProps::foreground},
@@ -27,9 +45,10 @@ const std::array<SheetColors::Source, 11> RTextFieldBase::colorSources = {{
 
 RTextFieldBase::RTextFieldBase(QQuickItem *parent)
     : QQuickTextField(parent)
-    , m_colors(*this, colorSources, [this] {
+    , m_colors(*this, colorSources, [this](std::size_t begin, std::size_t end) {
         updateFrame();
-        Q_EMIT ssChanged();
+        for (std::size_t i = begin; i < end; ++i)
+            Q_EMIT(this->*fieldColorSignals[i])();
     })
 {
     connect(this, &QQuickItem::activeFocusChanged, this, &RTextFieldBase::updateFrame);

@@ -7,6 +7,16 @@
 
 namespace tamble::client {
 
+namespace {
+
+constexpr std::array<void (RTextInputBase::*)(), 3> inputColorSignals = {
+    &RTextInputBase::ssColorChanged,
+    &RTextInputBase::ssSelectionChanged,
+    &RTextInputBase::ssForegroundInvalidChanged,
+};
+
+} // namespace
+
 const std::array<SheetColors::Source, 3> RTextInputBase::colorSources = {{
     {&StyleSetProps::foreground},
     {&StyleSetProps::selection},
@@ -15,7 +25,10 @@ const std::array<SheetColors::Source, 3> RTextInputBase::colorSources = {{
 
 RTextInputBase::RTextInputBase(QQuickItem *parent)
     : QQuickTextInput(parent)
-    , m_colors(*this, colorSources, [this] { Q_EMIT ssChanged(); })
+    , m_colors(*this, colorSources, [this](std::size_t begin, std::size_t end) {
+        for (std::size_t i = begin; i < end; ++i)
+            Q_EMIT(this->*inputColorSignals[i])();
+    })
 {
     connect(this, &QQuickTextInput::textChanged, this, &RTextInputBase::updateHint);
 }

@@ -19,9 +19,9 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RTextInputBase : public QQuickTextInput, publ
     QML_NAMED_ELEMENT(RTextInputBase)
     /// Of the style: the text, the selection, and an unacceptable text: `ssColor`, `ssSelection`,
     /// `ssForegroundInvalid`.
-    Q_PROPERTY(QColor ssColor READ ssColor WRITE setSsColor NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssSelection READ ssSelection WRITE setSsSelection NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssForegroundInvalid READ ssForegroundInvalid WRITE setSsForegroundInvalid NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssColor READ ssColor WRITE setSsColor NOTIFY ssColorChanged)
+    Q_PROPERTY(QColor ssSelection READ ssSelection WRITE setSsSelection NOTIFY ssSelectionChanged)
+    Q_PROPERTY(QColor ssForegroundInvalid READ ssForegroundInvalid WRITE setSsForegroundInvalid NOTIFY ssForegroundInvalidChanged)
     Q_PROPERTY(
         QString placeholderText READ placeholderText WRITE setPlaceholderText NOTIFY placeholderTextChanged FINAL)
 
@@ -44,7 +44,9 @@ public:
     QString spokenDescription(const QString &given) const override;
 
 Q_SIGNALS:
-    void ssChanged();
+    void ssColorChanged();
+    void ssSelectionChanged();
+    void ssForegroundInvalidChanged();
     void placeholderTextChanged();
 
 protected:

@@ -9,7 +9,7 @@
 
 namespace tamble::client {
 
-SheetColors::SheetColors(QObject &control, std::span<const Source> sources, std::function<void()> changed)
+SheetColors::SheetColors(QObject &control, std::span<const Source> sources, Changed changed)
     : m_control(control)
     , m_sources(sources)
     , m_changed(std::move(changed))
@@ -45,12 +45,12 @@ void SheetColors::setColor(std::size_t index, const QColor &color)
     if (m_given.empty())
         m_given.resize(m_sources.size());
     if (std::exchange(m_given[index], color) != color)
-        m_changed();
+        m_changed(index, index + 1);
 }
 
 void SheetColors::onStyleChanged()
 {
-    m_changed();
+    m_changed(0, m_sources.size());
 }
 
 } // namespace tamble::client

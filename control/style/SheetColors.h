@@ -29,8 +29,12 @@ public:
         int substitute = -1;
     };
 
-    /// `changed` is called when any of them may be another one. The sources outlive this.
-    SheetColors(QObject &control, std::span<const Source> sources, std::function<void()> changed);
+    /// The colours from one place in the table up to, but without, another one may have changed.
+    using Changed = std::function<void(std::size_t begin, std::size_t end)>;
+
+    /// The sources outlive this. Each colour should have a change signal of its own: with a common one, a page that binds
+    /// one colour to another would have a binding loop.
+    SheetColors(QObject &control, std::span<const Source> sources, Changed changed);
     ~SheetColors();
     SheetColors(const SheetColors &) = delete;
     SheetColors &operator=(const SheetColors &) = delete;
@@ -44,7 +48,7 @@ private:
 
     QObject &m_control;
     std::span<const Source> m_sources;
-    std::function<void()> m_changed;
+    Changed m_changed;
     std::vector<QColor> m_given;            ///< What the page has set; empty as long as it has set none.
     mutable StyleSet *m_styleSet = nullptr; ///< The attached one, once it is read.
 };
