@@ -121,7 +121,8 @@ QString RComboBoxBase::entryIcon(int index) const
 
 bool RComboBoxBase::canOpen() const
 {
-    return count() > 0 && !m_isReadOnly && isEnabled();
+    // A hidden item keeps the keyboard focus.
+    return count() > 0 && !m_isReadOnly && isEnabled() && isVisible();
 }
 
 void RComboBoxBase::open()
@@ -261,6 +262,9 @@ void RComboBoxBase::watchModel()
     if (!m_watches || m_watchedModel == delegateModel())
         return;
     takeModel();
+    // Enter must not take what stands in the old entry's place.
+    m_highlight.setEntry(-1);
+    Q_EMIT highlightedEntryChanged();
     Q_EMIT entriesReplaced();
 }
 
@@ -282,6 +286,8 @@ void RComboBoxBase::followModel()
 {
     if (m_isValueGiven && !m_hadValue && isComponentComplete())
         setCurrentIndex(-1);
+    if (count() == 0)
+        close();
     followValue();
 }
 
