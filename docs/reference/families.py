@@ -5,7 +5,11 @@ import re
 FAMILIES = {
     "Window, theme and style": ["RApplicationWindow", "RTheme", "RStyleEngineSetup", "RStyleDebugMouseArea", "style"],
     "Buttons": ["RButton", "RInconsistentButton", "RInconsistentPopup"],
+    "Fields": ["RText/R(Number)?TextField.qml", "RText/RTextArea.qml", "RSpinBox"],
     "Texts and decoration": ["RText", "RLabel", "RIcon", "RBoxShadow", "RFocusRectangle.qml"],
+    "Choices": ["RCheckBox", "RComboBox", "RTabButton"],
+    "Menus": ["RMenu", "RPopupMenu"],
+    "Tables": ["RCell"],
     "Levels": ["RFader", "RMeter", "RAxis", "fader", "meter", "RAxis.h", "RAxisItem.h"],
     "Frequency response": ["RBodeplot", "bodeplot"],
     "Dynamics": ["RLimiter/RLimiter.qml", "RCompressor", "RGate", "RDucker", "RAGC", "RANC", "dynamics"],

@@ -119,7 +119,7 @@ Flickable {
                 from: -80
                 to: 10
                 stepSize: 0.5
-                suffix: qsTr(" dB")
+                suffix: qsTr("dB")
                 value: gain.model.gain
                 onValueEdited: value => gain.model.gain = value
             }
