@@ -34,9 +34,11 @@
 #include "fader/RFaderBase.h"
 #include "fader/RTransferTable.h"
 #include "fields/FieldEdit.h"
+#include "fields/FieldFrame.h"
 #include "fields/NumberSteps.h"
 #include "fields/RComboBoxBase.h"
 #include "fields/RComboBoxEntryBase.h"
+#include "fields/RComboBoxIndicator.h"
 #include "fields/RComboBoxPopup.h"
 #include "fields/RSpinBoxBase.h"
 #include "fields/RStringRuleValidator.h"
@@ -331,6 +333,7 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RCheckBoxBase>("RCheckBoxBase");
     registrar.creatable<RComboBoxBase>("RComboBoxBase");
     registrar.creatable<RComboBoxEntryBase>("RComboBoxEntryBase");
+    registrar.creatable<RComboBoxIndicator>("RComboBoxIndicator");
     registrar.creatable<RComboBoxPopup>("RComboBoxPopup");
     registrar.creatable<RCellBase>("RCellBase");
     registrar.creatable<RCellContainerBase>("RCellContainerBase");
@@ -347,6 +350,7 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RTextAreaBase>("RTextAreaBase");
     registrar.creatable<RSpinBoxBase>("RSpinBoxBase");
     registrar.creatable<FieldEdit>("RFieldEdit");
+    registrar.creatable<FieldFrame>("RFieldFrame");
     registrar.creatable<NumberSteps>("RNumberSteps");
     registrar.creatable<PendingValue>("RPendingValue");
     registrar.withLaterProperties<QQuickItem>();
@@ -390,7 +394,6 @@ void registerParts()
     name(Part::FieldHint, "RText/RFieldHint.qml");
     name(Part::FieldButtons, "RText/RFieldButtons.qml");
     name(Part::FieldIcon, "RText/RFieldIcon.qml");
-    name(Part::SpinButtons, "RSpinBox/RSpinButtons.qml");
     name(Part::SpinAffixes, "RSpinBox/RSpinAffixes.qml");
     name(Part::SpinInvalidLook, "RSpinBox/RSpinInvalidLook.qml");
     name(Part::CellSelection, "RCell/RCellSelection.qml");

@@ -28,6 +28,7 @@ set(registered
     RComboBox/RComboBox.qml
     RCell/RCell.qml
     RCell/RCellButton.qml
+    RCell/RCellComboBox.qml
     RCell/RCellContainer.qml
     RCell/RCellGridProperties.qml
     RCell/RCellLabel.qml
@@ -91,8 +92,6 @@ set(unregistered
     RFader/RFaderTick.qml
     RLabel/RLabelLine.qml
     RSpinBox/RSpinAffixes.qml
-    RSpinBox/RSpinButton.qml
-    RSpinBox/RSpinButtons.qml
     RSpinBox/RSpinInvalidLook.qml
     RText/RFieldButton.qml
     RText/RFieldButtons.qml
@@ -110,7 +109,6 @@ set(unregistered
     Shared/RControlLine.qml
     Shared/RDynamicsPlot.qml
     Shared/RFieldBubble.qml
-    Shared/RFieldFrame.qml
     Shared/RFieldMarks.qml
     Shared/RFieldMenu.qml
     Shared/RHandleBubble.qml

@@ -25,12 +25,11 @@ enum class Part {
     FocusFrame,   ///< The frame of a control's background while it has the focus.
     LabelLine,    ///< The line of a label.
     ToolTip,
-    FieldMarks,   ///< The marks of a field: not entered, not confirmed, mixed, not acceptable.
-    FieldBubble,  ///< What a field tells whoever types into it.
-    FieldHint,    ///< What stands in an empty field.
-    FieldButtons, ///< To clear a field, and to show a hidden text.
-    FieldIcon,    ///< The picture in front of a field's text.
-    SpinButtons,
+    FieldMarks,      ///< The marks of a field: not entered, not confirmed, mixed, not acceptable.
+    FieldBubble,     ///< What a field tells whoever types into it.
+    FieldHint,       ///< What stands in an empty field.
+    FieldButtons,    ///< To clear a field, and to show a hidden text.
+    FieldIcon,       ///< The picture in front of a field's text.
     SpinAffixes,     ///< What stands before and after the number of a spin box.
     SpinInvalidLook, ///< The colours of an unacceptable number.
     CellSelection,   ///< The frame and tint of a selected cell.

@@ -316,8 +316,9 @@ void FieldEdit::judge()
 {
     if (!m_isComplete || !m_editor)
         return;
-    const bool isMixed = !m_isConsistent && !m_isEdited;
-    const QString found = isMixed ? QString() : problemOf(tidied(m_editor->text()));
+    // The text that a value gives is not what the user is to answer for.
+    const bool isShown = !m_isEdited && (!m_isConsistent || (m_value.isValid() && m_converter && !m_rules));
+    const QString found = isShown ? errorInForce() : problemOf(tidied(m_editor->text()));
     if (std::exchange(m_invalidText, found) != found) {
         updateMarks();
         Q_EMIT invalidTextChanged();
@@ -325,10 +326,16 @@ void FieldEdit::judge()
     updateBubble();
 }
 
+QString FieldEdit::errorInForce() const
+{
+    return m_errorCounts ? m_errorText : QString();
+}
+
 QString FieldEdit::problemOf(const QString &text) const
 {
-    if (m_errorCounts && !m_errorText.isEmpty())
-        return m_errorText;
+    const QString error = errorInForce();
+    if (!error.isEmpty())
+        return error;
     const QString beyondLimits = m_limits.problemOf(text);
     if (!beyondLimits.isEmpty())
         return beyondLimits;
@@ -384,6 +391,8 @@ void FieldEdit::setEdited(bool edited)
 void FieldEdit::updateMarks()
 {
     const bool isMarked = m_isEdited || !m_isConfirmed || !m_isConsistent || !m_invalidText.isEmpty();
+    if (m_isComplete)
+        Q_EMIT lookChanged();
     if (!m_isComplete || std::exchange(m_isMarked, isMarked) == isMarked)
         return;
     if (isMarked && !m_marks && m_field)
@@ -396,7 +405,7 @@ void FieldEdit::updateBubble()
 {
     QString text;
     if (m_editor && m_editor->item().hasActiveFocus()) {
-        const bool tellsReason = m_isEdited || (m_errorCounts && !m_errorText.isEmpty());
+        const bool tellsReason = m_isEdited || !errorInForce().isEmpty();
         text = m_noticeText.isEmpty() && tellsReason ? m_invalidText : m_noticeText;
     }
     if (std::exchange(m_bubbleText, text) == text)

@@ -153,6 +153,8 @@ Q_SIGNALS:
     void settleTimeChanged();
     void converterChanged();
     void markedChanged();
+    /// The text or its line may be shown in another colour.
+    void lookChanged();
     /// The user has entered this, or made a step to it.
     void valueEdited(const QVariant &value);
     /// What the user entered, or the last step of a gesture.
@@ -176,6 +178,7 @@ private:
     void judge();
     void updateMarks();
     void updateBubble();
+    QString errorInForce() const;
     QString problemOf(const QString &text) const;
     QString tidied(const QString &text) const;
     QString textOfValue() const;

@@ -81,10 +81,7 @@ bool FieldGestures::handle(EditedText &text, QEvent &event)
         m_focusedByPress = !text.item().hasActiveFocus();
         return false;
     case QEvent::MouseButtonRelease:
-        if (std::exchange(m_focusedByPress, false) && !text.hasManyLines() && text.item().hasActiveFocus() &&
-            !text.hasSelection())
-            text.selectAll();
-        return false;
+        return std::exchange(m_focusedByPress, false) && !text.hasManyLines() && onFirstClick(text, event);
     default:
         return false;
     }
@@ -140,6 +137,16 @@ bool FieldGestures::onDrag(EditedText &text, QDropEvent &drag)
         text.item().forceActiveFocus(Qt::MouseFocusReason);
         m_edit.paste(drag.mimeData()->text(), position, position);
     }
+    return true;
+}
+
+bool FieldGestures::onFirstClick(EditedText &text, QEvent &release)
+{
+    const QPointer<FieldEdit> guard(&m_edit);
+    QObject &editor = text.item();
+    editor.event(&release);
+    if (guard && text.item().hasActiveFocus() && !text.hasSelection())
+        text.selectAll();
     return true;
 }
 

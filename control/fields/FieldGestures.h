@@ -24,6 +24,7 @@ private:
     bool onKey(EditedText &text, QKeyEvent &key);
     bool onTypingKey(EditedText &text, QKeyEvent &key);
     bool onDrag(EditedText &text, QDropEvent &drag);
+    bool onFirstClick(EditedText &text, QEvent &release);
     void onFocusLost(Qt::FocusReason reason);
 
     FieldEdit &m_edit;

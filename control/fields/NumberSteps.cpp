@@ -8,6 +8,7 @@
 #include <QtGui/QPointingDevice>
 #include <QtGui/QWheelEvent>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -199,7 +200,8 @@ bool NumberSteps::canEdit() const
 
 bool NumberSteps::canStep(int direction) const
 {
-    return canEdit() && (!m_edit->isConsistent() || m_rule.stepped(number(), StepSize::Normal, direction) != number());
+    return canEdit() &&
+           (!m_edit->isConsistent() || m_rule.stepped(stepOrigin(), StepSize::Normal, direction) != stepOrigin());
 }
 
 void NumberSteps::step(StepSize size, int direction)
@@ -214,8 +216,15 @@ void NumberSteps::step(StepSize size, int direction)
     // What was typed and can be entered is what the step starts from.
     if (m_edit->isEdited() && !m_edit->enter())
         return;
-    if (canEdit())
-        show(m_rule.stepped(number(), size, direction));
+    const double next = m_edit ? m_rule.stepped(stepOrigin(), size, direction) : 0.0;
+    if (canEdit() && next != stepOrigin())
+        show(next);
+}
+
+// Below a bound that reads "off" there are no steps, however far below it is for the device.
+double NumberSteps::stepOrigin() const
+{
+    return m_minimumText.isEmpty() ? number() : std::max(number(), m_rule.from);
 }
 
 void NumberSteps::show(double value)

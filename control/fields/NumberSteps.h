@@ -122,6 +122,7 @@ private:
     bool canEdit() const;
     bool canStep(int direction) const;
     double number() const;
+    double stepOrigin() const;
     bool readsAsMinimum(const QString &text) const;
     void show(double value);
 

@@ -44,6 +44,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RComboBoxBase : public tamble::client::Styled
     Q_PROPERTY(QString iconRole READ iconRole WRITE setIconRole NOTIFY iconRoleChanged FINAL)
     /// Most entries that the list shows at once; 8 by default.
     Q_PROPERTY(int maximumVisibleItems MEMBER m_maximumVisibleItems NOTIFY maximumVisibleItemsChanged FINAL)
+    /// Whether a letter opens the list as well, at the first entry that begins with it; false by default.
+    Q_PROPERTY(bool opensByTyping MEMBER m_opensByTyping NOTIFY opensByTypingChanged FINAL)
     Q_PROPERTY(bool mixed READ isMixed NOTIFY mixedChanged FINAL)
     Q_PROPERTY(QString otherText READ otherText NOTIFY otherTextChanged FINAL)
     Q_PROPERTY(QQmlInstanceModel *entries READ entries NOTIFY entriesReplaced FINAL)
@@ -104,6 +106,8 @@ public:
     Q_INVOKABLE void close();
     /// Chooses an entry as a click does; nothing for one that is disabled.
     Q_INVOKABLE void choose(int index);
+    /// Chooses the entry with this text, in upper or lower case, and says why not: empty when it was chosen.
+    Q_INVOKABLE QString chooseText(const QString &text);
 
     bool isEntryEnabled(int index) const;
     QString entryIcon(int index) const;
@@ -131,6 +135,7 @@ Q_SIGNALS:
     void enabledRoleChanged();
     void iconRoleChanged();
     void maximumVisibleItemsChanged();
+    void opensByTypingChanged();
     void mixedChanged();
     void otherTextChanged();
     void highlightedEntryChanged();
@@ -190,6 +195,7 @@ private:
     bool m_isConfirmed = true;
     bool m_isReadOnly = false;
     bool m_isOpen = false;
+    bool m_opensByTyping = false;
     bool m_isValueGiven = false; ///< A page has bound or set `value`, if only to undefined.
     bool m_hadValue = false;     ///< `value` has named something: from then on it counts, not `currentIndex`.
     bool m_watches = false;      ///< Somebody has asked for the entries, or a value is looked for among them.

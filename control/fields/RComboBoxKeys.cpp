@@ -111,13 +111,16 @@ void RComboBoxBase::keyReleaseEvent(QKeyEvent *event)
 bool RComboBoxBase::handleClosedKey(const QKeyEvent &event)
 {
     const bool isArrow = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
-    const bool opens = isArrow || event.key() == Qt::Key_F4 || (isChoosingKey(event.key()) && !isEditable());
-    if (!opens || !canOpen())
+    const bool isChoosing = isChoosingKey(event.key()) && !isEditable();
+    const bool isTyped = m_opensByTyping && !isEditable() && !isChoosing && writesText(event);
+    if (!(isArrow || event.key() == Qt::Key_F4 || isChoosing || isTyped) || !canOpen())
         return false;
     if (!event.isAutoRepeat() || isArrow) {
         m_openedByKey = true;
         open();
     }
+    if (isTyped && m_isOpen)
+        handleListKey(event);
     return true;
 }
 

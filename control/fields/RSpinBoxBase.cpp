@@ -1,6 +1,9 @@
 #include "fields/RSpinBoxBase.h"
 
+#include "fields/FieldFrame.h"
 #include "fields/FieldParts.h"
+#include "fields/SpinButtons.h"
+#include "style/StyleSetProps.h"
 
 #include <QtCore/QTimerEvent>
 #include <QtGui/QGuiApplication>
@@ -18,8 +21,24 @@ constexpr int repeatsBeforePages = 20;
 
 } // namespace
 
+const std::array<SheetColors::Source, 8> RSpinBoxBase::colorSources = {{
+    {&StyleSetProps::background},
+    {&StyleSetProps::foreground},
+    {&StyleSetProps::line},
+    {&StyleSetProps::border, "border"},
+    {&StyleSetProps::selection},
+    {&StyleSetProps::foregroundSelection},
+    {&StyleSetProps::confirmIndicator},
+    {&StyleSetProps::inconsistentFlag},
+}};
+
 RSpinBoxBase::RSpinBoxBase(QQuickItem *parent)
     : QQuickControl(parent)
+    , m_colors(*this, colorSources, [this] {
+        updateFrame();
+        updateButtons();
+        Q_EMIT ssChanged();
+    })
 {
     setFlag(ItemIsFocusScope);
     setAcceptedMouseButtons(Qt::LeftButton);
@@ -41,6 +60,7 @@ void RSpinBoxBase::setEdit(FieldEdit *edit)
         connect(edit, &FieldEdit::canceled, this, &RSpinBoxBase::editCanceled);
         connect(edit, &FieldEdit::rejected, this, &RSpinBoxBase::rejected);
         connect(edit, &FieldEdit::invalidTextChanged, this, &RSpinBoxBase::onInvalid);
+        connect(edit, &FieldEdit::lookChanged, this, &RSpinBoxBase::updateFrame);
     }
     Q_EMIT editChanged();
 }
@@ -52,8 +72,10 @@ void RSpinBoxBase::setSteps(NumberSteps *steps)
     if (m_steps)
         m_steps->disconnect(this);
     m_steps = steps;
-    if (steps)
+    if (steps) {
         connect(steps, &NumberSteps::stepped, this, &RSpinBoxBase::stepped);
+        connect(steps, &NumberSteps::boundsReached, this, &RSpinBoxBase::updateButtons);
+    }
     Q_EMIT stepsChanged();
 }
 
@@ -62,15 +84,16 @@ void RSpinBoxBase::setButtonsVisible(bool visible)
     if (std::exchange(m_buttonsVisible, visible) == visible)
         return;
     release();
-    if (visible && !m_buttons && isComponentComplete())
-        m_buttons = makeFieldPart(Part::SpinButtons, *this);
+    updateButtons();
     Q_EMIT buttonsVisibleChanged();
 }
 
-void RSpinBoxBase::setButtonWidth(qreal width)
+void RSpinBoxBase::setUnit(qreal unit)
 {
-    if (std::exchange(m_buttonWidth, width) != width)
-        Q_EMIT buttonWidthChanged();
+    if (std::exchange(m_unit, unit) == unit)
+        return;
+    updateButtons();
+    Q_EMIT unitChanged();
 }
 
 void RSpinBoxBase::setPrefix(const QString &prefix)
@@ -89,6 +112,20 @@ void RSpinBoxBase::setSuffix(const QString &suffix)
     Q_EMIT suffixChanged();
 }
 
+void RSpinBoxBase::setSsForegroundInvalid(const QColor &color)
+{
+    if (std::exchange(m_foregroundInvalid, color) != color)
+        Q_EMIT ssChanged();
+}
+
+void RSpinBoxBase::setSsLineInvalid(const QColor &color)
+{
+    if (std::exchange(m_lineInvalid, color) == color)
+        return;
+    updateFrame();
+    Q_EMIT ssChanged();
+}
+
 void RSpinBoxBase::needAffixes()
 {
     if (!m_affixes && isComponentComplete() && !(m_prefix.isEmpty() && m_suffix.isEmpty()))
@@ -105,9 +142,45 @@ void RSpinBoxBase::onInvalid()
 void RSpinBoxBase::componentComplete()
 {
     QQuickControl::componentComplete();
-    if (m_buttonsVisible && !m_buttons)
-        m_buttons = makeFieldPart(Part::SpinButtons, *this);
+    updateButtons();
     needAffixes();
+    updateFrame();
+}
+
+void RSpinBoxBase::updateFrame()
+{
+    auto *frame = isComponentComplete() && m_edit ? qobject_cast<FieldFrame *>(background()) : nullptr;
+    if (!frame)
+        return;
+    frame->setColor(ssBackground());
+    frame->setFocused(hasActiveFocus());
+    frame->setBorderColor(ssBorderColor());
+    frame->setLineColor(m_edit->isAcceptable() ? ssLineColor() : ssLineInvalid());
+}
+
+void RSpinBoxBase::updateButtons()
+{
+    if (!isComponentComplete() || (!m_buttons && !m_buttonsVisible))
+        return;
+    if (!m_buttons)
+        m_buttons = new SpinButtons(this);
+    m_buttons->setVisible(m_buttonsVisible);
+    m_buttons->setX(isMirrored() ? 0.0 : width() - 2.0 * buttonWidth());
+    m_buttons->setSize({2.0 * buttonWidth(), height()});
+    m_buttons->show(ssColor(), m_unit, isMirrored());
+    m_buttons->enable(m_steps && m_steps->canStepDown(), m_steps && m_steps->canStepUp(), m_pressedButton);
+}
+
+void RSpinBoxBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    QQuickControl::geometryChange(newGeometry, oldGeometry);
+    updateButtons();
+}
+
+void RSpinBoxBase::mirrorChange()
+{
+    QQuickControl::mirrorChange();
+    updateButtons();
 }
 
 void RSpinBoxBase::requestValue(const QVariant &value)
@@ -120,7 +193,8 @@ QString RSpinBoxBase::spokenDescription(const QString &given) const
 {
     if (!m_edit)
         return given;
-    const QString shown = m_edit->isConsistent() ? m_prefix + m_edit->text() + m_suffix : QString();
+    const QString shown =
+        m_edit->isConsistent() ? (m_prefix + m_edit->text() + u' ' + m_suffix.trimmed()).trimmed() : QString();
     return m_edit->description(given.isEmpty() ? shown : given);
 }
 
@@ -140,9 +214,9 @@ void RSpinBoxBase::accessibilityActiveChanged(bool active)
 int RSpinBoxBase::buttonAt(qreal x) const
 {
     const qreal fromEnd = isMirrored() ? x : width() - x;
-    if (!m_buttonsVisible || fromEnd < 0.0 || fromEnd >= 2.0 * m_buttonWidth)
+    if (!m_buttonsVisible || fromEnd < 0.0 || fromEnd >= 2.0 * buttonWidth())
         return 0;
-    return fromEnd < m_buttonWidth ? 1 : -1;
+    return fromEnd < buttonWidth() ? 1 : -1;
 }
 
 void RSpinBoxBase::mousePressEvent(QMouseEvent *event)
@@ -156,6 +230,7 @@ void RSpinBoxBase::mousePressEvent(QMouseEvent *event)
     m_repeats = 0;
     if (m_autoRepeat)
         m_repeat.start(repeatDelayMs, this);
+    updateButtons();
     Q_EMIT pressedButtonChanged();
     stepByButton();
 }
@@ -184,6 +259,8 @@ void RSpinBoxBase::wheelEvent(QWheelEvent *event)
 void RSpinBoxBase::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickControl::itemChange(change, data);
+    if (change == ItemActiveFocusHasChanged)
+        updateFrame();
     if ((change == ItemVisibleHasChanged || change == ItemEnabledHasChanged) && !data.boolValue)
         release();
 }
@@ -207,8 +284,10 @@ void RSpinBoxBase::release()
     const QPointer<RSpinBoxBase> guard(this);
     if (m_steps)
         m_steps->finish();
-    if (guard)
-        Q_EMIT pressedButtonChanged();
+    if (!guard)
+        return;
+    updateButtons();
+    Q_EMIT pressedButtonChanged();
 }
 
 void RSpinBoxBase::timerEvent(QTimerEvent *event)

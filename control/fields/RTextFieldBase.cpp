@@ -1,6 +1,8 @@
 #include "fields/RTextFieldBase.h"
 
+#include "fields/FieldFrame.h"
 #include "fields/FieldParts.h"
+#include "style/StyleSetProps.h"
 
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
@@ -9,9 +11,29 @@
 
 namespace tamble::client {
 
+const std::array<SheetColors::Source, 11> RTextFieldBase::colorSources = {{
+    {&StyleSetProps::background},
+    {&StyleSetProps::foreground},
+    {&StyleSetProps::foregroundInvalid, "foreground-invalid", LineInvalid},
+    {&StyleSetProps::line},
+    {&StyleSetProps::lineInvalid, "line-invalid", ForegroundInvalid},
+    {&StyleSetProps::lineUnconfirmed, "line-unconfirmed", LineColor},
+    {&StyleSetProps::border, "border"},
+    {&StyleSetProps::selection},
+    {&StyleSetProps::foregroundSelection},
+    {&StyleSetProps::confirmIndicator},
+    {&StyleSetProps::inconsistentFlag},
+}};
+
 RTextFieldBase::RTextFieldBase(QQuickItem *parent)
     : QQuickTextField(parent)
+    , m_colors(*this, colorSources, [this] {
+        updateFrame();
+        Q_EMIT ssChanged();
+    })
 {
+    connect(this, &QQuickItem::activeFocusChanged, this, &RTextFieldBase::updateFrame);
+    connect(this, &QQuickTextField::backgroundChanged, this, &RTextFieldBase::updateFrame);
     connect(this, &QQuickTextInput::textChanged, this, &RTextFieldBase::updateHint);
     connect(this, &QQuickTextField::placeholderTextChanged, this, &RTextFieldBase::updateHint);
 }
@@ -29,6 +51,7 @@ void RTextFieldBase::setEdit(FieldEdit *edit)
         connect(edit, &FieldEdit::canceled, this, &RTextFieldBase::editCanceled);
         connect(edit, &FieldEdit::rejected, this, &RTextFieldBase::rejected);
         connect(edit, &FieldEdit::valueWaits, this, &RTextFieldBase::valueWaits);
+        connect(edit, &FieldEdit::lookChanged, this, &RTextFieldBase::updateFrame);
         connect(edit, &FieldEdit::consistentChanged, this, &RTextFieldBase::updateHint);
     }
     Q_EMIT editChanged();
@@ -93,6 +116,19 @@ void RTextFieldBase::componentComplete()
 {
     QQuickTextField::componentComplete();
     updateHint();
+    updateFrame();
+}
+
+void RTextFieldBase::updateFrame()
+{
+    auto *frame = isComponentComplete() && m_edit ? qobject_cast<FieldFrame *>(background()) : nullptr;
+    if (!frame)
+        return;
+    const bool isWaiting = m_edit->isEdited() || !m_edit->isConfirmed();
+    frame->setColor(ssBackground());
+    frame->setFocused(hasActiveFocus());
+    frame->setBorderColor(ssBorderColor());
+    frame->setLineColor(!m_edit->isAcceptable() ? ssLineInvalid() : isWaiting ? ssLineUnconfirmed() : ssLineColor());
 }
 
 void RTextFieldBase::updateHint()

@@ -3,9 +3,12 @@
 #include "base/ControlExport.h"
 #include "fields/FieldEdit.h"
 #include "fields/FieldSpeech.h"
+#include "style/SheetColors.h"
 
 #include <QtQml/qqmlregistration.h>
 #include <QtQuickTemplates2/private/qquicktextfield_p.h>
+
+#include <array>
 
 namespace tamble::client {
 
@@ -21,6 +24,21 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RTextFieldBase : public QQuickTextField, publ
     Q_PROPERTY(bool clearable READ isClearable WRITE setClearable NOTIFY clearableChanged FINAL)
     Q_PROPERTY(bool revealable READ isRevealable WRITE setRevealable NOTIFY revealableChanged FINAL)
     Q_PROPERTY(QString iconKey READ iconKey WRITE setIconKey NOTIFY iconKeyChanged FINAL)
+    /// Of the style: what is behind the text, and the text itself, also an unacceptable one: `ssBackground`, `ssColor`,
+    /// `ssForegroundInvalid`; the line below, also for unacceptable and for unconfirmed texts, and the border:
+    /// `ssLineColor`, `ssLineInvalid`, `ssLineUnconfirmed`, `ssBorderColor`; the selection, and the text within:
+    /// `ssSelection`, `ssForegroundSelection`; the marks: `ssConfirmIndicator`, `ssInconsistentFlag`.
+    Q_PROPERTY(QColor ssBackground READ ssBackground WRITE setSsBackground NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssColor READ ssColor WRITE setSsColor NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssForegroundInvalid READ ssForegroundInvalid WRITE setSsForegroundInvalid NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssLineColor READ ssLineColor WRITE setSsLineColor NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssLineInvalid READ ssLineInvalid WRITE setSsLineInvalid NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssLineUnconfirmed READ ssLineUnconfirmed WRITE setSsLineUnconfirmed NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssBorderColor READ ssBorderColor WRITE setSsBorderColor NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssSelection READ ssSelection WRITE setSsSelection NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssForegroundSelection READ ssForegroundSelection WRITE setSsForegroundSelection NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssConfirmIndicator READ ssConfirmIndicator WRITE setSsConfirmIndicator NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssInconsistentFlag READ ssInconsistentFlag WRITE setSsInconsistentFlag NOTIFY ssChanged)
 
 public:
     explicit RTextFieldBase(QQuickItem *parent = nullptr);
@@ -38,6 +56,29 @@ public:
     QString iconKey() const { return m_iconKey; }
     void setIconKey(const QString &key);
 
+    QColor ssBackground() const { return m_colors.color(Background); }
+    void setSsBackground(const QColor &color) { m_colors.setColor(Background, color); }
+    QColor ssColor() const { return m_colors.color(Color); }
+    void setSsColor(const QColor &color) { m_colors.setColor(Color, color); }
+    QColor ssForegroundInvalid() const { return m_colors.color(ForegroundInvalid); }
+    void setSsForegroundInvalid(const QColor &color) { m_colors.setColor(ForegroundInvalid, color); }
+    QColor ssLineColor() const { return m_colors.color(LineColor); }
+    void setSsLineColor(const QColor &color) { m_colors.setColor(LineColor, color); }
+    QColor ssLineInvalid() const { return m_colors.color(LineInvalid); }
+    void setSsLineInvalid(const QColor &color) { m_colors.setColor(LineInvalid, color); }
+    QColor ssLineUnconfirmed() const { return m_colors.color(LineUnconfirmed); }
+    void setSsLineUnconfirmed(const QColor &color) { m_colors.setColor(LineUnconfirmed, color); }
+    QColor ssBorderColor() const { return m_colors.color(BorderColor); }
+    void setSsBorderColor(const QColor &color) { m_colors.setColor(BorderColor, color); }
+    QColor ssSelection() const { return m_colors.color(Selection); }
+    void setSsSelection(const QColor &color) { m_colors.setColor(Selection, color); }
+    QColor ssForegroundSelection() const { return m_colors.color(ForegroundSelection); }
+    void setSsForegroundSelection(const QColor &color) { m_colors.setColor(ForegroundSelection, color); }
+    QColor ssConfirmIndicator() const { return m_colors.color(ConfirmIndicator); }
+    void setSsConfirmIndicator(const QColor &color) { m_colors.setColor(ConfirmIndicator, color); }
+    QColor ssInconsistentFlag() const { return m_colors.color(InconsistentFlag); }
+    void setSsInconsistentFlag(const QColor &color) { m_colors.setColor(InconsistentFlag, color); }
+
     /// Shows the text, or hides it again as the page's `echoMode` did.
     Q_INVOKABLE void reveal(bool shown);
     /// Pastes from the clipboard, in place of the selection.
@@ -49,6 +90,7 @@ public:
     void addSpokenStates(QAccessible::State &state) const override;
 
 Q_SIGNALS:
+    void ssChanged();
     void editChanged();
     void labelChanged();
     void clearableChanged();
@@ -69,8 +111,26 @@ protected:
 
 private:
     QString spokenHint() const override { return placeholderText(); }
+    enum ColorName : std::size_t {
+        Background,
+        Color,
+        ForegroundInvalid,
+        LineColor,
+        LineInvalid,
+        LineUnconfirmed,
+        BorderColor,
+        Selection,
+        ForegroundSelection,
+        ConfirmIndicator,
+        InconsistentFlag
+    };
+    static const std::array<SheetColors::Source, 11> colorSources;
+
     void updateHint();
+    void updateFrame();
     void needButtons();
+
+    SheetColors m_colors;
 
     QObject *m_hint = nullptr; // these are children, made when first shown
     QObject *m_buttons = nullptr;

@@ -1,13 +1,21 @@
 #include "fields/RTextInputBase.h"
 
 #include "fields/FieldParts.h"
+#include "style/StyleSetProps.h"
 
 #include <utility>
 
 namespace tamble::client {
 
+const std::array<SheetColors::Source, 3> RTextInputBase::colorSources = {{
+    {&StyleSetProps::foreground},
+    {&StyleSetProps::selection},
+    {&StyleSetProps::foregroundInvalid, "foreground-invalid", Color},
+}};
+
 RTextInputBase::RTextInputBase(QQuickItem *parent)
     : QQuickTextInput(parent)
+    , m_colors(*this, colorSources, [this] { Q_EMIT ssChanged(); })
 {
     connect(this, &QQuickTextInput::textChanged, this, &RTextInputBase::updateHint);
 }

@@ -19,27 +19,39 @@ StyledComboBox::~StyledComboBox()
         m_styleSet->setFollower(nullptr);
 }
 
+struct StyledComboBox::Source
+{
+    QColor (StyleSetProps::*read)();
+    void (StyledComboBox::*changed)();
+};
+
+// A signal for each colour: with a common one, a page that binds one to another would have a binding loop.
+const StyledComboBox::Source &StyledComboBox::source(int name)
+{
+    static constexpr std::array<Source, nameCount> sources = {{
+        {&StyleSetProps::background, &StyledComboBox::ssBackgroundChanged},
+        {&StyleSetProps::foreground, &StyledComboBox::ssColorChanged},
+        {&StyleSetProps::line, &StyledComboBox::ssLineColorChanged},
+        {&StyleSetProps::border, &StyledComboBox::ssBorderColorChanged},
+        {&StyleSetProps::borderColorFocus, &StyledComboBox::ssBorderColorFocusChanged},
+        {&StyleSetProps::indicatorBackground, &StyledComboBox::ssIndicatorBackgroundChanged},
+        {&StyleSetProps::indicatorBackgroundHover, &StyledComboBox::ssIndicatorBackgroundHoverChanged},
+        {&StyleSetProps::itemColorCurrent, &StyledComboBox::ssItemColorCurrentChanged},
+        {&StyleSetProps::itemColorHover, &StyledComboBox::ssItemColorHoverChanged},
+        {&StyleSetProps::foregroundItem, &StyledComboBox::ssForegroundItemChanged},
+        {&StyleSetProps::foregroundItemHover, &StyledComboBox::ssForegroundItemHoverChanged},
+        {&StyleSetProps::foregroundItemSelected, &StyledComboBox::ssForegroundItemSelectedChanged},
+        {&StyleSetProps::backgroundItem, &StyledComboBox::ssBackgroundItemChanged},
+        {&StyleSetProps::backgroundItemHover, &StyledComboBox::ssBackgroundItemHoverChanged},
+        {&StyleSetProps::backgroundItemSelected, &StyledComboBox::ssBackgroundItemSelectedChanged},
+        {&StyleSetProps::popupColor, &StyledComboBox::ssPopupColorChanged},
+        {&StyleSetProps::popupBorderColor, &StyledComboBox::ssPopupBorderColorChanged},
+    }};
+    return sources.at(std::size_t(name));
+}
+
 QColor StyledComboBox::color(Name name)
 {
-    constexpr std::array<QColor (StyleSetProps::*)(), nameCount> reads = {
-        &StyleSetProps::background,
-        &StyleSetProps::foreground,
-        &StyleSetProps::line,
-        &StyleSetProps::border,
-        &StyleSetProps::borderColorFocus,
-        &StyleSetProps::indicatorBackground,
-        &StyleSetProps::indicatorBackgroundHover,
-        &StyleSetProps::itemColorCurrent,
-        &StyleSetProps::itemColorHover,
-        &StyleSetProps::foregroundItem,
-        &StyleSetProps::foregroundItemHover,
-        &StyleSetProps::foregroundItemSelected,
-        &StyleSetProps::backgroundItem,
-        &StyleSetProps::backgroundItemHover,
-        &StyleSetProps::backgroundItemSelected,
-        &StyleSetProps::popupColor,
-        &StyleSetProps::popupBorderColor,
-    };
     if (m_colors && m_colors->at(name).isValid())
         return m_colors->at(name);
     if (!m_styleSet) {
@@ -50,7 +62,7 @@ QColor StyledComboBox::color(Name name)
     // Not every sheet sets these.
     const bool isMissing = (name == BorderColor && !props.isSet(QStringLiteral("border"))) ||
                            (name == BorderColorFocus && !props.isSet(QStringLiteral("border-color-focus")));
-    return isMissing ? QColor(Qt::transparent) : (props.*reads.at(name))();
+    return isMissing ? QColor(Qt::transparent) : (props.*source(name).read)();
 }
 
 void StyledComboBox::setColor(Name name, const QColor &color)
@@ -59,12 +71,13 @@ void StyledComboBox::setColor(Name name, const QColor &color)
         m_colors = std::make_unique<std::array<QColor, nameCount>>();
     if (std::exchange(m_colors->at(name), color) == color)
         return;
-    Q_EMIT ssChanged();
+    Q_EMIT(this->*source(name).changed)();
 }
 
 void StyledComboBox::onStyleChanged()
 {
-    Q_EMIT ssChanged();
+    for (int name = 0; name < nameCount; ++name)
+        Q_EMIT(this->*source(name).changed)();
 }
 
 } // namespace tamble::client

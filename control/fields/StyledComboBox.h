@@ -25,26 +25,32 @@ class TAMBLE_CLIENT_CONTROL_EXPORT StyledComboBox : public QQuickComboBox, priva
     /// the open list: the bar beside an entry, its text, what is behind it, and the list itself: `ssItemColorCurrent`,
     /// `ssItemColorHover`, `ssForegroundItem`, `ssForegroundItemHover`, `ssForegroundItemSelected`, `ssBackgroundItem`,
     /// `ssBackgroundItemHover`, `ssBackgroundItemSelected`, `ssPopupColor`, `ssPopupBorderColor`.
-    Q_PROPERTY(QColor ssBackground READ ssBackground WRITE setSsBackground NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssColor READ ssColor WRITE setSsColor NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssLineColor READ ssLineColor WRITE setSsLineColor NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssBorderColor READ ssBorderColor WRITE setSsBorderColor NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssBorderColorFocus READ ssBorderColorFocus WRITE setSsBorderColorFocus NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssIndicatorBackground READ ssIndicatorBackground WRITE setSsIndicatorBackground NOTIFY ssChanged)
+    Q_PROPERTY(QColor ssBackground READ ssBackground WRITE setSsBackground NOTIFY ssBackgroundChanged)
+    Q_PROPERTY(QColor ssColor READ ssColor WRITE setSsColor NOTIFY ssColorChanged)
+    Q_PROPERTY(QColor ssLineColor READ ssLineColor WRITE setSsLineColor NOTIFY ssLineColorChanged)
+    Q_PROPERTY(QColor ssBorderColor READ ssBorderColor WRITE setSsBorderColor NOTIFY ssBorderColorChanged)
+    Q_PROPERTY(
+        QColor ssBorderColorFocus READ ssBorderColorFocus WRITE setSsBorderColorFocus NOTIFY ssBorderColorFocusChanged)
+    Q_PROPERTY(QColor ssIndicatorBackground READ ssIndicatorBackground WRITE setSsIndicatorBackground NOTIFY
+                   ssIndicatorBackgroundChanged)
     Q_PROPERTY(QColor ssIndicatorBackgroundHover READ ssIndicatorBackgroundHover WRITE setSsIndicatorBackgroundHover
-                   NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssItemColorCurrent READ ssItemColorCurrent WRITE setSsItemColorCurrent NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssItemColorHover READ ssItemColorHover WRITE setSsItemColorHover NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssForegroundItem READ ssForegroundItem WRITE setSsForegroundItem NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssForegroundItemHover READ ssForegroundItemHover WRITE setSsForegroundItemHover NOTIFY ssChanged)
+                   NOTIFY ssIndicatorBackgroundHoverChanged)
+    Q_PROPERTY(
+        QColor ssItemColorCurrent READ ssItemColorCurrent WRITE setSsItemColorCurrent NOTIFY ssItemColorCurrentChanged)
+    Q_PROPERTY(QColor ssItemColorHover READ ssItemColorHover WRITE setSsItemColorHover NOTIFY ssItemColorHoverChanged)
+    Q_PROPERTY(QColor ssForegroundItem READ ssForegroundItem WRITE setSsForegroundItem NOTIFY ssForegroundItemChanged)
+    Q_PROPERTY(QColor ssForegroundItemHover READ ssForegroundItemHover WRITE setSsForegroundItemHover NOTIFY
+                   ssForegroundItemHoverChanged)
     Q_PROPERTY(QColor ssForegroundItemSelected READ ssForegroundItemSelected WRITE setSsForegroundItemSelected NOTIFY
-                   ssChanged)
-    Q_PROPERTY(QColor ssBackgroundItem READ ssBackgroundItem WRITE setSsBackgroundItem NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssBackgroundItemHover READ ssBackgroundItemHover WRITE setSsBackgroundItemHover NOTIFY ssChanged)
+                   ssForegroundItemSelectedChanged)
+    Q_PROPERTY(QColor ssBackgroundItem READ ssBackgroundItem WRITE setSsBackgroundItem NOTIFY ssBackgroundItemChanged)
+    Q_PROPERTY(QColor ssBackgroundItemHover READ ssBackgroundItemHover WRITE setSsBackgroundItemHover NOTIFY
+                   ssBackgroundItemHoverChanged)
     Q_PROPERTY(QColor ssBackgroundItemSelected READ ssBackgroundItemSelected WRITE setSsBackgroundItemSelected NOTIFY
-                   ssChanged)
-    Q_PROPERTY(QColor ssPopupColor READ ssPopupColor WRITE setSsPopupColor NOTIFY ssChanged)
-    Q_PROPERTY(QColor ssPopupBorderColor READ ssPopupBorderColor WRITE setSsPopupBorderColor NOTIFY ssChanged)
+                   ssBackgroundItemSelectedChanged)
+    Q_PROPERTY(QColor ssPopupColor READ ssPopupColor WRITE setSsPopupColor NOTIFY ssPopupColorChanged)
+    Q_PROPERTY(
+        QColor ssPopupBorderColor READ ssPopupBorderColor WRITE setSsPopupBorderColor NOTIFY ssPopupBorderColorChanged)
 
 public:
     explicit StyledComboBox(QQuickItem *parent = nullptr);
@@ -86,7 +92,23 @@ public:
     void setSsPopupBorderColor(const QColor &color) { setColor(PopupBorderColor, color); }
 
 Q_SIGNALS:
-    void ssChanged();
+    void ssBackgroundChanged();
+    void ssColorChanged();
+    void ssLineColorChanged();
+    void ssBorderColorChanged();
+    void ssBorderColorFocusChanged();
+    void ssIndicatorBackgroundChanged();
+    void ssIndicatorBackgroundHoverChanged();
+    void ssItemColorCurrentChanged();
+    void ssItemColorHoverChanged();
+    void ssForegroundItemChanged();
+    void ssForegroundItemHoverChanged();
+    void ssForegroundItemSelectedChanged();
+    void ssBackgroundItemChanged();
+    void ssBackgroundItemHoverChanged();
+    void ssBackgroundItemSelectedChanged();
+    void ssPopupColorChanged();
+    void ssPopupBorderColorChanged();
 
 private:
     enum Name {
@@ -110,6 +132,8 @@ private:
         nameCount
     };
 
+    struct Source;
+    static const Source &source(int name);
     QColor color(Name name);
     void setColor(Name name, const QColor &color);
     void onStyleChanged() override;

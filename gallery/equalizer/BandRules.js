@@ -118,10 +118,3 @@ function stepSize(key, number) {
         return 0.5
     return Number((number / (key.startsWith("freq") ? 17 : 8)).toPrecision(1))
 }
-
-/*! The word a step further (`direction` 1) or back (-1) than that of the filter. */
-function steppedWord(band, key, direction) {
-    const words = choices(band, key)
-    const place = words.findIndex(choice => choice.value === band[key]) + direction
-    return words[Math.max(0, Math.min(words.length - 1, place))].value
-}

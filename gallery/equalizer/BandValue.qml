@@ -25,12 +25,27 @@ Loader {
     Component {
         id: word
 
-        WordStepper {
+        Column {
             width: theme.dp(200)
-            key: root.key
-            name: root.name
-            band: root.store.band
-            onStepped: value => root.edit(value)
+            spacing: theme.dp(4)
+
+            RLabel {
+                width: parent.width
+                text: root.name
+                buddy: box
+            }
+            RComboBox {
+                id: box
+                width: parent.width
+                label: root.name
+                model: Rules.choices(root.store.band, root.key)
+                textRole: "name"
+                valueRole: "value"
+                value: root.store.band[root.key]
+                // The store takes it at once, and the next filter may be shown before anything would settle.
+                settleTime: 0
+                onValueEdited: value => root.edit(value)
+            }
         }
     }
     Component {

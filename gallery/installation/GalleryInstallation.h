@@ -8,7 +8,7 @@
 
 #include <QtCore/QBasicTimer>
 #include <QtCore/QElapsedTimer>
-#include <QtQml/qqmlregistration.h>
+#include <QtQml/qqml.h>
 
 class QJSEngine;
 class QQmlEngine;

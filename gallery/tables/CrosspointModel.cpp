@@ -6,9 +6,10 @@ void CrosspointModel::setSize(int size)
         return;
     beginResetModel();
     m_size = size;
-    m_routes = QBitArray(size * size);
-    for (int i = 0; i < size; ++i)
-        m_routes.setBit(i * size + i);
+    const qsizetype count = size;
+    m_routes = QBitArray(count * count);
+    for (qsizetype i = 0; i < count; ++i)
+        m_routes.setBit(i * count + i);
     endResetModel();
     Q_EMIT sizeChanged();
 }

@@ -25,6 +25,7 @@ Flickable {
             for (let i = 0; i < 16; ++i)
                 channels.append({
                     name: qsTr("Channel %1").arg(i + 1),
+                    input: i % 3,
                     gain: -3 * (i % 5),
                     phantom: i % 4 === 0
                 })
@@ -96,12 +97,18 @@ Flickable {
         Repeater {
             model: channels
 
-            RCellText {
-                required property int index
+            RCellComboBox {
+                id: choice
 
-                row: index + 1
+                required property int index
+                required property int input
+
+                row: choice.index + 1
                 column: 2
-                text: root.kinds[index % 3]
+                label: qsTr("Input of channel %1").arg(choice.row)
+                model: root.kinds
+                currentIndex: choice.input
+                onValueEdited: value => channels.setProperty(choice.index, "input", root.kinds.indexOf(value))
             }
         }
         Repeater {

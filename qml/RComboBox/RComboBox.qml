@@ -55,22 +55,14 @@ RComboBoxBase {
         }
     }
 
-    indicator: Rectangle { // qmllint disable deferred-property-id
+    indicator: RComboBoxIndicator { // qmllint disable deferred-property-id
+        unit: RThemeValues.unit
         // Within the focus frame and above the line.
         x: root.mirrored ? RThemeValues.unit : root.width - width - RThemeValues.unit
-        y: RThemeValues.unit
-        width: 31 * RThemeValues.unit
         height: root.height - 3 * RThemeValues.unit
         color: root.hovered ? root.ssIndicatorBackgroundHover : root.ssIndicatorBackground
-
-        RTintedImage {
-            anchors.centerIn: parent
-            width: 16 * RThemeValues.unit
-            height: 16 * RThemeValues.unit
-            source: "qrc:/icons/chevron-down_16x16.png"
-            tint: root.ssColor
-            enlargement: RThemeValues.unit
-        }
+        arrowColor: root.ssColor
+        opacity: root.enabled ? 1 : 0.4
     }
 
     popup: RComboBoxPopup { // qmllint disable deferred-property-id

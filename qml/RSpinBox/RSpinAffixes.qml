@@ -24,13 +24,13 @@ Item {
     RText {
         x: Math.min(root.input.x + root.input.leftPadding + root.input.contentWidth, root.input.x + root.input.width - width) + root.gap
         height: root.height
-        text: root.field.suffix
+        text: root.field.suffix.trim()
         color: root.input.color
         verticalAlignment: Text.AlignVCenter
     }
     Binding {
         target: root.input
         property: "leftPadding"
-        value: 8 * RThemeValues.unit + (root.field.prefix === "" ? 0 : prefix.implicitWidth + root.gap)
+        value: 8 * RThemeValues.unit + (root.field.prefix === "" ? 0 : prefix.implicitWidth)
     }
 }

@@ -1,6 +1,5 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
 
 /*! Number with steps. A step is told at once, a typed number when it is entered. */
 RSpinBoxBase {
@@ -59,19 +58,8 @@ RSpinBoxBase {
     property alias settleTime: edit.settleTime
     property alias converter: edit.converter
 
-    property color ssBackground: root.RStyleSet.props.background
-    property color ssColor: root.RStyleSet.props.foreground
-    property color ssLineColor: root.RStyleSet.props.line
-    property color ssBorderColor: root.RStyleSet.props.isSet("border") ? root.RStyleSet.props.border : "transparent"
-    property color ssSelection: root.RStyleSet.props.selection
-    property color ssForegroundSelection: root.RStyleSet.props.foregroundSelection
-    property color ssConfirmIndicator: root.RStyleSet.props.confirmIndicator
-    property color ssInconsistentFlag: root.RStyleSet.props.inconsistentFlag
     /*! Room at the end that the marks leave free, in pixels. */
     readonly property real marksInset: root.buttonsVisible ? 2 * root.buttonWidth : 0
-    /*! `ssForegroundInvalid` and `ssLineInvalid` are those of text fields, once a text is not acceptable. */
-    property color ssForegroundInvalid: root.ssColor
-    property color ssLineInvalid: root.ssLineColor
 
     RStyleSet.typeName: "RSpinBox"
     RStyleSet.stateHelper.hovered: root.hovered
@@ -83,15 +71,11 @@ RSpinBoxBase {
     opacity: root.enabled ? 1 : 0.5
     implicitWidth: 144 * RThemeValues.unit
     implicitHeight: 32 * RThemeValues.unit
-    buttonWidth: 32 * RThemeValues.unit
+    unit: RThemeValues.unit
     hoverEnabled: RThemeValues.hoverEnabled
 
-    background: Shared.RFieldFrame {
-        color: root.ssBackground
-        border.color: root.ssBorderColor
-        border.width: input.activeFocus ? RThemeValues.unit : 0
-        lineColor: edit.acceptable ? root.ssLineColor : root.ssLineInvalid
-        lineWidth: (input.activeFocus ? 2 : 1) * RThemeValues.unit
+    background: RFieldFrame { // qmllint disable deferred-property-id
+        unit: RThemeValues.unit
     }
 
     RTextInput {

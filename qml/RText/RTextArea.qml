@@ -69,12 +69,12 @@ Shared.RScrollView {
     // The focus of the root is meant for the text.
     focusPolicy: Qt.NoFocus
 
-    background: Shared.RFieldFrame {
+    background: RFieldFrame { // qmllint disable deferred-property-id
+        unit: RThemeValues.unit
+        focused: area.activeFocus
         color: root.ssBackground
-        border.color: root.ssBorderColor
-        border.width: area.activeFocus ? RThemeValues.unit : 0
+        borderColor: root.ssBorderColor
         lineColor: !edit.acceptable ? root.ssForegroundInvalid : edit.edited || !edit.confirmed ? root.ssConfirmIndicator : root.ssLineColor
-        lineWidth: (area.activeFocus ? 2 : 1) * RThemeValues.unit
     }
 
     RTextAreaBase {

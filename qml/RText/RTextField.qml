@@ -1,6 +1,5 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
 
 /*! One line of text that a device stores. What is typed is marked until it is entered. */
 RTextFieldBase {
@@ -28,18 +27,6 @@ RTextFieldBase {
     property alias settleTime: edit.settleTime
     property alias converter: edit.converter
 
-    property color ssBackground: root.RStyleSet.props.background
-    property color ssColor: root.RStyleSet.props.foreground
-    property color ssForegroundInvalid: root.RStyleSet.props.isSet("foreground-invalid") ? root.RStyleSet.props.foregroundInvalid : root.RStyleSet.props.lineInvalid
-    property color ssLineColor: root.RStyleSet.props.line
-    property color ssLineInvalid: root.RStyleSet.props.isSet("line-invalid") ? root.RStyleSet.props.lineInvalid : root.ssForegroundInvalid
-    property color ssLineUnconfirmed: root.RStyleSet.props.isSet("line-unconfirmed") ? root.RStyleSet.props.lineUnconfirmed : root.ssLineColor
-    property color ssBorderColor: root.RStyleSet.props.isSet("border") ? root.RStyleSet.props.border : "transparent"
-    property color ssSelection: root.RStyleSet.props.selection
-    property color ssForegroundSelection: root.RStyleSet.props.foregroundSelection
-    property color ssConfirmIndicator: root.RStyleSet.props.confirmIndicator
-    property color ssInconsistentFlag: root.RStyleSet.props.inconsistentFlag
-
     RStyleSet.typeName: "RTextField"
     RStyleSet.stateHelper.hovered: root.hovered
     RStyleSet.stateHelper.disabled: !root.enabled
@@ -64,11 +51,7 @@ RTextFieldBase {
     activeFocusOnTab: true
     selectByMouse: true
 
-    background: Shared.RFieldFrame {
-        color: root.ssBackground
-        border.color: root.ssBorderColor
-        border.width: root.activeFocus ? RThemeValues.unit : 0
-        lineColor: !edit.acceptable ? root.ssLineInvalid : edit.edited || !edit.confirmed ? root.ssLineUnconfirmed : root.ssLineColor
-        lineWidth: (root.activeFocus ? 2 : 1) * RThemeValues.unit
+    background: RFieldFrame { // qmllint disable deferred-property-id
+        unit: RThemeValues.unit
     }
 }

@@ -8,10 +8,6 @@ RTextInputBase {
     /*! Shows the text in the colour of invalid ones. */
     property bool invalid: false
 
-    property color ssColor: root.RStyleSet.props.foreground
-    property color ssSelection: root.RStyleSet.props.selection
-    property color ssForegroundInvalid: root.RStyleSet.props.isSet("foreground-invalid") ? root.RStyleSet.props.foregroundInvalid : root.ssColor
-
     color: root.invalid ? root.ssForegroundInvalid : root.ssColor
     selectionColor: root.ssSelection
     selectedTextColor: root.color

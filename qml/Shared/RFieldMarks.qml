@@ -14,30 +14,20 @@ Item {
     height: Math.min(root.field.height, 32 * RThemeValues.unit)
     visible: root.edit.marked
 
-    Rectangle {
+    RConfirmDot {
         id: dot
         x: root.width - 10 * RThemeValues.unit
         y: (root.height - dot.height) / 2
-        width: 6 * RThemeValues.unit
-        height: dot.width
-        radius: dot.width / 2
         color: root.field.ssConfirmIndicator
-        visible: root.edit.edited || !root.edit.confirmed
+        pulsing: !root.edit.confirmed
+        visible: root.edit.edited || dot.pulsing
 
         SequentialAnimation {
             id: blink
             NumberAnimation { target: dot; property: "scale"; to: 2; duration: 150 }
             NumberAnimation { target: dot; property: "scale"; to: 1; duration: 150 }
         }
-        SequentialAnimation on opacity {
-            running: !root.edit.confirmed
-            loops: Animation.Infinite
-            alwaysRunToEnd: true
-            NumberAnimation { to: 0.3; duration: 500 }
-            NumberAnimation { to: 1; duration: 500 }
-        }
     }
-
     Connections {
         target: root.edit
         function onValueWaits() { blink.restart() }
@@ -50,22 +40,8 @@ Item {
         ssIconForeground: root.field.ssForegroundInvalid
         visible: !root.edit.acceptable
     }
-
-    // A triangle: the quarter of a square that stands on its tip.
-    Item {
-        width: 8 * RThemeValues.unit
-        height: width
-        clip: true
+    RMixedFlag {
+        color: root.field.ssInconsistentFlag
         visible: !root.edit.consistent
-
-        Rectangle {
-            x: -width / 2
-            y: -width / 2
-            width: parent.width * Math.SQRT2
-            height: width
-            rotation: 45
-            color: root.field.ssInconsistentFlag
-            antialiasing: true
-        }
     }
 }

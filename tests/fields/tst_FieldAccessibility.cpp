@@ -30,7 +30,7 @@ private Q_SLOTS:
             "Host", "");
         row("named by a label", "RTextField { id: host; RLabel { text: '&Host'; buddy: host } }",
             QAccessible::EditableText, "Host", "");
-        row("spin box", "RSpinBox { label: 'Delay'; value: 5; suffix: ' ms' }", QAccessible::SpinBox, "Delay", "5 ms");
+        row("spin box", "RSpinBox { label: 'Delay'; value: 5; suffix: 'ms' }", QAccessible::SpinBox, "Delay", "5 ms");
         row("mixed spin box", "RSpinBox { label: 'Delay'; consistent: false }", QAccessible::SpinBox, "Delay", "mixed");
     }
 

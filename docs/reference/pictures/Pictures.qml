@@ -74,6 +74,9 @@ RApplicationWindow {
         width: root.width
         ButtonSamples { width: sheets.width }
         TextSamples { width: sheets.width }
+        FieldSamples { width: sheets.width }
+        TabSamples { width: sheets.width }
+        CellSamples { width: sheets.width }
         LevelSamples { width: sheets.width }
         FrequencySamples { width: sheets.width }
         DynamicsSamples { width: sheets.width }

@@ -175,6 +175,52 @@ ThemedTestCase {
         compare([table.note, cellAt(table, 1, 0).activeFocus, cellAt(table, 1, 0).editing], ["two\nthree", true, false])
     }
 
+    function test_choices_data() {
+        return [
+            { tag: "Enter", keys: [Qt.Key_Return, Qt.Key_Down, Qt.Key_Return], input: "dig" },
+            { tag: "F2", keys: [Qt.Key_F2, Qt.Key_Up, Qt.Key_Return], input: "mic" },
+            { tag: "Space", keys: [Qt.Key_Space, Qt.Key_End, Qt.Key_Space], input: "dig" },
+            { tag: "a letter", keys: ["d", Qt.Key_Return], input: "dig" },
+            { tag: "Esc", keys: [Qt.Key_Return, Qt.Key_Down, Qt.Key_Escape], input: "line" },
+            { tag: "arrows are the table's", keys: [Qt.Key_Down, Qt.Key_Up], input: "line" },
+        ]
+    }
+    function test_choices(data) {
+        const table = make(`RCellContainer {
+            property string input: "line"
+            property ListModel inputs: ListModel {
+                ListElement { name: "Microphone"; key: "mic" }
+                ListElement { name: "Line"; key: "line" }
+                ListElement { name: "Digital"; key: "dig" }
+            }
+            RCellComboBox { model: parent.inputs; textRole: "name"; valueRole: "key"; settleTime: 20; value: parent.input
+                            onValueEdited: value => parent.input = value }
+            RCellText { row: 1; text: "below" }
+        }`)
+        const cell = cellAt(table, 0, 0)
+        waitForRendering(table)
+        table.forceActiveFocus()
+        keyClick(Qt.Key_Down)
+        for (const key of data.keys)
+            keyClick(key)
+        compare(table.input, data.input)
+        tryCompare(cell, "editing", false)
+        compare([cell.activeFocus, cell.control.activeFocus, cell.control.popup.visible], [true, false, false])
+
+        cell.value = "line"
+        mouseClick(cell)
+        compare([cell.control.popup.visible, cell.current], [true, true])
+        mouseClick(cell)
+        compare([cell.control.popup.visible, cell.editing, cell.cellText()], [false, false, "Line"])
+        verify(cell.takeText("Tape").length > 0)
+        compare([cell.takeText("digital"), table.input], ["", "dig"])
+        table.readOnly = true
+        for (const key of [Qt.Key_Return, Qt.Key_Space, "m"])
+            keyClick(key)
+        mouseClick(cell)
+        compare([cell.control.popup.visible, cell.editing, table.input], [false, false, "dig"])
+    }
+
     function test_tabs() {
         const table = make(`RCellContainer {
             RCellTabBar { columnSpan: 2; model: ["In", { text: "Out", iconKey: "mute" }, { text: "Spare", enabled: false }] }

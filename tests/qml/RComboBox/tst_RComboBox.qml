@@ -142,6 +142,13 @@ ThemedTestCase {
         compare(shown(page.box), "Hall", "the page's binding lives on")
     }
 
+    function test_coloursOfAPage() {
+        const box = make("RComboBox { model: 2; ssColor: ssLineColor; ssPopupColor: ssColor; ssLineColor: 'red' }")
+        compare(box.ssPopupColor, "#ff0000")
+        root.sheet = "light"
+        compare(box.ssPopupColor, "#ff0000")
+    }
+
     function test_valuesThatNoEntryHas_data() {
         return [
             { tag: "unknown", value: 77, text: "unknown (77)" },

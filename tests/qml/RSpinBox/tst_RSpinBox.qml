@@ -38,8 +38,8 @@ ThemedTestCase {
             keyClick(character)
     }
     function clickButton(box: var, name: string) {
-        const button = findChild(box, name)
-        mouseClick(box, button.mapToItem(box, 0, 0).x + button.width / 2, box.height / 2)
+        const x = box.width - (name === "plus" ? 0.5 : 1.5) * box.buttonWidth
+        mouseClick(box, x, box.height / 2)
     }
 
     function test_keys_data() {
@@ -56,6 +56,7 @@ ThemedTestCase {
             { tag: "negative step", body: "stepSize: -2", key: Qt.Key_Up, value: 14 },
             { tag: "no range", body: "from: 12; to: 12", key: Qt.Key_Up, value: 12, log: [] },
             { tag: "read only", body: "readOnly: true", key: Qt.Key_Up, value: 12, log: [] },
+            { tag: "from minus infinity", body: "from: -80; minimumText: 'off'", device: -Infinity, key: Qt.Key_Up, value: -79 },
             { tag: "not a number", body: "from: -5", device: NaN, key: Qt.Key_Up, value: -5 },
             { tag: "mixed", body: "consistent: false", key: Qt.Key_Up, modifiers: Qt.ShiftModifier, value: 12, text: "", log: ["stepped 0.1"] },
         ]

@@ -64,6 +64,7 @@ TestCase {
         "RComboBox { model: ['Pink', 'White'] }",
         "RComboBox { editable: true; consistent: false; confirmed: false; model: 3 }",
         "RCellButton { text: 'Mute'; iconKey: 'mute'; styleName: 'crossPoint'; active: true; selected: true }",
+        "RCellComboBox { model: ['Microphone', 'Line']; consistent: false }",
         "RCellContainer { RCellLabel { text: 'Gain' } RCellText { row: 1; text: '0'; columnSpan: 2; selected: true } }",
         "RCellSpinBox { value: 3; current: true }",
         "RCellTabBar { model: ['In', 'Out'] }",

@@ -10,7 +10,7 @@ ThemedTestCase {
     // A page that binds to a device; it takes what is entered when `takes` is set.
     function makePage(body: string): var {
         const page = make(`FocusScope {
-            property string device: "Hall"
+            property var device: "Hall"
             property bool takes: true
             property alias field: inner
             property alias other: neighbour
@@ -250,5 +250,25 @@ ThemedTestCase {
         keyClick(Qt.Key_Escape)
         tryVerify(() => page.field.activeFocus)
         compare(page.field.text, "Bar")
+    }
+
+    function test_errorOfMixedField() {
+        const page = makePage("consistent: false; errorText: 'in use'")
+        compare(page.field.invalidText, "in use")
+    }
+
+    function test_missingValueIsNoFaultOfTheUser() {
+        const page = makePage("converter: RDoubleValueConverter {}")
+        page.device = NaN
+        compare([page.field.text, page.field.acceptable], ["\u2013", true])
+    }
+
+    function test_firstClickSelectsAll() {
+        const page = makePage("")
+        page.other.forceActiveFocus()
+        mouseClick(page.field, 20, 10)
+        compare(page.field.selectedText, "Hall")
+        mouseClick(page.field, 20, 10)
+        compare(page.field.selectedText, "")
     }
 }

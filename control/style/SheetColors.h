@@ -1,0 +1,52 @@
+#pragma once
+
+#include "style/StyleFollower.h"
+
+#include <QtCore/QObject>
+#include <QtGui/QColor>
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace tamble::client {
+
+class StyleSet;
+class StyleSetProps;
+
+/// The colours of a control, each read from the sheets when it is asked for, until the page sets one of its own.
+/// Bindings to the same values take ten times as long to make and 200 bytes each.
+class SheetColors : private StyleFollower
+{
+public:
+    /// Where a colour comes from. One that not every sheet sets has the key to ask for first, and the place in the
+    /// table of the one that stands in for it; without a place it is transparent then.
+    struct Source
+    {
+        QColor (StyleSetProps::*read)();
+        const char *key = nullptr;
+        int substitute = -1;
+    };
+
+    /// `changed` is called when any of them may be another one. The sources outlive this.
+    SheetColors(QObject &control, std::span<const Source> sources, std::function<void()> changed);
+    ~SheetColors();
+    SheetColors(const SheetColors &) = delete;
+    SheetColors &operator=(const SheetColors &) = delete;
+
+    QColor color(std::size_t index) const;
+    void setColor(std::size_t index, const QColor &color);
+
+private:
+    void onStyleChanged() override;
+    QColor colorOfSheets(const Source &source) const;
+
+    QObject &m_control;
+    std::span<const Source> m_sources;
+    std::function<void()> m_changed;
+    std::vector<QColor> m_given;            ///< What the page has set; empty as long as it has set none.
+    mutable StyleSet *m_styleSet = nullptr; ///< The attached one, once it is read.
+};
+
+} // namespace tamble::client
