@@ -92,7 +92,8 @@ QString RComboBoxBase::otherText() const
 
 bool RComboBoxBase::canOpen() const
 {
-    return count() > 0 && !m_isReadOnly && isEnabled();
+    // A hidden item keeps the keyboard focus.
+    return count() > 0 && !m_isReadOnly && isEnabled() && isVisible();
 }
 
 void RComboBoxBase::open()

@@ -51,6 +51,9 @@ void RComboBoxBase::watchModel()
     if (!m_watches || m_watchedModel == delegateModel())
         return;
     takeModel();
+    // Enter must not take what stands in the old entry's place.
+    m_highlight.setEntry(-1);
+    Q_EMIT highlightedEntryChanged();
     Q_EMIT entriesReplaced();
 }
 
@@ -72,6 +75,8 @@ void RComboBoxBase::followModel()
 {
     if (m_isValueGiven && !m_hadValue && isComponentComplete())
         setCurrentIndex(-1);
+    if (count() == 0)
+        close();
     followValue();
 }
 

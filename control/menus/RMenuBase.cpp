@@ -51,6 +51,8 @@ void RMenuBase::setModel(const QVariant &model)
     if (m_model == list)
         return;
     m_model = list;
+    const int former = currentIndex();
+    const QString highlighted = rowText(former);
     {
         const QScopedValueRollback guard(m_isMaking, true);
         m_rows->setModel(list);
@@ -58,8 +60,29 @@ void RMenuBase::setModel(const QVariant &model)
     if (isVisible()) {
         makeReady();
         forceActiveFocus(Qt::PopupFocusReason); // which an open sub-menu had
+        highlight(highlighted, former);
     }
     Q_EMIT modelChanged();
+}
+
+QString RMenuBase::rowText(int index) const
+{
+    const auto *row = qobject_cast<QQuickMenuItem *>(itemAt(index));
+    return row ? row->text() : QString();
+}
+
+/// Enter must not choose what stands in the place of the row that was highlighted: of rows that have its text, the one
+/// in its place or else the first is highlighted, and none where the text is gone.
+void RMenuBase::highlight(const QString &text, int likely)
+{
+    setCurrentIndex(-1);
+    if (text.isEmpty())
+        return;
+    int found = rowText(likely) == text ? likely : 0;
+    while (found < count() && rowText(found) != text)
+        ++found;
+    if (found < count())
+        setCurrentIndex(found);
 }
 
 void RMenuBase::setCurrentIndexSelected(int index)

@@ -121,6 +121,8 @@ private:
     void onClosed();
 
     void onCountChanged();
+    QString rowText(int index) const;
+    void highlight(const QString &text, int likely);
 
     QVariant m_model;
     std::unique_ptr<MenuRows> m_rows;

@@ -214,6 +214,23 @@ ThemedTestCase {
         page.sources.append({ id: 2, name: "Back" })
         tryVerify(() => shown(page.box) === "Back")
     }
+    function test_listOfMapsReplacedUnderTheOpenList() {
+        const page = makePage("")
+        keyClick(Qt.Key_Down)
+        press([Qt.Key_Down, Qt.Key_Down])
+        page.box.model = [{ id: 2, name: "Input 2" }, { id: 7, name: "New" }, { id: 1, name: "Input 1" }, { id: 8, name: "Other" }]
+        keyClick(Qt.Key_Return)
+        compare(page.device, 2, "none is taken in the place of another")
+        keyClick(Qt.Key_Down)
+        page.box.model = undefined
+        compare(page.box.popup.visible, false)
+    }
+    function test_hiddenBoxKeepsItsListShut() {
+        const page = makePage("")
+        page.box.visible = false
+        keyClick(Qt.Key_Return)
+        compare(page.box.popup.visible, false)
+    }
 
     function test_handlersThatTakeAway_data() {
         return [

@@ -190,6 +190,23 @@ ThemedTestCase {
         }
     }
 
+    function test_highlightStaysAtItsRow_data() {
+        return [
+            { tag: "a check mark", model: [{ text: "A", checkable: true }, "B"], log: ["1 B"] },
+            { tag: "a row above it", model: ["New", "A", "B"], log: ["2 B"] },
+            { tag: "gone", model: ["A", "C"], log: [] }
+        ]
+    }
+    function test_highlightStaysAtItsRow(row) {
+        const button = makeMenu("model: ['A', 'B']")
+        openedMenu(button)
+        keyClick(Qt.Key_Down)
+        compare(button.menu.currentIndex, 1)
+        button.menu.model = row.model
+        if (row.log.length > 0)
+            keyClick(Qt.Key_Return)
+        compare([button.log, button.menu.visible], [row.log, row.log.length === 0])
+    }
     function test_modelChangesWhileOpen() {
         const menu = openedMenu(makeMenu("model: [{ text: 'A', items: ['In'] }]"))
         keyClick(Qt.Key_Right)
