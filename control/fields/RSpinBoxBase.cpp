@@ -16,14 +16,10 @@ namespace tamble::client {
 namespace {
 
 constexpr std::array<void (RSpinBoxBase::*)(), 8> boxColorSignals = {
-    &RSpinBoxBase::ssBackgroundChanged,
-    &RSpinBoxBase::ssColorChanged,
-    &RSpinBoxBase::ssLineColorChanged,
-    &RSpinBoxBase::ssBorderColorChanged,
-    &RSpinBoxBase::ssSelectionChanged,
-    &RSpinBoxBase::ssForegroundSelectionChanged,
-    &RSpinBoxBase::ssConfirmIndicatorChanged,
-    &RSpinBoxBase::ssInconsistentFlagChanged,
+    &RSpinBoxBase::ssBackgroundChanged,       &RSpinBoxBase::ssColorChanged,
+    &RSpinBoxBase::ssLineColorChanged,        &RSpinBoxBase::ssBorderColorChanged,
+    &RSpinBoxBase::ssSelectionChanged,        &RSpinBoxBase::ssForegroundSelectionChanged,
+    &RSpinBoxBase::ssConfirmIndicatorChanged, &RSpinBoxBase::ssInconsistentFlagChanged,
 };
 
 constexpr int repeatDelayMs = 500;

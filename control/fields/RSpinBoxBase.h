@@ -44,11 +44,15 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RSpinBoxBase : public QQuickControl, public F
     Q_PROPERTY(QColor ssLineColor READ ssLineColor WRITE setSsLineColor NOTIFY ssLineColorChanged)
     Q_PROPERTY(QColor ssBorderColor READ ssBorderColor WRITE setSsBorderColor NOTIFY ssBorderColorChanged)
     Q_PROPERTY(QColor ssSelection READ ssSelection WRITE setSsSelection NOTIFY ssSelectionChanged)
-    Q_PROPERTY(QColor ssForegroundSelection READ ssForegroundSelection WRITE setSsForegroundSelection NOTIFY ssForegroundSelectionChanged)
-    Q_PROPERTY(QColor ssConfirmIndicator READ ssConfirmIndicator WRITE setSsConfirmIndicator NOTIFY ssConfirmIndicatorChanged)
-    Q_PROPERTY(QColor ssInconsistentFlag READ ssInconsistentFlag WRITE setSsInconsistentFlag NOTIFY ssInconsistentFlagChanged)
+    Q_PROPERTY(QColor ssForegroundSelection READ ssForegroundSelection WRITE setSsForegroundSelection NOTIFY
+                   ssForegroundSelectionChanged)
+    Q_PROPERTY(
+        QColor ssConfirmIndicator READ ssConfirmIndicator WRITE setSsConfirmIndicator NOTIFY ssConfirmIndicatorChanged)
+    Q_PROPERTY(
+        QColor ssInconsistentFlag READ ssInconsistentFlag WRITE setSsInconsistentFlag NOTIFY ssInconsistentFlagChanged)
     /// The colours of an unacceptable number, those of text fields: `ssForegroundInvalid`, `ssLineInvalid`.
-    Q_PROPERTY(QColor ssForegroundInvalid READ ssForegroundInvalid WRITE setSsForegroundInvalid NOTIFY ssForegroundInvalidChanged)
+    Q_PROPERTY(QColor ssForegroundInvalid READ ssForegroundInvalid WRITE setSsForegroundInvalid NOTIFY
+                   ssForegroundInvalidChanged)
     Q_PROPERTY(QColor ssLineInvalid READ ssLineInvalid WRITE setSsLineInvalid NOTIFY ssLineInvalidChanged)
 
 public:

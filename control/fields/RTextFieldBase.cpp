@@ -14,16 +14,11 @@ namespace tamble::client {
 namespace {
 
 constexpr std::array<void (RTextFieldBase::*)(), 11> fieldColorSignals = {
-    &RTextFieldBase::ssBackgroundChanged,
-    &RTextFieldBase::ssColorChanged,
-    &RTextFieldBase::ssForegroundInvalidChanged,
-    &RTextFieldBase::ssLineColorChanged,
-    &RTextFieldBase::ssLineInvalidChanged,
-    &RTextFieldBase::ssLineUnconfirmedChanged,
-    &RTextFieldBase::ssBorderColorChanged,
-    &RTextFieldBase::ssSelectionChanged,
-    &RTextFieldBase::ssForegroundSelectionChanged,
-    &RTextFieldBase::ssConfirmIndicatorChanged,
+    &RTextFieldBase::ssBackgroundChanged,          &RTextFieldBase::ssColorChanged,
+    &RTextFieldBase::ssForegroundInvalidChanged,   &RTextFieldBase::ssLineColorChanged,
+    &RTextFieldBase::ssLineInvalidChanged,         &RTextFieldBase::ssLineUnconfirmedChanged,
+    &RTextFieldBase::ssBorderColorChanged,         &RTextFieldBase::ssSelectionChanged,
+    &RTextFieldBase::ssForegroundSelectionChanged, &RTextFieldBase::ssConfirmIndicatorChanged,
     &RTextFieldBase::ssInconsistentFlagChanged,
 };
 

@@ -30,15 +30,20 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RTextFieldBase : public QQuickTextField, publ
     /// `ssSelection`, `ssForegroundSelection`; the marks: `ssConfirmIndicator`, `ssInconsistentFlag`.
     Q_PROPERTY(QColor ssBackground READ ssBackground WRITE setSsBackground NOTIFY ssBackgroundChanged)
     Q_PROPERTY(QColor ssColor READ ssColor WRITE setSsColor NOTIFY ssColorChanged)
-    Q_PROPERTY(QColor ssForegroundInvalid READ ssForegroundInvalid WRITE setSsForegroundInvalid NOTIFY ssForegroundInvalidChanged)
+    Q_PROPERTY(QColor ssForegroundInvalid READ ssForegroundInvalid WRITE setSsForegroundInvalid NOTIFY
+                   ssForegroundInvalidChanged)
     Q_PROPERTY(QColor ssLineColor READ ssLineColor WRITE setSsLineColor NOTIFY ssLineColorChanged)
     Q_PROPERTY(QColor ssLineInvalid READ ssLineInvalid WRITE setSsLineInvalid NOTIFY ssLineInvalidChanged)
-    Q_PROPERTY(QColor ssLineUnconfirmed READ ssLineUnconfirmed WRITE setSsLineUnconfirmed NOTIFY ssLineUnconfirmedChanged)
+    Q_PROPERTY(
+        QColor ssLineUnconfirmed READ ssLineUnconfirmed WRITE setSsLineUnconfirmed NOTIFY ssLineUnconfirmedChanged)
     Q_PROPERTY(QColor ssBorderColor READ ssBorderColor WRITE setSsBorderColor NOTIFY ssBorderColorChanged)
     Q_PROPERTY(QColor ssSelection READ ssSelection WRITE setSsSelection NOTIFY ssSelectionChanged)
-    Q_PROPERTY(QColor ssForegroundSelection READ ssForegroundSelection WRITE setSsForegroundSelection NOTIFY ssForegroundSelectionChanged)
-    Q_PROPERTY(QColor ssConfirmIndicator READ ssConfirmIndicator WRITE setSsConfirmIndicator NOTIFY ssConfirmIndicatorChanged)
-    Q_PROPERTY(QColor ssInconsistentFlag READ ssInconsistentFlag WRITE setSsInconsistentFlag NOTIFY ssInconsistentFlagChanged)
+    Q_PROPERTY(QColor ssForegroundSelection READ ssForegroundSelection WRITE setSsForegroundSelection NOTIFY
+                   ssForegroundSelectionChanged)
+    Q_PROPERTY(
+        QColor ssConfirmIndicator READ ssConfirmIndicator WRITE setSsConfirmIndicator NOTIFY ssConfirmIndicatorChanged)
+    Q_PROPERTY(
+        QColor ssInconsistentFlag READ ssInconsistentFlag WRITE setSsInconsistentFlag NOTIFY ssInconsistentFlagChanged)
 
 public:
     explicit RTextFieldBase(QQuickItem *parent = nullptr);

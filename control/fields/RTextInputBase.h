@@ -21,7 +21,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RTextInputBase : public QQuickTextInput, publ
     /// `ssForegroundInvalid`.
     Q_PROPERTY(QColor ssColor READ ssColor WRITE setSsColor NOTIFY ssColorChanged)
     Q_PROPERTY(QColor ssSelection READ ssSelection WRITE setSsSelection NOTIFY ssSelectionChanged)
-    Q_PROPERTY(QColor ssForegroundInvalid READ ssForegroundInvalid WRITE setSsForegroundInvalid NOTIFY ssForegroundInvalidChanged)
+    Q_PROPERTY(QColor ssForegroundInvalid READ ssForegroundInvalid WRITE setSsForegroundInvalid NOTIFY
+                   ssForegroundInvalidChanged)
     Q_PROPERTY(
         QString placeholderText READ placeholderText WRITE setPlaceholderText NOTIFY placeholderTextChanged FINAL)
 

@@ -32,8 +32,8 @@ public:
     /// The colours from one place in the table up to, but without, another one may have changed.
     using Changed = std::function<void(std::size_t begin, std::size_t end)>;
 
-    /// The sources outlive this. Each colour should have a change signal of its own: with a common one, a page that binds
-    /// one colour to another would have a binding loop.
+    /// The sources outlive this. Each colour should have a change signal of its own: with a common one, a page that
+    /// binds one colour to another would have a binding loop.
     SheetColors(QObject &control, std::span<const Source> sources, Changed changed);
     ~SheetColors();
     SheetColors(const SheetColors &) = delete;
