@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace tamble::client {
@@ -135,8 +136,15 @@ QString NumberSteps::textOf(const QVariant &value) const
     const double number = value.toDouble(&isNumber);
     if (!m_minimumText.isEmpty() && isNumber && number <= m_rule.from)
         return m_minimumText;
+    return numberText(value);
+}
+
+QString NumberSteps::numberText(const QVariant &value) const
+{
     if (m_edit && m_edit->converter())
         return m_edit->converter()->toText(value);
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
     if (!isNumber || std::isnan(number))
         return QStringLiteral("–");
     if (std::isinf(number))
@@ -170,12 +178,21 @@ QString NumberSteps::problemOf(const QString &text) const
     const double number = isRead ? valueOf(text).toDouble(&isNumber) : 0.0;
     if (isNumber && number >= m_rule.from && number <= m_rule.to)
         return {};
+    if (!m_minimumText.isEmpty())
+        return tr("%1, or %2").arg(rangeMessage(), m_minimumText);
+    return rangeMessage();
+}
+
+QString NumberSteps::rangeMessage() const
+{
+    const QString from = numberText(m_rule.from);
+    const QString to = numberText(m_rule.to);
     if (std::isfinite(m_rule.from) && std::isfinite(m_rule.to))
-        return tr("Enter a number from %1 to %2").arg(textOf(m_rule.from), textOf(m_rule.to));
+        return tr("Enter a number from %1 to %2").arg(from, to);
     if (std::isfinite(m_rule.from))
-        return tr("Enter a number of at least %1").arg(textOf(m_rule.from));
+        return tr("Enter a number of at least %1").arg(from);
     if (std::isfinite(m_rule.to))
-        return tr("Enter a number of at most %1").arg(textOf(m_rule.to));
+        return tr("Enter a number of at most %1").arg(to);
     return tr("Enter a number");
 }
 

@@ -124,6 +124,8 @@ private:
     double number() const;
     double stepOrigin() const;
     bool readsAsMinimum(const QString &text) const;
+    QString numberText(const QVariant &value) const;
+    QString rangeMessage() const;
     void show(double value);
 
     QPointer<FieldEdit> m_edit;

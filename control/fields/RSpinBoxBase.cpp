@@ -269,7 +269,8 @@ void RSpinBoxBase::itemChange(ItemChange change, const ItemChangeData &data)
     QQuickControl::itemChange(change, data);
     if (change == ItemActiveFocusHasChanged)
         updateFrame();
-    if ((change == ItemVisibleHasChanged || change == ItemEnabledHasChanged) && !data.boolValue)
+    const bool isHidden = (change == ItemVisibleHasChanged || change == ItemEnabledHasChanged) && !data.boolValue;
+    if (isHidden || (change == ItemSceneChange && !data.window))
         release();
 }
 
@@ -302,6 +303,10 @@ void RSpinBoxBase::timerEvent(QTimerEvent *event)
 {
     if (event->timerId() != m_repeat.timerId()) {
         QQuickControl::timerEvent(event);
+        return;
+    }
+    if (!m_autoRepeat) {
+        m_repeat.stop();
         return;
     }
     ++m_repeats;

@@ -85,6 +85,7 @@ ThemedTestCase {
             { tag: "no number", typed: "x", rejected: "Enter a number from 0 to 100" },
             { tag: "exponent", typed: "1e1", rejected: "Enter a number from 0 to 100" },
             { tag: "nothing", key: Qt.Key_Delete, typed: "", rejected: "Enter a number from 0 to 100" },
+            { tag: "below a minimum with a text", body: "from: -80; to: 10; minimumText: 'off'", typed: "-90", rejected: "Enter a number from -80 to 10, or off" },
             { tag: "rounded to steps", body: "stepSize: 5; snapToStep: true", typed: "13", value: 15 },
             { tag: "text of the minimum", body: "from: -80; minimumText: 'off'", typed: "OFF", value: -80, text: "off" },
             { tag: "infinite minimum", body: "from: -Infinity; minimumText: '\u2212\u221e'", typed: "-inf", value: -Infinity, text: "\u2212\u221e" },
@@ -144,6 +145,12 @@ ThemedTestCase {
         mousePress(page.field, page.field.width - 5, 5)
         page.field.visible = false
         compare(page.field.pressedButton, 0)
+        page.field.visible = true
+        mousePress(page.field, page.field.width - 5, 5)
+        const before = page.field.parent
+        page.field.parent = null
+        compare(page.field.pressedButton, 0)
+        page.field.parent = before
     }
 
     function test_wheelNeedsFocus() {
