@@ -9,8 +9,6 @@
 #include <QtCore/QObject>
 #include <QtQml/qqmlregistration.h>
 
-#include <limits>
-
 class QKeyEvent;
 class QWheelEvent;
 
@@ -130,7 +128,7 @@ private:
 
     QPointer<FieldEdit> m_edit;
     QPointer<QQuickItem> m_watched;
-    StepRule m_rule{-std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()};
+    StepRule m_rule;
     QVariant m_defaultValue;
     QString m_minimumText;
     QBasicTimer m_gestureEnd;

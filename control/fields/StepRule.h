@@ -1,5 +1,7 @@
 #pragma once
 
+#include <limits>
+
 namespace tamble::client {
 
 /// The sizes of a step: with Shift, plain, with Ctrl or by PageUp and PageDown.
@@ -8,8 +10,9 @@ enum class StepSize { Fine, Normal, Page };
 /// How a number moves by steps between its bounds.
 struct StepRule
 {
-    double from = 0.0;   ///< Infinite for none.
-    double to = 100.0;   ///< Likewise. A range without width, or one the wrong way round, cannot be stepped through.
+    double from = -std::numeric_limits<double>::infinity(); ///< Infinite for none.
+    double to = std::numeric_limits<double>::infinity();    ///< Likewise. A range without width, or one the wrong way
+                                                            ///< round, cannot be stepped through.
     double normal = 1.0; ///< 0 stands for continuous: 1 % of the range. The sign does not count in any of the three.
     double fine = 0.1;
     double page = 10.0;
