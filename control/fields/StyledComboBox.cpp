@@ -1,83 +1,59 @@
 #include "fields/StyledComboBox.h"
 
-#include "style/StyleSet.h"
 #include "style/StyleSetProps.h"
-
-#include <QtQml/qqml.h>
-
-#include <utility>
 
 namespace tamble::client {
 
-StyledComboBox::StyledComboBox(QQuickItem *parent)
-    : QQuickComboBox(parent)
-{}
+namespace {
 
-StyledComboBox::~StyledComboBox()
-{
-    if (m_styleSet)
-        m_styleSet->setFollower(nullptr);
-}
-
-struct StyledComboBox::Source
-{
-    QColor (StyleSetProps::*read)();
-    void (StyledComboBox::*changed)();
+constexpr std::array comboColorSignals = {
+    &StyledComboBox::ssBackgroundChanged,
+    &StyledComboBox::ssColorChanged,
+    &StyledComboBox::ssLineColorChanged,
+    &StyledComboBox::ssBorderColorChanged,
+    &StyledComboBox::ssBorderColorFocusChanged,
+    &StyledComboBox::ssIndicatorBackgroundChanged,
+    &StyledComboBox::ssIndicatorBackgroundHoverChanged,
+    &StyledComboBox::ssItemColorCurrentChanged,
+    &StyledComboBox::ssItemColorHoverChanged,
+    &StyledComboBox::ssForegroundItemChanged,
+    &StyledComboBox::ssForegroundItemHoverChanged,
+    &StyledComboBox::ssForegroundItemSelectedChanged,
+    &StyledComboBox::ssBackgroundItemChanged,
+    &StyledComboBox::ssBackgroundItemHoverChanged,
+    &StyledComboBox::ssBackgroundItemSelectedChanged,
+    &StyledComboBox::ssPopupColorChanged,
+    &StyledComboBox::ssPopupBorderColorChanged,
 };
 
-// A signal for each colour: with a common one, a page that binds one to another would have a binding loop.
-const StyledComboBox::Source &StyledComboBox::source(int name)
-{
-    static constexpr std::array<Source, nameCount> sources = {{
-        {&StyleSetProps::background, &StyledComboBox::ssBackgroundChanged},
-        {&StyleSetProps::foreground, &StyledComboBox::ssColorChanged},
-        {&StyleSetProps::line, &StyledComboBox::ssLineColorChanged},
-        {&StyleSetProps::border, &StyledComboBox::ssBorderColorChanged},
-        {&StyleSetProps::borderColorFocus, &StyledComboBox::ssBorderColorFocusChanged},
-        {&StyleSetProps::indicatorBackground, &StyledComboBox::ssIndicatorBackgroundChanged},
-        {&StyleSetProps::indicatorBackgroundHover, &StyledComboBox::ssIndicatorBackgroundHoverChanged},
-        {&StyleSetProps::itemColorCurrent, &StyledComboBox::ssItemColorCurrentChanged},
-        {&StyleSetProps::itemColorHover, &StyledComboBox::ssItemColorHoverChanged},
-        {&StyleSetProps::foregroundItem, &StyledComboBox::ssForegroundItemChanged},
-        {&StyleSetProps::foregroundItemHover, &StyledComboBox::ssForegroundItemHoverChanged},
-        {&StyleSetProps::foregroundItemSelected, &StyledComboBox::ssForegroundItemSelectedChanged},
-        {&StyleSetProps::backgroundItem, &StyledComboBox::ssBackgroundItemChanged},
-        {&StyleSetProps::backgroundItemHover, &StyledComboBox::ssBackgroundItemHoverChanged},
-        {&StyleSetProps::backgroundItemSelected, &StyledComboBox::ssBackgroundItemSelectedChanged},
-        {&StyleSetProps::popupColor, &StyledComboBox::ssPopupColorChanged},
-        {&StyleSetProps::popupBorderColor, &StyledComboBox::ssPopupBorderColorChanged},
-    }};
-    return sources.at(std::size_t(name));
-}
+} // namespace
 
-QColor StyledComboBox::color(Name name)
-{
-    if (m_colors && m_colors->at(name).isValid())
-        return m_colors->at(name);
-    if (!m_styleSet) {
-        m_styleSet = static_cast<StyleSet *>(qmlAttachedPropertiesObject<StyleSet>(this));
-        m_styleSet->setFollower(this);
-    }
-    StyleSetProps &props = *m_styleSet->props();
-    // Not every sheet sets these.
-    const bool isMissing = (name == BorderColor && !props.isSet(QStringLiteral("border"))) ||
-                           (name == BorderColorFocus && !props.isSet(QStringLiteral("border-color-focus")));
-    return isMissing ? QColor(Qt::transparent) : (props.*source(name).read)();
-}
+const std::array<SheetColors::Source, StyledComboBox::nameCount> StyledComboBox::colorSources = {{
+    {&StyleSetProps::background},
+    {&StyleSetProps::foreground},
+    {&StyleSetProps::line},
+    {&StyleSetProps::border, "border"},
+    {&StyleSetProps::borderColorFocus, "border-color-focus"},
+    {&StyleSetProps::indicatorBackground},
+    {&StyleSetProps::indicatorBackgroundHover},
+    {&StyleSetProps::itemColorCurrent},
+    {&StyleSetProps::itemColorHover},
+    {&StyleSetProps::foregroundItem},
+    {&StyleSetProps::foregroundItemHover},
+    {&StyleSetProps::foregroundItemSelected},
+    {&StyleSetProps::backgroundItem},
+    {&StyleSetProps::backgroundItemHover},
+    {&StyleSetProps::backgroundItemSelected},
+    {&StyleSetProps::popupColor},
+    {&StyleSetProps::popupBorderColor},
+}};
 
-void StyledComboBox::setColor(Name name, const QColor &color)
-{
-    if (!m_colors)
-        m_colors = std::make_unique<std::array<QColor, nameCount>>();
-    if (std::exchange(m_colors->at(name), color) == color)
-        return;
-    Q_EMIT(this->*source(name).changed)();
-}
-
-void StyledComboBox::onStyleChanged()
-{
-    for (int name = 0; name < nameCount; ++name)
-        Q_EMIT(this->*source(name).changed)();
-}
+StyledComboBox::StyledComboBox(QQuickItem *parent)
+    : QQuickComboBox(parent)
+    , m_colors(*this, colorSources, [this](std::size_t begin, std::size_t end) {
+        for (std::size_t i = begin; i < end; ++i)
+            Q_EMIT(this->*comboColorSignals[i])();
+    })
+{}
 
 } // namespace tamble::client

@@ -1,22 +1,19 @@
 #pragma once
 
 #include "base/ControlExport.h"
-#include "style/StyleFollower.h"
+#include "style/SheetColors.h"
 
 #include <QtGui/QColor>
 #include <QtQml/qqmlregistration.h>
 #include <QtQuickTemplates2/private/qquickcombobox_p.h>
 
 #include <array>
-#include <memory>
 
 namespace tamble::client {
 
-class StyleSet;
-
 /// The style properties of a combo box. Most are those of its open list, which few boxes of a page ever show, so each
 /// is read from the sheets when it is asked for; as bindings they would be a tenth of a box's memory.
-class TAMBLE_CLIENT_CONTROL_EXPORT StyledComboBox : public QQuickComboBox, private StyleFollower
+class TAMBLE_CLIENT_CONTROL_EXPORT StyledComboBox : public QQuickComboBox
 {
     Q_OBJECT
     QML_ANONYMOUS
@@ -54,42 +51,41 @@ class TAMBLE_CLIENT_CONTROL_EXPORT StyledComboBox : public QQuickComboBox, priva
 
 public:
     explicit StyledComboBox(QQuickItem *parent = nullptr);
-    ~StyledComboBox() override;
 
-    QColor ssBackground() { return color(Background); }
-    void setSsBackground(const QColor &color) { setColor(Background, color); }
-    QColor ssColor() { return color(Color); }
-    void setSsColor(const QColor &color) { setColor(Color, color); }
-    QColor ssLineColor() { return color(LineColor); }
-    void setSsLineColor(const QColor &color) { setColor(LineColor, color); }
-    QColor ssBorderColor() { return color(BorderColor); }
-    void setSsBorderColor(const QColor &color) { setColor(BorderColor, color); }
-    QColor ssBorderColorFocus() { return color(BorderColorFocus); }
-    void setSsBorderColorFocus(const QColor &color) { setColor(BorderColorFocus, color); }
-    QColor ssIndicatorBackground() { return color(IndicatorBackground); }
-    void setSsIndicatorBackground(const QColor &color) { setColor(IndicatorBackground, color); }
-    QColor ssIndicatorBackgroundHover() { return color(IndicatorBackgroundHover); }
-    void setSsIndicatorBackgroundHover(const QColor &color) { setColor(IndicatorBackgroundHover, color); }
-    QColor ssItemColorCurrent() { return color(ItemColorCurrent); }
-    void setSsItemColorCurrent(const QColor &color) { setColor(ItemColorCurrent, color); }
-    QColor ssItemColorHover() { return color(ItemColorHover); }
-    void setSsItemColorHover(const QColor &color) { setColor(ItemColorHover, color); }
-    QColor ssForegroundItem() { return color(ForegroundItem); }
-    void setSsForegroundItem(const QColor &color) { setColor(ForegroundItem, color); }
-    QColor ssForegroundItemHover() { return color(ForegroundItemHover); }
-    void setSsForegroundItemHover(const QColor &color) { setColor(ForegroundItemHover, color); }
-    QColor ssForegroundItemSelected() { return color(ForegroundItemSelected); }
-    void setSsForegroundItemSelected(const QColor &color) { setColor(ForegroundItemSelected, color); }
-    QColor ssBackgroundItem() { return color(BackgroundItem); }
-    void setSsBackgroundItem(const QColor &color) { setColor(BackgroundItem, color); }
-    QColor ssBackgroundItemHover() { return color(BackgroundItemHover); }
-    void setSsBackgroundItemHover(const QColor &color) { setColor(BackgroundItemHover, color); }
-    QColor ssBackgroundItemSelected() { return color(BackgroundItemSelected); }
-    void setSsBackgroundItemSelected(const QColor &color) { setColor(BackgroundItemSelected, color); }
-    QColor ssPopupColor() { return color(PopupColor); }
-    void setSsPopupColor(const QColor &color) { setColor(PopupColor, color); }
-    QColor ssPopupBorderColor() { return color(PopupBorderColor); }
-    void setSsPopupBorderColor(const QColor &color) { setColor(PopupBorderColor, color); }
+    QColor ssBackground() const { return m_colors.color(Background); }
+    void setSsBackground(const QColor &color) { m_colors.setColor(Background, color); }
+    QColor ssColor() const { return m_colors.color(Color); }
+    void setSsColor(const QColor &color) { m_colors.setColor(Color, color); }
+    QColor ssLineColor() const { return m_colors.color(LineColor); }
+    void setSsLineColor(const QColor &color) { m_colors.setColor(LineColor, color); }
+    QColor ssBorderColor() const { return m_colors.color(BorderColor); }
+    void setSsBorderColor(const QColor &color) { m_colors.setColor(BorderColor, color); }
+    QColor ssBorderColorFocus() const { return m_colors.color(BorderColorFocus); }
+    void setSsBorderColorFocus(const QColor &color) { m_colors.setColor(BorderColorFocus, color); }
+    QColor ssIndicatorBackground() const { return m_colors.color(IndicatorBackground); }
+    void setSsIndicatorBackground(const QColor &color) { m_colors.setColor(IndicatorBackground, color); }
+    QColor ssIndicatorBackgroundHover() const { return m_colors.color(IndicatorBackgroundHover); }
+    void setSsIndicatorBackgroundHover(const QColor &color) { m_colors.setColor(IndicatorBackgroundHover, color); }
+    QColor ssItemColorCurrent() const { return m_colors.color(ItemColorCurrent); }
+    void setSsItemColorCurrent(const QColor &color) { m_colors.setColor(ItemColorCurrent, color); }
+    QColor ssItemColorHover() const { return m_colors.color(ItemColorHover); }
+    void setSsItemColorHover(const QColor &color) { m_colors.setColor(ItemColorHover, color); }
+    QColor ssForegroundItem() const { return m_colors.color(ForegroundItem); }
+    void setSsForegroundItem(const QColor &color) { m_colors.setColor(ForegroundItem, color); }
+    QColor ssForegroundItemHover() const { return m_colors.color(ForegroundItemHover); }
+    void setSsForegroundItemHover(const QColor &color) { m_colors.setColor(ForegroundItemHover, color); }
+    QColor ssForegroundItemSelected() const { return m_colors.color(ForegroundItemSelected); }
+    void setSsForegroundItemSelected(const QColor &color) { m_colors.setColor(ForegroundItemSelected, color); }
+    QColor ssBackgroundItem() const { return m_colors.color(BackgroundItem); }
+    void setSsBackgroundItem(const QColor &color) { m_colors.setColor(BackgroundItem, color); }
+    QColor ssBackgroundItemHover() const { return m_colors.color(BackgroundItemHover); }
+    void setSsBackgroundItemHover(const QColor &color) { m_colors.setColor(BackgroundItemHover, color); }
+    QColor ssBackgroundItemSelected() const { return m_colors.color(BackgroundItemSelected); }
+    void setSsBackgroundItemSelected(const QColor &color) { m_colors.setColor(BackgroundItemSelected, color); }
+    QColor ssPopupColor() const { return m_colors.color(PopupColor); }
+    void setSsPopupColor(const QColor &color) { m_colors.setColor(PopupColor, color); }
+    QColor ssPopupBorderColor() const { return m_colors.color(PopupBorderColor); }
+    void setSsPopupBorderColor(const QColor &color) { m_colors.setColor(PopupBorderColor, color); }
 
 Q_SIGNALS:
     void ssBackgroundChanged();
@@ -111,7 +107,7 @@ Q_SIGNALS:
     void ssPopupBorderColorChanged();
 
 private:
-    enum Name {
+    enum ColorName : std::size_t {
         Background,
         Color,
         LineColor,
@@ -132,14 +128,9 @@ private:
         nameCount
     };
 
-    struct Source;
-    static const Source &source(int name);
-    QColor color(Name name);
-    void setColor(Name name, const QColor &color);
-    void onStyleChanged() override;
+    static const std::array<SheetColors::Source, nameCount> colorSources;
 
-    std::unique_ptr<std::array<QColor, nameCount>> m_colors; ///< What the page has set in place of the sheets.
-    StyleSet *m_styleSet = nullptr;                          ///< The attached one, once it is read.
+    SheetColors m_colors;
 };
 
 } // namespace tamble::client
