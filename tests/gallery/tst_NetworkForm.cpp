@@ -1,8 +1,10 @@
 #include "AmplifierField.h"
 #include "FieldTable.h"
 #include "GalleryInstallation.h"
+#include "NetworkSources.h"
 #include "support/TestProgram.h"
 
+#include <QtCore/QTemporaryDir>
 #include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickView>
@@ -30,7 +32,7 @@ constexpr auto formPage = R"(
             themeComponent: Component { RTheme {} }
         }
         RStyleEngineSetup {
-            engine.defaultStyleSheetSource: "qrc:/style/tamble.dark.style"
+            engine.defaultStyleSheetSource: "qrc:/style/tamble.%3.style"
         }
         Amplifier {
             id: selection
@@ -45,9 +47,11 @@ constexpr auto formPage = R"(
 /// A form of the gallery in a window, and the installation behind it, whose clock stands.
 struct FormWindow
 {
-    explicit FormWindow(const char *form)
+    explicit FormWindow(const char *form, const char *theme = "dark")
         : installation(1, nullptr)
     {
+        // What Qt keeps of these files knows properties by their places, which change with the module.
+        qputenv("QML_DISK_CACHE_PATH", cache.path().toUtf8());
         installation.setStepped(true);
         NetworkBehaviour orderly;
         orderly.jitter = 0;
@@ -59,7 +63,8 @@ struct FormWindow
         view.engine()->addImportPath(QStringLiteral(TAMBLE_QML_DIRECTORY));
         QQmlComponent component(view.engine());
         component.setData(QString::fromLatin1(formPage)
-                              .arg(QStringLiteral("file:" TAMBLE_GALLERY_DIRECTORY "/network"), QLatin1String(form))
+                              .arg(QStringLiteral("file:" TAMBLE_GALLERY_DIRECTORY "/network"), QLatin1String(form),
+                                   QLatin1String(theme))
                               .toUtf8(),
                           {});
         page = qobject_cast<QQuickItem *>(component.create());
@@ -90,6 +95,7 @@ struct FormWindow
     }
     QVariant shown(QStringView field) { return installation.client().shown(0, fieldIndex(field)); }
 
+    QTemporaryDir cache;
     GalleryInstallation installation;
     QQuickView view;
     QQuickItem *page = nullptr;
@@ -116,6 +122,7 @@ class tst_NetworkForm : public QuietTest
 private Q_SLOTS:
     // Every field is reached by Tab and ends as typed, though half of the attempts fail and others edit the same fields
     // meanwhile; and not a letter of what is being typed changes by it.
+    void filledByKeyboardAtTheWorst_data() { themes(); }
     void filledByKeyboardAtTheWorst()
     {
         const struct
@@ -132,7 +139,7 @@ private Q_SLOTS:
             {QStringLiteral("pin"), QStringLiteral("8153")},
             {QStringLiteral("notes"), QStringLiteral("Rack 9")},
         };
-        FormWindow window("NetworkForm");
+        FormWindow window("NetworkForm", QTest::currentDataTag());
         QVERIFY(window.isReady());
         window.installation.setBehaviour(badNetwork());
         int attempts = 0;
@@ -153,6 +160,40 @@ private Q_SLOTS:
             }
         }
         QVERIFY(attempts > 8);
+    }
+
+    // Gain, delays and the source of an input, likewise; the source by the first letters of its name.
+    void channelFilledByKeyboardAtTheWorst_data() { themes(); }
+    void channelFilledByKeyboardAtTheWorst()
+    {
+        const int count = int(networkSources().size());
+        const NetworkSource source = networkSources()[count - 1];
+        const struct
+        {
+            const char *label;
+            QString field;
+            QVariant value;
+            QString typed;
+        } entries[]{
+            {"So&urce", QStringLiteral("input1Source"), source.id, source.name},
+            {"&Gain", QStringLiteral("input1Gain"), -12.5, QStringLiteral("-12,5")},
+            {"&Delay", QStringLiteral("input1DelayMs"), 10.0, QStringLiteral("10")},
+            {"&Samples", QStringLiteral("input1DelaySamples"), 96, QStringLiteral("96")},
+        };
+        FormWindow window("ChannelForm", QTest::currentDataTag());
+        QVERIFY(window.isReady());
+        window.installation.setBehaviour(badNetwork());
+        for (const auto &[label, field, value, typed] : entries) {
+            for (int attempts = 0; window.really(0, field) != value; ++attempts) {
+                QVERIFY2(attempts < 50, qPrintable(field));
+                window.focus(QString::fromLatin1(label));
+                if (field.endsWith(QLatin1String("Source")))
+                    choose(window, typed);
+                else
+                    enter(window, typed);
+                window.installation.advance(20'000);
+            }
+        }
     }
 
     void failureStaysUntilGivenUp()
@@ -239,6 +280,21 @@ private Q_SLOTS:
     }
 
 private:
+    static void themes()
+    {
+        QTest::addColumn<bool>("isTheme");
+        for (const char *theme : {"light", "dark", "contrast-light", "contrast-dark"})
+            QTest::newRow(theme) << true;
+    }
+
+    static void choose(FormWindow &window, const QString &name)
+    {
+        window.press(Qt::Key_Space);
+        for (const QChar letter : name)
+            QTest::keyClick(&window.view, letter.toLatin1());
+        window.press(Qt::Key_Return);
+    }
+
     static void enter(FormWindow &window, const QString &text)
     {
         window.press(Qt::Key_A, Qt::ControlModifier);
