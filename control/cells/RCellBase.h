@@ -173,6 +173,8 @@ protected:
     QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
 
 private:
+    friend class RCellContainerBase;
+
     void accessibilityActiveChanged(bool active) override;
     void setContainer(RCellContainerBase *container);
     void place(int &part, int value, void (RCellBase::*changed)());

@@ -48,6 +48,11 @@ RCellContainerBase::RCellContainerBase(QQuickItem *parent)
 
 RCellContainerBase::~RCellContainerBase()
 {
+    // They would hear of it when little of this is left.
+    for (QQuickItem *child : childItems()) {
+        if (auto *cell = qobject_cast<RCellBase *>(child))
+            cell->setContainer(nullptr);
+    }
     QAccessible::removeActivationObserver(this);
 }
 

@@ -22,7 +22,8 @@ void RComboBoxPopup::setVisible(bool visible)
 
 RComboBoxBase *RComboBoxPopup::comboBox() const
 {
-    return qobject_cast<RComboBoxBase *>(parentItem());
+    // Not by the meta-object, which the box keeps while it is being destroyed.
+    return dynamic_cast<RComboBoxBase *>(parentItem());
 }
 
 } // namespace tamble::client

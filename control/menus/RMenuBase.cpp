@@ -42,6 +42,10 @@ RMenuBase::~RMenuBase()
     setVisible(false);
     // The template takes its rows away one by one.
     disconnect(this, nullptr, this, nullptr);
+    for (int i = 0; i < count(); ++i) {
+        if (QQuickItem *row = itemAt(i))
+            row->disconnect(this);
+    }
 }
 
 void RMenuBase::setModel(const QVariant &model)

@@ -8,6 +8,7 @@ RCell {
 
     /*! The tabs: texts, or objects of `text`, `iconKey` and `enabled`. */
     property var model: []
+    readonly property int tabCount: root.model?.length ?? root.model?.count ?? root.model ?? 0
     /*! The chosen tab; 0 by default. */
     property int currentIndex: 0
 
@@ -20,7 +21,7 @@ RCell {
         contentItem: ListView { // qmllint disable deferred-property-id
             id: list
 
-            readonly property real tabWidth: Math.max(64 * RThemeValues.unit, (list.width - (list.count - 1) * list.spacing) / Math.max(1, list.count))
+            readonly property real tabWidth: Math.max(64 * RThemeValues.unit, (list.width - (root.tabCount - 1) * list.spacing) / Math.max(1, root.tabCount))
 
             focus: true
             model: root.model

@@ -6,7 +6,7 @@ import "../Shared" as Shared
 Shared.RConfirmDot {
     id: root
 
-    readonly property RCheckBox control: root.parent as RCheckBox
+    readonly property var control: root.parent
     readonly property real distance: root.control.boxSize - root.width / 2
 
     objectName: "dot"

@@ -5,7 +5,7 @@ import TambleClient.Control 1.0
 RTintedImage {
     id: root
 
-    readonly property RCheckBox control: root.parent as RCheckBox
+    readonly property var control: root.parent
     readonly property real margin: (root.control.boxSize - root.width) / 2
 
     objectName: "icon"

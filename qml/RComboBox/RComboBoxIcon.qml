@@ -5,7 +5,7 @@ import TambleClient.Control 1.0
 RIcon {
     id: root
 
-    readonly property RComboBoxEntry entry: root.parent as RComboBoxEntry
+    readonly property var entry: root.parent
 
     x: root.entry.mirrored ? root.entry.width - root.width - 12 * RThemeValues.unit : 12 * RThemeValues.unit
     y: (root.entry.height - root.height) / 2

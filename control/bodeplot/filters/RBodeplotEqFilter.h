@@ -35,6 +35,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RBodeplotEqFilter : public tamble::client::RB
 
 public:
     explicit RBodeplotEqFilter(QQuickItem *parent = nullptr);
+    ~RBodeplotEqFilter() override;
 
 Q_SIGNALS:
     void bypassChanged(bool value);
