@@ -13,6 +13,14 @@ RTextAreaBase::RTextAreaBase(QQuickItem *parent)
     connect(this, &QQuickTextArea::placeholderTextChanged, this, &RTextAreaBase::updateHint);
 }
 
+// The base tells that it loses the focus when nothing of this is left.
+RTextAreaBase::~RTextAreaBase()
+{
+    disconnect(this, nullptr, this, nullptr);
+    if (m_edit)
+        m_edit->setEditor(nullptr);
+}
+
 void RTextAreaBase::setEdit(FieldEdit *edit)
 {
     if (m_edit == edit)

@@ -22,6 +22,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RTextAreaBase : public QQuickTextArea, public
 
 public:
     explicit RTextAreaBase(QQuickItem *parent = nullptr);
+    ~RTextAreaBase() override;
 
     /// The conversation with the device.
     FieldEdit *edit() const { return m_edit; }

@@ -52,6 +52,14 @@ RTextFieldBase::RTextFieldBase(QQuickItem *parent)
     connect(this, &QQuickTextField::placeholderTextChanged, this, &RTextFieldBase::updateHint);
 }
 
+// The base tells that it loses the focus when nothing of this is left.
+RTextFieldBase::~RTextFieldBase()
+{
+    disconnect(this, nullptr, this, nullptr);
+    if (m_edit)
+        m_edit->setEditor(nullptr);
+}
+
 void RTextFieldBase::setEdit(FieldEdit *edit)
 {
     if (m_edit == edit)

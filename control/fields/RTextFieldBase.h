@@ -47,6 +47,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RTextFieldBase : public QQuickTextField, publ
 
 public:
     explicit RTextFieldBase(QQuickItem *parent = nullptr);
+    ~RTextFieldBase() override;
 
     /// The conversation with the device, whose properties the field has as its own.
     FieldEdit *edit() const { return m_edit; }

@@ -33,6 +33,12 @@ RTextInputBase::RTextInputBase(QQuickItem *parent)
     connect(this, &QQuickTextInput::textChanged, this, &RTextInputBase::updateHint);
 }
 
+// The base tells that it loses the focus when nothing of this is left.
+RTextInputBase::~RTextInputBase()
+{
+    disconnect(this, nullptr, this, nullptr);
+}
+
 void RTextInputBase::setPlaceholderText(const QString &text)
 {
     if (std::exchange(m_placeholderText, text) == text)

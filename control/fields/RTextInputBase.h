@@ -28,6 +28,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RTextInputBase : public QQuickTextInput, publ
 
 public:
     explicit RTextInputBase(QQuickItem *parent = nullptr);
+    ~RTextInputBase() override;
 
     /// Text shown while there is none; none by default.
     QString placeholderText() const { return m_placeholderText; }

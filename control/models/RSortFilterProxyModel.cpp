@@ -264,7 +264,8 @@ void RSortFilterProxyModel::lookUpRoles(const QAbstractItemModel *source)
 
 void RSortFilterProxyModel::sortByOrder()
 {
-    sort(m_sortEnabled ? 0 : -1, m_sortEnabled ? m_sortOrder : Qt::AscendingOrder);
+    const bool isDescending = m_sortEnabled && m_sortOrder == Qt::DescendingOrder;
+    sort(m_sortEnabled ? 0 : -1, isDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 void RSortFilterProxyModel::sortAnew()

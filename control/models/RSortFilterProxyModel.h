@@ -29,7 +29,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RSortFilterProxyModel : public QSortFilterPro
     /// Role that rows are to be sorted by; empty for the display role.
     Q_PROPERTY(QString sortRoleName MEMBER m_sortRoleName NOTIFY sortRoleNameChanged)
     /// Direction of the sorting; descending without a role to sort by is the reverse of the source.
-    Q_PROPERTY(Qt::SortOrder sortOrder MEMBER m_sortOrder NOTIFY sortOrderChanged)
+    Q_PROPERTY(int sortOrder MEMBER m_sortOrder NOTIFY sortOrderChanged)
     /// False keeps the order of the source.
     Q_PROPERTY(bool sortEnabled MEMBER m_sortEnabled NOTIFY sortEnabledChanged)
     /// Whether digits in texts count as numbers, "Input 2" before "Input 10". Values that are numbers always do.
@@ -122,7 +122,7 @@ private:
 
     const std::unique_ptr<Parts> m_parts;
     QString m_sortRoleName;
-    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+    int m_sortOrder = Qt::AscendingOrder; // whatever number a page writes; any but the descending order is this
     bool m_sortEnabled = true;
     bool m_naturalSort = true;
     QStringList m_filterRoleNames;
