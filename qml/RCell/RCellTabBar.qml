@@ -8,6 +8,7 @@ RCell {
 
     /*! The tabs: texts, or objects of `text`, `iconKey` and `enabled`. */
     property var model: []
+    /*! How many tabs there are. */
     readonly property int tabCount: root.model?.length ?? root.model?.count ?? root.model ?? 0
     /*! The chosen tab; 0 by default. */
     property int currentIndex: 0
