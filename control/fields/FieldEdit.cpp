@@ -316,9 +316,8 @@ void FieldEdit::judge()
 {
     if (!m_isComplete || !m_editor)
         return;
-    // The text that a value gives is not what the user is to answer for.
-    const bool isShown = !m_isEdited && (!m_isConsistent || (m_value.isValid() && m_converter && !m_rules));
-    const QString found = isShown ? errorInForce() : problemOf(tidied(m_editor->text()));
+    const bool isMixed = !m_isConsistent && !m_isEdited;
+    const QString found = isMixed ? errorInForce() : problemOf(tidied(m_editor->text()));
     if (std::exchange(m_invalidText, found) != found) {
         updateMarks();
         Q_EMIT invalidTextChanged();
@@ -343,8 +342,9 @@ QString FieldEdit::problemOf(const QString &text) const
         return m_rules->problemOf(text);
     if (text.isEmpty())
         return {};
+    // What it makes of a missing value cannot be read either, and is nobody's fault.
     if (m_converter && !m_converter->accepts(text))
-        return tr("This cannot be read");
+        return m_isEdited ? tr("This cannot be read") : QString();
     return FieldReason::problemOf(m_editor->validator(), text);
 }
 

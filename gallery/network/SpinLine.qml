@@ -21,8 +21,7 @@ FieldLine {
         enabled: root.amplifier.devices.length > 0
         from: root.source.minimum
         to: root.source.maximum
-        // From off, a step leads to the lowest number but one.
-        value: Math.max(root.source.shown, root.source.minimum)
+        value: root.source.shown
         consistent: root.source.consistent
         confirmed: root.source.confirmed
         errorText: root.source.errorText
