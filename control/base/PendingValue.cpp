@@ -26,6 +26,7 @@ void PendingValue::setTarget(QObject *target)
     if (m_target == target || m_isActive)
         return;
     m_target = target;
+    forgetBinding();
     Q_EMIT targetChanged();
 }
 
@@ -34,7 +35,13 @@ void PendingValue::setName(const QString &name)
     if (m_name == name || m_isActive)
         return;
     m_name = name;
+    forgetBinding();
     Q_EMIT nameChanged();
+}
+
+void PendingValue::forgetBinding()
+{
+    delete std::exchange(m_binding, nullptr);
 }
 
 void PendingValue::setSettleTime(int ms)

@@ -65,12 +65,13 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    void forgetBinding();
     void write(const QVariant &value);
     void setActive(bool active);
 
     QPointer<QObject> m_target;
     QString m_name;
-    QObject *m_binding = nullptr; // a child, made at the first edit: it holds back the page's binding
+    QObject *m_binding = nullptr; // a child, made at the first edit of `name`: holds back the page's binding
     QVariant m_valueAtBegin;
     QBasicTimer m_settling;
     int m_settleTime = 300;

@@ -1,5 +1,6 @@
 #include "cells/RCellBase.h"
 
+#include "cells/CellViewFocus.h"
 #include "cells/RCellContainerBase.h"
 #include "controls/RButtonBase.h"
 
@@ -32,11 +33,15 @@ RCellBase::RCellBase(QQuickItem *parent)
 {
     setFlag(ItemIsFocusScope);
     setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
+    setFiltersChildMouseEvents(true);
     QAccessible::installActivationObserver(this);
 }
 
 RCellBase::~RCellBase()
 {
+    // It loses the focus when nothing of this is left.
+    if (m_control)
+        m_control->disconnect(this);
     QAccessible::removeActivationObserver(this);
 }
 
@@ -269,6 +274,8 @@ void RCellBase::componentComplete()
 {
     QQuickItem::componentComplete();
     followRaster();
+    if (QQuickItem *view = tableView())
+        CellViewFocus::follow(*view);
     if (QAccessible::isActive())
         accessibilityActiveChanged(true);
 }
@@ -345,7 +352,6 @@ void RCellBase::followRaster()
 void RCellBase::followLock()
 {
     auto *button = qobject_cast<QQuickAbstractButton *>(m_control.get());
-    setFiltersChildMouseEvents(button && isLocked());
     if (button)
         button->setFocus(!isLocked());
     followFocus();

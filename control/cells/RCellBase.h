@@ -154,7 +154,8 @@ Q_SIGNALS:
     /// The user wants to use the cell: by Enter, F2, a double click, or a click on the button in it. `index` is that of
     /// the tab that was chosen in a tab bar, elsewhere −1.
     void activated(int index);
-    /// A right click, a long press or the Menu key; `position` is in the cell's coordinates.
+    /// A right click, a long press or the Menu key; `position` is in the cell's coordinates. A field that is edited has
+    /// a menu of its own.
     void contextMenuRequested(const QPointF &position);
 
 protected:
@@ -185,7 +186,10 @@ private:
     void updateFrames();
     void showPart(QPointer<QObject> &part, Part kind, bool visible);
     void takeFocus();
+    /// The TableView around the cell; null outside of one.
+    QQuickItem *tableView() const;
     void tellView();
+    bool leaveView(const QKeyEvent &event);
     void use();
     bool leaveBy(QKeyEvent *event);
 

@@ -4,8 +4,8 @@
 #include "base/SpokenControl.h"
 #include "cells/CellMoves.h"
 #include "cells/CellPlan.h"
-#include "cells/EnclosingView.h"
 #include "cells/RCellGridPropertiesBase.h"
+#include "scrolling/EnclosingView.h"
 
 #include <QtCore/QList>
 #include <QtCore/QPointer>
@@ -61,7 +61,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RCellContainerBase : public QQuickItem,
     Q_PROPERTY(QPointF headerShift READ headerShift NOTIFY headersMoved)
 
 public:
-    enum SelectionMode {
+    enum SelectionMode : int {
         SingleCell, ///< The current cell alone.
         Row,        ///< The rows of the current cell.
         Rectangle,  ///< From one cell to another; Shift extends it.

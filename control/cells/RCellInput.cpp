@@ -1,4 +1,7 @@
 #include "cells/RCellBase.h"
+
+#include "base/InputMeaning.h"
+#include "cells/CellViewFocus.h"
 #include "cells/RCellContainerBase.h"
 #include "controls/RButtonBase.h"
 #include "fields/FieldEdit.h"
@@ -17,18 +20,6 @@
 namespace tamble::client {
 
 namespace {
-
-constexpr int longPressMs = 500;
-
-bool isEnterKey(const QKeyEvent &event)
-{
-    return event.key() == Qt::Key_Enter || event.key() == Qt::Key_Return;
-}
-
-bool asksForMenu(const QKeyEvent &event)
-{
-    return event.key() == Qt::Key_Menu || (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
-}
 
 /// A character that begins a text. AltGr counts as Ctrl and Alt on some systems.
 bool typesText(const QKeyEvent &event)
@@ -141,7 +132,7 @@ bool RCellBase::eventFilter(QObject *watched, QEvent *event)
 /// Whether the key is one that ends editing; a text that is refused stays open.
 bool RCellBase::leaveBy(QKeyEvent *event)
 {
-    const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    const bool isTab = CellViewFocus::isTabKey(*event);
     const bool isConfirming = isEnterKey(*event) && (!m_multiLine || event->modifiers() == Qt::ControlModifier);
     if (event->key() != Qt::Key_Escape && !isTab && !isConfirming)
         return false;
@@ -181,7 +172,7 @@ void RCellBase::keyPressEvent(QKeyEvent *event)
     } else if (typesText(*event) && edit()) {
         QKeyEvent typed(QEvent::KeyPress, event->key(), event->modifiers(), event->text());
         QCoreApplication::sendEvent(window()->activeFocusItem(), &typed);
-    } else {
+    } else if (m_container || !leaveView(*event)) {
         event->ignore();
     }
 }
@@ -189,7 +180,7 @@ void RCellBase::keyPressEvent(QKeyEvent *event)
 void RCellBase::mousePressEvent(QMouseEvent *event)
 {
     m_pressedAt = event->position();
-    if (event->source() == Qt::MouseEventNotSynthesized)
+    if (!isByFinger(*event))
         takeFocus();
     if (event->button() == Qt::RightButton)
         Q_EMIT contextMenuRequested(m_pressedAt);
@@ -208,7 +199,7 @@ void RCellBase::mouseReleaseEvent(QMouseEvent *event)
 {
     m_longPress.stop();
     // A finger may scroll until it is lifted.
-    if (event->source() != Qt::MouseEventNotSynthesized)
+    if (isByFinger(*event))
         takeFocus();
 }
 
@@ -238,24 +229,47 @@ void RCellBase::timerEvent(QTimerEvent *event)
     Q_EMIT contextMenuRequested(m_pressedAt);
 }
 
-// Only while the cell holds a button that must not be pressed.
-bool RCellBase::childMouseEventFilter(QQuickItem *, QEvent *event)
+bool RCellBase::childMouseEventFilter(QQuickItem *item, QEvent *event)
 {
-    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin)
-        forceActiveFocus(Qt::MouseFocusReason);
+    if (isLocked() && qobject_cast<QQuickAbstractButton *>(m_control.get())) {
+        if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin)
+            forceActiveFocus(Qt::MouseFocusReason);
+        return true;
+    }
+    // A field has a menu of its own, which is meant while it is edited.
+    if (event->type() != QEvent::MouseButtonPress || isEditing())
+        return false;
+    const auto *press = static_cast<QMouseEvent *>(event);
+    if (press->button() != Qt::RightButton)
+        return false;
+    takeFocus();
+    Q_EMIT contextMenuRequested(mapFromItem(item, press->position()));
     return true;
+}
+
+QQuickItem *RCellBase::tableView() const
+{
+    for (QQuickItem *item = parentItem(); item; item = item->parentItem()) {
+        if (const auto *selection = CellViewFocus::selectionOf(*item); selection && selection->model())
+            return item;
+    }
+    return nullptr;
 }
 
 // A TableView moves its current index with the arrow keys, but knows nothing of presses that a delegate takes.
 void RCellBase::tellView()
 {
-    for (QQuickItem *item = parentItem(); item; item = item->parentItem()) {
-        auto *selection = item->property("selectionModel").value<QItemSelectionModel *>();
-        if (!selection || !selection->model())
-            continue;
+    if (const QQuickItem *view = tableView()) {
+        QItemSelectionModel *selection = CellViewFocus::selectionOf(*view);
         selection->setCurrentIndex(selection->model()->index(m_row, m_column), QItemSelectionModel::NoUpdate);
-        return;
     }
+}
+
+// Some versions of Qt walk through all cells by Tab.
+bool RCellBase::leaveView(const QKeyEvent &event)
+{
+    QQuickItem *view = tableView();
+    return view && CellViewFocus::leave(*view, event);
 }
 
 } // namespace tamble::client

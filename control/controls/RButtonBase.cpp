@@ -28,7 +28,11 @@ public:
     {
         Q_Q(RButtonBase);
         q->m_clickFollows = pressed && !wasDoubleClick && !isSecondTap(timestamp);
+        // The template clicks nothing for a press that was held.
+        const bool heldBefore = wasHeld;
+        wasHeld = wasHeld || (q->m_clickFollows && q->holdsBackClick());
         const bool handled = QQuickAbstractButtonPrivate::handleRelease(point, timestamp);
+        wasHeld = heldBefore;
         q->m_clickFollows = true;
         return handled;
     }
@@ -116,15 +120,20 @@ QString RButtonBase::plainText() const
     return m_literalText ? text() : withoutMnemonic(text());
 }
 
-template <typename Value>
-Value RButtonBase::followed(std::optional<Value> &known, Value (StyleSetProps::*read)())
+StyleSetProps &RButtonBase::sheetProps()
 {
     if (!m_styleSet) {
         m_styleSet = static_cast<StyleSet *>(qmlAttachedPropertiesObject<StyleSet>(this));
         m_styleSet->setFollower(this);
     }
+    return *m_styleSet->props();
+}
+
+template <typename Value>
+Value RButtonBase::followed(std::optional<Value> &known, Value (StyleSetProps::*read)())
+{
     if (!known)
-        known = (m_styleSet->props()->*read)();
+        known = (sheetProps().*read)();
     return *known;
 }
 
@@ -162,6 +171,7 @@ void RButtonBase::onStyleChanged()
     update(m_sheetColor, &StyleSetProps::foreground, &RButtonBase::sheetColorChanged);
     update(m_sheetLineColor, &StyleSetProps::line, &RButtonBase::sheetLineColorChanged);
     update(m_sheetLineVisible, &StyleSetProps::lineVisible, &RButtonBase::sheetLineVisibleChanged);
+    styleChange();
 }
 
 bool RButtonBase::event(QEvent *event)
@@ -176,7 +186,7 @@ bool RButtonBase::event(QEvent *event)
         return true;
     case QEvent::ShortcutOverride:
         // Before whatever Esc closes around the button.
-        if (!takesBack(*static_cast<QKeyEvent *>(event)))
+        if (static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape || !canTakeBack())
             break;
         event->accept();
         return true;
@@ -186,20 +196,24 @@ bool RButtonBase::event(QEvent *event)
     return QQuickAbstractButton::event(event);
 }
 
-bool RButtonBase::takesBack(const QKeyEvent &event) const
+bool RButtonBase::canTakeBack() const
 {
     Q_D(const RButtonBase);
-    const bool isHeldByKey = d->pressed && d->pressButtons == Qt::NoButton && d->touchId == -1;
-    return event.key() == Qt::Key_Escape && isHeldByKey;
+    return d->pressed && d->pressButtons == Qt::NoButton && d->touchId == -1;
+}
+
+void RButtonBase::takeBack()
+{
+    Q_D(RButtonBase);
+    d->handleUngrab();
 }
 
 void RButtonBase::keyPressEvent(QKeyEvent *event)
 {
-    Q_D(RButtonBase);
     if (repeatsSpace(*event)) {
         event->accept();
-    } else if (takesBack(*event)) {
-        d->handleUngrab();
+    } else if (event->key() == Qt::Key_Escape && canTakeBack()) {
+        takeBack();
         event->accept();
     } else {
         QQuickAbstractButton::keyPressEvent(event);
@@ -208,8 +222,14 @@ void RButtonBase::keyPressEvent(QKeyEvent *event)
 
 void RButtonBase::keyReleaseEvent(QKeyEvent *event)
 {
+    Q_D(RButtonBase);
     // Without a press there is nothing to let go: it was taken back, or was another item's.
     if (repeatsSpace(*event) || (event->key() == Qt::Key_Space && !isPressed())) {
+        event->accept();
+        return;
+    }
+    if (event->key() == Qt::Key_Space && holdsBackClick()) {
+        d->handleUngrab();
         event->accept();
         return;
     }
@@ -219,16 +239,16 @@ void RButtonBase::keyReleaseEvent(QKeyEvent *event)
         return;
     }
     event->accept();
-    if (m_useCustomEvent) {
-        Q_EMIT customEventActivated();
-    } else {
+    if (!m_useCustomEvent) {
         click();
+    } else if (!holdsBackClick()) {
+        Q_EMIT customEventActivated();
     }
 }
 
 void RButtonBase::click()
 {
-    if (!isEnabled())
+    if (!isEnabled() || holdsBackClick())
         return;
     nextCheckState();
     Q_EMIT clicked();

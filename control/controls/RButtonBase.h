@@ -35,7 +35,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton,
     Q_PROPERTY(bool useCustomEvent MEMBER m_useCustomEvent NOTIFY useCustomEventChanged FINAL)
     /// Whether a click on "mixed" leaves the selection to a question that follows.
     Q_PROPERTY(bool asksWhenMixed MEMBER m_asksWhenMixed NOTIFY asksWhenMixedChanged FINAL)
-    /// Whether releasing Enter clicks.
+    /// Whether releasing Enter clicks; true by default.
     Q_PROPERTY(bool enterClicks MEMBER m_enterClicks NOTIFY enterClicksChanged FINAL)
     Q_PROPERTY(bool literalText READ literalText WRITE setLiteralText NOTIFY literalTextChanged FINAL)
     Q_PROPERTY(QString plainText READ plainText NOTIFY plainTextChanged FINAL)
@@ -67,12 +67,16 @@ public:
     /// False while several devices differ in what the button stands for ("mixed"); true by default.
     bool isConsistent() const { return m_consistent; }
     void setConsistent(bool consistent);
+    /// Whether releasing Enter clicks.
+    bool enterClicks() const { return m_enterClicks; }
     /// Whether "&" marks no key in `text`, as in a text that comes from a device; false by default.
     bool literalText() const { return m_literalText; }
     void setLiteralText(bool literal);
     /// `text` as it is shown: without the mark of its mnemonic.
     QString plainText() const;
 
+    QColor ssBackground() const { return m_ssBackground; }
+    QColor ssColor() const { return m_ssColor; }
     QColor sheetBackground();
     QColor sheetColor();
     QColor sheetLineColor();
@@ -114,6 +118,15 @@ Q_SIGNALS:
 protected:
     /// `selected` or `consistent` has changed.
     virtual void selectionChange() {}
+    /// What the sheets say about the button; after the first call, styleChange() tells when that may be another.
+    StyleSetProps &sheetProps();
+    virtual void styleChange() {}
+    /// Asked once for each click, before it does anything: true keeps it from having an effect.
+    virtual bool holdsBackClick() { return false; }
+    /// Whether there is something that Esc takes back, which takeBack() then does: a held Space, unless a subclass
+    /// knows more.
+    virtual bool canTakeBack() const;
+    virtual void takeBack();
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
@@ -129,7 +142,6 @@ private:
     Value followed(std::optional<Value> &known, Value (StyleSetProps::*read)());
     void onStyleChanged() override;
 
-    bool takesBack(const QKeyEvent &event) const;
     void useText();
     void clickOncePerKey();
     void announceState();

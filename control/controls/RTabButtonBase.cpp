@@ -1,17 +1,153 @@
 #include "controls/RTabButtonBase.h"
 
+#include "base/PartComponents.h"
+#include "style/StyleSetProps.h"
+
 #include <QtGui/QKeyEvent>
 
-#include <algorithm>
+#include <utility>
 
 namespace tamble::client {
 
 RTabButtonBase::RTabButtonBase(QQuickItem *parent)
     : RButtonBase(parent)
+{}
+
+void RTabButtonBase::setIconKey(const QString &key)
 {
-    const auto tellDescription = [this] { announce(*this, QAccessible::DescriptionChanged); };
-    connect(this, &RTabButtonBase::modifiedChanged, this, tellDescription);
-    connect(this, &RTabButtonBase::badgeChanged, this, tellDescription);
+    if (m_iconKey == key)
+        return;
+    m_iconKey = key;
+    Q_EMIT iconKeyChanged();
+}
+
+void RTabButtonBase::setClosable(bool closable)
+{
+    if (std::exchange(m_isClosable, closable) == closable)
+        return;
+    updateMarks();
+    Q_EMIT closableChanged();
+}
+
+void RTabButtonBase::setModified(bool modified)
+{
+    if (std::exchange(m_isModified, modified) == modified)
+        return;
+    updateDot();
+    announce(*this, QAccessible::DescriptionChanged);
+    Q_EMIT modifiedChanged();
+}
+
+void RTabButtonBase::setBadge(const QString &badge)
+{
+    if (m_badge == badge)
+        return;
+    m_badge = badge;
+    updateMarks();
+    announce(*this, QAccessible::DescriptionChanged);
+    Q_EMIT badgeChanged();
+}
+
+QColor RTabButtonBase::borderColor()
+{
+    if (m_borderColor)
+        return *m_borderColor;
+    return sheetProps().isSet(QStringLiteral("border")) ? sheetProps().border() : QColor(Qt::transparent);
+}
+
+void RTabButtonBase::setBorderColor(const QColor &color)
+{
+    if (std::exchange(m_borderColor, color) != color)
+        Q_EMIT borderColorChanged();
+}
+
+bool RTabButtonBase::borderVisible()
+{
+    if (m_borderVisible)
+        return *m_borderVisible;
+    return sheetProps().isSet(QStringLiteral("border-visible")) && sheetProps().borderVisible();
+}
+
+void RTabButtonBase::setBorderVisible(bool on)
+{
+    if (std::exchange(m_borderVisible, on) != on)
+        Q_EMIT borderVisibleChanged();
+}
+
+QColor RTabButtonBase::borderFocus()
+{
+    if (m_borderFocus)
+        return *m_borderFocus;
+    return sheetProps().isSet(QStringLiteral("border-focus")) ? sheetProps().borderFocus() : QColor(Qt::transparent);
+}
+
+void RTabButtonBase::setBorderFocus(const QColor &color)
+{
+    if (std::exchange(m_borderFocus, color) != color)
+        Q_EMIT borderFocusChanged();
+}
+
+bool RTabButtonBase::lineAtTop()
+{
+    if (m_lineAtTop)
+        return *m_lineAtTop;
+    return sheetProps().lineAtTop();
+}
+
+void RTabButtonBase::setLineAtTop(bool on)
+{
+    if (std::exchange(m_lineAtTop, on) != on)
+        Q_EMIT lineAtTopChanged();
+}
+
+void RTabButtonBase::styleChange()
+{
+    Q_EMIT borderColorChanged();
+    Q_EMIT borderVisibleChanged();
+    Q_EMIT borderFocusChanged();
+    Q_EMIT lineAtTopChanged();
+}
+
+void RTabButtonBase::selectionChange()
+{
+    updateMarks();
+}
+
+// Above the content, which comes with the end of the creation.
+void RTabButtonBase::componentComplete()
+{
+    RButtonBase::componentComplete();
+    updateMarks();
+    updateDot();
+}
+
+void RTabButtonBase::updateDot()
+{
+    if (m_isModified && !m_dot && isComponentComplete()) {
+        m_dot = PartComponents::makeItem(Part::TabDot, *this);
+        if (m_dot)
+            connect(m_dot, &QQuickItem::implicitWidthChanged, this, &RTabButtonBase::updateEndSpace);
+    }
+    updateEndSpace();
+}
+
+void RTabButtonBase::updateMarks()
+{
+    if (isMarked() && !m_marks && isComponentComplete()) {
+        m_marks = PartComponents::makeItem(Part::TabMarks, *this);
+        if (m_marks)
+            connect(m_marks, &QQuickItem::widthChanged, this, &RTabButtonBase::updateEndSpace);
+    }
+    Q_EMIT markedChanged();
+    updateEndSpace();
+}
+
+void RTabButtonBase::updateEndSpace()
+{
+    const qreal space =
+        (m_marks && isMarked() ? m_marks->width() : 0.0) + (m_dot && m_isModified ? m_dot->implicitWidth() : 0.0);
+    if (std::exchange(m_endSpace, space) != space)
+        Q_EMIT endSpaceChanged();
 }
 
 QString RTabButtonBase::spokenDescription(const QString &given) const
@@ -28,64 +164,27 @@ void RTabButtonBase::addSpokenStates(QAccessible::State &state) const
     state.selected = state.checked;
 }
 
-// From left to right, as they are seen: a view may keep its items in any order.
-QList<RTabButtonBase *> RTabButtonBase::row() const
+FocusRow RTabButtonBase::row() const
 {
-    QList<RTabButtonBase *> tabs;
+    QList<RButtonBase *> tabs;
     if (!parentItem())
-        return tabs;
+        return FocusRow();
     for (QQuickItem *sibling : parentItem()->childItems()) {
         auto *tab = qobject_cast<RTabButtonBase *>(sibling);
         if (tab && tab->isVisible() && tab->isEnabled())
             tabs.append(tab);
     }
-    std::stable_sort(tabs.begin(), tabs.end(), [](const auto *a, const auto *b) { return a->x() < b->x(); });
-    return tabs;
-}
-
-/// Where a key moves the focus; null for keys that move nothing.
-RTabButtonBase *RTabButtonBase::tabAt(int key) const
-{
-    const QList<RTabButtonBase *> tabs = row();
-    const qsizetype here = tabs.indexOf(this);
-    if (here < 0)
-        return nullptr;
-    const qsizetype last = tabs.size() - 1;
-    switch (key) {
-    case Qt::Key_Left:
-        return tabs[std::max<qsizetype>(here - 1, 0)];
-    case Qt::Key_Right:
-        return tabs[std::min(here + 1, last)];
-    case Qt::Key_Home:
-        return tabs[isMirrored() ? last : 0];
-    case Qt::Key_End:
-        return tabs[isMirrored() ? 0 : last];
-    default:
-        return nullptr;
-    }
-}
-
-bool RTabButtonBase::leaveRow(bool forwards)
-{
-    const QList<RTabButtonBase *> tabs = row();
-    QQuickItem *next = nextItemInFocusChain(forwards);
-    while (next && next != this && std::find(tabs.begin(), tabs.end(), next) != tabs.end())
-        next = next->nextItemInFocusChain(forwards);
-    if (!next || next == this)
-        return false;
-    next->forceActiveFocus(forwards ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    return true;
+    return FocusRow(std::move(tabs));
 }
 
 void RTabButtonBase::keyPressEvent(QKeyEvent *event)
 {
-    const bool isBack = event->key() == Qt::Key_Backtab;
-    if (isBack || (event->key() == Qt::Key_Tab && event->modifiers() == Qt::NoModifier)) {
-        event->setAccepted(leaveRow(!isBack));
+    if (FocusRow::isExit(*event)) {
+        event->setAccepted(row().leave(*this, *event));
         return;
     }
     if ((event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
-        if (RTabButtonBase *tab = tabAt(event->key())) {
+        if (RButtonBase *tab = row().buttonAt(event->key(), this, isMirrored())) {
             event->accept();
             tab->forceActiveFocus(Qt::OtherFocusReason);
             return;
@@ -112,10 +211,8 @@ void RTabButtonBase::passFocusToSelected()
 {
     if (isSelected() || !hasActiveFocus())
         return;
-    const QList<RTabButtonBase *> tabs = row();
-    const auto selected = std::find_if(tabs.begin(), tabs.end(), [](const auto *tab) { return tab->isSelected(); });
-    if (selected != tabs.end())
-        (*selected)->forceActiveFocus(Qt::OtherFocusReason);
+    if (RButtonBase *selected = row().selectedTab())
+        selected->forceActiveFocus(Qt::OtherFocusReason);
 }
 
 } // namespace tamble::client

@@ -6,6 +6,13 @@ RUnderlay::RUnderlay(QQuickItem *parent)
     : QQuickItem(parent)
 {}
 
+// Its own parent changes when nothing of this is left, and it may be its own target.
+RUnderlay::~RUnderlay()
+{
+    if (m_target)
+        disconnect(m_target, nullptr, this, nullptr);
+}
+
 void RUnderlay::setTarget(QQuickItem *target)
 {
     if (m_target == target)

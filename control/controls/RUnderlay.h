@@ -18,6 +18,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RUnderlay : public QQuickItem
 
 public:
     explicit RUnderlay(QQuickItem *parent = nullptr);
+    ~RUnderlay() override;
 
     /// A sibling, or the parent; null by default.
     QQuickItem *target() const { return m_target; }

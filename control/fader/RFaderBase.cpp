@@ -1,5 +1,6 @@
 #include "fader/RFaderBase.h"
 
+#include "base/InputMeaning.h"
 #include "fader/FaderTouchArea.h"
 
 #include <QtCore/QMetaMethod>
@@ -14,7 +15,6 @@ namespace tamble::client {
 
 namespace {
 
-constexpr int longPressMs = 500;
 constexpr int noFinger = -1;
 constexpr double touchSlack = 5.0; // pixels that a resting finger may wander
 

@@ -8,12 +8,6 @@
 
 namespace tamble::client {
 
-namespace {
-
-constexpr qint64 typingPause = 1000; // ms
-
-} // namespace
-
 ComboHighlight::ComboHighlight(const RComboBoxBase &box)
     : m_box(box)
 {}
@@ -57,19 +51,10 @@ bool ComboHighlight::moveToEnabled(int start, int direction)
     return false;
 }
 
-bool ComboHighlight::isTyping() const
-{
-    return !m_letters.isEmpty() && !m_lastTyped.hasExpired(typingPause);
-}
-
 void ComboHighlight::type(const QString &letters)
 {
-    const bool goesOn = isTyping();
-    const bool isSameAgain = goesOn && m_letters == letters;
-    if (!isSameAgain)
-        m_letters = goesOn ? m_letters + letters : letters;
-    m_lastTyped.start();
-    find(m_letters, goesOn && !isSameAgain ? m_entry : m_entry + 1);
+    const TypedLetters::Search search = m_letters.type(letters);
+    find(search.beginning, search.mayStay ? m_entry : m_entry + 1);
 }
 
 void ComboHighlight::find(const QString &beginning, int start)

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QtCore/QElapsedTimer>
+#include "base/TypedLetters.h"
+
 #include <QtCore/QPointF>
 #include <QtCore/QString>
 
@@ -27,10 +28,10 @@ public:
     void move(int steps);
     void moveToFirst();
     void moveToLast();
-    /// Letters typed within a second of each other are looked for together; the same one again goes on to the next.
+    /// To the entry that is looked for by typing.
     void type(const QString &letters);
     /// Whether a letter is part of what is being looked for, as a blank may be.
-    bool isTyping() const;
+    bool isTyping() const { return m_letters.isUnderWay(); }
     /// To the entry that begins so; stays when none does.
     void find(const QString &beginning, int start);
     /// To an entry below the pointer, unless it is the entry that has moved.
@@ -41,8 +42,7 @@ private:
 
     const RComboBoxBase &m_box;
     int m_entry = -1;
-    QString m_letters;
-    QElapsedTimer m_lastTyped;
+    TypedLetters m_letters;
     std::optional<QPointF> m_pointer; ///< Where it was last over the list, in the scene.
     bool m_pointerMayRest = false;
 };

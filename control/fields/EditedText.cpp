@@ -27,6 +27,7 @@ public:
     void insert(int position, const QString &text) override { m_editor.insert(position, text); }
     int selectionStart() const override { return m_editor.selectionStart(); }
     int selectionEnd() const override { return m_editor.selectionEnd(); }
+    void select(int begin, int end) override { m_editor.select(begin, end); }
     void selectAll() override { m_editor.selectAll(); }
     bool isReadOnly() const override { return m_editor.isReadOnly(); }
     bool hasManyLines() const override { return std::is_same_v<Editor, QQuickTextEdit>; }
@@ -34,6 +35,14 @@ public:
     int positionAt(const QPointF &point) const override
     {
         return m_editor.inputMethodQuery(Qt::ImCursorPosition, point).toInt();
+    }
+
+    bool hidesText() const override
+    {
+        if constexpr (std::is_same_v<Editor, QQuickTextInput>)
+            return m_editor.echoMode() != QQuickTextInput::Normal;
+        else
+            return false;
     }
 
     QValidator *validator() const override

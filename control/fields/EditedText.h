@@ -30,8 +30,11 @@ public:
     virtual int selectionStart() const = 0;
     virtual int selectionEnd() const = 0;
     bool hasSelection() const { return selectionStart() != selectionEnd(); }
+    virtual void select(int begin, int end) = 0;
     virtual void selectAll() = 0;
     virtual bool isReadOnly() const = 0;
+    /// Whether the text is a secret, such as a password.
+    virtual bool hidesText() const = 0;
     /// Null for none.
     virtual QValidator *validator() const = 0;
     virtual bool hasManyLines() const = 0;

@@ -3,17 +3,17 @@
 #include "base/PendingValue.h"
 #include "fields/FieldParts.h"
 #include "fields/FieldReason.h"
-#include "fields/FieldRules.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtGui/QValidator>
 
+#include <typeinfo>
 #include <utility>
 
 namespace tamble::client {
 
 FieldEdit::FieldEdit(QObject *parent)
-    : QObject(parent)
+    : FieldSettings(parent)
     , m_gestures(*this)
 {}
 
@@ -63,7 +63,9 @@ void FieldEdit::setValue(const QVariant &value)
         return;
     m_value = value;
     if (m_isEdited) {
-        notice(tr("Changed meanwhile to %1").arg(textOfValue()));
+        const bool tellsText = m_editor && !m_editor->hidesText();
+        notice(tellsText ? tr("Changed meanwhile to %1").arg(textOfValue()) : tr("Changed meanwhile"));
+        m_valueWaits = true;
         Q_EMIT valueWaits();
     }
     showValue();
@@ -79,90 +81,20 @@ void FieldEdit::setErrorText(const QString &text)
         Q_EMIT errorTextChanged();
 }
 
-void FieldEdit::setRequired(bool required)
-{
-    if (std::exchange(m_limits.isRequired, required) == required)
-        return;
-    judge();
-    Q_EMIT requiredChanged();
-}
-
-void FieldEdit::setMaximumBytes(int bytes)
-{
-    if (std::exchange(m_limits.maximumBytes, bytes) == bytes)
-        return;
-    judge();
-    Q_EMIT maximumBytesChanged();
-}
-
-void FieldEdit::setMaximumLines(int lines)
-{
-    if (std::exchange(m_limits.maximumLines, lines) == lines)
-        return;
-    judge();
-    Q_EMIT maximumLinesChanged();
-}
-
-void FieldEdit::setConfirmed(bool confirmed)
-{
-    if (std::exchange(m_isConfirmed, confirmed) == confirmed)
-        return;
-    updateMarks();
-    Q_EMIT confirmedChanged();
-}
-
-void FieldEdit::setConsistent(bool consistent)
-{
-    if (std::exchange(m_isConsistent, consistent) == consistent)
-        return;
-    showValue();
-    judge();
-    updateMarks();
-    Q_EMIT consistentChanged();
-}
-
-void FieldEdit::setConverter(RValueConverter *converter)
-{
-    if (m_converter == converter)
-        return;
-    if (m_converter)
-        m_converter->disconnect(this);
-    m_converter = converter;
-    // Its own value is not used, but its text changes with all of its settings.
-    if (converter)
-        connect(converter, &RValueConverter::displayTextChanged, this, &FieldEdit::applyRules);
-    applyRules();
-    Q_EMIT converterChanged();
-}
-
-void FieldEdit::setRules(FieldRules *rules)
-{
-    m_rules = rules;
-    applyRules();
-}
-
-void FieldEdit::applyRules()
-{
-    showValue();
-    judge();
-}
-
 bool FieldEdit::enter()
 {
     const QString typed = this->text();
     const QString text = tidied(typed);
-    if (!isAcceptable()) {
-        Q_EMIT rejected(text, m_invalidText);
+    const QString problem = problemOfEditing();
+    if (!isAcceptable() || !problem.isEmpty()) {
+        if (!problem.isEmpty())
+            notice(problem);
+        Q_EMIT rejected(text, problem.isEmpty() ? m_invalidText : problem);
         return false;
     }
-    const QVariant value = m_rules       ? m_rules->valueOf(text)
-                           : m_converter ? m_converter->fromText(text)
-                                         : QVariant(text);
+    const QVariant value = valueOf(text);
     const QPointer<FieldEdit> guard(this);
     setEdited(false);
-    m_plainText = text;
-    if (!m_value.isValid())
-        setText(text);
     if (guard && text != typed && text == typed.trimmed())
         notice(tr("Blanks at the ends were removed"));
     if (guard)
@@ -174,8 +106,8 @@ bool FieldEdit::enter()
 
 QString FieldEdit::enterText(const QString &text)
 {
-    if (!canEdit())
-        return tr("This cannot be edited");
+    if (const QString problem = problemOfEditing(); !problem.isEmpty())
+        return problem;
     // An error that the page found is about the text before.
     const bool errorCounted = std::exchange(m_errorCounts, false);
     const QString problem = problemOf(tidied(text));
@@ -215,10 +147,15 @@ bool FieldEdit::canEdit() const
 
 void FieldEdit::show(const QVariant &value, bool tells)
 {
+    const QPointer<FieldEdit> guard(this);
     m_shown = value;
-    if (m_value.isValid())
+    if (m_value.isValid()) {
         pending().show(value);
-    if (tells)
+    } else {
+        m_plainText = value.isValid() ? textOf(value) : QString();
+        setText(m_plainText);
+    }
+    if (guard && tells)
         Q_EMIT valueEdited(value);
 }
 
@@ -247,7 +184,7 @@ void FieldEdit::paste(const QString &text, int begin, int end)
         pasted.replace(lineBreak, QStringLiteral(" "));
     QString wanted = m_editor->text().replace(begin, end - begin, pasted);
     int caret = begin;
-    const QValidator *validator = m_editor->validator();
+    const QValidator *validator = this->validator();
     if (validator && validator->validate(wanted, caret) == QValidator::Invalid) {
         noticeRefusal(wanted);
         return;
@@ -258,18 +195,36 @@ void FieldEdit::paste(const QString &text, int begin, int end)
 
 void FieldEdit::noticeRefusal(const QString &wanted)
 {
-    const QString problem = FieldReason::problemOf(m_editor->validator(), wanted);
+    const QString problem = FieldReason::problemOf(validator(), wanted);
     if (!problem.isEmpty())
         notice(problem);
 }
 
+bool FieldEdit::isGoing() const
+{
+    // Nothing of it but the item is left then.
+    const QQuickItem *field = m_field;
+    return field && typeid(*field) == typeid(QQuickItem);
+}
+
 bool FieldEdit::eventFilter(QObject *editor, QEvent *event)
 {
+    if (isGoing())
+        return false;
+    const QPointer<FieldEdit> guard(this);
     if (m_editor && editor == &m_editor->item() && m_gestures.handle(*m_editor, *event))
+        return true;
+    if (!guard)
         return true;
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
         updateBubble();
     return false;
+}
+
+void FieldEdit::timerEvent(QTimerEvent *event)
+{
+    if (m_editor)
+        m_gestures.onTimer(*m_editor, *event);
 }
 
 void FieldEdit::onTextChanged()
@@ -277,13 +232,14 @@ void FieldEdit::onTextChanged()
     if (!m_isShowing && m_editor) {
         // A page that writes into a field which nobody types into means the text of a plain one.
         if (!m_editor->item().hasActiveFocus()) {
-            if (!m_isEdited && m_isConsistent)
+            if (!m_isEdited && isConsistent())
                 m_plainText = m_editor->text();
         } else {
             m_noticeText.clear();
             m_errorCounts = false;
             keepWithinBytes();
-            setEdited(m_editor->text() != textOfValue());
+            // What is typed may come to equal a value that waits, and stays the user's when that changes again.
+            setEdited(m_valueWaits || m_editor->text() != textOfValue());
         }
     }
     judge();
@@ -294,7 +250,7 @@ void FieldEdit::onValidatorChanged()
 {
     if (m_watchedValidator)
         m_watchedValidator->disconnect(this);
-    m_watchedValidator = m_editor ? m_editor->validator() : nullptr;
+    m_watchedValidator = validator();
     if (m_watchedValidator)
         connect(m_watchedValidator, &QValidator::changed, this, &FieldEdit::judge);
     judge();
@@ -303,26 +259,32 @@ void FieldEdit::onValidatorChanged()
 void FieldEdit::keepWithinBytes()
 {
     const int caret = m_editor->caret();
-    const int end = m_limits.endWithinBytes(m_editor->text(), m_textBefore, caret);
+    const int end = limits().endWithinBytes(m_editor->text(), m_textBefore, caret);
     if (end == caret)
         return;
     const bool wasShowing = std::exchange(m_isShowing, true);
     m_editor->remove(end, caret);
     m_isShowing = wasShowing;
-    notice(tr("Cut to %n bytes", nullptr, m_limits.maximumBytes));
+    notice(tr("Cut to %n bytes", nullptr, limits().maximumBytes));
 }
 
 void FieldEdit::judge()
 {
     if (!m_isComplete || !m_editor)
         return;
-    const bool isMixed = !m_isConsistent && !m_isEdited;
+    const bool isMixed = !isConsistent() && !m_isEdited;
     const QString found = isMixed ? errorInForce() : problemOf(tidied(m_editor->text()));
     if (std::exchange(m_invalidText, found) != found) {
         updateMarks();
         Q_EMIT invalidTextChanged();
     }
     updateBubble();
+}
+
+// A page may lock a field while something is typed into it.
+QString FieldEdit::problemOfEditing() const
+{
+    return canEdit() ? QString() : tr("This cannot be edited");
 }
 
 QString FieldEdit::errorInForce() const
@@ -335,34 +297,24 @@ QString FieldEdit::problemOf(const QString &text) const
     const QString error = errorInForce();
     if (!error.isEmpty())
         return error;
-    const QString beyondLimits = m_limits.problemOf(text);
-    if (!beyondLimits.isEmpty())
-        return beyondLimits;
-    if (m_rules)
-        return m_rules->problemOf(text);
-    if (text.isEmpty())
-        return {};
-    // What it makes of a missing value cannot be read either, and is nobody's fault.
-    if (m_converter && !m_converter->accepts(text))
-        return m_isEdited ? tr("This cannot be read") : QString();
-    return FieldReason::problemOf(m_editor->validator(), text);
+    return FieldSettings::problemOf(text, validator(), m_isEdited);
 }
 
 QString FieldEdit::tidied(const QString &text) const
 {
-    QString tidy = text;
-    if (m_trim && m_editor && m_editor->validator())
-        m_editor->validator()->fixup(tidy);
-    return m_trim ? tidy.trimmed() : tidy;
+    return FieldSettings::tidied(text, validator());
+}
+
+const QValidator *FieldEdit::validator() const
+{
+    return m_editor ? m_editor->validator() : nullptr;
 }
 
 QString FieldEdit::textOfValue() const
 {
-    if (!m_isConsistent && !(m_pending && m_pending->isActive()))
+    if (!isConsistent() && !(m_pending && m_pending->isActive()))
         return {};
-    if (!m_value.isValid())
-        return m_plainText;
-    return m_rules ? m_rules->textOf(m_value) : m_converter ? m_converter->toText(m_value) : m_value.toString();
+    return m_value.isValid() ? textOf(m_value) : m_plainText;
 }
 
 void FieldEdit::showValue()
@@ -384,13 +336,14 @@ void FieldEdit::setEdited(bool edited)
 {
     if (std::exchange(m_isEdited, edited) == edited)
         return;
+    m_valueWaits = false;
     updateMarks();
     Q_EMIT editedChanged();
 }
 
 void FieldEdit::updateMarks()
 {
-    const bool isMarked = m_isEdited || !m_isConfirmed || !m_isConsistent || !m_invalidText.isEmpty();
+    const bool isMarked = m_isEdited || !isConfirmed() || !isConsistent() || !m_invalidText.isEmpty();
     if (m_isComplete)
         Q_EMIT lookChanged();
     if (!m_isComplete || std::exchange(m_isMarked, isMarked) == isMarked)
@@ -423,9 +376,9 @@ QString FieldEdit::description(const QString &given) const
             parts.append(part);
     };
     add(true, given);
-    add(!m_isConsistent, tr("mixed"));
+    add(!isConsistent(), tr("mixed"));
     add(m_isEdited, tr("not entered"));
-    add(!m_isConfirmed, tr("not confirmed"));
+    add(!isConfirmed(), tr("not confirmed"));
     add(!isAcceptable(), tr("invalid: %1").arg(m_invalidText));
     return parts.join(QStringLiteral(", "));
 }
@@ -436,7 +389,7 @@ PendingValue &FieldEdit::pending()
         m_pending = new PendingValue(this, QStringLiteral("value"));
         connect(m_pending, &PendingValue::activeChanged, this, &FieldEdit::showValue);
     }
-    m_pending->setSettleTime(m_settleTime);
+    m_pending->setSettleTime(settleTime());
     return *m_pending;
 }
 

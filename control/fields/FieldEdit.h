@@ -3,9 +3,7 @@
 #include "base/ControlExport.h"
 #include "fields/EditedText.h"
 #include "fields/FieldGestures.h"
-#include "fields/FieldLimits.h"
-
-#include <tambleclient-common/RValueConverter.h>
+#include "fields/FieldSettings.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
@@ -20,7 +18,6 @@ class QValidator;
 
 namespace tamble::client {
 
-class FieldRules;
 class PendingValue;
 
 /// The conversation between a user who types and a device that stores the value of what is typed. The text is the
@@ -30,8 +27,9 @@ class PendingValue;
 /// Without a `value` the text itself counts, as in a plain field.
 ///
 /// Keys: Enter enters the text (Ctrl+Enter where there are lines), and goes on to the dialog when nothing was typed.
-/// Esc takes back what was typed. The Menu key and Shift+F10 open the context menu, as the right mouse button does.
-class TAMBLE_CLIENT_CONTROL_EXPORT FieldEdit : public QObject, public QQmlParserStatus
+/// Esc takes back what was typed. The Menu key and Shift+F10 open the context menu, as the right mouse button and a
+/// finger that rests for 500 ms do.
+class TAMBLE_CLIENT_CONTROL_EXPORT FieldEdit : public tamble::client::FieldSettings, public QQmlParserStatus
 {
     Q_OBJECT
     Q_INTERFACES(QQmlParserStatus)
@@ -45,20 +43,6 @@ class TAMBLE_CLIENT_CONTROL_EXPORT FieldEdit : public QObject, public QQmlParser
     Q_PROPERTY(QString invalidText READ invalidText NOTIFY invalidTextChanged FINAL)
     Q_PROPERTY(QString errorText READ errorText WRITE setErrorText NOTIFY errorTextChanged FINAL)
     Q_PROPERTY(QString bubbleText READ bubbleText NOTIFY bubbleTextChanged FINAL)
-    Q_PROPERTY(bool required READ isRequired WRITE setRequired NOTIFY requiredChanged FINAL)
-    Q_PROPERTY(int maximumBytes READ maximumBytes WRITE setMaximumBytes NOTIFY maximumBytesChanged FINAL)
-    Q_PROPERTY(int maximumLines READ maximumLines WRITE setMaximumLines NOTIFY maximumLinesChanged FINAL)
-    /// Whether entering takes outer blanks away and lets the validator tidy the text; true by default.
-    Q_PROPERTY(bool trim MEMBER m_trim NOTIFY trimChanged FINAL)
-    /// Whether an acceptable text is entered when the focus goes elsewhere; else it waits for Enter or Esc. True by
-    /// default.
-    Q_PROPERTY(bool commitOnFocusLoss MEMBER m_commitsOnFocusLoss NOTIFY commitOnFocusLossChanged FINAL)
-    Q_PROPERTY(bool confirmed READ isConfirmed WRITE setConfirmed NOTIFY confirmedChanged FINAL)
-    Q_PROPERTY(bool consistent READ isConsistent WRITE setConsistent NOTIFY consistentChanged FINAL)
-    /// How long, in ms, an entered value is shown before the bound one counts again; 300 by default.
-    Q_PROPERTY(int settleTime MEMBER m_settleTime NOTIFY settleTimeChanged FINAL)
-    Q_PROPERTY(
-        tamble::client::RValueConverter *converter READ converter WRITE setConverter NOTIFY converterChanged FINAL)
     Q_PROPERTY(bool marked READ isMarked NOTIFY markedChanged FINAL)
 
 public:
@@ -82,33 +66,9 @@ public:
     void setErrorText(const QString &text);
     /// What a bubble at the field tells whoever types; empty for nothing.
     QString bubbleText() const { return m_bubbleText; }
-    /// Whether the text must not be empty; false by default.
-    bool isRequired() const { return m_limits.isRequired; }
-    void setRequired(bool required);
-    /// Most bytes of UTF-8 that can be typed or pasted, at whole characters; 0, the default, for no limit.
-    int maximumBytes() const { return m_limits.maximumBytes; }
-    void setMaximumBytes(int bytes);
-    /// Most lines of an acceptable text; more can be typed. 0, the default, for no limit.
-    int maximumLines() const { return m_limits.maximumLines; }
-    void setMaximumLines(int lines);
-    bool commitsOnFocusLoss() const { return m_commitsOnFocusLoss; }
-    /// False while the page waits for the device to acknowledge; true by default.
-    bool isConfirmed() const { return m_isConfirmed; }
-    void setConfirmed(bool confirmed);
-    /// False while several devices differ ("mixed"): the field is empty then, and what is entered goes to all. True by
-    /// default.
-    bool isConsistent() const { return m_isConsistent; }
-    void setConsistent(bool consistent);
-    /// Turns values into texts and back; null, the default, for values that are texts.
-    RValueConverter *converter() const { return m_converter; }
-    void setConverter(RValueConverter *converter);
     /// Whether the field shows one of its marks: not entered, not confirmed, mixed, not acceptable.
     bool isMarked() const { return m_isMarked; }
 
-    /// Count in place of the converter and validator while they are set.
-    void setRules(FieldRules *rules);
-    /// The rules have changed.
-    void applyRules();
     /// For assistive tools: `given`, and then what the marks say.
     QString description(const QString &given) const;
 
@@ -123,6 +83,8 @@ public:
     QString text() const;
     /// Whether the user may change the value.
     bool canEdit() const;
+    /// Whether the field is being destroyed. It loses the focus on the way, which is no wish to enter anything.
+    bool isGoing() const;
     /// Shows an edit that was not typed, and tells it; it is over with commit().
     void show(const QVariant &value, bool tells = true);
     /// Ends such an edit; `tells` it first where it was not told before.
@@ -143,15 +105,6 @@ Q_SIGNALS:
     void invalidTextChanged();
     void errorTextChanged();
     void bubbleTextChanged();
-    void requiredChanged();
-    void maximumBytesChanged();
-    void maximumLinesChanged();
-    void trimChanged();
-    void commitOnFocusLossChanged();
-    void confirmedChanged();
-    void consistentChanged();
-    void settleTimeChanged();
-    void converterChanged();
     void markedChanged();
     /// The text or its line may be shown in another colour.
     void lookChanged();
@@ -170,19 +123,22 @@ protected:
     void classBegin() override {}
     void componentComplete() override;
     bool eventFilter(QObject *editor, QEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
 
 private:
     void onTextChanged();
     void onValidatorChanged();
     void keepWithinBytes();
-    void judge();
-    void updateMarks();
+    void judge() override;
+    void updateMarks() override;
     void updateBubble();
+    QString problemOfEditing() const;
     QString errorInForce() const;
     QString problemOf(const QString &text) const;
     QString tidied(const QString &text) const;
+    const QValidator *validator() const;
     QString textOfValue() const;
-    void showValue();
+    void showValue() override;
     void setText(const QString &text);
     void setEdited(bool edited);
     PendingValue &pending();
@@ -190,7 +146,6 @@ private:
     QPointer<QQuickItem> m_field;
     std::unique_ptr<EditedText> m_editor;
     FieldGestures m_gestures;
-    FieldLimits m_limits;
     QPointer<QObject> m_marks; // parts of the field, made when first shown
     QPointer<QObject> m_bubble;
     QVariant m_value;
@@ -201,19 +156,13 @@ private:
     QString m_errorText;
     QString m_noticeText;
     QString m_bubbleText;
-    QPointer<RValueConverter> m_converter;
-    QPointer<QValidator> m_watchedValidator;
-    FieldRules *m_rules = nullptr;
+    QPointer<const QValidator> m_watchedValidator;
     PendingValue *m_pending = nullptr; // a child, made at the first edit of a value
-    int m_settleTime = 300;
-    bool m_isComplete = false; ///< Before, nothing is shown or judged.
+    bool m_isComplete = false;         ///< Before, nothing is shown or judged.
     bool m_isEdited = false;
-    bool m_isShowing = false; ///< Whether the text changes because of a value.
+    bool m_valueWaits = false; ///< Whether another value has come while something was typed.
+    bool m_isShowing = false;  ///< Whether the text changes because of a value.
     bool m_errorCounts = false;
-    bool m_trim = true;
-    bool m_commitsOnFocusLoss = true;
-    bool m_isConfirmed = true;
-    bool m_isConsistent = true;
     bool m_isMarked = false;
 };
 

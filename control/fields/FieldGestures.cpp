@@ -1,5 +1,6 @@
 #include "fields/FieldGestures.h"
 
+#include "base/InputMeaning.h"
 #include "fields/EditedText.h"
 #include "fields/FieldEdit.h"
 #include "fields/FieldMenu.h"
@@ -9,21 +10,15 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
-
-#include <utility>
+#include <QtGui/QStyleHints>
 
 namespace tamble::client {
 
 namespace {
 
-bool isEnter(const QKeyEvent &key)
-{
-    return key.key() == Qt::Key_Enter || key.key() == Qt::Key_Return;
-}
-
 bool enters(const EditedText &text, const QKeyEvent &key)
 {
-    return isEnter(key) && (!text.hasManyLines() || (key.modifiers() & Qt::ControlModifier));
+    return isEnterKey(key) && (!text.hasManyLines() || (key.modifiers() & Qt::ControlModifier));
 }
 
 bool types(const QKeyEvent &key)
@@ -73,15 +68,14 @@ bool FieldGestures::handle(EditedText &text, QEvent &event)
         onFocusLost(static_cast<QFocusEvent &>(event).reason());
         return false;
     case QEvent::MouseButtonPress:
-        if (const auto &press = static_cast<QMouseEvent &>(event); press.button() == Qt::RightButton) {
-            text.item().forceActiveFocus(Qt::MouseFocusReason);
-            openFieldMenu(&text.item(), press.position());
-            return true;
-        }
-        m_focusedByPress = !text.item().hasActiveFocus();
-        return false;
+        return onPress(text, static_cast<const QMouseEvent &>(event));
+    case QEvent::MouseMove:
+        return onMove(static_cast<const QMouseEvent &>(event));
     case QEvent::MouseButtonRelease:
-        return std::exchange(m_focusedByPress, false) && !text.hasManyLines() && onFirstClick(text, event);
+        return onRelease(text, event);
+    case QEvent::UngrabMouse:
+        m_longPress.stop();
+        return false;
     default:
         return false;
     }
@@ -114,6 +108,8 @@ bool FieldGestures::onTypingKey(EditedText &text, QKeyEvent &key)
         m_edit.paste(QGuiApplication::clipboard()->text(), text.selectionStart(), text.selectionEnd());
         return true;
     }
+    if (!text.validator())
+        return false;
     const QPointer<FieldEdit> guard(&m_edit);
     const QString before = text.text();
     const QString wanted = text.hasSelection() ? key.text() : QString(before).insert(text.caret(), key.text());
@@ -140,8 +136,52 @@ bool FieldGestures::onDrag(EditedText &text, QDropEvent &drag)
     return true;
 }
 
-bool FieldGestures::onFirstClick(EditedText &text, QEvent &release)
+bool FieldGestures::onPress(EditedText &text, const QMouseEvent &press)
 {
+    if (press.button() == Qt::RightButton) {
+        text.item().forceActiveFocus(Qt::MouseFocusReason);
+        openFieldMenu(&text.item(), press.position());
+        return true;
+    }
+    m_focusedByPress = !text.item().hasActiveFocus();
+    m_wasLongPress = false;
+    m_pressedAt = press.position();
+    m_selectionAtPress = {text.selectionStart(), text.selectionEnd()};
+    // A mouse has a right button, and selects while its left one is held.
+    if (isByFinger(press))
+        m_longPress.start(longPressMs, &m_edit);
+    return false;
+}
+
+bool FieldGestures::onMove(const QMouseEvent &move)
+{
+    const QPointF way = move.position() - m_pressedAt;
+    if (way.manhattanLength() > QGuiApplication::styleHints()->startDragDistance())
+        m_longPress.stop();
+    return m_wasLongPress;
+}
+
+void FieldGestures::onTimer(EditedText &text, const QTimerEvent &event)
+{
+    if (event.timerId() != m_longPress.timerId())
+        return;
+    m_longPress.stop();
+    m_wasLongPress = true;
+    text.item().forceActiveFocus(Qt::MouseFocusReason);
+    // Without the selection, which the press has taken away, a finger could not copy.
+    const int caret = text.positionAt(m_pressedAt);
+    const auto [begin, end] = m_selectionAtPress;
+    text.select(begin == end ? caret : begin, begin == end ? caret : end);
+    openFieldMenu(&text.item(), m_pressedAt);
+}
+
+/// The click that brings the focus to a line selects all of it.
+bool FieldGestures::onRelease(EditedText &text, QEvent &release)
+{
+    m_longPress.stop();
+    const bool isFirstClick = std::exchange(m_focusedByPress, false) && !text.hasManyLines();
+    if (m_wasLongPress || !isFirstClick)
+        return std::exchange(m_wasLongPress, false);
     const QPointer<FieldEdit> guard(&m_edit);
     QObject &editor = text.item();
     editor.event(&release);
@@ -155,7 +195,7 @@ void FieldGestures::onFocusLost(Qt::FocusReason reason)
     if (staysWithTheUser(reason))
         return;
     if (m_edit.isEdited() && m_edit.commitsOnFocusLoss()) {
-        if (m_edit.isAcceptable())
+        if (m_edit.isAcceptable() && m_edit.canEdit())
             m_edit.enter();
         else
             m_edit.cancel();

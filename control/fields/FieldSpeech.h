@@ -18,11 +18,16 @@ public:
 protected:
     ~FieldSpeech() = default;
 
-    /// Names a field without a label.
+    /// Names a field without a label, and describes one with a label that its page does not describe.
     virtual QString spokenHint() const { return {}; }
+    /// To be called before the template is complete, which puts its hint in the place of the page's description.
+    void keepDescription(QObject &field);
 
     QString m_label;
     QPointer<FieldEdit> m_edit;
+
+private:
+    QString m_givenDescription; ///< By the page.
 };
 
 } // namespace tamble::client

@@ -37,7 +37,9 @@ QString shortText(double value)
 
 NumberSteps::NumberSteps(QObject *parent)
     : QObject(parent)
-{}
+{
+    connect(this, &NumberSteps::steppingChanged, this, &NumberSteps::boundsReached);
+}
 
 void NumberSteps::setEdit(FieldEdit *edit)
 {
@@ -47,6 +49,7 @@ void NumberSteps::setEdit(FieldEdit *edit)
     if (edit) {
         edit->setRules(this);
         connect(edit, &FieldEdit::valueChanged, this, &NumberSteps::boundsReached);
+        connect(edit, &FieldEdit::consistentChanged, this, &NumberSteps::boundsReached);
         connect(edit, &FieldEdit::editorChanged, this, &NumberSteps::watch);
         watch();
     }
@@ -56,11 +59,17 @@ void NumberSteps::setEdit(FieldEdit *edit)
 // The editor for its keys; the wheel goes through it to the field around it.
 void NumberSteps::watch()
 {
-    if (m_watched)
+    if (m_watched) {
         m_watched->removeEventFilter(this);
+        m_watched->disconnect(this);
+    }
     m_watched = m_edit->editor();
-    if (m_watched)
+    if (m_watched) {
         m_watched->installEventFilter(this);
+        connect(m_watched, &QQuickItem::enabledChanged, this, &NumberSteps::boundsReached);
+        // By name, as the classes have no public header.
+        connect(m_watched, SIGNAL(readOnlyChanged(bool)), this, SIGNAL(boundsReached()));
+    }
 }
 
 template <typename Value>
@@ -205,8 +214,12 @@ bool NumberSteps::readsAsMinimum(const QString &text) const
 
 double NumberSteps::number() const
 {
+    QVariant value = m_edit->value();
+    // Without a value the text itself counts.
+    if (!value.isValid() && m_edit->isAcceptable())
+        value = valueOf(m_edit->text());
     bool isNumber = false;
-    const double number = m_edit->value().toDouble(&isNumber);
+    const double number = value.toDouble(&isNumber);
     return isNumber ? number : std::numeric_limits<double>::quiet_NaN();
 }
 
@@ -278,6 +291,8 @@ void NumberSteps::request(double value)
 
 bool NumberSteps::eventFilter(QObject *, QEvent *event)
 {
+    if (!m_edit || m_edit->isGoing())
+        return false;
     switch (event->type()) {
     case QEvent::KeyPress:
         return onKey(static_cast<const QKeyEvent &>(*event));

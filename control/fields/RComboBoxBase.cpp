@@ -18,6 +18,15 @@ RComboBoxBase::RComboBoxBase(QQuickItem *parent)
     , m_highlight(*this)
 {}
 
+// The field loses the focus, and the model goes, when nothing of this is left.
+RComboBoxBase::~RComboBoxBase()
+{
+    if (m_watchedModel)
+        m_watchedModel->disconnect(this);
+    if (m_field)
+        m_field->edit()->setEditor(nullptr);
+}
+
 void RComboBoxBase::setValue(const QVariant &value)
 {
     m_isValueGiven = true;

@@ -54,6 +54,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RComboBoxBase : public tamble::client::Styled
 
 public:
     explicit RComboBoxBase(QQuickItem *parent = nullptr);
+    ~RComboBoxBase() override;
 
     /// What the device or model says, one of the entries' values (`valueRole`); undefined by default. Undefined, null
     /// and NaN choose nothing.

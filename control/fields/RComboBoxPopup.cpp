@@ -6,6 +6,7 @@ namespace tamble::client {
 
 RComboBoxPopup::RComboBoxPopup(QObject *parent)
     : QQuickPopup(parent)
+    , m_origin(*this)
 {
     connect(this, &QQuickPopup::visibleChanged, this, [this] {
         if (RComboBoxBase *box = comboBox())
@@ -15,9 +16,16 @@ RComboBoxPopup::RComboBoxPopup(QObject *parent)
 
 void RComboBoxPopup::setVisible(bool visible)
 {
-    const RComboBoxBase *box = comboBox();
-    if (!visible || !box || box->canOpen())
-        QQuickPopup::setVisible(visible);
+    RComboBoxBase *box = comboBox();
+    if (visible && box && !box->canOpen())
+        return;
+    if (visible && box && !isVisible()) {
+        m_origin.rememberFocus(*box, box);
+        m_origin.followOwner(*box);
+        if (!box->hasActiveFocus())
+            box->forceActiveFocus(Qt::PopupFocusReason);
+    }
+    QQuickPopup::setVisible(visible);
 }
 
 RComboBoxBase *RComboBoxPopup::comboBox() const

@@ -5,8 +5,6 @@
 #include "fields/SpinButtons.h"
 #include "style/StyleSetProps.h"
 
-#include <QtCore/QTimerEvent>
-#include <QtGui/QGuiApplication>
 #include <QtGui/QWheelEvent>
 
 #include <utility>
@@ -21,10 +19,6 @@ constexpr std::array<void (RSpinBoxBase::*)(), 8> boxColorSignals = {
     &RSpinBoxBase::ssSelectionChanged,        &RSpinBoxBase::ssForegroundSelectionChanged,
     &RSpinBoxBase::ssConfirmIndicatorChanged, &RSpinBoxBase::ssInconsistentFlagChanged,
 };
-
-constexpr int repeatDelayMs = 500;
-constexpr int repeatIntervalMs = 60;
-constexpr int repeatsBeforePages = 20;
 
 } // namespace
 
@@ -71,6 +65,13 @@ void RSpinBoxBase::setEdit(FieldEdit *edit)
         connect(edit, &FieldEdit::lookChanged, this, &RSpinBoxBase::updateFrame);
     }
     Q_EMIT editChanged();
+}
+
+// As the item goes it is disabled, which the steps hear.
+RSpinBoxBase::~RSpinBoxBase()
+{
+    if (m_steps)
+        m_steps->disconnect(this);
 }
 
 void RSpinBoxBase::setSteps(NumberSteps *steps)
@@ -176,7 +177,10 @@ void RSpinBoxBase::updateButtons()
     m_buttons->setX(isMirrored() ? 0.0 : width() - 2.0 * buttonWidth());
     m_buttons->setSize({2.0 * buttonWidth(), height()});
     m_buttons->show(ssColor(), m_unit, isMirrored());
-    m_buttons->enable(m_steps && m_steps->canStepDown(), m_steps && m_steps->canStepUp(), m_pressedButton);
+    // A disabled box is dim as a whole.
+    const auto shows = [this](bool canStep) { return !isEnabled() || canStep; };
+    m_buttons->enable(shows(m_steps && m_steps->canStepDown()), shows(m_steps && m_steps->canStepUp()),
+                      m_pressedButton);
 }
 
 void RSpinBoxBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
@@ -193,8 +197,10 @@ void RSpinBoxBase::mirrorChange()
 
 void RSpinBoxBase::requestValue(const QVariant &value)
 {
-    if (m_steps)
-        m_steps->request(value.toDouble());
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    if (m_steps && isNumber)
+        m_steps->request(number);
 }
 
 QString RSpinBoxBase::spokenDescription(const QString &given) const
@@ -219,46 +225,6 @@ void RSpinBoxBase::accessibilityActiveChanged(bool active)
         beginToSpeak(*this);
 }
 
-int RSpinBoxBase::buttonAt(qreal x) const
-{
-    const qreal fromEnd = isMirrored() ? x : width() - x;
-    if (!m_buttonsVisible || fromEnd < 0.0 || fromEnd >= 2.0 * buttonWidth())
-        return 0;
-    return fromEnd < buttonWidth() ? 1 : -1;
-}
-
-void RSpinBoxBase::mousePressEvent(QMouseEvent *event)
-{
-    const int button = buttonAt(event->position().x());
-    forceActiveFocus(Qt::MouseFocusReason);
-    event->accept();
-    if (button == 0 || m_pressedButton != 0)
-        return;
-    m_pressedButton = button;
-    m_repeats = 0;
-    if (m_autoRepeat)
-        m_repeat.start(repeatDelayMs, this);
-    updateButtons();
-    Q_EMIT pressedButtonChanged();
-    stepByButton();
-}
-
-void RSpinBoxBase::mouseReleaseEvent(QMouseEvent *)
-{
-    release();
-}
-
-void RSpinBoxBase::mouseUngrabEvent()
-{
-    release();
-}
-
-// Left to the mouse events that are made of touches which nobody takes.
-void RSpinBoxBase::touchEvent(QTouchEvent *event)
-{
-    event->ignore();
-}
-
 void RSpinBoxBase::wheelEvent(QWheelEvent *event)
 {
     event->setAccepted(m_steps && m_steps->takeWheel(*event));
@@ -272,46 +238,6 @@ void RSpinBoxBase::itemChange(ItemChange change, const ItemChangeData &data)
     const bool isHidden = (change == ItemVisibleHasChanged || change == ItemEnabledHasChanged) && !data.boolValue;
     if (isHidden || (change == ItemSceneChange && !data.window))
         release();
-}
-
-void RSpinBoxBase::stepByButton()
-{
-    const Qt::KeyboardModifiers held = QGuiApplication::keyboardModifiers();
-    const bool isPage = (held & Qt::ControlModifier) && (m_repeats == 0 || m_repeats > repeatsBeforePages);
-    if (m_steps)
-        m_steps->step(held & Qt::ShiftModifier ? StepSize::Fine
-                      : isPage                 ? StepSize::Page
-                                               : StepSize::Normal,
-                      m_pressedButton);
-}
-
-void RSpinBoxBase::release()
-{
-    m_repeat.stop();
-    if (std::exchange(m_pressedButton, 0) == 0)
-        return;
-    const QPointer<RSpinBoxBase> guard(this);
-    if (m_steps)
-        m_steps->finish();
-    if (!guard)
-        return;
-    updateButtons();
-    Q_EMIT pressedButtonChanged();
-}
-
-void RSpinBoxBase::timerEvent(QTimerEvent *event)
-{
-    if (event->timerId() != m_repeat.timerId()) {
-        QQuickControl::timerEvent(event);
-        return;
-    }
-    if (!m_autoRepeat) {
-        m_repeat.stop();
-        return;
-    }
-    ++m_repeats;
-    m_repeat.start(repeatIntervalMs, this);
-    stepByButton();
 }
 
 } // namespace tamble::client

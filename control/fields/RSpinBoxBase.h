@@ -57,6 +57,7 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RSpinBoxBase : public QQuickControl, public F
 
 public:
     explicit RSpinBoxBase(QQuickItem *parent = nullptr);
+    ~RSpinBoxBase() override;
 
     /// The conversation with the device.
     FieldEdit *edit() const { return m_edit; }

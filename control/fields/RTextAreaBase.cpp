@@ -42,6 +42,7 @@ void RTextAreaBase::addSpokenStates(QAccessible::State &state) const
 
 void RTextAreaBase::componentComplete()
 {
+    keepDescription(*this);
     QQuickTextArea::componentComplete();
     updateHint();
 }

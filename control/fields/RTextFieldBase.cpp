@@ -7,6 +7,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 
+#include <cmath>
 #include <utility>
 
 namespace tamble::client {
@@ -136,9 +137,19 @@ void RTextFieldBase::addSpokenStates(QAccessible::State &state) const
 
 void RTextFieldBase::componentComplete()
 {
+    keepDescription(*this);
     QQuickTextField::componentComplete();
     updateHint();
     updateFrame();
+}
+
+// Qt 6.8 never ends to lay out a line whose width is not a number.
+void RTextFieldBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    if (std::isnan(newGeometry.width()))
+        QQuickItem::geometryChange(newGeometry, oldGeometry); // NOLINT(bugprone-parent-virtual-call): no layout
+    else
+        QQuickTextField::geometryChange(newGeometry, oldGeometry);
 }
 
 void RTextFieldBase::updateFrame()

@@ -124,6 +124,7 @@ Q_SIGNALS:
 
 protected:
     void componentComplete() override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 private:
     QString spokenHint() const override { return placeholderText(); }

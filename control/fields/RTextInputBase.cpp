@@ -3,6 +3,7 @@
 #include "fields/FieldParts.h"
 #include "style/StyleSetProps.h"
 
+#include <cmath>
 #include <utility>
 
 namespace tamble::client {
@@ -62,6 +63,15 @@ void RTextInputBase::componentComplete()
 {
     QQuickTextInput::componentComplete();
     updateHint();
+}
+
+// Qt 6.8 never ends to lay out a line whose width is not a number.
+void RTextInputBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    if (std::isnan(newGeometry.width()))
+        QQuickItem::geometryChange(newGeometry, oldGeometry); // NOLINT(bugprone-parent-virtual-call): no layout
+    else
+        QQuickTextInput::geometryChange(newGeometry, oldGeometry);
 }
 
 void RTextInputBase::updateHint()

@@ -53,6 +53,7 @@ Q_SIGNALS:
 
 protected:
     void componentComplete() override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 private:
     enum ColorName : std::size_t { Color, Selection, ForegroundInvalid };

@@ -30,10 +30,10 @@ bool isSubMenu(const QQuickPopup &menu)
 RMenuBase::RMenuBase(QObject *parent)
     : QQuickMenu(parent)
     , m_rows(std::make_unique<MenuRows>(this))
+    , m_origin(*this)
 {
     connect(this, &QQuickPopup::aboutToShow, this, &RMenuBase::onAboutToShow);
     connect(this, &QQuickPopup::opened, this, [this] { keepFocusOn(itemAt(currentIndex())); });
-    connect(this, &QQuickPopup::closed, this, &RMenuBase::onClosed);
     connect(this, &QQuickMenu::countChanged, this, &RMenuBase::onCountChanged);
 }
 
@@ -183,7 +183,8 @@ void RMenuBase::setVisible(bool visible)
 void RMenuBase::beforeOpening()
 {
     setCurrentIndex(-1);
-    m_formerFocus = parentItem()->window()->activeFocusItem();
+    m_origin.rememberFocus(*parentItem());
+    m_origin.followOwner(*parentItem());
     const QRectF area = parentItem()->mapRectToScene(QRectF(QPointF(), parentItem()->size()));
     const bool opensUpwards = placeBelow(area, shownSize(), room()).y() < area.bottom();
     if (std::exchange(m_opensUpwards, opensUpwards) != opensUpwards)
@@ -195,16 +196,6 @@ void RMenuBase::onAboutToShow()
     // What is shown over a page inherits nothing from the part of it that it belongs to.
     const bool mirrored = parentItem() && QQuickItemPrivate::get(parentItem())->effectiveLayoutMirror;
     QQuickItemPrivate::get(popupItem())->setImplicitLayoutMirror(mirrored, true);
-}
-
-void RMenuBase::onClosed()
-{
-    QQuickItem *former = std::exchange(m_formerFocus, nullptr);
-    if (!former || !former->window())
-        return;
-    const QQuickItem *focused = former->window()->activeFocusItem();
-    if (!focused || focused == former->window()->contentItem())
-        former->forceActiveFocus(Qt::PopupFocusReason);
 }
 
 void RMenuBase::makeReady()

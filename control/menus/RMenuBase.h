@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ControlExport.h"
+#include "base/PopupOrigin.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QRectF>
@@ -118,7 +119,6 @@ private:
     QSizeF shownSize() const;
     void beforeOpening();
     void onAboutToShow();
-    void onClosed();
 
     void onCountChanged();
     QString rowText(int index) const;
@@ -127,7 +127,7 @@ private:
     QVariant m_model;
     std::unique_ptr<MenuRows> m_rows;
     QPointer<QQuickItem> m_contextItem;
-    QPointer<QQuickItem> m_formerFocus; ///< Gets the focus back.
+    PopupOrigin m_origin;
     QColor m_ssBackground;
     QColor m_ssForegroundItem;
     QColor m_ssForegroundItemHover;

@@ -1,7 +1,9 @@
 #include "style/SheetColors.h"
 
+#include "style/StyleEngine.h"
 #include "style/StyleSet.h"
-#include "style/StyleSetProps.h"
+#include "style/UsageCountedStyleSetProps.h"
+#include "style/resolution/StylePathPool.h"
 
 #include <QtQml/qqml.h>
 
@@ -10,7 +12,7 @@
 namespace tamble::client {
 
 SheetColors::SheetColors(QObject &control, std::span<const Source> sources, Changed changed)
-    : m_control(control)
+    : m_control(&control)
     , m_sources(sources)
     , m_changed(std::move(changed))
 {}
@@ -19,6 +21,14 @@ SheetColors::~SheetColors()
 {
     if (m_styleSet)
         m_styleSet->setFollower(nullptr);
+}
+
+void SheetColors::setControl(QObject &control)
+{
+    if (m_styleSet)
+        m_styleSet->setFollower(nullptr);
+    m_styleSet = nullptr;
+    m_control = &control;
 }
 
 QColor SheetColors::color(std::size_t index) const
@@ -31,13 +41,25 @@ QColor SheetColors::color(std::size_t index) const
 QColor SheetColors::colorOfSheets(const Source &source) const
 {
     if (!m_styleSet) {
-        m_styleSet = static_cast<StyleSet *>(qmlAttachedPropertiesObject<StyleSet>(&m_control));
+        m_styleSet = static_cast<StyleSet *>(qmlAttachedPropertiesObject<StyleSet>(m_control));
         m_styleSet->setFollower(const_cast<SheetColors *>(this));
     }
     StyleSetProps &props = *m_styleSet->props();
-    if (!source.key || props.isSet(QLatin1String(source.key)))
-        return (props.*source.read)();
-    return source.substitute < 0 ? QColor(Qt::transparent) : (props.*m_sources[std::size_t(source.substitute)].read)();
+    // One step only: two colours may stand in for each other.
+    const Source *from = &source;
+    if (source.key && !props.isSet(QLatin1String(source.key))) {
+        if (source.substitute < 0)
+            return Qt::transparent;
+        from = &m_sources[std::size_t(source.substitute)];
+    }
+    if (from->group)
+        return (propsOfGroup(QLatin1String(from->group)).get()->*from->read)();
+    return (props.*from->read)();
+}
+
+std::shared_ptr<StyleSetProps> SheetColors::propsOfGroup(const QString &group) const
+{
+    return StyleEngine::instance()->propsFor(StylePathPool::instance().child(m_styleSet->stylePath(), group, {}, {}));
 }
 
 void SheetColors::setColor(std::size_t index, const QColor &color)

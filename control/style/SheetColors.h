@@ -21,12 +21,14 @@ class SheetColors : private StyleFollower
 {
 public:
     /// Where a colour comes from. One that not every sheet sets has the key to ask for first, and the place in the
-    /// table of the one that stands in for it; without a place it is transparent then.
+    /// table of the one that stands in for it; without a place it is transparent then. `group` names another type whose
+    /// rules are read, as if such an item stood in the control.
     struct Source
     {
         QColor (StyleSetProps::*read)();
         const char *key = nullptr;
         int substitute = -1;
+        const char *group = nullptr;
     };
 
     /// The colours from one place in the table up to, but without, another one may have changed.
@@ -39,14 +41,17 @@ public:
     SheetColors(const SheetColors &) = delete;
     SheetColors &operator=(const SheetColors &) = delete;
 
+    /// Reads the sheets for another control from now on.
+    void setControl(QObject &control);
     QColor color(std::size_t index) const;
     void setColor(std::size_t index, const QColor &color);
 
 private:
     void onStyleChanged() override;
     QColor colorOfSheets(const Source &source) const;
+    std::shared_ptr<StyleSetProps> propsOfGroup(const QString &group) const;
 
-    QObject &m_control;
+    QObject *m_control;
     std::span<const Source> m_sources;
     Changed m_changed;
     std::vector<QColor> m_given;            ///< What the page has set; empty as long as it has set none.
