@@ -1,0 +1,314 @@
+#include "flyouts/RFlyoutWindowBase.h"
+
+#include "base/ControlLog.h"
+#include "screen/RScreen.h"
+#include "scrolling/EnclosingView.h"
+
+#include <QtGui/QKeyEvent>
+#include <QtQml/QQmlContext>
+#include <QtQml/QQmlEngine>
+
+#include <utility>
+
+namespace tamble::client {
+
+namespace {
+
+QQuickItem *layerOf(const QQuickItem &flyout)
+{
+    for (QQuickItem *item = flyout.parentItem(); item; item = item->parentItem()) {
+        if (qobject_cast<RScreen *>(item)) {
+            auto *layer = item->property("flyoutLayer").value<QQuickItem *>();
+            return layer ? layer : item;
+        }
+    }
+    return flyout.parentItem();
+}
+
+} // namespace
+
+RFlyoutWindowBase::RFlyoutWindowBase(QQuickItem *parent)
+    : TitledPane(parent)
+{
+    setVisible(false);
+    setFiltersChildMouseEvents(true);
+    followLayer();
+    followFocus(window());
+}
+
+// The window tells of the focus when nothing of this is left.
+RFlyoutWindowBase::~RFlyoutWindowBase()
+{
+    followFocus(nullptr);
+    giveFocusBack();
+}
+
+void RFlyoutWindowBase::setMovable(bool movable)
+{
+    if (m_isMovable == movable)
+        return;
+    m_isMovable = movable;
+    Q_EMIT movableChanged();
+}
+
+void RFlyoutWindowBase::setPinned(bool pinned)
+{
+    if (m_isPinned == pinned)
+        return;
+    m_isPinned = pinned;
+    Q_EMIT pinnedChanged();
+}
+
+void RFlyoutWindowBase::setContentComponent(QQmlComponent *component)
+{
+    if (m_contentComponent == component)
+        return;
+    m_contentComponent = component;
+    if (m_madeContent)
+        m_madeContent->deleteLater();
+    m_madeContent = nullptr;
+    if (m_isShown)
+        makeContent();
+    Q_EMIT contentComponentChanged();
+}
+
+QSizeF RFlyoutWindowBase::layerSize() const
+{
+    return m_layer ? m_layer->size() : QSizeF(0.0, 0.0);
+}
+
+void RFlyoutWindowBase::open()
+{
+    if (!enterLayer())
+        return;
+    if (!m_isShown)
+        recall();
+    show();
+}
+
+void RFlyoutWindowBase::openAt(QQuickItem *item, Qt::Edge edge)
+{
+    if (!enterLayer())
+        return;
+    recall();
+    m_opener = item;
+    m_openerEdge = edge;
+    show();
+}
+
+bool RFlyoutWindowBase::enterLayer()
+{
+    QQuickItem *layer = layerOf(*this);
+    if (layer)
+        setParentItem(layer);
+    return layer;
+}
+
+void RFlyoutWindowBase::show()
+{
+    const QPointer<RFlyoutWindowBase> guard(this);
+    if (!m_isShown)
+        closeGroup(); // whose handlers may do anything
+    if (!guard || !m_layer)
+        return;
+    if (!m_isShown)
+        m_step = freeStep();
+    const bool wasShown = std::exchange(m_isShown, true);
+    makeContent();
+    updateHeader();
+    setVisible(true);
+    arrange();
+    raise();
+    takeFocus(Qt::PopupFocusReason);
+    if (wasShown)
+        return;
+    Q_EMIT shownChanged();
+    if (guard)
+        Q_EMIT flyoutOpened();
+}
+
+void RFlyoutWindowBase::closeGroup()
+{
+    if (m_group.isEmpty())
+        return;
+    QList<QPointer<RFlyoutWindowBase>> others;
+    for (RFlyoutWindowBase *flyout : shownIn(*m_layer)) {
+        if (flyout != this && flyout->m_group == m_group && !flyout->m_isPinned)
+            others.append(flyout);
+    }
+    for (const auto &flyout : std::as_const(others)) {
+        if (flyout)
+            flyout->close();
+    }
+}
+
+void RFlyoutWindowBase::close()
+{
+    if (!std::exchange(m_isShown, false))
+        return;
+    giveFocusBack();
+    setVisible(false);
+    setFocus(false, Qt::PopupFocusReason);
+    const QPointer<RFlyoutWindowBase> guard(this);
+    Q_EMIT shownChanged();
+    if (guard)
+        Q_EMIT flyoutClosed();
+}
+
+void RFlyoutWindowBase::raise()
+{
+    if (!m_layer)
+        return;
+    QQuickItem *topmost = m_layer->childItems().constLast();
+    if (topmost != this)
+        stackAfter(topmost);
+}
+
+QList<RFlyoutWindowBase *> RFlyoutWindowBase::shownIn(const QQuickItem &layer)
+{
+    QList<RFlyoutWindowBase *> flyouts;
+    for (QQuickItem *child : layer.childItems()) {
+        auto *flyout = qobject_cast<RFlyoutWindowBase *>(child);
+        if (flyout && flyout->m_isShown)
+            flyouts.append(flyout);
+    }
+    return flyouts;
+}
+
+bool RFlyoutWindowBase::focusNext(const QQuickItem &layer)
+{
+    for (RFlyoutWindowBase *flyout : shownIn(layer)) {
+        if (flyout->hasActiveFocus())
+            continue;
+        flyout->raise();
+        flyout->takeFocus(Qt::OtherFocusReason);
+        return true;
+    }
+    return false;
+}
+
+void RFlyoutWindowBase::takeFocus(Qt::FocusReason reason)
+{
+    if (!window() || hasActiveFocus())
+        return;
+    m_formerFocus = window()->activeFocusItem();
+    forceActiveFocus(reason);
+}
+
+void RFlyoutWindowBase::giveFocusBack()
+{
+    const QPointer<QQuickItem> former = std::exchange(m_formerFocus, nullptr);
+    const QQuickWindow *window = former && former->isVisible() && former->isEnabled() ? former->window() : nullptr;
+    if (!window || !window->contentItem()) // of a window that is being destroyed
+        return;
+    // A flyout that has been taken out of the window has lost the focus already, to nobody.
+    const QQuickItem *focused = window->activeFocusItem();
+    const bool wasLast = !this->window() && hasFocus() && (!focused || focused->isAncestorOf(former));
+    if (wasLast || (hasActiveFocus() && this->window() == window))
+        former->forceActiveFocus(Qt::PopupFocusReason);
+}
+
+void RFlyoutWindowBase::makeContent()
+{
+    if (!m_contentComponent || m_madeContent || !m_contentParent)
+        return;
+    QQmlContext *context = m_contentComponent->creationContext();
+    QObject *made = m_contentComponent->beginCreate(context ? context : qmlContext(this));
+    if (!made) {
+        qCWarning(controlLog).noquote() << m_contentComponent->errorString();
+        return;
+    }
+    made->setParent(this);
+    if (auto *item = qobject_cast<QQuickItem *>(made))
+        item->setParentItem(m_contentParent);
+    m_madeContent = made;
+    m_contentComponent->completeCreate();
+}
+
+void RFlyoutWindowBase::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    TitledPane::itemChange(change, data);
+    if (change == ItemParentHasChanged)
+        followLayer();
+    else if (change == ItemSceneChange)
+        followFocus(data.window);
+}
+
+void RFlyoutWindowBase::followFocus(QQuickWindow *window)
+{
+    if (m_window)
+        m_window->disconnect(this);
+    m_window = window;
+    if (m_window)
+        connect(m_window, &QQuickWindow::activeFocusItemChanged, this, &RFlyoutWindowBase::revealFocus);
+}
+
+/// Scrolls to what the Tab key has reached.
+void RFlyoutWindowBase::revealFocus()
+{
+    const QQuickItem *focused = m_isShown && m_window ? m_window->activeFocusItem() : nullptr;
+    if (!focused || !m_contentParent || !m_contentParent->isAncestorOf(focused))
+        return;
+    QQuickItem *view = contentItem();
+    if (view->inherits("QQuickFlickable"))
+        EnclosingView::reveal(*view, view->mapRectFromItem(focused, focused->boundingRect()), {});
+}
+
+void RFlyoutWindowBase::followLayer()
+{
+    if (m_layer == parentItem())
+        return;
+    if (m_layer)
+        m_layer->disconnect(this);
+    m_layer = parentItem();
+    if (m_layer) {
+        const auto onSize = [this] {
+            Q_EMIT layerSizeChanged();
+            arrange();
+        };
+        connect(m_layer, &QQuickItem::widthChanged, this, onSize);
+        connect(m_layer, &QQuickItem::heightChanged, this, onSize);
+    }
+    Q_EMIT layerSizeChanged();
+    // Later, since a layer that is being destroyed is no time for handlers.
+    if (!m_layer)
+        QMetaObject::invokeMethod(this, &RFlyoutWindowBase::close, Qt::QueuedConnection);
+}
+
+bool RFlyoutWindowBase::childMouseEventFilter(QQuickItem *child, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin) {
+        raise();
+        takeFocus(Qt::MouseFocusReason);
+    }
+    return TitledPane::childMouseEventFilter(child, event);
+}
+
+void RFlyoutWindowBase::mousePressEvent(QMouseEvent *event)
+{
+    raise();
+    takeFocus(Qt::MouseFocusReason);
+    TitledPane::mousePressEvent(event);
+}
+
+void RFlyoutWindowBase::keyPressEvent(QKeyEvent *event)
+{
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if (event->key() == Qt::Key_Escape && modifiers == Qt::NoModifier && m_isClosable) {
+        event->accept();
+        if (!event->isAutoRepeat())
+            close();
+    } else if (event->key() == Qt::Key_F6 && modifiers == Qt::ControlModifier && m_layer) {
+        event->accept();
+        focusNext(*m_layer);
+    } else if ((event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) && modifiers == Qt::AltModifier) {
+        event->accept();
+        setCollapsed(event->key() == Qt::Key_Up);
+    } else if (moveByKey(*event)) {
+        event->accept();
+    } else {
+        TitledPane::keyPressEvent(event);
+    }
+}
+
+} // namespace tamble::client

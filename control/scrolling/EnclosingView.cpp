@@ -1,0 +1,82 @@
+#include "scrolling/EnclosingView.h"
+
+#include <QtQuick/QQuickItem>
+
+#include <algorithm>
+
+namespace tamble::client {
+
+namespace {
+
+/// How far a view of `visible` length has to scroll for `part`; its beginning counts when not all of it has room.
+double wayTo(double partBegin, double partEnd, double visibleBegin, double visibleEnd)
+{
+    if (partBegin < visibleBegin)
+        return partBegin - visibleBegin;
+    return std::max(0.0, std::min(partEnd - visibleEnd, partBegin - visibleBegin));
+}
+
+void scroll(QQuickItem &view, const char *position, const char *length, double way, double room)
+{
+    const double farthest = std::max(0.0, view.property(length).toDouble() - room);
+    if (way != 0.0)
+        view.setProperty(position, std::clamp(view.property(position).toDouble() + way, 0.0, farthest));
+}
+
+void scrollView(QQuickItem &view, const QPointF &way)
+{
+    scroll(view, "contentX", "contentWidth", way.x(), view.width());
+    scroll(view, "contentY", "contentHeight", way.y(), view.height());
+}
+
+} // namespace
+
+EnclosingView::EnclosingView(QQuickItem *item)
+    : QObject(item)
+    , m_item(item)
+{}
+
+void EnclosingView::find()
+{
+    QQuickItem *view = m_item->parentItem();
+    while (view && !view->inherits("QQuickFlickable"))
+        view = view->parentItem();
+    if (view == m_view)
+        return;
+    if (m_view)
+        m_view->disconnect(this);
+    m_view = view;
+    if (!view)
+        return;
+    // By name, as the class has no public header.
+    connect(view, SIGNAL(contentXChanged()), this, SIGNAL(scrolled()));
+    connect(view, SIGNAL(contentYChanged()), this, SIGNAL(scrolled()));
+    connect(view, &QQuickItem::widthChanged, this, &EnclosingView::scrolled);
+    connect(view, &QQuickItem::heightChanged, this, &EnclosingView::scrolled);
+}
+
+QRectF EnclosingView::visibleRect() const
+{
+    return m_view ? m_item->mapRectFromItem(m_view, {QPointF(), m_view->size()}) : m_item->boundingRect();
+}
+
+void EnclosingView::reveal(const QRectF &part, const QMarginsF &covered)
+{
+    if (m_view)
+        reveal(*m_view, m_view->mapRectFromItem(m_item, part), covered);
+}
+
+void EnclosingView::reveal(QQuickItem &view, const QRectF &part, const QMarginsF &covered)
+{
+    const QRectF visible = QRectF({}, view.size()).marginsRemoved(covered);
+    scrollView(view, {wayTo(part.left(), part.right(), visible.left(), visible.right()),
+                      wayTo(part.top(), part.bottom(), visible.top(), visible.bottom())});
+}
+
+void EnclosingView::scrollBy(const QPointF &way)
+{
+    if (m_view)
+        scrollView(*m_view, way);
+}
+
+} // namespace tamble::client
