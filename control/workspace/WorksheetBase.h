@@ -10,9 +10,11 @@
 
 namespace tamble::client {
 
-/// Declared only: nothing follows from its properties yet.
+class RMouseDetection;
+
+/// Document page around a workspace, the first one among its descendants.
 ///
-/// Document page around a workspace. `pointerPosition` is in plane units of the workspace, without one in own pixels.
+/// `modified` becomes true by itself when items of the workspace were moved or got another size.
 class TAMBLE_CLIENT_CONTROL_EXPORT WorksheetBase : public QQuickItem
 {
     Q_OBJECT
@@ -23,8 +25,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT WorksheetBase : public QQuickItem
     Q_PROPERTY(QString title MEMBER m_title NOTIFY titleChanged)
     /// Whether there are changes that are not stored.
     Q_PROPERTY(bool modified MEMBER m_modified NOTIFY modifiedChanged)
-    /// Whether the page can be looked at only.
-    Q_PROPERTY(bool readOnly MEMBER m_readOnly NOTIFY readOnlyChanged)
+    /// Whether the page can be looked at only; the workspace then is `readOnly`, too.
+    Q_PROPERTY(bool readOnly READ readOnly WRITE setReadOnly NOTIFY readOnlyChanged)
     /// Whether the page is the one in front.
     Q_PROPERTY(bool active MEMBER m_active NOTIFY activeChanged)
     /// The workspace in the page; null for none.
@@ -36,10 +38,18 @@ class TAMBLE_CLIENT_CONTROL_EXPORT WorksheetBase : public QQuickItem
 
 public:
     explicit WorksheetBase(QQuickItem *parent = nullptr);
+    ~WorksheetBase() override;
 
+    bool readOnly() const { return m_readOnly; }
+    void setReadOnly(bool readOnly);
     WorkspaceBase *workspace() const { return m_workspace; }
-    bool pointerInside() const { return m_pointerInside; }
-    QPointF pointerPosition() const { return m_pointerPosition; }
+    bool pointerInside() const;
+    QPointF pointerPosition() const;
+
+    /// The changes are stored: `modified` becomes false.
+    Q_INVOKABLE void markSaved() { setModified(false); }
+    /// There is a change: `modified` becomes true.
+    Q_INVOKABLE void markModified() { setModified(true); }
 
 Q_SIGNALS:
     void sheetIdChanged();
@@ -53,15 +63,24 @@ Q_SIGNALS:
     /// The user has entered a title.
     void titleEdited(const QString &title);
 
+protected:
+    void componentComplete() override;
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+
 private:
+    friend class WorkspaceBase;
+
+    void setModified(bool modified);
+    void seekWorkspace();
+
     QUuid m_sheetId = QUuid::createUuid();
     QString m_title;
     bool m_modified = false;
     bool m_readOnly = false;
     bool m_active = false;
     QPointer<WorkspaceBase> m_workspace;
-    bool m_pointerInside = false;
-    QPointF m_pointerPosition;
+    RMouseDetection *m_detection; // a child: what is on the page keeps hover events to itself
 };
 
 } // namespace tamble::client

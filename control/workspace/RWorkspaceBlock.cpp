@@ -1,0 +1,214 @@
+#include "workspace/RWorkspaceBlock.h"
+
+#include "style/StateHelper.h"
+#include "style/StyleSet.h"
+#include "workspace/BlockLook.h"
+
+#include <QtQml/qqml.h>
+#include <QtQuick/private/qquickitem_p.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace tamble::client {
+
+namespace {
+
+// In density-independent units.
+constexpr QSizeF leastBlockSize{96.0, 64.0};
+constexpr qreal valueBarHeight = 6.0;
+
+} // namespace
+
+const std::array<SheetColors::Source, 3> RWorkspaceBlock::colorSources = {{
+    {&StyleSetProps::background},
+    {&StyleSetProps::border},
+    {&StyleSetProps::foreground, nullptr, -1, "RButton"},
+}};
+
+RWorkspaceBlock::RWorkspaceBlock(QQuickItem *parent)
+    : WorkspaceItemBase(parent)
+    , m_colors(*this, colorSources, [this](std::size_t begin, std::size_t end) { onColorsChanged(begin, end); })
+{}
+
+RWorkspaceBlock::~RWorkspaceBlock() = default;
+
+void RWorkspaceBlock::onColorsChanged(std::size_t begin, std::size_t end)
+{
+    if (m_look)
+        m_look->refresh();
+    if (begin <= Background)
+        Q_EMIT ssBackgroundChanged();
+    if (begin <= BorderColor && end > BorderColor)
+        Q_EMIT ssBorderColorChanged();
+    if (end > Color)
+        Q_EMIT ssColorChanged();
+}
+
+void RWorkspaceBlock::setTitle(const QString &title)
+{
+    if (m_title == title)
+        return;
+    m_title = title;
+    announce(*this, QAccessible::NameChanged);
+    Q_EMIT titleChanged();
+    updateLook();
+}
+
+void RWorkspaceBlock::setIconKey(const QString &key)
+{
+    if (m_iconKey == key)
+        return;
+    m_iconKey = key;
+    updateLook();
+    Q_EMIT iconKeyChanged();
+}
+
+void RWorkspaceBlock::setStatusIconKey(const QString &key)
+{
+    if (m_statusIconKey == key)
+        return;
+    m_statusIconKey = key;
+    updateLook();
+    Q_EMIT statusIconKeyChanged();
+}
+
+QQmlListProperty<QObject> RWorkspaceBlock::content()
+{
+    return QQuickItemPrivate::get(&makeContentItem())->data();
+}
+
+QQuickItem &RWorkspaceBlock::makeContentItem()
+{
+    if (!contentItem()) {
+        auto *item = new QQuickItem(this);
+        connect(item, &QQuickItem::childrenRectChanged, this, &RWorkspaceBlock::updateSize);
+        setContentItem(item);
+        placeContent();
+    }
+    return *contentItem();
+}
+
+void RWorkspaceBlock::setContentComponent(QQmlComponent *component)
+{
+    if (component)
+        makeContentItem();
+    WorkspaceItemBase::setContentComponent(component);
+}
+
+void RWorkspaceBlock::setValueBar(QQmlComponent *component)
+{
+    if (m_valueBar == component)
+        return;
+    m_valueBar = component;
+    if (m_look)
+        m_look->dropValueBar();
+    updateSize();
+    updateLook();
+    Q_EMIT valueBarChanged();
+}
+
+QQuickItem *RWorkspaceBlock::valueBarItem() const
+{
+    return m_look ? m_look->valueBar() : nullptr;
+}
+
+void RWorkspaceBlock::setUnit(qreal unit)
+{
+    if (std::exchange(m_unit, unit) == unit)
+        return;
+    updateSize();
+    placeContent();
+    updateLook();
+    Q_EMIT unitChanged();
+}
+
+qreal RWorkspaceBlock::barHeight() const
+{
+    return m_valueBar ? valueBarHeight * m_unit : 0.0;
+}
+
+void RWorkspaceBlock::updateSize()
+{
+    if (!isComponentComplete())
+        return;
+    const QSizeF least = leastBlockSize * m_unit;
+    const QRectF inside = contentItem() ? contentItem()->childrenRect() : QRectF();
+    setImplicitSize(std::max(least.width(), inside.right()),
+                    std::max(least.height(), BlockLook::headerHeight * m_unit + inside.bottom() + barHeight()));
+    placeContent();
+}
+
+void RWorkspaceBlock::placeContent()
+{
+    if (!contentItem() || !isComponentComplete())
+        return;
+    const qreal top = BlockLook::headerHeight * m_unit;
+    contentItem()->setY(top);
+    contentItem()->setSize({width(), std::max(0.0, height() - top - barHeight())});
+}
+
+void RWorkspaceBlock::updateLook()
+{
+    if (!isComponentComplete() || (!inView() && !m_look))
+        return;
+    if (inView()) {
+        feedStates();
+        if (!m_look)
+            m_look = new BlockLook(*this);
+        m_look->refresh();
+    }
+    m_look->setVisible(inView());
+}
+
+// Natively and only where somebody sees it, since four bindings for each of thousands would be most of their cost. A
+// state is written when it has changed: what a page has set for good stays.
+void RWorkspaceBlock::feedStates()
+{
+    using Setter = void (StateHelper::*)(bool);
+    const std::array<std::pair<Setter, bool>, 4> states = {{
+        {&StateHelper::setSelected, selected()},
+        {&StateHelper::setHovered, hovered()},
+        {&StateHelper::setFocus, keyFocus()},
+        {&StateHelper::setDisabled, !isEnabled()},
+    }};
+    for (std::size_t i = 0; i < states.size(); ++i) {
+        const auto &[set, isOn] = states[i];
+        const unsigned bit = 1U << i;
+        if (bool(m_fedStates & bit) == isOn)
+            continue;
+        m_fedStates ^= bit;
+        auto *styleSet = static_cast<StyleSet *>(qmlAttachedPropertiesObject<StyleSet>(this));
+        (styleSet->stateHelper()->*set)(isOn);
+    }
+}
+
+void RWorkspaceBlock::componentComplete()
+{
+    WorkspaceItemBase::componentComplete();
+    updateSize();
+    updateLook();
+}
+
+void RWorkspaceBlock::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    WorkspaceItemBase::geometryChange(newGeometry, oldGeometry);
+    if (newGeometry.size() == oldGeometry.size())
+        return;
+    placeContent();
+    updateLook();
+}
+
+void RWorkspaceBlock::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    WorkspaceItemBase::itemChange(change, data);
+    if (change == ItemEnabledHasChanged)
+        updateLook();
+}
+
+QString RWorkspaceBlock::spokenName() const
+{
+    return m_title.isEmpty() ? WorkspaceItemBase::spokenName() : m_title;
+}
+
+} // namespace tamble::client
