@@ -69,21 +69,35 @@ bool RMouseEventSpy::eventFilter(QObject *watched, QEvent *event)
     // A window passes its events on to its items, each of which would show up here once more.
     if (!watched->isWindowType())
         return false;
+    const Window window(static_cast<QWindow *>(watched));
+    watch(window, event);
+    // Deleted, it can get nothing any more.
+    return !window;
+}
 
+void RMouseEventSpy::watch(const Window &window, QEvent *event)
+{
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseMove:
         noteActivity();
-        watchMouse(static_cast<QMouseEvent *>(event));
+        watchMouse(window, static_cast<QMouseEvent *>(event));
         break;
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
     case QEvent::TouchCancel:
         noteActivity();
-        watchTouch(static_cast<QTouchEvent *>(event));
+        watchTouch(window, static_cast<QTouchEvent *>(event));
+        break;
+    case QEvent::Enter:
+        point(window, static_cast<QEnterEvent *>(event)->position());
+        break;
+    case QEvent::Leave:
+    case QEvent::Hide:
+        leave(window);
         break;
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
@@ -97,7 +111,6 @@ bool RMouseEventSpy::eventFilter(QObject *watched, QEvent *event)
     default:
         break;
     }
-    return false;
 }
 
 void RMouseEventSpy::checkIdle()
@@ -138,7 +151,7 @@ void RMouseEventSpy::updateIdleTimer()
         m_idleTimer.start(1000, this);
 }
 
-void RMouseEventSpy::watchMouse(QMouseEvent *event)
+void RMouseEventSpy::watchMouse(const Window &window, QMouseEvent *event)
 {
     Q_EMIT mouseEvent(event);
     // The finger behind such an event has been reported by its touch event.
@@ -146,35 +159,77 @@ void RMouseEventSpy::watchMouse(QMouseEvent *event)
         return;
 
     const QPointF position = event->globalPosition();
+    point(window, event->position());
     notePosition(position);
     notePressed(m_mousePressed, event->buttons() != Qt::NoButton);
-    if (event->type() == QEvent::MouseMove)
+    if (event->type() == QEvent::MouseMove) {
         noteMove(position);
-    else if (event->type() == QEvent::MouseButtonRelease)
+    } else if (event->type() == QEvent::MouseButtonRelease) {
         Q_EMIT mouseReleased(position, event->button());
-    else if (event->type() == QEvent::MouseButtonPress) // a double click comes in addition to its second press
+    } else if (event->type() == QEvent::MouseButtonPress) { // a double click comes in addition to its second press
+        Q_EMIT pressedInWindow(window, event->position(), event->button());
         Q_EMIT mousePressed(position, event->button());
+    }
 }
 
-void RMouseEventSpy::watchTouch(QTouchEvent *event)
+void RMouseEventSpy::watchTouch(const Window &window, QTouchEvent *event)
 {
     const auto &points = event->points();
     const auto isDown = [](const QEventPoint &point) { return point.state() != QEventPoint::Released; };
-    const bool canceled = event->type() == QEvent::TouchCancel;
-    notePressed(m_touchPressed, !canceled && std::any_of(points.begin(), points.end(), isDown));
+    const bool isCanceled = event->type() == QEvent::TouchCancel;
+    notePressed(m_touchPressed, !isCanceled && std::any_of(points.begin(), points.end(), isDown));
 
+    // The end of an earlier touch may have got lost with its window.
+    if (event->type() == QEvent::TouchBegin && m_finger.first == event->pointingDevice())
+        m_finger = {};
     for (const QEventPoint &point : points) {
-        const QPointF position = point.globalPosition();
-        if (point.state() == QEventPoint::Stationary && !canceled)
-            continue;
-        notePosition(position);
-        if (canceled || point.state() == QEventPoint::Released)
-            Q_EMIT mouseReleased(position, Qt::LeftButton);
-        else if (point.state() == QEventPoint::Pressed)
-            Q_EMIT mousePressed(position, Qt::LeftButton);
-        else
-            noteMove(position);
+        if (point.state() != QEventPoint::Stationary || isCanceled)
+            watchFinger(window, point, isCanceled);
     }
+}
+
+void RMouseEventSpy::watchFinger(const Window &window, const QEventPoint &finger, bool isCanceled)
+{
+    const QPointF position = finger.globalPosition();
+    const bool isDown = !isCanceled && finger.state() != QEventPoint::Released;
+    followFinger(window, finger, isDown);
+    notePosition(position);
+    if (!isDown) {
+        Q_EMIT mouseReleased(position, Qt::LeftButton);
+    } else if (finger.state() == QEventPoint::Pressed) {
+        Q_EMIT pressedInWindow(window, finger.position(), Qt::LeftButton);
+        Q_EMIT mousePressed(position, Qt::LeftButton);
+    } else {
+        noteMove(position);
+    }
+}
+
+void RMouseEventSpy::followFinger(const Window &window, const QEventPoint &finger, bool isDown)
+{
+    const std::pair<const QPointingDevice *, int> key(finger.device(), finger.id());
+    if (!m_finger.first && isDown && finger.state() == QEventPoint::Pressed)
+        m_finger = key;
+    if (m_finger != key)
+        return;
+    if (isDown) {
+        point(window, finger.position());
+    } else {
+        m_finger = {};
+        leave(m_window);
+    }
+}
+
+void RMouseEventSpy::point(QWindow *window, const QPointF &position)
+{
+    m_window = window;
+    m_positionInWindow = position;
+    Q_EMIT pointed();
+}
+
+void RMouseEventSpy::leave(QWindow *window)
+{
+    if (m_window == window)
+        point(nullptr, {});
 }
 
 void RMouseEventSpy::noteActivity()

@@ -6,11 +6,16 @@
 #include <QtCore/QBasicTimer>
 #include <QtCore/QObject>
 #include <QtCore/QPointF>
+#include <QtCore/QPointer>
+#include <QtGui/QWindow>
 #include <QtQml/qqmlregistration.h>
 
 #include <functional>
+#include <utility>
 
+QT_FORWARD_DECLARE_CLASS(QEventPoint)
 QT_FORWARD_DECLARE_CLASS(QMouseEvent)
+QT_FORWARD_DECLARE_CLASS(QPointingDevice)
 QT_FORWARD_DECLARE_CLASS(QTouchEvent)
 
 namespace tamble::client {
@@ -22,8 +27,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RMouseEventSpy : public QObject
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RMouseEventSpy)
-    /// Last place of the pointer, on the desktop.
     QML_SINGLETON
+    /// Last place of the pointer, on the desktop.
     Q_PROPERTY(QPointF position READ position NOTIFY positionChanged)
     Q_PROPERTY(bool anyPressed READ anyPressed NOTIFY anyPressedChanged)
     Q_PROPERTY(int idleTime READ idleTime NOTIFY idleTimeChanged)
@@ -44,6 +49,10 @@ public:
     void install();
 
     QPointF position() const { return m_position; }
+    /// The window that the pointer is in, and where, in its pixels; null over none. The first finger of several is the
+    /// pointer, and no pointer is left when it goes up.
+    QWindow *window() const { return m_window; }
+    QPointF positionInWindow() const { return m_positionInWindow; }
     /// Whether any mouse button or touch point is down.
     bool anyPressed() const { return m_mousePressed || m_touchPressed; }
     /// Time since the last input in ms. Its notification comes each second while somebody listens.
@@ -64,6 +73,10 @@ Q_SIGNALS:
     void idleLimitChanged();
     /// Every mouse event of every window, for native use.
     void mouseEvent(QMouseEvent *event);
+    /// `window` or `positionInWindow` may be others, for native use; before what else the event leads to.
+    void pointed();
+    /// As `mousePressed`, with the place in the window, for native use.
+    void pressedInWindow(QWindow *window, const QPointF &position, int button);
     /// A mouse button (`Qt::MouseButton`) went down at a place on the desktop; a touch counts as the left one.
     void mousePressed(const QPointF &position, int button);
     /// A mouse button went up at a place on the desktop; a touch counts as the left one.
@@ -80,9 +93,16 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    using Window = QPointer<QWindow>; ///< one that any listener may delete
+
     void updateIdleTimer();
-    void watchMouse(QMouseEvent *event);
-    void watchTouch(QTouchEvent *event);
+    void watch(const Window &window, QEvent *event);
+    void watchMouse(const Window &window, QMouseEvent *event);
+    void watchTouch(const Window &window, QTouchEvent *event);
+    void watchFinger(const Window &window, const QEventPoint &finger, bool isCanceled);
+    void followFinger(const Window &window, const QEventPoint &finger, bool isDown);
+    void point(QWindow *window, const QPointF &position);
+    void leave(QWindow *window);
     void noteActivity();
     void notePosition(const QPointF &position);
     void noteMove(const QPointF &position);
@@ -90,6 +110,9 @@ private:
 
     Clock m_clock;
     QPointF m_position;
+    Window m_window;
+    QPointF m_positionInWindow;
+    std::pair<const QPointingDevice *, int> m_finger; ///< the device and number of the one that is the pointer
     bool m_mousePressed = false;
     bool m_touchPressed = false;
     int m_idleLimit = 0;
