@@ -5,6 +5,14 @@
 set(registered
     RAGC/RAGC.qml
     RANC/RANC.qml
+    RAccordion/RAccordion.qml
+    RAccordion/RAccordionItem.qml
+    RAccordion/RAccordionSectionHeader.qml
+    RAppBar/RAppBar.qml
+    RAppBar/RAppBarButton.qml
+    RAppBar/RAppBarNavButton.qml
+    RAppBar/RAppBarStateButton.qml
+    RAppBar/RAppBarSubNavButton.qml
     RApplicationWindow/RApplicationWindow.qml
     RAxis/RAxis.qml
     RBodeplot/RBodeplot.qml
@@ -39,9 +47,13 @@ set(registered
     RCell/RCellTextArea.qml
     RCell/RCellTextField.qml
     RCompressor/RCompressor.qml
+    RDialog/RDialog.qml
     RDucker/RDucker.qml
     RFader/RFader.qml
     RFader/TransferFunctions.qml
+    RFlyout/RFlyoutToolbar.qml
+    RFlyout/RFlyoutToolbarItem.qml
+    RFlyout/RFlyoutWindow.qml
     RGate/RGate.qml
     RIcon/RIcon.qml
     RInconsistentButton/RInconsistentButton.qml
@@ -52,9 +64,19 @@ set(registered
     RLimiter/RDragHandler.qml
     RLimiter/RLimiter.qml
     RLimiter/RPlotGrid.qml
+    RListView/RListView.qml
     RMenu/RMenu.qml
+    RLoadingAnimation/RLoadingAnimation.qml
     RMeter/RMeter.qml
+    RPane/RPane.qml
+    RPane/RPaneSub.qml
     RPopupMenu/RPopupMenu.qml
+    RProgressBar/RProgressBar.qml
+    RScreen/RScreen2.qml
+    RRepeater/RRepeater.qml
+    RScrollView/RHorizontalScrollView.qml
+    RSectionHeader/RSectionHeader.qml
+    RSelectionRect/RSelectionRect.qml
     RStyleDebugMouseArea/RStyleDebugMouseArea.qml
     RStyleEngineSetup/RStyleEngineSetup.qml
     RSpinBox/RSpinBox.qml
@@ -68,6 +90,13 @@ set(registered
     RText/RTextField.qml
     RText/RTextInput.qml
     RTheme/RTheme.qml
+    Shared/RDraggableItem.qml
+    RViewContainer/RViewContainer.qml
+    RWorksheet/RWorksheet.qml
+    RWorkspace/RWorkspace.qml
+    RWorkspace/RWorkspaceItem.qml
+    RWorkspace/RWorkspaceItemValueBar.qml
+    RWorkspace/RWorkspaceZoomBar.qml
     Shared/RFocusRectangle.qml
 )
 set(singletons
@@ -75,7 +104,14 @@ set(singletons
 )
 # Reached by relative imports.
 set(unregistered
-    RApplicationWindow/RBusyDots.qml
+    RAccordion/RAccordionIcon.qml
+    RAccordion/RAccordionSubtitle.qml
+    RAccordion/RInsertionLine.qml
+    RAppBar/RAppBarArrow.qml
+    RAppBar/RAppBarBadge.qml
+    RAppBar/RAppBarCountdown.qml
+    RAppBar/RAppBarNavIcon.qml
+    RAppBar/RAppBarView.qml
     RApplicationWindow/RBusyVeil.qml
     RApplicationWindow/RBusyVeilLoader.qml
     RCheckBox/RCheckDot.qml
@@ -88,8 +124,17 @@ set(unregistered
     RCell/RCellGround.qml
     RCell/RCellRefusal.qml
     RCell/RCellSelection.qml
+    RDialog/RDialogButton.qml
+    RDialog/RDialogDim.qml
+    RDialog/RDialogFooter.qml
+    RDialog/RDialogFrame.qml
+    RDialog/RDialogHeader.qml
+    RDialog/RDialogVeil.qml
+    RDialog/RMessageBoxDialog.qml
     RFader/RFaderHandle.qml
     RFader/RFaderTick.qml
+    RFlyout/RFlyoutButton.qml
+    RFlyout/RFlyoutHeader.qml
     RLabel/RLabelLine.qml
     RSpinBox/RSpinAffixes.qml
     RSpinBox/RSpinInvalidLook.qml
@@ -100,13 +145,27 @@ set(unregistered
     RLimiter/RGainMeter.qml
     RLimiter/RLevelHandle.qml
     RLimiter/RParameterHandle.qml
+    RListView/RListRow.qml
+    RListView/RRowMark.qml
     RMenu/RMenuLine.qml
     RMenu/RMenuRow.qml
+    RPane/RPaneHeader.qml
+    RPane/RPaneToggle.qml
+    RProgressBar/RProgressMarks.qml
+    RProgressBar/RProgressTravel.qml
+    RScreen/RScreen.qml
     RTabButton/RStyledTab.qml
+    RTabButton/RTabDot.qml
     RTabButton/RTabMarks.qml
     RTabButton/RTabText.qml
+    RViewContainer/RViewBlur.qml
+    RViewContainer/RViewBusy.qml
+    RWorkspace/RWorkspaceItemTitle.qml
+    RWorkspace/RWorkspaceScrollBars.qml
+    RWorkspace/RWorkspaceZoomSlider.qml
     Shared/RConfirmDot.qml
     Shared/RControlLine.qml
+    Shared/RDragFrame.qml
     Shared/RDynamicsPlot.qml
     Shared/RFieldBubble.qml
     Shared/RFieldMarks.qml
@@ -130,6 +189,8 @@ foreach(file IN LISTS registered singletons unregistered)
     cmake_path(RELATIVE_PATH file BASE_DIRECTORY ${CMAKE_CURRENT_LIST_DIR} OUTPUT_VARIABLE alias)
     set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS qml/${alias})
 endforeach()
+# Registered under another name than that of the file.
+set_source_files_properties(${CMAKE_CURRENT_LIST_DIR}/RScreen/RScreen2.qml PROPERTIES QT_QML_SOURCE_TYPENAME RScreen)
 set_source_files_properties(${singletons} PROPERTIES QT_QML_SINGLETON_TYPE ON)
 set_source_files_properties(${unregistered} PROPERTIES QT_QML_SKIP_QMLDIR_ENTRY ON)
 

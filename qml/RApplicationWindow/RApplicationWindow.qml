@@ -125,6 +125,7 @@ T.ApplicationWindow {
         checker.active: root.reportMissingKeys
         engine.onException: (type, message) => root.styleException(type, message)
     }
+    RWindowPalette {}
     Shortcut {
         enabled: root.zoomShortcuts
         sequences: ["Ctrl++", "Ctrl+="]

@@ -54,7 +54,7 @@ T.Popup {
             color: ground.ssBackground
             opacity: 0.75
         }
-        RBusyDots {
+        RLoadingAnimation {
             anchors.centerIn: parent
             running: root.busy
         }

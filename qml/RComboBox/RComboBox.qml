@@ -33,8 +33,8 @@ RComboBoxBase {
         RStyleSet.typeName: "RTextField"
         RStyleSet.stateHelper.disabled: !root.enabled
 
-        leftPadding: 8 * RThemeValues.unit
-        rightPadding: (root.confirmed ? 4 : 20) * RThemeValues.unit
+        leftPadding: (!root.confirmed && root.mirrored ? 20 : 8) * RThemeValues.unit
+        rightPadding: (!root.confirmed && !root.mirrored ? 20 : 4) * RThemeValues.unit
         text: root.mixed ? qsTr("mixed") : root.displayText !== "" ? root.displayText : root.otherText !== "" ? root.otherText : root.placeholderText
         opacity: root.mixed || (root.displayText === "" && root.otherText === "") ? 0.6 : 1
         elide: Text.ElideRight
@@ -69,7 +69,8 @@ RComboBoxBase {
         x: root.mirrored ? root.width - width : 0
         y: root.height
         width: Math.min(2 * root.width, Math.max(root.width, root.entryWidth + 2 * RThemeValues.unit))
-        height: Math.max(1, Math.min(root.count, root.maximumVisibleItems)) * 32 * RThemeValues.unit + 2 * RThemeValues.unit
+        // Qt makes it lower where the window is.
+        implicitHeight: Math.max(1, Math.min(root.count, root.maximumVisibleItems)) * 32 * RThemeValues.unit + 2 * RThemeValues.unit
         padding: 0
         margins: 8 * RThemeValues.unit
 

@@ -5,8 +5,9 @@ import TambleClient.Control 1.0
 RComboBoxEntryBase {
     id: root
 
-    readonly property color textColor: !root.highlighted ? root.comboBox.ssForegroundItem : root.current ? root.comboBox.ssForegroundItemSelected : root.comboBox.ssForegroundItemHover
-    readonly property real textStart: (root.comboBox.iconRole === "" ? 12 : 36) * RThemeValues.unit
+    // The box is out of reach once its page begins to go.
+    readonly property color textColor: !root.comboBox ? "transparent" : !root.highlighted ? root.comboBox.ssForegroundItem : root.current ? root.comboBox.ssForegroundItemSelected : root.comboBox.ssForegroundItemHover
+    readonly property real textStart: (!root.comboBox || root.comboBox.iconRole === "" ? 12 : 36) * RThemeValues.unit
 
     width: ListView.view ? ListView.view.width : implicitWidth
     implicitWidth: words.implicitWidth + root.textStart + 12 * RThemeValues.unit
@@ -14,14 +15,14 @@ RComboBoxEntryBase {
     hoverEnabled: true
 
     background: Rectangle { // qmllint disable deferred-property-id
-        color: !root.highlighted ? root.comboBox.ssBackgroundItem : root.current ? root.comboBox.ssBackgroundItemSelected : root.comboBox.ssBackgroundItemHover
+        color: !root.comboBox ? "transparent" : !root.highlighted ? root.comboBox.ssBackgroundItem : root.current ? root.comboBox.ssBackgroundItemSelected : root.comboBox.ssBackgroundItemHover
 
         Rectangle {
             x: root.mirrored ? root.width - width : 0
             width: 4 * RThemeValues.unit
             height: root.height
             visible: root.current || root.highlighted
-            color: root.current ? root.comboBox.ssItemColorCurrent : root.comboBox.ssItemColorHover
+            color: !root.comboBox ? "transparent" : root.current ? root.comboBox.ssItemColorCurrent : root.comboBox.ssItemColorHover
         }
     }
 

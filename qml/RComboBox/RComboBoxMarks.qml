@@ -23,6 +23,8 @@ Item {
         visible: pulsing
     }
     Shared.RMixedFlag {
+        x: root.comboBox.mirrored ? root.width - width : 0
+        mirrored: root.comboBox.mirrored
         color: style.RStyleSet.props.inconsistentFlag
         visible: root.comboBox.mixed
     }

@@ -6,7 +6,7 @@ import TambleClient.Control 1.0
 /*! Asks "on or off?" when several devices differ. It opens at its parent and is as wide.
 
     Keys: arrows and Tab go to the other choice, Space and Enter take it, Esc closes. */
-T.Popup {
+RPopupBase {
     id: root
 
     /*! The choices: `textOn` and `textOff`. */
@@ -20,15 +20,12 @@ T.Popup {
 
     /*! The parent, if it is a button: the choice edits its selection. */
     readonly property RButtonBase button: root.parent as RButtonBase
-    /*! Whether there is still something to ask: the devices may come to agree, or the page may lock or hide the button,
-        while the question stands. */
-    readonly property bool asking: root.button === null || (root.button.visible && root.button.enabled && !root.button.consistent)
+    /*! Whether there is still something to ask: the devices may come to agree while the question stands. */
+    readonly property bool asking: root.button === null || !root.button.consistent
     /*! Whether the parent's layout is mirrored, which swaps the sides. */
     readonly property bool parentMirrored: root.parent !== null && root.parent.LayoutMirroring.enabled
     /*! Whether the window has room below the parent; without it the popup opens above. */
     property bool roomBelow: true
-    /*! Gets the focus back. */
-    property Item formerFocus: null
 
     /*! The user has chosen on (`clickedOn`) or off (`clickedOff`). */
     signal clickedOn()
@@ -52,13 +49,7 @@ T.Popup {
     onAboutToShow: {
         const top = root.parent.mapToItem(null, 0, root.openLeft ? 0 : root.parent.height).y
         root.roomBelow = top + root.height + root.margins <= root.parent.Window.height
-        root.formerFocus = root.parent.Window.activeFocusItem
         on.forceActiveFocus(Qt.PopupFocusReason)
-    }
-    onClosed: {
-        const focused = root.parent.Window.activeFocusItem
-        if (root.formerFocus && (!focused || focused === root.parent.Window.contentItem))
-            root.formerFocus.forceActiveFocus(Qt.PopupFocusReason)
     }
 
     /*! Closes the popup with this choice. */

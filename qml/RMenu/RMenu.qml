@@ -22,6 +22,9 @@ RMenuBase {
     // A press on the parent is the parent's to answer.
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
+    // Not a binding: the row that becomes current takes the focus, which may change the index once more.
+    onCurrentIndexChanged: rows.currentIndex = root.currentIndex
+
     delegate: T.MenuItem {
         hoverEnabled: RThemeValues.hoverEnabled
     }
@@ -32,9 +35,10 @@ RMenuBase {
         borderVisible: root.borderVisible
 
         ListView {
+            id: rows
             anchors.fill: parent
             model: root.contentModel
-            currentIndex: root.currentIndex
+            currentIndex: -1
             highlightMoveDuration: 0
             interactive: contentHeight > height
             boundsBehavior: Flickable.StopAtBounds

@@ -83,8 +83,8 @@ RSpinBoxBase {
         x: root.mirrored ? root.width - input.width : 0
         width: root.width - (root.buttonsVisible ? 2 * root.buttonWidth : 0)
         height: root.height
-        leftPadding: 8 * RThemeValues.unit
-        rightPadding: (edit.marked ? 24 : 4) * RThemeValues.unit
+        leftPadding: (edit.marked && root.mirrored ? 24 : 8) * RThemeValues.unit
+        rightPadding: (edit.marked && !root.mirrored ? 24 : 4) * RThemeValues.unit
         focus: true
         color: edit.acceptable ? root.ssColor : root.ssForegroundInvalid
         selectionColor: root.ssSelection

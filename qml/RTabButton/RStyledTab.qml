@@ -10,13 +10,6 @@ RTabButtonBase {
 
     /*! Another name of `text`. */
     property alias label: root.text
-    /*! Name of the picture, in tabs that show one. */
-    property string iconKey: ""
-
-    property color ssBorderColor: root.RStyleSet.props.isSet("border") ? root.RStyleSet.props.border : "transparent"
-    property bool ssBorderVisible: root.RStyleSet.props.isSet("border-visible") && root.RStyleSet.props.borderVisible
-    property color ssBorderFocus: root.RStyleSet.props.isSet("border-focus") ? root.RStyleSet.props.borderFocus : "transparent"
-    property bool ssLineAtTop: root.RStyleSet.props.lineAtTop
 
     ssBackground: root.sheetBackground
     ssColor: root.sheetColor
@@ -32,34 +25,17 @@ RTabButtonBase {
 
     implicitWidth: 144 * RThemeValues.unit
     implicitHeight: 32 * RThemeValues.unit
-    leftPadding: root.mirrored ? marks.space : 0
-    rightPadding: root.mirrored ? 0 : marks.space
+    leftPadding: 4 * RThemeValues.unit + (root.mirrored ? root.endSpace : 0)
+    rightPadding: 4 * RThemeValues.unit + (root.mirrored ? 0 : root.endSpace)
     hoverEnabled: RThemeValues.hoverEnabled
     focusPolicy: Qt.StrongFocus
 
     background: RControlBackground { // qmllint disable deferred-property-id
-        readonly property bool framed: root.RStyleSet.stateHelper.focus && root.ssBorderFocus.a > 0
-
         color: root.ssBackground
-        border.width: framed || root.ssBorderVisible ? RThemeValues.unit : 0
-        border.color: framed ? root.ssBorderFocus : root.ssBorderColor
+        border.width: root.ssBorderVisible || (root.RStyleSet.stateHelper.focus && root.ssBorderFocus.a > 0) ? RThemeValues.unit : 0
+        border.color: root.RStyleSet.stateHelper.focus && root.ssBorderFocus.a > 0 ? root.ssBorderFocus : root.ssBorderColor
         lineVisible: root.ssLineVisible
         lineEdge: root.ssLineAtTop ? Qt.TopEdge : Qt.BottomEdge
-        focusVisible: root.RStyleSet.stateHelper.focus && !framed
-    }
-
-    Loader {
-        id: marks
-
-        readonly property real space: marks.active ? marks.width : 0
-
-        x: root.mirrored ? 0 : root.width - marks.space
-        height: Math.min(root.height, 32 * RThemeValues.unit)
-        active: root.closable || root.badge.length > 0 || !root.consistent
-        // qmllint disable unqualified
-        sourceComponent: RTabMarks {
-            tab: root
-        }
-        // qmllint enable unqualified
+        focusVisible: root.RStyleSet.stateHelper.focus && root.ssBorderFocus.a === 0
     }
 }

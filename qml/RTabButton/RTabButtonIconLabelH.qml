@@ -8,7 +8,7 @@ RStyledTab {
     /*! The icon, whose `key` is `iconKey`. */
     property alias iconItem: icon
     /*! The item that shows the text. */
-    property alias textControl: words.text
+    property alias textControl: words
 
     contentItem: Item { // qmllint disable deferred-property-id
         RIcon {
@@ -17,7 +17,7 @@ RStyledTab {
             readonly property bool shown: String(icon.source).length > 0
             readonly property real space: icon.shown ? icon.width + 4 * RThemeValues.unit : 0
 
-            x: root.mirrored ? parent.width - icon.space : 4 * RThemeValues.unit
+            x: root.mirrored ? parent.width - width : 0
             y: (parent.height - icon.height) / 2
             key: root.iconKey
             ssIconForeground: root.ssColor
@@ -29,7 +29,7 @@ RStyledTab {
             width: parent.width - icon.space
             height: parent.height
             tab: root
-            centred: !icon.shown
+            horizontalAlignment: icon.shown ? Text.AlignLeft : Text.AlignHCenter
         }
     }
 }

@@ -8,7 +8,7 @@ RStyledTab {
     /*! The icon, whose `key` is `iconKey`. */
     property alias iconItem: icon
     /*! The item that shows the text. */
-    property alias textControl: words.text
+    property alias textControl: words
 
     implicitHeight: 64 * RThemeValues.unit
 

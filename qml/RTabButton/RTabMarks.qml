@@ -6,10 +6,12 @@ import TambleClient.Control 1.0
 Row {
     id: root
 
-    required property RTabButtonBase tab
-
+    readonly property RTabButtonBase tab: root.parent as RTabButtonBase
     readonly property real gap: 4 * RThemeValues.unit
 
+    x: root.tab.mirrored ? 0 : root.tab.width - width
+    height: Math.min(root.tab.height, 32 * RThemeValues.unit)
+    visible: root.tab.marked
     leftPadding: root.gap
     rightPadding: root.tab.closable ? 0 : 2 * root.gap
     spacing: root.gap

@@ -8,6 +8,9 @@ RText {
     // A TextInput or a TextEdit.
     required property var field
 
+    // The alignment of the field is mirrored already.
+    LayoutMirroring.enabled: false
+
     x: root.field.leftPadding
     y: root.field.topPadding
     width: root.field.width - root.field.leftPadding - root.field.rightPadding

@@ -33,11 +33,11 @@ RTextField {
         edit: root.edit
         stepSize: 0
         decimals: 2
-        stepping: steps.stepSize > 0 && !root.readOnly
+        stepping: Math.abs(steps.stepSize) > 0 && !root.readOnly
     }
     RText {
         id: unit
-        x: root.effectiveHorizontalAlignment === TextInput.AlignLeft ? root.width - root.rightPadding + 4 * RThemeValues.unit : root.width - unit.implicitWidth - (8 + (root.edit.marked ? 16 : 0)) * RThemeValues.unit
+        x: root.effectiveHorizontalAlignment === TextInput.AlignLeft ? Math.min(root.leftPadding + root.contentWidth, root.width - root.rightPadding) + 4 * RThemeValues.unit : root.width - unit.implicitWidth - (8 + (root.edit.marked ? 16 : 0)) * RThemeValues.unit
         height: root.height
         color: root.color
         verticalAlignment: Text.AlignVCenter

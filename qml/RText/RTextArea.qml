@@ -45,6 +45,9 @@ Shared.RScrollView {
     /*! Ctrl+Enter was pressed on a text that is not acceptable. */
     signal rejected(text: string, reason: string)
 
+    /*! Room at the end that the marks leave free, in pixels: that of the scroll bar. */
+    readonly property real marksInset: root.contentHeight > root.height ? 8 * RThemeValues.unit : 0
+
     property color ssBackground: root.RStyleSet.props.background
     property color ssColor: root.RStyleSet.props.foreground
     property color ssForegroundInvalid: root.RStyleSet.props.foregroundInvalid
@@ -89,8 +92,10 @@ Shared.RScrollView {
             onRejected: (text, reason) => root.rejected(text, reason)
         }
         focus: true
-        leftPadding: 8 * RThemeValues.unit
-        rightPadding: (edit.marked ? 24 : 8) * RThemeValues.unit
+        implicitHeight: area.contentHeight + area.topPadding + area.bottomPadding
+        // Room for the marks at all times: lines must not break elsewhere at the first key.
+        leftPadding: (root.mirrored ? 28 : 8) * RThemeValues.unit
+        rightPadding: (root.mirrored ? 8 : 28) * RThemeValues.unit
         topPadding: 6 * RThemeValues.unit
         bottomPadding: 6 * RThemeValues.unit
         color: edit.acceptable ? root.ssColor : root.ssForegroundInvalid

@@ -27,6 +27,12 @@ RTextFieldBase {
     property alias settleTime: edit.settleTime
     property alias converter: edit.converter
 
+    /*! Whether the sides are swapped. Asked only where something stands beside the text, since the attached object is not
+        for free. */
+    readonly property bool turned: (edit.marked || root.iconKey !== "" || root.clearable || root.revealable) && root.LayoutMirroring.enabled
+    /*! Room behind the text, in pixels. */
+    readonly property real endPadding: (8 + (edit.marked ? 16 : 0) + (root.clearable ? 32 : 0) + (root.revealable ? 32 : 0)) * RThemeValues.unit
+
     RStyleSet.typeName: "RTextField"
     RStyleSet.stateHelper.hovered: root.hovered
     RStyleSet.stateHelper.disabled: !root.enabled
@@ -37,8 +43,8 @@ RTextFieldBase {
     opacity: root.enabled ? 1 : 0.5
     implicitWidth: 144 * RThemeValues.unit
     implicitHeight: 32 * RThemeValues.unit
-    leftPadding: (root.iconKey !== "" ? 32 : 8) * RThemeValues.unit
-    rightPadding: (8 + (edit.marked ? 16 : 0) + (root.clearable ? 32 : 0) + (root.revealable ? 32 : 0)) * RThemeValues.unit
+    leftPadding: root.turned ? root.endPadding : (root.iconKey !== "" ? 32 : 8) * RThemeValues.unit
+    rightPadding: !root.turned ? root.endPadding : (root.iconKey !== "" ? 32 : 8) * RThemeValues.unit
     color: edit.acceptable ? root.ssColor : root.ssForegroundInvalid
     selectionColor: root.ssSelection
     selectedTextColor: root.ssForegroundSelection

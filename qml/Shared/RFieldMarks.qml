@@ -10,13 +10,18 @@ Item {
     required property var field
     required property RFieldEdit edit
 
-    width: root.field.width - (root.field.marksInset ?? 0)
+    readonly property Item item: root.field
+    readonly property bool mirrored: root.item.LayoutMirroring.enabled
+    readonly property real inset: root.field.marksInset ?? 0
+
+    x: root.mirrored ? root.inset : 0
+    width: root.field.width - root.inset
     height: Math.min(root.field.height, 32 * RThemeValues.unit)
     visible: root.edit.marked
 
     RConfirmDot {
         id: dot
-        x: root.width - 10 * RThemeValues.unit
+        x: root.mirrored ? 4 * RThemeValues.unit : root.width - 10 * RThemeValues.unit
         y: (root.height - dot.height) / 2
         color: root.field.ssConfirmIndicator
         pulsing: !root.edit.confirmed
@@ -33,7 +38,7 @@ Item {
         function onValueWaits() { blink.restart() }
     }
     RIcon {
-        x: root.width - 20 * RThemeValues.unit
+        x: root.mirrored ? 12 * RThemeValues.unit : root.width - 20 * RThemeValues.unit
         y: (root.height - height) / 2
         key: "warning"
         sizeClass: "XXS"
@@ -41,6 +46,8 @@ Item {
         visible: !root.edit.acceptable
     }
     RMixedFlag {
+        x: root.mirrored ? root.width - width : 0
+        mirrored: root.mirrored
         color: root.field.ssInconsistentFlag
         visible: !root.edit.consistent
     }

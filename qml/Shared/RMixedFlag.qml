@@ -1,11 +1,12 @@
 import QtQuick
 import TambleClient.Control 1.0
 
-/*! Triangle in the top left corner of a field on which several devices do not agree. */
+/*! Triangle in the top left corner of a field on which several devices do not agree; the top right one when mirrored. */
 Item {
     id: root
 
     property alias color: square.color
+    property bool mirrored: false
 
     width: 8 * RThemeValues.unit
     height: root.width
@@ -14,7 +15,7 @@ Item {
     // The triangle is the quarter of a square that stands on its tip.
     Rectangle {
         id: square
-        x: -square.width / 2
+        x: (root.mirrored ? root.width : 0) - square.width / 2
         y: -square.width / 2
         width: root.width * Math.SQRT2
         height: square.width

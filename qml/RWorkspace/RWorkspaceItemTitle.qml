@@ -1,0 +1,17 @@
+import QtQuick
+import TambleClient.Control 1.0
+
+/*! Title of an item on a workspace: small beside the icon, or large enough to be read at a small zoom. */
+RText {
+    id: root
+
+    required property RWorkspaceBlock block
+
+    text: root.block.title
+    color: root.block.ssColor
+    // Below a zoom of 0.4 as large as a caption once more at a third.
+    font.pixelSize: root.block.detailed ? RThemeValues.fontSizeS : 3 * RThemeValues.fontSizeS
+    elide: Text.ElideRight
+    // Drawn at all sizes.
+    renderType: Text.QtRendering
+}
