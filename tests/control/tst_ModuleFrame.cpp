@@ -1,6 +1,7 @@
 #include "ControlImageProvider.h"
 #include "TambleClientControlModule.h"
 #include "pointer/RMouseEventSpy.h"
+#include "support/AllocationCount.h"
 #include "support/QmlText.h"
 #include "support/TestProgram.h"
 
@@ -11,23 +12,13 @@
 #include <QtGui/QPointingDevice>
 #include <QtQml/QQmlContext>
 
-#include <malloc.h>
-
 #include <memory>
-
-// Present when the address sanitizer is, whose allocator the C library knows nothing of.
-extern "C" size_t __sanitizer_get_current_allocated_bytes() __attribute__((weak));
 
 using namespace tamble::client;
 
 namespace {
 
 constexpr const char *Uri = "TambleClient.Control";
-
-size_t allocatedBytes()
-{
-    return __sanitizer_get_current_allocated_bytes ? __sanitizer_get_current_allocated_bytes() : mallinfo2().uordblks;
-}
 
 void useOneEngine()
 {

@@ -20,8 +20,15 @@ private Q_SLOTS:
     {
         const Rows<QString, int, QString, QString> row;
         row("field", "RTextField { label: 'Name'; value: 'Hall' }", QAccessible::EditableText, "Name", "");
-        row("named by its hint", "RTextField { placeholderText: 'Search' }", QAccessible::EditableText, "Search",
-            "Search");
+        row("named by its hint", "RTextField { placeholderText: 'Search' }", QAccessible::EditableText, "Search", "");
+        row("described by its hint", "RTextField { label: 'Name'; placeholderText: 'Hall' }", QAccessible::EditableText,
+            "Name", "Hall");
+        row("described by the page",
+            "RTextField { label: 'Name'; placeholderText: 'Hall'; Accessible.description: 'As on the door' }",
+            QAccessible::EditableText, "Name", "As on the door");
+        row("described before the hint",
+            "RTextField { Accessible.description: 'As on the door'; label: 'Name'; placeholderText: 'Hall' }",
+            QAccessible::EditableText, "Name", "As on the door");
         row("mixed", "RTextField { label: 'Name'; value: 'Hall'; consistent: false; confirmed: false }",
             QAccessible::EditableText, "Name", "mixed, not confirmed");
         row("invalid", "RTextField { label: 'Name'; errorText: 'in use' }", QAccessible::EditableText, "Name",
@@ -68,6 +75,7 @@ private Q_SLOTS:
         value->setCurrentValue(7);
         QCOMPARE(box->property("value").toDouble(), 7.0);
         value->setCurrentValue(21);
+        value->setCurrentValue(QStringLiteral("loud"));
         QCOMPARE(box->property("value").toDouble(), 7.0);
         QCOMPARE(edited.count(), 1);
     }

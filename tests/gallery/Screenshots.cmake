@@ -11,7 +11,7 @@ if(NOT result EQUAL 0 OR NOT messages STREQUAL "")
 endif()
 
 set(themes light dark contrast-light contrast-dark)
-file(GLOB pages ${PAGES}/*.qml)
+file(GLOB pages ${PAGES}/pages/*.qml ${PAGES}/festival/pages/*.qml)
 list(LENGTH pages page_count)
 list(LENGTH themes theme_count)
 math(EXPR expected "${page_count} * ${theme_count}")

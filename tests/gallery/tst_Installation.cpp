@@ -1,10 +1,11 @@
-#include "AmplifierDevices.h"
 #include "Disturbances.h"
 #include "EventQueue.h"
 #include "FieldRules.h"
 #include "InstallationClient.h"
+#include "InstalledDevices.h"
 #include "NetworkSources.h"
 #include "SimulatedNetwork.h"
+#include "support/Rows.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QSet>
@@ -29,7 +30,7 @@ struct Installation
     }
 
     EventQueue queue;
-    AmplifierDevices devices;
+    InstalledDevices devices;
     SimulatedNetwork network;
     Disturbances disturbances;
     InstallationClient client;
@@ -86,34 +87,42 @@ private Q_SLOTS:
 
     void devicesBeginConsistent()
     {
-        const AmplifierDevices devices;
-        QCOMPARE(devices.count(), 24);
+        const InstalledDevices devices;
+        QCOMPARE(devices.count(), 27);
         QSet<QString> addresses;
         for (int device = 0; device < devices.count(); ++device) {
-            const AmplifierRecord &record = devices.record(device);
+            const DeviceRecord &record = devices.record(device);
             addresses.insert(record.read(addressField).toString());
-            QCOMPARE(record.read(delayMsField).toDouble() * 48.0, record.read(delaySamplesField).toDouble());
-            for (int field = 0; field < int(amplifierFields().size()); ++field) {
-                const FieldSpec &spec = amplifierFields().at(field);
+            const QList<FieldSpec> &fields = deviceFields(record.kind());
+            for (int field = 0; field < int(fields.size()); ++field) {
+                const FieldSpec &spec = fields.at(field);
+                if (spec.storedAs >= 0)
+                    QCOMPARE(record.read(field).toDouble() * 48.0, record.read(spec.storedAs).toDouble());
                 QCOMPARE(record.read(field).metaType(), emptyValue(spec).metaType());
                 if (isEditable(spec) && spec.storedAs < 0)
                     QVERIFY2(judgedValue(spec, record.read(field), false).reason.isEmpty(), qPrintable(spec.name));
             }
         }
-        QCOMPARE(addresses.size(), 24);
+        QCOMPARE(addresses.size(), 27);
         QCOMPARE(networkSources().size(), 200);
     }
 
     void judging_data()
     {
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QVariant>("kept");    // invalid when refused
-        QTest::addColumn<QVariant>("clamped"); // by device 0
-        const auto row = [](const char *rule, const char *field, const QVariant &value, const QVariant &kept,
-                            const QVariant &clamped) {
-            QTest::newRow(rule) << QString::fromLatin1(field) << value << kept << clamped;
-        };
+        // kept: invalid when refused; clamped: by device 0
+        const auto row =
+            rowsOf([](const char *field, const QVariant &value, const QVariant &kept, const QVariant &clamped) {
+                const int index = fieldIndex(QString::fromLatin1(field));
+                for (const bool clamps : {false, true}) {
+                    const QVariant &expected = clamps ? clamped : kept;
+                    InstalledDevices devices;
+                    devices.setClamping(clamps);
+                    const DeviceRecord before = devices.record(0);
+                    const DeviceAnswer answer = devices.ask(0, index, value);
+                    QCOMPARE(answer.reason.isEmpty(), expected.isValid());
+                    QCOMPARE(devices.record(0).read(index), expected.isValid() ? expected : before.read(index));
+                }
+            });
         const QVariant refused;
         row("name", "name", "Hall", "Hall", "Hall");
         row("empty name", "name", "", refused, refused);
@@ -142,27 +151,11 @@ private Q_SLOTS:
         row("no source", "input1Source", "main", refused, refused);
         row("reading", "temperature", 20.0, refused, refused);
     }
-    void judging()
-    {
-        QFETCH(const QString, field);
-        QFETCH(const QVariant, value);
-        QFETCH(const QVariant, kept);
-        QFETCH(const QVariant, clamped);
-        const int index = fieldIndex(field);
-        for (const bool clamps : {false, true}) {
-            const QVariant &expected = clamps ? clamped : kept;
-            AmplifierDevices devices;
-            devices.setClamping(clamps);
-            const AmplifierRecord before = devices.record(0);
-            const DeviceAnswer answer = devices.ask(0, index, value);
-            QCOMPARE(answer.reason.isEmpty(), expected.isValid());
-            QCOMPARE(devices.record(0).read(index), expected.isValid() ? expected : before.read(index));
-        }
-    }
+    void judging() { checkRow(); }
 
     void addressesAreUnique()
     {
-        AmplifierDevices devices;
+        InstalledDevices devices;
         const QVariant taken = devices.record(1).read(addressField);
         QCOMPARE(devices.ask(0, addressField, taken).reason, QStringLiteral("The address is in use"));
         QVERIFY(devices.ask(1, addressField, taken).reason.isEmpty());
@@ -257,7 +250,7 @@ private Q_SLOTS:
         installation.queue.advance(1000);
         QVERIFY(installation.client.isOnline(5));
         QCOMPARE(presence.size(), 2);
-        QCOMPARE(installation.devices.record(5), AmplifierDevices().record(5));
+        QCOMPARE(installation.devices.record(5), InstalledDevices().record(5));
     }
 
     void editElsewhereArrives()
@@ -277,9 +270,10 @@ private Q_SLOTS:
         Installation installation(worst());
         RandomSource user(3);
         for (int i = 0; i < 600; ++i) {
-            const int field = user.below(int(amplifierFields().size()));
-            const QVariant value = sampleValue(amplifierFields().at(field), user);
-            installation.client.request(user.below(24), field, value);
+            const int device = user.below(installation.devices.count());
+            const QList<FieldSpec> &fields = deviceFields(installation.devices.kind(device));
+            const int field = user.below(int(fields.size()));
+            installation.client.request(device, field, sampleValue(fields.at(field), user));
             installation.queue.advance(100);
         }
         installation.network.setBehaviour({});
@@ -287,9 +281,9 @@ private Q_SLOTS:
         installation.queue.advance(60'000);
         QVERIFY(installation.queue.isEmpty());
         int failures = 0;
-        for (int device = 0; device < 24; ++device) {
+        for (int device = 0; device < installation.devices.count(); ++device) {
             QVERIFY(installation.client.isOnline(device));
-            for (int field = 0; field < int(amplifierFields().size()); ++field) {
+            for (int field = 0; field < int(deviceFields(installation.devices.kind(device)).size()); ++field) {
                 QVERIFY(installation.client.isConfirmed(device, field));
                 QCOMPARE(installation.client.said(device, field), installation.devices.record(device).read(field));
                 failures += installation.client.error(device, field).isEmpty() ? 0 : 1;

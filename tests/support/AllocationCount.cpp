@@ -1,6 +1,16 @@
 #include "support/AllocationCount.h"
 
+#include <malloc.h>
+
 #include <utility>
+
+// Present when the address sanitizer is, whose allocator the C library knows nothing of.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes() __attribute__((weak));
+
+std::size_t allocatedBytes()
+{
+    return __sanitizer_get_current_allocated_bytes ? __sanitizer_get_current_allocated_bytes() : mallinfo2().uordblks;
+}
 
 #if !defined(__SANITIZE_ADDRESS__)
 

@@ -7,3 +7,6 @@ std::size_t takeAllocationCount();
 
 /// False under the sanitizers, which bring an allocator of their own.
 bool countsAllocations();
+
+/// Bytes on the heap that are in use.
+std::size_t allocatedBytes();

@@ -271,6 +271,18 @@ ThemedTestCase {
         verify(cell.activeFocus)
     }
 
+    function test_contextMenu() {
+        const page = makeTable("")
+        const cell = cellAt(page.table, 1, 0)
+        const log = logged(cell, { contextMenuRequested: "menu" })
+        mouseClick(cell, 10, 12, Qt.RightButton)
+        compare([log, cell.editing, placeOf(page.table)], [["menu QPointF(10, 12)"], false, [1, 0]], "not the field's")
+        cell.edit()
+        mouseClick(cell, 10, 12, Qt.RightButton)
+        compare(log.length, 1)
+        keyClick(Qt.Key_Escape)
+    }
+
     function test_selection() {
         const page = makeTable("selectionMode: RCellContainer.Rectangle")
         const table = page.table

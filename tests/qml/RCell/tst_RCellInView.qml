@@ -68,6 +68,22 @@ ThemedTestCase {
         verify(page.after.activeFocus)
         keyClick(Qt.Key_Backtab)
         verify(cellAt(page.view, 3).activeFocus)
+        keyClick(Qt.Key_Backtab)
+        verify(page.before.activeFocus)
+    }
+
+    function test_oneStopWithoutACurrentCell() {
+        const page = makeView()
+        page.before.forceActiveFocus()
+        keyClick(Qt.Key_Tab)
+        compare([currentRow(page.view), cellAt(page.view, 0).activeFocus], [0, true])
+        keyClick(Qt.Key_Tab)
+        verify(page.after.activeFocus)
+        page.view.model.clear()
+        keyClick(Qt.Key_Backtab)
+        verify(page.view.activeFocus)
+        keyClick(Qt.Key_Backtab)
+        verify(page.before.activeFocus)
     }
 
     function test_scrolledAway() {

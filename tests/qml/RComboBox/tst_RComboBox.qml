@@ -174,11 +174,15 @@ ThemedTestCase {
         compare([shown(box), log], ["White", ["edited White", "activated 1"]])
         wait(40)
         compare(shown(box), "White")
-        const silent = make("QtObject { property var said }")
-        const waiting = make("RComboBox { property QtObject device: QtObject { property var said }\n model: ['Pink', 'White']; value: device.said }")
+        const waiting = make("RComboBox { property QtObject device: QtObject { property var said }\n model: ['Pink', 'White']; value: device.said; settleTime: 20 }")
         compare([waiting.currentIndex, shown(waiting)], [-1, ""], "a device that has not said anything")
+        waiting.choose(0)
+        wait(40)
         waiting.device.said = "White"
         compare(shown(waiting), "White")
+        waiting.choose(0)
+        compare([waiting.value, shown(waiting)], ["Pink", "Pink"], "now the value is what a choice edits")
+        tryVerify(() => shown(waiting) === "White", undefined, "the page's binding lives on")
     }
 
     function test_mixed() {

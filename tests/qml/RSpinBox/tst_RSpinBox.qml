@@ -135,6 +135,19 @@ ThemedTestCase {
         compare(page.device, 13)
     }
 
+    function test_stepsThatArePossible() {
+        const box = make("RSpinBox { enabled: false; property bool canStep: steps.canStepUp }")
+        box.enabled = true
+        compare(box.canStep, true)
+        box.readOnly = true
+        compare(box.canStep, false)
+        box.readOnly = false
+        box.value = 100
+        compare(box.canStep, false)
+        box.consistent = false
+        compare(box.canStep, true, "the page moves each device")
+    }
+
     function test_heldButton() {
         const page = makePage("")
         const log = logOf(page)
@@ -215,8 +228,22 @@ ThemedTestCase {
         type("7,25")
         keyClick(Qt.Key_Enter)
         compare([page.device, page.field.text], [7.25, "7.25"])
-        page.field.stepSize = 1
+        page.field.stepSize = -1
         keyClick(Qt.Key_Up)
-        compare(page.device, 8.25)
+        compare(page.device, 8.25, "the sign does not count")
+    }
+
+    function test_numberFieldWithoutAValue() {
+        const field = make("RNumberTextField { stepSize: 1; settleTime: 20 }")
+        field.forceActiveFocus()
+        const log = logged(field, { valueEdited: "edited" })
+        type("7,25")
+        keyClick(Qt.Key_Return)
+        compare([field.text, log], ["7.25", ["edited 7.25"]])
+        keyClick(Qt.Key_Up)
+        compare([field.text, log[1]], ["8.25", "edited 8.25"])
+        field.clear()
+        keyClick(Qt.Key_Return)
+        compare([field.text, field.acceptable], ["", true])
     }
 }

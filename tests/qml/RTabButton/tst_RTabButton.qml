@@ -33,10 +33,17 @@ ThemedTestCase {
         verify(!tab.background.lineVisible, "what devices do not agree on is not shown as chosen")
     }
 
+    function test_pagesColors() {
+        const tab = make("RTabButton { ssBorderVisible: true; ssBorderColor: 'red'; ssLineAtTop: false; selected: true }")
+        compare([tab.background.border.width, tab.background.border.color], [1, Qt.color("red")])
+        compare(tab.background.lineEdge, Qt.BottomEdge)
+    }
+
     function test_clicks() {
         for (const kind of root.kinds) {
             const tab = make(kind + "; closable: true; selectable: true }")
             const log = logged(tab, { selectionEdited: "edited", clicked: "clicked", closeRequested: "close" })
+            tryVerify(() => tab.endSpace > 32)
             mouseClick(tab, 5, 5)
             mouseClick(tab, tab.width - 16, 16)
             tab.forceActiveFocus()
@@ -89,10 +96,11 @@ ThemedTestCase {
 
     function test_marksLeaveRoomForTheText() {
         for (const kind of root.kinds) {
-            const tab = make(kind + "; width: 100; closable: true; modified: true; badge: '12345678901234567890' }")
+            const tab = make(kind + "; width: 140; closable: true; modified: true; badge: '12345678901234567890' }")
+            tryVerify(() => tab.endSpace > 60)
             const badge = tab.contentItem.width
             tab.badge = ""
-            tryVerify(() => badge > 0 && tab.contentItem.width > badge && tab.contentItem.width <= 100 - 32)
+            tryVerify(() => badge > 0 && tab.contentItem.width > badge && tab.contentItem.width <= 140 - 32)
         }
     }
 }

@@ -115,8 +115,25 @@ ThemedTestCase {
         type("Ba")
         page.device = "Foyer"
         compare([page.field.text, log], ["Ba", ["waits"]])
+        compare(page.field.edit.bubbleText, "Changed meanwhile to Foyer")
+        page.field.echoMode = TextInput.Password
+        page.device = "Dome"
+        compare(page.field.edit.bubbleText, "Changed meanwhile")
+        page.field.echoMode = TextInput.Normal
+        page.device = "Foyer"
         keyClick(Qt.Key_Escape)
         compare(page.field.text, "Foyer")
+    }
+
+    function test_typedStaysWhenWhatWaitsEqualsItForAWhile() {
+        const page = makePage("")
+        type("Roo")
+        page.device = "Roof"
+        type("f")
+        page.device = "Foyer"
+        compare([page.field.text, page.field.edited], ["Roof", true])
+        keyClick(Qt.Key_Return)
+        compare(page.device, "Roof")
     }
 
     function test_mixed() {
@@ -180,6 +197,22 @@ ThemedTestCase {
         compare([page.field.text, log], ["Hall", []])
     }
 
+    function test_lockedWhileTyping_data() {
+        return [
+            { tag: "read only", lock: field => field.readOnly = true },
+            { tag: "disabled", lock: field => field.enabled = false },
+        ]
+    }
+    function test_lockedWhileTyping(data) {
+        const page = makePage("")
+        type("Bar")
+        data.lock(page.field)
+        keyClick(Qt.Key_Return)
+        compare(page.field.edit.bubbleText, page.field.enabled ? "This cannot be edited" : "")
+        page.other.forceActiveFocus()
+        compare([page.device, page.field.text], ["Hall", "Hall"], "what cannot be edited is not entered")
+    }
+
     function test_bubble_data() {
         return [
             { tag: "key kept out", body: "validator: RTextFieldIntValidator { bottom: 0; top: 9 }", typed: "x", bubble: "Enter a whole number from 0 to 9" },
@@ -217,6 +250,13 @@ ThemedTestCase {
         compare([page.field.text, page.field.edited, page.device], ["", true, "Hall"], "waits for Enter")
     }
 
+    function test_mirrored() {
+        const field = make("RTextField { iconKey: 'search'; clearable: true; confirmed: false; LayoutMirroring.enabled: true }")
+        const clear = findChild(field, "clear").parent
+        compare([field.leftPadding, field.rightPadding], [56, 32])
+        compare([clear.x, clear.x + clear.width <= field.leftPadding], [16, true], "beside the text")
+    }
+
     function test_paste_data() {
         return [
             { tag: "line breaks", copied: "a\nb", text: "a ball" },
@@ -239,6 +279,13 @@ ThemedTestCase {
             { tag: "right button", open: field => mouseClick(field, 10, 10, Qt.RightButton) },
             { tag: "Menu key", open: () => keyClick(Qt.Key_Menu) },
             { tag: "Shift+F10", open: () => keyClick(Qt.Key_F10, Qt.ShiftModifier) },
+            { tag: "resting finger", open: field => {
+                const finger = touchEvent(field)
+                finger.press(0, field, 10, 10).commit()
+                tryVerify(() => !field.activeFocus)
+                finger.release(0, field, 10, 10).commit()
+                wait(0)
+            } },
         ]
     }
     function test_contextMenu(data) {

@@ -1,4 +1,4 @@
-#include "AmplifierField.h"
+#include "DeviceField.h"
 #include "FieldTable.h"
 #include "GalleryInstallation.h"
 #include "support/TestProgram.h"
@@ -17,20 +17,20 @@ struct FieldPage
         orderly.jitter = 0;
         installation.setBehaviour(orderly);
         selection.setDevices(devices);
-        field.setAmplifier(&selection);
+        field.setTarget(&selection);
         field.setField(name);
         selection.componentComplete();
         field.componentComplete();
     }
 
     GalleryInstallation installation;
-    Amplifier selection;
-    AmplifierField field;
+    DeviceSelection selection;
+    DeviceField field;
 };
 
 } // namespace
 
-class tst_AmplifierField : public QuietTest
+class tst_DeviceField : public QuietTest
 {
     Q_OBJECT
 
@@ -39,8 +39,8 @@ private Q_SLOTS:
     {
         FieldPage page({4});
         QCOMPARE(page.field.value(), QVariant("Amplifier 5"));
-        const QSignalSpy errors(&page.field, &AmplifierField::errorTextChanged);
-        const QSignalSpy shown(&page.field, &AmplifierField::shownChanged);
+        const QSignalSpy errors(&page.field, &DeviceField::errorTextChanged);
+        const QSignalSpy shown(&page.field, &DeviceField::shownChanged);
         page.field.request(QStringLiteral("Hall"));
         QCOMPARE(page.field.value(), QVariant("Amplifier 5"));
         QCOMPARE(page.field.shown(), QVariant("Hall"));
@@ -78,7 +78,7 @@ private Q_SLOTS:
         FieldPage page({0, 6, 7}, QStringLiteral("input4Gain"));
         page.selection.request(QStringLiteral("input4Gain"), 1.0);
         page.installation.advance(100);
-        page.installation.request(6, fieldIndex(u"input4Gain"), 17.5);
+        page.installation.request({{{6, fieldIndex(u"input4Gain")}, 17.5}});
         page.installation.advance(100);
         page.field.shift(1.5);
         page.installation.advance(100);
@@ -89,7 +89,7 @@ private Q_SLOTS:
     void oddSelections()
     {
         FieldPage page({-1, 99, 7, 7, "x", 1e9});
-        QCOMPARE(page.selection.known(), QList<int>{7});
+        QCOMPARE(page.selection.places(QStringLiteral("name")), (QList<FieldPlace>{{7, 0}}));
         page.selection.setDevices({});
         QVERIFY(!page.selection.isOnline());
         QVERIFY(!page.field.shown().isValid());
@@ -101,17 +101,17 @@ private Q_SLOTS:
         QVERIFY(!page.field.value().isValid());
         page.installation.editElsewhere(-1, QStringLiteral("name"));
         page.installation.editElsewhere(1, QStringLiteral("no such field"));
-        page.installation.dropOut(24, 10);
-        auto selection = std::make_unique<Amplifier>();
-        page.field.setAmplifier(selection.get());
+        page.installation.dropOut(27, 10);
+        auto selection = std::make_unique<DeviceSelection>();
+        page.field.setTarget(selection.get());
         selection.reset();
-        QVERIFY(!page.field.amplifier());
+        QVERIFY(!page.field.target());
     }
 
     void selectionChangesInAHandler()
     {
         FieldPage page({0, 1, 2});
-        connect(&page.field, &AmplifierField::confirmedChanged, &page.field, [&] { page.selection.setDevices({9}); });
+        connect(&page.field, &DeviceField::confirmedChanged, &page.field, [&] { page.selection.setDevices({9}); });
         page.field.request(QStringLiteral("Hall"));
         page.installation.advance(100);
         for (const int device : {0, 1, 2})
@@ -136,7 +136,7 @@ private Q_SLOTS:
     void listOfAmplifiers()
     {
         FieldPage page({3});
-        AmplifierListModel &model = *page.installation.amplifiers();
+        DeviceListModel &model = *page.installation.amplifiers();
         const QAbstractItemModelTester tester(&model);
         const int nameRole = model.roleNames().key("name");
         const QModelIndex row = model.index(3);
@@ -171,11 +171,11 @@ private Q_SLOTS:
         NetworkBehaviour behaviour;
         behaviour.timeout = 100;
         installation.setBehaviour(behaviour);
-        installation.request(0, fieldIndex(u"name"), QStringLiteral("Hall"));
+        installation.request({{{0, fieldIndex(u"name")}, QStringLiteral("Hall")}});
         QTRY_VERIFY(installation.client().isConfirmed(0, fieldIndex(u"name")));
         QCOMPARE(installation.client().said(0, fieldIndex(u"name")), QVariant("Hall"));
     }
 };
 
-template struct TestClass<tst_AmplifierField>;
-#include "tst_AmplifierField.moc"
+template struct TestClass<tst_DeviceField>;
+#include "tst_DeviceField.moc"

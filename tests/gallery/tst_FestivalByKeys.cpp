@@ -1,0 +1,165 @@
+#include "GalleryAudio.h"
+#include "GalleryInstallation.h"
+#include "PageList.h"
+#include "support/TestProgram.h"
+
+#include <QtQml/QQmlApplicationEngine>
+#include <QtQml/QQmlContext>
+#include <QtQml/QQmlExpression>
+#include <QtQuick/QQuickItem>
+#include <QtQuick/QQuickWindow>
+#include <QtQuickControls2/QQuickStyle>
+
+#include <algorithm>
+
+namespace {
+
+constexpr QSize windowSize(1280, 800);
+
+/// The window of the sample client, with a sample installation whose clock stands.
+struct Client
+{
+    Client(int zoom, bool mirrored)
+    {
+        QQuickStyle::setStyle(QStringLiteral("Basic"));
+        audio.setStepped(true);
+        installation.setStepped(true);
+        engine.addImportPath(QStringLiteral(TAMBLE_QML_DIRECTORY));
+        engine.addImportPath(QStringLiteral("qrc:/"));
+        engine.setInitialProperties({{QStringLiteral("festivalPages"), pages.festival()},
+                                     {QStringLiteral("cataloguePages"), pages.catalogue()},
+                                     {QStringLiteral("startZoom"), zoom},
+                                     {QStringLiteral("still"), true}});
+        engine.load(QUrl(QStringLiteral("qrc:/Gallery/GalleryWindow.qml")));
+        window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+        if (!window)
+            return;
+        window->resize(windowSize);
+        QQmlExpression(qmlContext(window), window->contentItem(),
+                       QStringLiteral("LayoutMirroring.enabled = %1; LayoutMirroring.childrenInherit = true")
+                           .arg(mirrored ? u"true" : u"false"))
+            .evaluate();
+    }
+
+    bool isReady() const
+    {
+        return window && QTest::qWaitForWindowActive(window) && QTest::qWaitFor([this] {
+                   return window->property("ready").toBool() && window->contentItem()->size() == QSizeF(windowSize);
+               });
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QTest::keyClick(window, key, modifiers);
+        // Some scroll with the next frame.
+        QSignalSpy frame(window, &QQuickWindow::frameSwapped);
+        window->update();
+        frame.wait(1000);
+    }
+    QQuickItem *focused() const { return window->activeFocusItem(); }
+    int page() const { return window->property("currentPage").toInt(); }
+
+    GalleryAudio audio{nullptr};
+    GalleryInstallation installation{1, nullptr};
+    PageList pages{QStringLiteral(":/Gallery")};
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = nullptr;
+};
+
+QString nameOf(const QQuickItem &item)
+{
+    const QString text = item.property("label").toString() + item.property("text").toString();
+    return QStringLiteral("%1 \"%2\"").arg(QString::fromLatin1(item.metaObject()->className()), text);
+}
+
+/// What is wrong with the place of the focus: all of the item is to be seen, or of a large one a good part.
+QString faultOf(const Client &client)
+{
+    const QQuickItem *item = client.focused();
+    if (!item || item == client.window->contentItem())
+        return QStringLiteral("nothing has the focus");
+    if (!item->isVisible() || !item->isEnabled())
+        return QStringLiteral("%1 has it, hidden").arg(nameOf(*item));
+    const QRectF place = item->mapRectToScene(item->boundingRect());
+    QRectF seen = place & QRectF(QPointF(), client.window->size());
+    QSizeF room = client.window->size();
+    for (const QQuickItem *around = item->parentItem(); around; around = around->parentItem()) {
+        if (around->clip()) {
+            seen &= around->mapRectToScene(around->boundingRect());
+            room = room.boundedTo(around->size());
+        }
+    }
+    const QSizeF wanted = place.size().boundedTo(room * 0.5);
+    if (seen.width() >= wanted.width() - 0.5 && seen.height() >= wanted.height() - 0.5)
+        return {};
+    return QStringLiteral("%1 at %2 is seen at %3").arg(nameOf(*item), QDebug::toString(place), QDebug::toString(seen));
+}
+
+} // namespace
+
+/// Whoever has no pointer reaches all of the sample client, and sees where the focus is.
+class tst_FestivalByKeys : public QuietTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void focusIsAlwaysSeen_data()
+    {
+        QTest::addColumn<int>("zoom");
+        QTest::addColumn<bool>("mirrored");
+        QTest::newRow("100 %") << 100 << false;
+        QTest::newRow("300 %") << 300 << false;
+        QTest::newRow("100 %, right to left") << 100 << true;
+        QTest::newRow("300 %, right to left") << 300 << true;
+    }
+    void focusIsAlwaysSeen()
+    {
+        QFETCH(const int, zoom);
+        QFETCH(const bool, mirrored);
+        const Client client(zoom, mirrored);
+        QVERIFY(client.isReady());
+        QStringList faults;
+        for (int page = 0; page <= client.pages.festival().size(); ++page) {
+            QCOMPARE(client.page(), page);
+            QList<const QQuickItem *> met;
+            if (const QString fault = faultOf(client); !fault.isEmpty())
+                faults.append(QStringLiteral("page %1 at the start: %2").arg(page).arg(fault));
+            while (!met.contains(client.focused()) && met.size() < 300) {
+                met.append(client.focused());
+                client.press(Qt::Key_Tab);
+                if (const QString fault = faultOf(client); !fault.isEmpty())
+                    faults.append(QStringLiteral("page %1, stop %2: %3").arg(page).arg(met.size()).arg(fault));
+            }
+            QVERIFY2(met.size() > 1, "the focus is caught");
+            client.press(Qt::Key_PageDown, Qt::ControlModifier);
+            QTRY_VERIFY(client.window->property("ready").toBool());
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+    // It is one stop of the Tab key, and arrows lead through it.
+    void barIsReached_data() { focusIsAlwaysSeen_data(); }
+    void barIsReached()
+    {
+        QFETCH(const int, zoom);
+        QFETCH(const bool, mirrored);
+        const Client client(zoom, mirrored);
+        QVERIFY(client.isReady());
+        const auto isInBar = [&] { return client.focused() && nameOf(*client.focused()).startsWith(u"RAppBar"); };
+        for (int i = 0; i < 100 && !isInBar(); ++i)
+            client.press(Qt::Key_Tab);
+        client.press(Qt::Key_Home);
+        QStringList met;
+        QString before;
+        while (before != nameOf(*client.focused())) {
+            before = nameOf(*client.focused());
+            met.append(client.focused()->property("text").toString());
+            QVERIFY2(faultOf(client).isEmpty(), qPrintable(faultOf(client)));
+            client.press(mirrored ? Qt::Key_Left : Qt::Key_Right);
+        }
+        QCOMPARE(met.size(), client.pages.festival().size() + 3);
+        QCOMPARE(met.mid(met.size() - 2), QStringList({QStringLiteral("ALARM"), QStringLiteral("MUTE ALL")}));
+    }
+};
+
+template struct TestClass<tst_FestivalByKeys>;
+#include "tst_FestivalByKeys.moc"

@@ -1,0 +1,5 @@
+import QtQuick
+
+Item {
+    readonly property string where: "a file"
+}
