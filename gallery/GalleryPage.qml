@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
+import Gallery
 import TambleClient.Control 1.0
 
 /*! Base of every page: a scrolling column of sections below the description. */
@@ -16,11 +17,17 @@ Flickable {
     contentHeight: column.height + theme.dp(40)
     boundsBehavior: Flickable.StopAtBounds
     clip: true
-    activeFocusOnTab: root.contentHeight > root.height
+    // Not taken away while it has the focus, which Qt refuses.
+    activeFocusOnTab: root.contentHeight > root.height || root.activeFocus
     Accessible.role: Accessible.Pane
     Accessible.name: root.description
 
     T.ScrollBar.vertical: ScrollHandle {}
+
+    FocusScroller {
+        view: root
+        margin: theme.dp(8)
+    }
 
     Keys.onUpPressed: root.contentY = Math.max(0, root.contentY - theme.dp(40))
     Keys.onDownPressed: root.contentY = Math.max(0, Math.min(root.contentHeight - root.height, root.contentY + theme.dp(40)))

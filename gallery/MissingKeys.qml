@@ -7,12 +7,7 @@ RButton {
     id: root
 
     /*! Each report once. */
-    property var reports: []
-
-    function add(report: string) {
-        if (!root.reports.includes(report))
-            root.reports = [...root.reports, report]
-    }
+    required property var reports
 
     RStyleSet.name: root.reports.length > 0 ? "red" : ""
     width: theme.dp(128)

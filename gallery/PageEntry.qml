@@ -26,10 +26,7 @@ T.ItemDelegate {
     text: root.modelData.title
     Accessible.name: root.text
     Accessible.selected: root.current
-    onClicked: {
-        root.ListView.view.currentIndex = root.index
-        root.ListView.view.forceActiveFocus(Qt.MouseFocusReason)
-    }
+    onClicked: root.ListView.view.forceActiveFocus(Qt.MouseFocusReason)
 
     contentItem: RText {
         leftPadding: theme.dp(24)

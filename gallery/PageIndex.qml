@@ -2,18 +2,14 @@ import QtQuick
 import TambleClient.Control 1.0
 
 /*! The list of pages along the left edge of the window. */
-Item {
+FocusScope {
     id: root
 
     required property var pages
-    property alias currentIndex: list.currentIndex
+    property int currentIndex: 0
 
     /*! A page was chosen, or the chosen one clicked again. */
-    signal chosen()
-
-    function show(index: int) {
-        list.currentIndex = (index + list.count) % list.count
-    }
+    signal chosen(int index)
 
     width: theme.dp(208)
 
@@ -28,21 +24,22 @@ Item {
         clip: true
         focus: true
         activeFocusOnTab: true
-        keyNavigationWraps: true
         highlightMoveDuration: 0
+        currentIndex: root.currentIndex
         model: root.pages
         // qmllint disable unqualified
         delegate: PageEntry {
-            onClicked: root.chosen()
+            onClicked: root.chosen(index)
         }
         // qmllint enable unqualified
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Pages")
+        Keys.onUpPressed: root.chosen((list.currentIndex + list.count - 1) % list.count)
+        Keys.onDownPressed: root.chosen((list.currentIndex + 1) % list.count)
         Keys.onPressed: event => {
-            if (event.key !== Qt.Key_Home && event.key !== Qt.Key_End)
-                return
-            root.show(event.key === Qt.Key_Home ? 0 : -1)
-            event.accepted = true
+            event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End
+            if (event.accepted)
+                root.chosen(event.key === Qt.Key_Home ? 0 : list.count - 1)
         }
     }
     Divider {

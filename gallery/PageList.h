@@ -4,19 +4,23 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVariantList>
 
-/// The pages that the application holds: every QML file in its folder of pages, in alphabetical order. A file
-/// "ImageProvider.qml" is the page "image-provider" with the title "Image provider".
+/// The pages that the application holds: those of the sample client in the order of its bar, then the catalogue, which
+/// is every QML file in its folder in alphabetical order. A file "ImageProvider.qml" is the page "image-provider" with
+/// the title "Image provider".
 class PageList
 {
 public:
-    /// Lists the pages below `folder`, a path into the resources.
+    /// `folder` is a path into the resources with the folders "festival/pages" and "pages".
     explicit PageList(const QString &folder);
 
     QStringList names() const;
     /// Position of the page `name`, or -1.
     qsizetype indexOf(const QString &name) const;
-    /// For the page list on screen: maps with name, title and source (a URL).
-    QVariantList toVariantList() const;
+    /// The sample client's pages, as maps with key (the name), title, source (a URL), icon (a key) and
+    /// keepAlive (true).
+    QVariantList festival() const;
+    /// Likewise of the catalogue, without icons.
+    QVariantList catalogue() const;
 
 private:
     struct Page
@@ -24,6 +28,11 @@ private:
         QString name;
         QString title;
         QString source;
+        QString icon;
     };
-    QList<Page> m_pages;
+
+    static QVariantList toVariantList(const QList<Page> &pages);
+
+    QList<Page> m_festival;
+    QList<Page> m_catalogue;
 };

@@ -37,6 +37,8 @@ void waitForFrame(QQuickWindow &window)
 QString writeScreenshot(QQuickWindow &window, int shortest, const QString &file)
 {
     settle();
+    while (!window.property("ready").toBool())
+        waitForFrame(window);
     const int height = qMax(shortest, qCeil(window.property("wholePageHeight").toReal()));
     if (window.height() != height) {
         window.setHeight(height);

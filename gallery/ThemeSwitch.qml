@@ -1,31 +1,28 @@
 import QtQuick
+import Gallery
 import TambleClient.Control 1.0
 
 /*! Chooses one of the built-in themes. */
-RButtonRow {
+Flow {
     id: root
 
-    readonly property list<string> words: ["light", "dark", "contrast-light", "contrast-dark"]
-    readonly property int currentIndex: root.words.indexOf(theme.stylesheet)
-    readonly property string next: root.words[(root.currentIndex + 1) % root.words.length]
+    readonly property var titles: ({ light: qsTr("Light"), dark: qsTr("Dark"), "contrast-light": qsTr("Contrast light"), "contrast-dark": qsTr("Contrast dark") })
 
-    signal chosen(string word)
-
+    spacing: theme.dp(1)
     Accessible.role: Accessible.Grouping
     Accessible.name: qsTr("Theme")
 
     // qmllint disable unqualified
     Repeater {
-        model: root.words
+        model: Festival.themes
 
         RButton {
-            required property int index
             required property string modelData
 
-            width: theme.dp(96)
-            text: modelData
-            selected: root.currentIndex === index
-            onClicked: root.chosen(modelData)
+            width: theme.dp(112)
+            text: root.titles[modelData]
+            selected: theme.stylesheet === modelData
+            onClicked: Festival.themeChosen(modelData)
         }
     }
     // qmllint enable unqualified

@@ -1,3 +1,4 @@
+#include "FirstFrame.h"
 #include "GalleryAudio.h"
 #include "GalleryInstallation.h"
 #include "GalleryOptions.h"
@@ -18,6 +19,18 @@ int fail(const QString &message, int exitCode)
 {
     QTextStream(stderr) << "tamble-gallery: " << message << Qt::endl;
     return exitCode;
+}
+
+/// The sample installation as it is met: at work, with an amplifier that somebody has unplugged.
+void begin(GalleryInstallation &installation)
+{
+    NetworkBehaviour behaviour = installation.behaviour();
+    behaviour.readingsPerMinute = 12.0;
+    installation.setBehaviour(behaviour);
+    constexpr int unplugged = 22;
+    constexpr int tenMinutes = 600'000;
+    installation.dropOut(unplugged, tenMinutes);
+    installation.advance(behaviour.latency);
 }
 
 GalleryOptions optionsFrom(int argc, char **argv)
@@ -42,7 +55,7 @@ int main(int argc, char **argv)
     if (!options.scale.isEmpty())
         qputenv("QT_SCALE_FACTOR", options.scale.toLatin1());
 
-    const PageList pages(QStringLiteral(":/Gallery/pages"));
+    const PageList pages(QStringLiteral(":/Gallery"));
     const int firstPage = options.page.isEmpty() ? 0 : int(pages.indexOf(options.page));
     if (firstPage < 0) {
         return fail(QStringLiteral("there is no page \"%1\"; the pages are: %2")
@@ -57,6 +70,7 @@ int main(int argc, char **argv)
     audio.setStepped(!options.screenshotDir.isEmpty());
     GalleryInstallation installation(1, nullptr);
     installation.setStepped(!options.screenshotDir.isEmpty());
+    begin(installation);
     if (!options.audioFile.isEmpty() && !audio.open(options.audioFile))
         return fail(audio.errorText(), EXIT_FAILURE);
 
@@ -65,16 +79,23 @@ int main(int argc, char **argv)
     engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../qml"));
     engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/" TAMBLE_INSTALLED_QML_PATH));
     engine.addImportPath(QStringLiteral("qrc:/"));
-    engine.setInitialProperties(
-        {{QStringLiteral("pages"), pages.toVariantList()}, {QStringLiteral("currentPage"), firstPage}});
+    engine.setInitialProperties({{QStringLiteral("festivalPages"), pages.festival()},
+                                 {QStringLiteral("cataloguePages"), pages.catalogue()},
+                                 {QStringLiteral("currentPage"), firstPage},
+                                 {QStringLiteral("startZoom"), options.zoom},
+                                 {QStringLiteral("still"), !options.screenshotDir.isEmpty()}});
     engine.load(QUrl(QStringLiteral("qrc:/Gallery/GalleryWindow.qml")));
     if (engine.rootObjects().isEmpty())
         return fail(QStringLiteral("the window cannot be loaded"), EXIT_FAILURE);
 
+    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
+    if (options.firstFrame) {
+        printFirstFrame(*window);
+        return EXIT_SUCCESS;
+    }
     if (options.screenshotDir.isEmpty())
         return QGuiApplication::exec();
 
-    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
     const QStringList wanted = options.page.isEmpty() ? pages.names() : QStringList(options.page);
     const QString error = writeScreenshots(*window, audio, pages, wanted, options.screenshotDir);
     return error.isEmpty() ? EXIT_SUCCESS : fail(error, EXIT_FAILURE);

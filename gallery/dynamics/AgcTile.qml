@@ -35,9 +35,9 @@ DynamicsTile {
         threshold: root.threshold
         kneeIn: root.kneeIn
         ratio: root.ratio
-        onLevelInEdited: value => root.levelIn = value
-        onThresholdEdited: value => root.threshold = value
-        onKneeInEdited: value => root.kneeIn = value
-        onRatioEdited: value => root.ratio = value
+        onLevelInEdited: value => root.edit("levelIn", value)
+        onThresholdEdited: value => root.edit("threshold", value)
+        onKneeInEdited: value => root.edit("kneeIn", value)
+        onRatioEdited: value => root.edit("ratio", value)
     }
 }

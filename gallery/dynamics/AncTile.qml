@@ -38,9 +38,9 @@ DynamicsTile {
         minimumGain: root.minimumGain
         maximumGain: root.maximumGain
         ratio: root.ratio
-        onAmbientThresholdEdited: value => root.ambientThreshold = value
-        onMinimumGainEdited: value => root.minimumGain = value
-        onMaximumGainEdited: value => root.maximumGain = value
-        onRatioEdited: value => root.ratio = value
+        onAmbientThresholdEdited: value => root.edit("ambientThreshold", value)
+        onMinimumGainEdited: value => root.edit("minimumGain", value)
+        onMaximumGainEdited: value => root.edit("maximumGain", value)
+        onRatioEdited: value => root.edit("ratio", value)
     }
 }

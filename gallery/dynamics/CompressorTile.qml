@@ -32,8 +32,8 @@ DynamicsTile {
         threshold: root.threshold
         ratio: root.ratio
         makeUpGain: root.makeUpGain
-        onThresholdEdited: value => root.threshold = value
-        onRatioEdited: value => root.ratio = value
-        onMakeUpGainEdited: value => root.makeUpGain = value
+        onThresholdEdited: value => root.edit("threshold", value)
+        onRatioEdited: value => root.edit("ratio", value)
+        onMakeUpGainEdited: value => root.edit("makeUpGain", value)
     }
 }

@@ -28,7 +28,7 @@ DynamicsTile {
         inputLevel: root.inputLevel
         threshold: root.threshold
         duckingLevel: root.duckingLevel
-        onThresholdEdited: value => root.threshold = value
-        onDuckingLevelEdited: value => root.duckingLevel = value
+        onThresholdEdited: value => root.edit("threshold", value)
+        onDuckingLevelEdited: value => root.edit("duckingLevel", value)
     }
 }

@@ -17,14 +17,29 @@ Section {
     property alias release: tap.release
     property string inputTitle: qsTr("In")
     property var parameters: []
+    /*! Where edits can be undone; null when they cannot. */
+    property EditHistory history: null
     default property alias panel: place.data
 
-    readonly property alias bypassed: bypassButton.selected
-    readonly property bool active: !inactiveButton.selected
+    property bool bypassed: false
+    property bool active: true
     readonly property alias inputLevel: tap.inputLevel
     readonly property alias gain: tap.gain
     readonly property int countedChannel: root.channel % GalleryAudio.channels
     readonly property ChannelLevel level: GalleryAudio.levels[root.countedChannel]
+
+    /*! Gives the panel's parameter of that name, or one of its states, another value. */
+    function edit(key: string, value: var) {
+        const state = value => ({ key: key, value: value })
+        if (root.history)
+            root.history.keep(root, state(root[key]), state(value), qsTr("%1: %2").arg(root.title).arg(key), key)
+        else
+            root.reveal(state(value))
+    }
+
+    function reveal(state: var) {
+        root[state.key] = state.value
+    }
 
     note: qsTr("Channel: %1").arg(root.level.name)
     content: [
@@ -39,21 +54,24 @@ Section {
             Item {
                 id: place
                 width: root.contentWidth - 3 * theme.dp(48)
-                height: theme.dp(304)
+                height: Math.min(theme.dp(304), place.width + theme.dp(32))
             }
             TileMeter {
                 title: root.inputTitle
                 owner: root.title
+                meterHeight: place.height - theme.dp(48)
                 value: tap.inputLevel
             }
             TileMeter {
                 title: qsTr("Out")
                 owner: root.title
+                meterHeight: place.height - theme.dp(48)
                 value: tap.outputLevel
             }
             TileMeter {
                 title: qsTr("Gain")
                 owner: root.title
+                meterHeight: place.height - theme.dp(48)
                 value: tap.gain
                 minimum: -root.gainRange
                 maximum: root.gainRange
@@ -64,24 +82,26 @@ Section {
             spacing: theme.dp(16)
 
             RButtonRow {
+                id: states
+
                 RButton {
-                    id: bypassButton
                     width: theme.dp(88)
                     text: qsTr("Bypass")
-                    selectable: true
+                    selected: root.bypassed
                     Accessible.name: qsTr("%1, bypass").arg(root.title)
+                    onClicked: root.edit("bypassed", !root.bypassed)
                 }
                 RButton {
-                    id: inactiveButton
                     width: theme.dp(88)
                     text: qsTr("Inactive")
-                    selectable: true
+                    selected: !root.active
                     Accessible.name: qsTr("%1, inactive").arg(root.title)
+                    onClicked: root.edit("active", !root.active)
                 }
             }
             ParameterList {
                 anchors.verticalCenter: parent.verticalCenter
-                width: root.contentWidth - x
+                width: root.contentWidth - states.width - theme.dp(16)
                 parameters: root.parameters
             }
         }

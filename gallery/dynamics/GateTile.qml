@@ -28,7 +28,7 @@ DynamicsTile {
         inputLevel: root.inputLevel
         threshold: root.threshold
         depth: root.depth
-        onThresholdEdited: value => root.threshold = value
-        onDepthEdited: value => root.depth = value
+        onThresholdEdited: value => root.edit("threshold", value)
+        onDepthEdited: value => root.edit("depth", value)
     }
 }

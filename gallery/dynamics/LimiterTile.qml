@@ -23,6 +23,6 @@ DynamicsTile {
         levelVisible: true
         inputLevel: root.inputLevel
         threshold: root.threshold
-        onThresholdEdited: value => root.threshold = value
+        onThresholdEdited: value => root.edit("threshold", value)
     }
 }

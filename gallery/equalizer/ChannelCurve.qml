@@ -33,7 +33,7 @@ RBodeplotCurve {
         readonly property real areaSaturationNearAggregatedCurve: root.edited ? 0.35 : 0
         readonly property real areaSaturationNearxAchsis: root.edited ? 0.05 : 0
     }
-    onPressedChanged: root.store.held = root.pressed
+    onPressedChanged: root.store.history.held = root.pressed
     onUserSelectedFilterPoint: (index, selectedIndex) => root.store.selected = selectedIndex
     onUserChangedFilterPoint: (index, type, frequency, gain, quality) => {
         root.store.selected = index

@@ -18,8 +18,8 @@ Flow {
             RButton {
                 required property int index
 
-                width: theme.dp(56)
-                text: qsTr("Ch %1").arg(index + 1)
+                width: theme.dp(64)
+                text: root.store.names[index]
                 selected: root.store.channel === index
                 onClicked: root.store.channel = index
             }
@@ -75,17 +75,17 @@ Flow {
     RButtonRow {
         RButtonIcon {
             width: theme.dp(36)
-            enabled: root.store.canUndo
+            enabled: root.store.history.canUndo
             label: qsTr("Undo")
             iconItem.key: "undo"
-            onClicked: root.store.undo()
+            onClicked: root.store.history.undo()
         }
         RButtonIcon {
             width: theme.dp(36)
-            enabled: root.store.canRedo
+            enabled: root.store.history.canRedo
             label: qsTr("Redo")
             iconItem.key: "redo"
-            onClicked: root.store.redo()
+            onClicked: root.store.history.redo()
         }
         RButton {
             width: theme.dp(64)

@@ -1,115 +1,46 @@
 import QtQuick
+import Gallery
 import "EqualizerEdits.js" as Edits
 import "LoudspeakerChannels.js" as LoudspeakerChannels
 
-/*! The filters of both channels and what was done to them. The steps of one gesture, or of a button that is pressed
-    again and again, are undone together. */
+/*! The filters of both channels; what is done to them is kept in a history. */
 QtObject {
     id: root
 
+    required property EditHistory history
+    /*! What the channels are called. */
+    property var names: [qsTr("Ch 1"), qsTr("Ch 2")]
     property int channel: 0
     property int selected: 0
-    /*! A gesture lasts, however long nothing moves. */
-    property bool held: false
 
     /*! A list of filters per channel. Every edit makes new lists, so that earlier ones can be kept. */
     property var channels: LoudspeakerChannels.channels()
     readonly property var bands: root.channels[root.channel]
     readonly property var band: root.bands[root.selected]
 
-    /*! Steps that can be undone and redone, the nearest last: channel, selected, before and after. */
-    property var done: []
-    property var undone: []
-    /*! The step that is still going on. */
-    property var open: null
-    readonly property bool canUndo: root.open !== null || root.done.length > 0
-    readonly property bool canRedo: root.undone.length > 0
-
-    readonly property Timer idle: Timer {
-        interval: 600
-        onTriggered: root.finish()
-    }
-
-    onHeldChanged: root.finish()
-    onChannelChanged: root.finish()
+    onChannelChanged: root.history.finish()
 
     /*! Gives a filter new values; edits of one filter with the same `gesture` belong together. */
     function edit(index: int, gesture: string, values: var) {
-        if (root.open && (root.open.selected !== index || root.open.gesture !== gesture))
-            root.finish()
-        const before = root.bands
-        const band = Object.assign({}, before[index], values)
-        if (Edits.same(band, before[index]))
-            return
-        if (!root.open)
-            root.open = {
-                channel: root.channel,
-                selected: index,
-                gesture: gesture,
-                before: before
-            }
-        root.show(root.channel, Edits.replaced(before, index, band))
-        if (!root.held)
-            root.idle.restart()
-    }
-
-    /*! Ends the step that is going on. One that led back to where it began is none. */
-    function finish() {
-        root.idle.stop()
-        const step = root.open
-        root.open = null
-        if (step)
-            root.keep(step, root.channels[step.channel])
-    }
-
-    function keep(step: var, after: var) {
-        if (Edits.same(step.before, after))
-            return
-        root.done = root.done.concat([Object.assign({}, step, {
-                after: after
-            })])
-        root.undone = []
-    }
-
-    function show(channel: int, bands: var) {
-        root.channels = Edits.replaced(root.channels, channel, bands)
-    }
-
-    function undo() {
-        root.finish()
-        const step = root.done[root.done.length - 1]
-        if (!step)
-            return
-        root.done = root.done.slice(0, -1)
-        root.undone = root.undone.concat([step])
-        root.reveal(step, step.before)
-    }
-
-    function redo() {
-        root.finish()
-        const step = root.undone[root.undone.length - 1]
-        if (!step)
-            return
-        root.undone = root.undone.slice(0, -1)
-        root.done = root.done.concat([step])
-        root.reveal(step, step.after)
-    }
-
-    function reveal(step: var, bands: var) {
-        root.channel = step.channel
-        root.selected = step.selected
-        root.show(step.channel, bands)
+        const band = Object.assign({}, root.bands[index], values)
+        if (!Edits.same(band, root.bands[index]))
+            root.take(index, Edits.replaced(root.bands, index, band), qsTr("%1: filter %2").arg(root.names[root.channel]).arg(band.label), gesture + index)
     }
 
     /*! Back to the preset, in a step that can be undone. */
     function reset() {
-        root.finish()
-        const preset = LoudspeakerChannels.channels()[root.channel]
-        root.keep({
-            channel: root.channel,
-            selected: root.selected,
-            before: root.bands
-        }, preset)
-        root.show(root.channel, preset)
+        root.history.finish()
+        root.take(root.selected, LoudspeakerChannels.channels()[root.channel], qsTr("Preset of the filters"), "preset")
+    }
+
+    function take(selected: int, bands: var, text: string, gesture: string) {
+        const step = bands => ({ channel: root.channel, selected: selected, bands: bands })
+        root.history.keep(root, step(root.bands), step(bands), text, gesture + root.channel)
+    }
+
+    function reveal(step: var) {
+        root.channel = step.channel
+        root.selected = step.selected
+        root.channels = Edits.replaced(root.channels, step.channel, step.bands)
     }
 }

@@ -1,11 +1,11 @@
 #include "Disturbances.h"
 
-#include "AmplifierDevices.h"
 #include "FieldRules.h"
+#include "InstalledDevices.h"
 
 #include <cmath>
 
-Disturbances::Disturbances(EventQueue &queue, AmplifierDevices &devices, SimulatedNetwork &network, unsigned seed)
+Disturbances::Disturbances(EventQueue &queue, InstalledDevices &devices, SimulatedNetwork &network, unsigned seed)
     : m_queue(queue)
     , m_devices(devices)
     , m_network(network)
@@ -22,7 +22,7 @@ void Disturbances::restart()
 
 void Disturbances::edit(int device, int field)
 {
-    const FieldSpec &spec = amplifierFields().at(field);
+    const FieldSpec &spec = deviceFields(m_devices.kind(device)).at(field);
     if (isEditable(spec))
         m_network.editElsewhere(device, field, sampleValue(spec, m_random));
 }
@@ -43,7 +43,8 @@ void Disturbances::schedule(int course, double perMinute, void (Disturbances::*h
 
 void Disturbances::editAnything()
 {
-    edit(m_random.below(m_devices.count()), m_random.below(int(amplifierFields().size())));
+    const int device = m_random.below(m_devices.count());
+    edit(device, m_random.below(int(deviceFields(m_devices.kind(device)).size())));
 }
 
 void Disturbances::measureAnywhere()

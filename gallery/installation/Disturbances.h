@@ -8,7 +8,7 @@
 class Disturbances
 {
 public:
-    Disturbances(EventQueue &queue, AmplifierDevices &devices, SimulatedNetwork &network, unsigned seed);
+    Disturbances(EventQueue &queue, InstalledDevices &devices, SimulatedNetwork &network, unsigned seed);
 
     /// Begins anew with the present rates.
     void restart();
@@ -22,7 +22,7 @@ private:
     void dropOutAnywhere();
 
     EventQueue &m_queue;
-    AmplifierDevices &m_devices;
+    InstalledDevices &m_devices;
     SimulatedNetwork &m_network;
     RandomSource m_random;
     int m_course = 0; ///< Events of an earlier one do not happen.

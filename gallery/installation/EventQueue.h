@@ -14,6 +14,8 @@ public:
     /// Time in ms since the beginning.
     qint64 now() const { return m_now; }
     bool isEmpty() const { return m_events.empty(); }
+    /// Time in ms until the next event; 0 when there is none.
+    qint64 untilNext() const { return isEmpty() ? 0 : m_events.begin()->first - m_now; }
 
     /// Lets `event` happen in `delay` ms, behind those that are due at the same time. A delay below 0 counts as 0.
     void after(qint64 delay, Event event);

@@ -19,7 +19,7 @@ enum class ValueKind {
     Reading,      ///< number that the device measures
 };
 
-/// One of the values that an amplifier has.
+/// One of the values that a device has.
 struct FieldSpec
 {
     QString name;
@@ -31,13 +31,40 @@ struct FieldSpec
     int storedAs = -1;
 };
 
-constexpr int inputCount = 4;
-constexpr int outputCount = 4;
+enum class DeviceKind { Amplifier, Mixer, Matrix };
+
+/// A field of a device, by its index.
+struct FieldPlace
+{
+    int device;
+    int field;
+
+    bool operator==(const FieldPlace &) const = default;
+};
+
+/// How many channels a kind of device has.
+struct ChannelCount
+{
+    int inputs;
+    int outputs;
+};
+
 constexpr int samplesPerMillisecond = 48;
 
-/// All fields of an amplifier: "name", "ipAddress", …, and for channels "input1Name", "input1Source", "input1Gain",
-/// "input1DelayMs", "input1DelaySamples", "input1Mute" to "output4Mute". A field's place here is its index everywhere.
-const QList<FieldSpec> &amplifierFields();
+/// 4 × 4 of an amplifier, 16 × 2 of a mixer, 16 × 16 of a matrix.
+ChannelCount channelCount(DeviceKind kind);
 
-/// Index of a field, −1 for an unknown name.
-int fieldIndex(QStringView name);
+/// All fields of a device: "name", "ipAddress", …, for channels "input1Name", "input1Source", "input1Gain",
+/// "input1DelayMs", "input1DelaySamples", "input1Mute" to "output4Mute", and "mute" for all at once. Of the channels, a
+/// matrix has the names alone, and between them "route1x1" to "route16x16", input first. A field's place here is its
+/// index everywhere; up to "notes" it is the same for all kinds.
+const QList<FieldSpec> &deviceFields(DeviceKind kind = DeviceKind::Amplifier);
+
+/// Index of a field, −1 for a name that the device does not have.
+int fieldIndex(QStringView name, DeviceKind kind = DeviceKind::Amplifier);
+
+/// A field that any kind of device has; those that several kinds have are alike. Null for an unknown name.
+const FieldSpec *anyField(QStringView name);
+
+/// The name of a field for people: "Input 3 gain".
+QString fieldTitle(const QString &name);

@@ -1,10 +1,15 @@
 #pragma once
 
-#include "AmplifierDevices.h"
-#include "AmplifierListModel.h"
+#include "DeviceListModel.h"
 #include "Disturbances.h"
+#include "EditHistory.h"
+#include "EventLog.h"
 #include "InstallationClient.h"
+#include "InstalledDevices.h"
+#include "PresetListModel.h"
+#include "RequestStep.h"
 #include "SourceListModel.h"
+#include "StageModel.h"
 
 #include <QtCore/QBasicTimer>
 #include <QtCore/QElapsedTimer>
@@ -21,7 +26,16 @@ struct NetworkBehaviourType
     QML_VALUE_TYPE(networkBehaviour)
 };
 
-/// The installation that the pages configure: 24 amplifiers on a network that behaves as the page wants.
+/// As `EditHistory` in QML.
+struct EditHistoryType
+{
+    Q_GADGET
+    QML_FOREIGN(EditHistory)
+    QML_NAMED_ELEMENT(EditHistory)
+};
+
+/// The installation that the pages configure: 24 amplifiers, two mixers and a matrix on a network that behaves as the
+/// page wants.
 ///
 /// QML sees the object that exists when it first asks, or gets one of its own.
 class GalleryInstallation : public QObject
@@ -29,10 +43,22 @@ class GalleryInstallation : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    /// The amplifiers as the client sees them, an `AmplifierListModel`.
-    Q_PROPERTY(QAbstractItemModel *amplifiers READ amplifiers CONSTANT)
+    /// The amplifiers (`amplifiers`), and all devices, as the client sees them.
+    Q_PROPERTY(DeviceListModel *amplifiers READ amplifiers CONSTANT)
+    Q_PROPERTY(DeviceListModel *allDevices READ allDevices CONSTANT)
     /// What channels can be given, a `SourceListModel`.
     Q_PROPERTY(QAbstractItemModel *sources READ sources CONSTANT)
+    /// What has happened.
+    Q_PROPERTY(EventLog *log READ log CONSTANT)
+    /// Settings of the first mixer that can be recalled.
+    Q_PROPERTY(PresetListModel *presets READ presets CONSTANT)
+    /// The plan of all devices and loudspeakers.
+    Q_PROPERTY(StageModel *stage READ stage CONSTANT)
+    /// Everything that was edited.
+    Q_PROPERTY(EditHistory *history READ history CONSTANT)
+    /// Number of the first mixer and of the matrix.
+    Q_PROPERTY(int firstMixer READ firstMixer CONSTANT)
+    Q_PROPERTY(int matrix READ matrix CONSTANT)
     /// How the network behaves; may be changed at any time, also by its parts.
     Q_PROPERTY(NetworkBehaviour behaviour READ behaviour WRITE setBehaviour NOTIFY behaviourChanged)
 
@@ -44,8 +70,15 @@ public:
 
     static GalleryInstallation *create(QQmlEngine *engine, QJSEngine *);
 
-    AmplifierListModel *amplifiers() { return &m_amplifiers; }
+    DeviceListModel *amplifiers() { return &m_amplifiers; }
+    DeviceListModel *allDevices() { return &m_allDevices; }
     SourceListModel *sources() { return &m_sources; }
+    EventLog *log() { return &m_log; }
+    PresetListModel *presets() { return &m_presets; }
+    StageModel *stage() { return &m_stage; }
+    EditHistory *history() { return &m_history; }
+    static int firstMixer() { return amplifierCount; }
+    static int matrix() { return amplifierCount + mixerCount; }
     const NetworkBehaviour &behaviour() const { return m_network.behaviour(); }
     void setBehaviour(const NetworkBehaviour &behaviour);
 
@@ -60,9 +93,15 @@ public:
 
     const InstallationClient &client() const { return m_client; }
     /// What the devices really have.
-    const AmplifierDevices &devices() const { return m_devices; }
-    void request(int device, int field, const QVariant &value);
-    void dismiss(int device, int field) { m_client.dismiss(device, field); }
+    const InstalledDevices &devices() const { return m_devices; }
+    /// Asks devices to take values, as one step that can be undone. `text` tells it to people; an empty one is made of
+    /// the devices and the field.
+    void request(const QList<FieldRequest> &requests, const QString &text = {});
+    /// The same as a part of a step that is done, undone or redone.
+    void send(const FieldRequest &request);
+    void dismiss(FieldPlace place) { m_client.dismiss(place.device, place.field); }
+    /// Lets something happen in `ms`.
+    void after(int ms, const EventQueue::Event &event);
 
 Q_SIGNALS:
     void behaviourChanged();
@@ -74,16 +113,23 @@ protected:
 
 private:
     bool hasDevice(int device) const { return device >= 0 && device < m_devices.count(); }
+    QString titleOf(const QList<FieldRequest> &requests) const;
     void updateClock();
 
     EventQueue m_queue;
-    AmplifierDevices m_devices;
+    InstalledDevices m_devices;
     SimulatedNetwork m_network;
     Disturbances m_disturbances;
     InstallationClient m_client;
-    AmplifierListModel m_amplifiers;
+    DeviceListModel m_amplifiers;
+    DeviceListModel m_allDevices;
     SourceListModel m_sources;
+    EventLog m_log;
+    PresetListModel m_presets;
+    EditHistory m_history;
+    StageModel m_stage;
     QBasicTimer m_timer;
     QElapsedTimer m_sinceTick;
+    int m_interval = 0; ///< ms, of the timer
     bool m_isStepped = false;
 };

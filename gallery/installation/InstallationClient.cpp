@@ -1,15 +1,16 @@
 #include "InstallationClient.h"
 
-#include "AmplifierDevices.h"
+#include "InstalledDevices.h"
 
+#include <algorithm>
 #include <utility>
 
-InstallationClient::InstallationClient(EventQueue &queue, const AmplifierDevices &devices, SimulatedNetwork &network)
+InstallationClient::InstallationClient(EventQueue &queue, const InstalledDevices &devices, SimulatedNetwork &network)
     : m_queue(queue)
     , m_network(network)
 {
     for (int device = 0; device < devices.count(); ++device) {
-        DeviceState known{{}, devices.isOnline(device)};
+        DeviceState known{devices.kind(device), {}, devices.isOnline(device)};
         for (const FieldChange &value : devices.record(device).all())
             known.fields.append({value.value});
         m_devices.append(known);
@@ -24,13 +25,21 @@ const QVariant &InstallationClient::shown(int device, int field) const
     return known.asked.isValid() ? known.asked : known.said;
 }
 
+QString InstallationClient::alarm(int device) const
+{
+    if (!isOnline(device))
+        return tr("Offline");
+    const double temperature = said(device, fieldIndex(u"temperature")).toDouble();
+    return temperature < hot ? QString() : tr("%1 °C").arg(temperature, 0, 'f', 1);
+}
+
 void InstallationClient::request(int device, int field, const QVariant &value)
 {
     FieldState &known = state(device, field);
     known.asked = value;
     known.lastRequest = ++m_lastRequest;
     if (!isOnline(device)) {
-        known.error = tr("The device is not online");
+        fail(device, field, tr("The device is not online"));
     } else {
         const int number = m_lastRequest;
         known.error.clear();
@@ -54,9 +63,19 @@ void InstallationClient::dismiss(int device, int field)
 
 void InstallationClient::take(const ValuesSaid &message)
 {
+    // A delay comes in samples and in ms, of which one was asked for, and may have been answered already.
+    QList<int> news;
+    bool wasAsked = false;
     for (const FieldChange &change : message.values) {
-        if (learn(message, change))
-            Q_EMIT fieldChanged(message.device, change.field);
+        const bool isNew = learn(message, change);
+        if (isNew)
+            news.append(change.field);
+        wasAsked = wasAsked || !isNew || !isConfirmed(message.device, change.field);
+    }
+    for (const int field : news) {
+        Q_EMIT fieldChanged(message.device, field);
+        if (!wasAsked)
+            Q_EMIT changedElsewhere(message.device, field);
     }
 }
 
@@ -100,7 +119,7 @@ void InstallationClient::giveUp(int request)
         conclude(request, *open, tr("The device does not answer"));
 }
 
-void InstallationClient::conclude(int request, const OpenRequest &open, const QString &reason)
+void InstallationClient::conclude(int request, const FieldPlace &open, const QString &reason)
 {
     const auto [device, field] = open;
     m_open.remove(request);
@@ -108,9 +127,17 @@ void InstallationClient::conclude(int request, const OpenRequest &open, const QS
     --known.openRequests;
     // The answer to an earlier request says nothing about the one that counts.
     if (request == known.lastRequest) {
-        known.error = reason;
         if (reason.isEmpty())
             known.asked.clear();
+        fail(device, field, reason);
     }
     Q_EMIT fieldChanged(device, field);
+}
+
+/// An empty reason is none.
+void InstallationClient::fail(int device, int field, const QString &reason)
+{
+    state(device, field).error = reason;
+    if (!reason.isEmpty())
+        Q_EMIT requestFailed(device, field, reason);
 }

@@ -1,10 +1,10 @@
 #include "SimulatedNetwork.h"
 
-#include "AmplifierDevices.h"
+#include "InstalledDevices.h"
 
 #include <QtCore/QCoreApplication>
 
-SimulatedNetwork::SimulatedNetwork(EventQueue &queue, AmplifierDevices &devices, unsigned seed)
+SimulatedNetwork::SimulatedNetwork(EventQueue &queue, InstalledDevices &devices, unsigned seed)
     : m_queue(queue)
     , m_devices(devices)
     , m_random(seed)

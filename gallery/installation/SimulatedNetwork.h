@@ -1,6 +1,6 @@
 #pragma once
 
-#include "AmplifierRecord.h"
+#include "DeviceRecord.h"
 #include "EventQueue.h"
 #include "NetworkBehaviour.h"
 #include "RandomSource.h"
@@ -10,7 +10,7 @@
 #include <functional>
 #include <variant>
 
-class AmplifierDevices;
+class InstalledDevices;
 
 /// A device says what it has. Of two messages about a field, the one with the higher revision is newer.
 struct ValuesSaid
@@ -42,7 +42,7 @@ using NetworkMessage = std::variant<ValuesSaid, RequestAnswered, PresenceSaid>;
 class SimulatedNetwork
 {
 public:
-    SimulatedNetwork(EventQueue &queue, AmplifierDevices &devices, unsigned seed);
+    SimulatedNetwork(EventQueue &queue, InstalledDevices &devices, unsigned seed);
 
     const NetworkBehaviour &behaviour() const { return m_behaviour; }
     /// Holds, brought into its bounds, for what is sent from now on.
@@ -71,7 +71,7 @@ private:
     void deliver(const NetworkMessage &message);
 
     EventQueue &m_queue;
-    AmplifierDevices &m_devices;
+    InstalledDevices &m_devices;
     RandomSource m_random;
     NetworkBehaviour m_behaviour;
     std::function<void(const NetworkMessage &)> m_receiver;

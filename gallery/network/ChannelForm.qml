@@ -7,7 +7,7 @@ import TambleClient.Control 1.0
 ColumnLayout {
     id: root
 
-    required property Amplifier amplifier
+    required property DeviceSelection target
     /*! "input1" to "output4". */
     property string channel: "input1"
 
@@ -45,19 +45,19 @@ ColumnLayout {
     }
     TextLine {
         Layout.fillWidth: true
-        amplifier: root.amplifier
+        target: root.target
         field: root.channel + "Name"
         title: qsTr("&Name")
     }
     SourceLine {
         Layout.fillWidth: true
-        amplifier: root.amplifier
+        target: root.target
         field: root.channel + "Source"
         title: qsTr("So&urce")
     }
     SpinLine {
         Layout.fillWidth: true
-        amplifier: root.amplifier
+        target: root.target
         field: root.channel + "Gain"
         title: qsTr("&Gain")
         suffix: qsTr("dB")
@@ -67,7 +67,7 @@ ColumnLayout {
     }
     NumberLine {
         Layout.fillWidth: true
-        amplifier: root.amplifier
+        target: root.target
         field: root.channel + "DelayMs"
         title: qsTr("&Delay")
         unit: qsTr("ms")
@@ -75,7 +75,7 @@ ColumnLayout {
     }
     SpinLine {
         Layout.fillWidth: true
-        amplifier: root.amplifier
+        target: root.target
         field: root.channel + "DelaySamples"
         title: qsTr("&Samples")
         stepSize: 1
@@ -83,7 +83,7 @@ ColumnLayout {
     }
     FlagLine {
         Layout.fillWidth: true
-        amplifier: root.amplifier
+        target: root.target
         field: root.channel + "Mute"
         title: qsTr("&Mute")
     }

@@ -2,7 +2,7 @@ import QtQuick
 import TambleClient.Control 1.0
 
 /*! A number of the network's behaviour: a few values to choose from. */
-Row {
+Flow {
     id: root
 
     required property string title
@@ -11,6 +11,7 @@ Row {
 
     signal chosen(real value)
 
+    width: parent?.width ?? 0
     spacing: theme.dp(8)
     Accessible.role: Accessible.Grouping
     Accessible.name: root.title

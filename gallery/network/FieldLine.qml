@@ -8,7 +8,7 @@ import TambleClient.Control 1.0
 RowLayout {
     id: root
 
-    required property Amplifier amplifier
+    required property DeviceSelection target
     required property string field
     required property string title
     /*! The control, bound to `source`. */
@@ -32,9 +32,9 @@ RowLayout {
     Keys.onReturnPressed: event => root.repeat(event)
     Keys.onEnterPressed: event => root.repeat(event)
 
-    AmplifierField {
+    DeviceField {
         id: source
-        amplifier: root.amplifier
+        target: root.target
         field: root.field
     }
     RLabel {
@@ -55,7 +55,7 @@ RowLayout {
         RText {
             Layout.fillWidth: true
             visible: text.length > 0
-            text: source.errorText || (!source.confirmed ? qsTr("waits for the answer") : root.amplifier.online ? "" : qsTr("offline, as it was"))
+            text: source.errorText || (!source.confirmed ? qsTr("waits for the answer") : root.target.online ? "" : qsTr("offline, as it was"))
             elide: Text.ElideRight
             font.pixelSize: theme.fontSizeS
             font.bold: root.failed
@@ -64,20 +64,27 @@ RowLayout {
         }
         RText {
             Layout.fillWidth: true
-            text: qsTr("has %1").arg(source.actualText)
+            visible: root.target.observed
+            text: root.target.observed ? qsTr("has %1").arg(source.actualText) : ""
             elide: Text.ElideRight
             font.pixelSize: theme.fontSizeS
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }
     }
-    // Without the focus, so that it can be clicked while the field is being edited.
-    RButtonIcon {
+    // qmllint disable unqualified
+    Loader {
         Layout.preferredWidth: theme.dp(28)
-        focusPolicy: Qt.NoFocus
-        label: qsTr("Another client edits %1").arg(root.title)
-        iconItem.key: "user"
-        iconItem.sizeClass: "XS"
-        onClicked: source.editElsewhere()
+        active: root.target.observed
+        visible: root.target.observed
+        // Without the focus, so that it can be clicked while the field is being edited.
+        sourceComponent: RButtonIcon {
+            focusPolicy: Qt.NoFocus
+            label: qsTr("Another client edits %1").arg(root.title)
+            iconItem.key: "user"
+            iconItem.sizeClass: "XS"
+            onClicked: source.editElsewhere()
+        }
     }
+    // qmllint enable unqualified
 }

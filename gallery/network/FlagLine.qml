@@ -10,7 +10,7 @@ FieldLine {
 
     RCheckBox {
         id: input
-        enabled: root.amplifier.devices.length > 0
+        enabled: root.target.devices.length > 0
         selected: Boolean(root.source.shown)
         consistent: root.source.consistent
         confirmed: root.source.confirmed

@@ -7,7 +7,7 @@ import TambleClient.Control 1.0
 ColumnLayout {
     id: root
 
-    required property Amplifier amplifier
+    required property DeviceSelection target
     /*! Whether all of them get their addresses from DHCP. */
     readonly property bool addressed: dhcp.source.consistent && Boolean(dhcp.source.shown)
 
@@ -15,7 +15,7 @@ ColumnLayout {
 
     TextLine {
         Layout.fillWidth: true
-        amplifier: root.amplifier
+        target: root.target
         field: "name"
         title: qsTr("&Name")
         mustBeFilled: true
@@ -26,20 +26,20 @@ ColumnLayout {
     }
     TextLine {
         Layout.fillWidth: true
-        amplifier: root.amplifier
+        target: root.target
         field: "location"
         title: qsTr("&Location")
     }
     FlagLine {
         id: dhcp
         Layout.fillWidth: true
-        amplifier: root.amplifier
+        target: root.target
         field: "dhcp"
         title: qsTr("&DHCP")
     }
     TextLine {
         Layout.fillWidth: true
-        amplifier: root.amplifier
+        target: root.target
         field: "ipAddress"
         title: qsTr("&IP address")
         readOnly: root.addressed
@@ -47,7 +47,7 @@ ColumnLayout {
     }
     TextLine {
         Layout.fillWidth: true
-        amplifier: root.amplifier
+        target: root.target
         field: "subnetMask"
         title: qsTr("&Subnet mask")
         readOnly: root.addressed
@@ -55,7 +55,7 @@ ColumnLayout {
     }
     TextLine {
         Layout.fillWidth: true
-        amplifier: root.amplifier
+        target: root.target
         field: "gateway"
         title: qsTr("&Gateway")
         readOnly: root.addressed
@@ -63,14 +63,14 @@ ColumnLayout {
     }
     TextLine {
         Layout.fillWidth: true
-        amplifier: root.amplifier
+        target: root.target
         field: "pin"
         title: qsTr("&PIN")
         validator: RTextFieldPinValidator {}
     }
     NotesLine {
         Layout.fillWidth: true
-        amplifier: root.amplifier
+        target: root.target
         field: "notes"
         title: qsTr("N&otes")
     }

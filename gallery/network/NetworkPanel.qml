@@ -7,7 +7,7 @@ import TambleClient.Control 1.0
 Column {
     id: root
 
-    required property Amplifier amplifier
+    required property DeviceSelection target
 
     function choose(latency: int, jitter: int, loss: real, refusals: real, edits: real, dropOuts: real) {
         const network = GalleryInstallation
@@ -88,7 +88,7 @@ Column {
             width: theme.dp(144)
             text: qsTr("Chosen ones drop out")
             onClicked: {
-                for (const device of root.amplifier.devices)
+                for (const device of root.target.devices)
                     GalleryInstallation.dropOut(device, 5000)
             }
         }

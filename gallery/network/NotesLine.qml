@@ -12,7 +12,7 @@ FieldLine {
         id: input
         width: parent.width
         label: root.title
-        enabled: root.amplifier.devices.length > 0
+        enabled: root.target.devices.length > 0
         maximumLines: 4
         value: root.source.shown
         consistent: root.source.consistent

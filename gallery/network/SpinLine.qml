@@ -18,7 +18,7 @@ FieldLine {
         id: input
         width: parent.width
         label: root.title
-        enabled: root.amplifier.devices.length > 0
+        enabled: root.target.devices.length > 0
         from: root.source.minimum
         to: root.source.maximum
         value: root.source.shown

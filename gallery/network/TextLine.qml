@@ -16,7 +16,7 @@ FieldLine {
         id: input
         width: parent.width
         label: root.title
-        enabled: root.amplifier.devices.length > 0
+        enabled: root.target.devices.length > 0
         value: root.source.shown
         consistent: root.source.consistent
         confirmed: root.source.confirmed

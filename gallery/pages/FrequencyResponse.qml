@@ -8,16 +8,16 @@ GalleryPage {
     description: qsTr("The filters of a loudspeaker channel and what they do to the signal that plays.")
     listening: true
 
+    EditHistory {
+        id: pageHistory
+    }
     EqualizerStore {
         id: channelStore
+        history: pageHistory
     }
-    Shortcut {
-        sequence: "Ctrl+Z"
-        onActivated: channelStore.undo()
-    }
-    Shortcut {
-        sequences: ["Ctrl+Shift+Z", "Ctrl+Y"]
-        onActivated: channelStore.redo()
+    HistoryShortcuts {
+        enabled: root.visible
+        history: pageHistory
     }
 
     Section {

@@ -90,10 +90,11 @@ GalleryPage {
                 spacing: theme.dp(16)
 
                 ReadOnlyFader {
+                    id: readOnly
                     level: root.leftPeak
                 }
                 LyingFaders {
-                    width: row.width - x
+                    width: row.width - readOnly.width - row.spacing
                 }
             }
         }

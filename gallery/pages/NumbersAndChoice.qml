@@ -7,7 +7,7 @@ import "../network"
 GalleryPage {
     description: qsTr("Fields for numbers and choices, against devices that round, clamp, answer late and are edited by others.")
 
-    Amplifier {
+    DeviceSelection {
         id: selection
         devices: chooser.chosen
     }
@@ -57,7 +57,7 @@ GalleryPage {
             }
             ChannelForm {
                 width: parent.width
-                amplifier: selection
+                target: selection
             }
         }
         Section {
@@ -66,7 +66,7 @@ GalleryPage {
 
             NetworkPanel {
                 width: parent.width
-                amplifier: selection
+                target: selection
             }
         }
     }

@@ -7,7 +7,7 @@ import "../network"
 GalleryPage {
     description: qsTr("Fields for texts that devices store, and 24 devices that answer late, refuse, and are edited by others.")
 
-    Amplifier {
+    DeviceSelection {
         id: selection
         devices: chooser.chosen
     }
@@ -37,7 +37,7 @@ GalleryPage {
             }
             NetworkForm {
                 width: parent.width
-                amplifier: selection
+                target: selection
             }
         }
         Section {
@@ -46,7 +46,7 @@ GalleryPage {
 
             NetworkPanel {
                 width: parent.width
-                amplifier: selection
+                target: selection
             }
         }
     }

@@ -1,0 +1,112 @@
+import QtQuick
+import Gallery
+import TambleClient.Control 1.0
+
+/*! A channel of a mixer: its name, its level behind the fader, the fader with its value, and muting. */
+Item {
+    id: root
+
+    required property DeviceSelection target
+    /*! "input1" to "output2". */
+    required property string channel
+    /*! The channel of the signal that it carries. */
+    required property int source
+    /*! Whether the whole mixer is muted. */
+    property bool silenced: false
+
+    readonly property int countedSource: root.source % GalleryAudio.channels
+    readonly property ChannelLevel level: GalleryAudio.levels[root.countedSource]
+    readonly property real gain: gainField.shown ?? -80
+    readonly property bool muted: Boolean(muteField.shown)
+
+    implicitWidth: theme.dp(66)
+    Accessible.role: Accessible.Grouping
+    Accessible.name: name.text
+
+    DeviceField {
+        id: nameField
+        target: root.target
+        field: root.channel + "Name"
+    }
+    DeviceField {
+        id: gainField
+        target: root.target
+        field: root.channel + "Gain"
+    }
+    DeviceField {
+        id: muteField
+        target: root.target
+        field: root.channel + "Mute"
+    }
+    Surface {
+        anchors.fill: parent
+        RStyleSet.typeName: "RPane"
+    }
+    RText {
+        id: name
+        width: root.width
+        height: theme.dp(32)
+        leftPadding: theme.dp(2)
+        rightPadding: theme.dp(2)
+        text: nameField.shown ?? ""
+        elide: Text.ElideRight
+        font.pixelSize: theme.fontSizeS
+        font.bold: true
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+    }
+    RMeter {
+        id: meter
+        x: theme.dp(4)
+        y: name.height
+        width: theme.dp(8)
+        height: root.height - y - theme.dp(80)
+        value: root.silenced || root.muted || !root.level ? -120 : Math.max(-120, root.level.peak + root.gain)
+        // The same scale as the fader's beside it.
+        valueMin: fader.from
+        valueMax: fader.to
+        valueMinYellow: -12
+        valueMinRed: -3
+        unit: "dBFS"
+        Accessible.name: qsTr("%1, level").arg(name.text)
+    }
+    RFader {
+        id: fader
+        anchors.right: parent.right
+        y: meter.y
+        height: meter.height
+        label: name.text
+        value: root.gain
+        from: -80
+        to: 10
+        defaultValue: 0
+        enabled: root.target.online
+        consistent: gainField.consistent
+        confirmed: gainField.confirmed
+        onValueEdited: value => gainField.request(value <= fader.from ? -Infinity : value)
+        onValueCommitted: GalleryInstallation.history.finish()
+    }
+    RText {
+        id: number
+        y: meter.y + meter.height
+        width: root.width
+        height: theme.dp(32)
+        text: gainField.errorText.length > 0 ? qsTr("refused") : fader.converter.toText(root.gain)
+        font.bold: gainField.errorText.length > 0
+        elide: Text.ElideRight
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+    }
+    RButton {
+        RStyleSet.name: root.muted ? "red" : ""
+        x: theme.dp(4)
+        y: number.y + number.height
+        width: root.width - theme.dp(8)
+        text: qsTr("Mute")
+        selected: root.muted
+        consistent: muteField.consistent
+        enabled: root.target.online
+        Accessible.name: qsTr("Mute %1").arg(name.text)
+        onClicked: muteField.request(!root.muted)
+    }
+}
