@@ -3,6 +3,8 @@
 # comes last and uses them all.
 set(TAMBLE_CONTROL_FOLDERS
     base
+    scrolling
+    dragging
     scale
     scenegraph
     style/language
@@ -21,11 +23,17 @@ set(TAMBLE_CONTROL_FOLDERS
     fader
     meter
     controls
+    accordion
+    bars
+    lists
     menus
     fields
     cells
+    dialogs
     pointer
     screen
+    flyouts
+    views
     models
     workspace
 )

@@ -3,28 +3,32 @@ set(QT_FEATURE_zstd OFF)
 
 # tamble_relax_generated_code(TARGET): the C++ that Qt's QML compiler makes of QML files shadows and converts freely;
 # the project's warnings are for its own code. A few files are compiled at once, since each takes seconds to read the
-# same headers. Call it after the target's QML files are known.
+# same headers; which ones, a digit of their names' hash says, so that a new file changes one lot only. Call it after the
+# target's QML files are known.
 function(tamble_relax_generated_code target)
-    set(files_at_once 8)
-
     get_target_property(sources ${target} SOURCES)
     list(FILTER sources INCLUDE REGEX "/qmlcache/.*\\.cpp$")
     set_source_files_properties(${sources} TARGET_DIRECTORY ${target} PROPERTIES HEADER_FILE_ONLY ON)
-    set(number 0)
-    while(sources)
-        list(SUBLIST sources 0 ${files_at_once} together)
-        list(REMOVE_ITEM sources ${together})
-        list(TRANSFORM together REPLACE "(.+)" "#include \"\\1\"\n" OUTPUT_VARIABLE lines)
+    set(lots)
+    foreach(source IN LISTS sources)
+        cmake_path(GET source FILENAME name)
+        string(MD5 hash ${name})
+        string(SUBSTRING ${hash} 0 1 lot)
+        list(APPEND lots ${lot})
+        list(APPEND together_${lot} ${source})
+    endforeach()
+    list(REMOVE_DUPLICATES lots)
+    foreach(lot IN LISTS lots)
+        list(TRANSFORM together_${lot} REPLACE "(.+)" "#include \"\\1\"\n" OUTPUT_VARIABLE lines)
         string(JOIN "" content ${lines})
-        set(file ${PROJECT_BINARY_DIR}/united/${target}-qml${number}.cpp)
+        set(file ${PROJECT_BINARY_DIR}/united/${target}-qml-${lot}.cpp)
         file(CONFIGURE OUTPUT ${file} CONTENT "${content}" @ONLY)
         set_source_files_properties(${file} TARGET_DIRECTORY ${target} PROPERTIES
             COMPILE_OPTIONS -w
-            OBJECT_DEPENDS "${together}"
+            OBJECT_DEPENDS "${together_${lot}}"
             SKIP_AUTOMOC ON
             SKIP_UNITY_BUILD_INCLUSION ON
         )
         target_sources(${target} PRIVATE ${file})
-        math(EXPR number "${number} + 1")
-    endwhile()
+    endforeach()
 endfunction()

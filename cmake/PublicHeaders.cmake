@@ -27,7 +27,7 @@ set(TAMBLE_PUBLIC_HEADERS
     plot/Plotter.h
 
     # Fields and lists.
-    screen/RMessageBox.h
+    dialogs/RMessageBox.h
     models/RSortFilterProxyModel.h
     fields/FieldReason.h
     fields/RStringRuleValidator.h

@@ -1,7 +1,15 @@
 #include "TypeCatalogue.h"
 
+#include "accordion/RAccordionColumn.h"
+#include "accordion/RAccordionHeader.h"
+#include "accordion/RAccordionItemBase.h"
+#include "accordion/RAccordionSectionHeaderBase.h"
+#include "bars/RAppBarBase.h"
+#include "bars/RAppBarNavButtonBase.h"
+#include "bars/RAppBarStateButtonBase.h"
 #include "base/PartComponents.h"
 #include "base/PendingValue.h"
+#include "base/RPopupBase.h"
 #include "bodeplot/RBodeplotCurve.h"
 #include "bodeplot/RLimiterCurve.h"
 #include "bodeplot/RSimpleCurve.h"
@@ -21,9 +29,16 @@
 #include "controls/RCheckBoxBase.h"
 #include "controls/RControlBackground.h"
 #include "controls/RLabelBase.h"
+#include "controls/RLoadingAnimationBase.h"
+#include "controls/RPaneBase.h"
+#include "controls/RProgressBarBase.h"
 #include "controls/RTabButtonBase.h"
 #include "controls/RTintedImage.h"
 #include "controls/RUnderlay.h"
+#include "dialogs/RDialogBase.h"
+#include "dialogs/RDialogBody.h"
+#include "dialogs/RMessageBox.h"
+#include "dragging/RDraggableItemBase.h"
 #include "dynamics/AGCCalculator.h"
 #include "dynamics/ANCCalculator.h"
 #include "dynamics/CompressorCalculator.h"
@@ -50,10 +65,18 @@
 #include "fields/RTextFieldIpAddressValidator.h"
 #include "fields/RTextFieldPinValidator.h"
 #include "fields/RTextInputBase.h"
+#include "flyouts/FlyoutHandle.h"
+#include "flyouts/RFlyoutLayer.h"
+#include "flyouts/RFlyoutToolbarBase.h"
+#include "flyouts/RFlyoutToolbarItemBase.h"
+#include "flyouts/RFlyoutWindowBase.h"
 #include "handles/RHandleBase.h"
+#include "lists/RListRowBase.h"
+#include "lists/RListViewBase.h"
 #include "menus/RMenuBase.h"
 #include "meter/RMeterBar.h"
 #include "meter/RMeterBase.h"
+#include "models/RRepeaterBase.h"
 #include "models/RSortFilterProxyModel.h"
 #include "plot/GraphPlotter.h"
 #include "plot/LineCalculator.h"
@@ -67,17 +90,23 @@
 #include "pointer/RMouseCursor.h"
 #include "pointer/RMouseDetection.h"
 #include "pointer/RMouseEventSpy.h"
-#include "screen/RMessageBox.h"
 #include "screen/RScreen.h"
+#include "scrolling/RStripRow.h"
 #include "style/SheetName.h"
 #include "style/StateHelper.h"
 #include "style/StyleChecker.h"
 #include "style/StyleEngineSetup.h"
 #include "style/StyleSet.h"
 #include "style/StyleSetProps.h"
+#include "style/WindowPalette.h"
 #include "style/loading/StylesDirWatcher.h"
 #include "style/loading/ThemeSelector.h"
+#include "views/RViewContainerBase.h"
+#include "workspace/RWorkspaceBlock.h"
+#include "workspace/RWorkspaceCanvas.h"
+#include "workspace/RWorkspaceItemValueBarBase.h"
 #include "workspace/RWorkspaceSelection.h"
+#include "workspace/RZoomSlider.h"
 #include "workspace/WorksheetBase.h"
 #include "workspace/WorkspaceBase.h"
 #include "workspace/WorkspaceItemBase.h"
@@ -329,35 +358,70 @@ void registerInputHelpers(const Registrar &registrar)
 // What the module's own components share. Not for clients: names and properties may change.
 void registerInternals(const Registrar &registrar)
 {
+    registrar.creatable<RAppBarBase>("RAppBarBase");
+    registrar.creatable<RAppBarNavButtonBase>("RAppBarNavButtonBase");
+    registrar.creatable<RAppBarStateButtonBase>("RAppBarStateButtonBase");
+    registrar.creatable<RBarButtonBase>("RBarButtonBase");
     registrar.creatable<RButtonBase>("RButtonBase");
     registrar.creatable<RCheckBoxBase>("RCheckBoxBase");
     registrar.creatable<RComboBoxBase>("RComboBoxBase");
     registrar.creatable<RComboBoxEntryBase>("RComboBoxEntryBase");
     registrar.creatable<RComboBoxIndicator>("RComboBoxIndicator");
     registrar.creatable<RComboBoxPopup>("RComboBoxPopup");
+    registrar.creatable<RAccordionColumn>("RAccordionColumn");
+    registrar.creatable<RAccordionHeader>("RAccordionHeader");
+    registrar.creatable<RAccordionItemBase>("RAccordionItemBase");
+    registrar.creatable<RAccordionSectionHeaderBase>("RAccordionSectionHeaderBase");
     registrar.creatable<RCellBase>("RCellBase");
     registrar.creatable<RCellContainerBase>("RCellContainerBase");
     registrar.creatable<RCellGridPropertiesBase>("RCellGridPropertiesBase");
     registrar.creatable<RControlBackground>("RControlBackground");
+    registrar.creatable<RDraggableItemBase>("RDraggableItemBase");
+    registrar.creatable<RDialogBase>("RDialogBase");
+    registrar.creatable<RDialogBody>("RDialogBody");
     registrar.creatable<RFaderBase>("RFaderBase");
+    registrar.creatable<FlyoutHandle>("RFlyoutHandle");
+    registrar.creatable<RFlyoutLayer>("RFlyoutLayer");
+    registrar.creatable<RFlyoutToolbarBase>("RFlyoutToolbarBase");
+    registrar.creatable<RFlyoutToolbarItemBase>("RFlyoutToolbarItemBase");
+    registrar.creatable<RFlyoutWindowBase>("RFlyoutWindowBase");
     registrar.creatable<RHandleBase>("RHandleBase");
+    registrar.creatable<RListRowBase>("RListRowBase");
+    registrar.creatable<RListViewBase>("RListViewBase");
     registrar.creatable<RMenuBase>("RMenuBase");
     registrar.creatable<RMeterBar>("RMeterBar");
     registrar.creatable<RLabelBase>("RLabelBase");
+    registrar.creatable<RLoadingAnimationBase>("RLoadingAnimationBase");
+    registrar.creatable<RPaneBase>("RPaneBase");
+    registrar.creatable<RProgressBarBase>("RProgressBarBase");
+    registrar.creatable<RRepeaterBase>("RRepeaterBase");
+    registrar.creatable<RStripRow>("RStripRow");
+    registrar.creatable<RPopupBase>("RPopupBase");
     registrar.creatable<RTabButtonBase>("RTabButtonBase");
     registrar.creatable<RTextFieldBase>("RTextFieldBase");
     registrar.creatable<RTextInputBase>("RTextInputBase");
     registrar.creatable<RTextAreaBase>("RTextAreaBase");
     registrar.creatable<RSpinBoxBase>("RSpinBoxBase");
+    registrar.creatable<RViewContainerBase>("RViewContainerBase");
+    registrar.creatable<RWorkspaceBlock>("RWorkspaceBlock");
+    registrar.creatable<RWorkspaceCanvas>("RWorkspaceCanvas");
+    registrar.creatable<RWorkspaceItemValueBarBase>("RWorkspaceItemValueBarBase");
+    registrar.creatable<RZoomSlider>("RZoomSlider");
     registrar.creatable<FieldEdit>("RFieldEdit");
     registrar.creatable<FieldFrame>("RFieldFrame");
     registrar.creatable<NumberSteps>("RNumberSteps");
     registrar.creatable<PendingValue>("RPendingValue");
     registrar.withLaterProperties<QQuickItem>();
+    registrar.withLaterProperties<QQuickFlickable>();
+    registrar.withLaterProperties<QQuickItemView>();
+    registrar.withLaterProperties<QQuickListView>();
     registrar.withLaterProperties<QQuickControl>();
     registrar.withLaterProperties<QQuickAbstractButton>();
+    registrar.withLaterProperties<QQuickPane>();
+    registrar.withLaterProperties<QQuickToolBar>();
     registrar.withLaterProperties<QQuickPopup>();
     registrar.withLaterProperties<QQuickMenu>();
+    registrar.withLaterProperties<QQuickDialog>();
     registrar.withLaterProperties<QQuickComboBox>();
     registrar.withLaterProperties<QQuickText>();
     registrar.withLaterProperties<QQuickLabel>();
@@ -370,6 +434,7 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RTintedImage>("RTintedImage");
     registrar.singleton<RTransferTable>("RTransferTable");
     registrar.creatable<RUnderlay>("RUnderlay");
+    registrar.creatable<WindowPalette>("RWindowPalette");
     registrar.singletons("Shared", {"RThemeValues"});
 }
 
@@ -379,7 +444,16 @@ void registerParts()
     const auto name = [](Part part, const char *file) {
         setPartSource(part, QUrl(QStringLiteral("qrc:/qml/") + QLatin1String(file)));
     };
+    name(Part::BarBadge, "RAppBar/RAppBarBadge.qml");
+    name(Part::BarCountdown, "RAppBar/RAppBarCountdown.qml");
+    name(Part::NavIcon, "RAppBar/RAppBarNavIcon.qml");
+    name(Part::ProgressMarks, "RProgressBar/RProgressMarks.qml");
+    name(Part::ProgressTravel, "RProgressBar/RProgressTravel.qml");
     name(Part::ValueBinding, "Shared/RValueBinding.qml");
+    name(Part::AccordionIcon, "RAccordion/RAccordionIcon.qml");
+    name(Part::AccordionSubtitle, "RAccordion/RAccordionSubtitle.qml");
+    name(Part::InsertionLine, "RAccordion/RInsertionLine.qml");
+    name(Part::DragFrame, "Shared/RDragFrame.qml");
     name(Part::CheckDot, "RCheckBox/RCheckDot.qml");
     name(Part::CheckIcon, "RCheckBox/RCheckIcon.qml");
     name(Part::ComboField, "RComboBox/RComboBoxField.qml");
@@ -402,6 +476,19 @@ void registerParts()
     name(Part::MenuLine, "RMenu/RMenuLine.qml");
     name(Part::SubMenu, "RMenu/RMenu.qml");
     name(Part::FieldMenu, "Shared/RFieldMenu.qml");
+    name(Part::PaneHeader, "RPane/RPaneHeader.qml");
+    name(Part::PaneToggle, "RPane/RPaneToggle.qml");
+    name(Part::FlyoutHeader, "RFlyout/RFlyoutHeader.qml");
+    name(Part::TabDot, "RTabButton/RTabDot.qml");
+    name(Part::TabMarks, "RTabButton/RTabMarks.qml");
+    name(Part::RowMark, "RListView/RRowMark.qml");
+    name(Part::ViewBlur, "RViewContainer/RViewBlur.qml");
+    name(Part::ViewBusy, "RViewContainer/RViewBusy.qml");
+    name(Part::DialogFrame, "RDialog/RDialogFrame.qml");
+    name(Part::MessageBoxDialog, "RDialog/RMessageBoxDialog.qml");
+    name(Part::RubberBand, "RSelectionRect/RSelectionRect.qml");
+    name(Part::WorkspaceItemTitle, "RWorkspace/RWorkspaceItemTitle.qml");
+    name(Part::WorkspaceScrollBars, "RWorkspace/RWorkspaceScrollBars.qml");
 }
 
 } // namespace

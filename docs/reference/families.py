@@ -4,11 +4,15 @@ import re
 
 FAMILIES = {
     "Window, theme and style": ["RApplicationWindow", "RTheme", "RStyleEngineSetup", "RStyleDebugMouseArea", "style"],
+    "Bars and progress": ["RAppBar", "bars", "RProgressBar", "RLoadingAnimation"],
     "Buttons": ["RButton", "RInconsistentButton", "RInconsistentPopup"],
     "Tabs and menus": ["RTabButton", "RMenu", "RPopupMenu", "menus"],
     "Fields and choices": ["RText/R(Number)?Text(Field|Area|Input).qml", "RSpinBox", "RComboBox", "RCheckBox", "fields"],
     "Tables": ["RCell", "cells"],
-    "Texts and decoration": ["RText", "RLabel", "RIcon", "RBoxShadow", "RFocusRectangle.qml"],
+    "Containers": ["RAccordion", "RScrollView", "RRepeater", "RRepeaterBase.h", "RDraggableItem.qml", "RListView",
+                   "RViewContainer", "RPane", "RScreen", "accordion", "dragging", "scrolling", "lists", "views"],
+    "Dialogs and flyouts": ["RDialog", "RFlyout", "dialogs", "flyouts"],
+    "Texts and decoration": ["RText", "RLabel", "RSectionHeader", "RIcon", "RBoxShadow", "RSelectionRect", "RFocusRectangle.qml"],
     "Levels": ["RFader", "RMeter", "RAxis", "fader", "meter", "RAxis.h", "RAxisItem.h"],
     "Frequency response": ["RBodeplot", "bodeplot"],
     "Dynamics": ["RLimiter/RLimiter.qml", "RCompressor", "RGate", "RDucker", "RAGC", "RANC", "dynamics"],
@@ -16,7 +20,7 @@ FAMILIES = {
     "Values and texts": ["tambleclient-common"],
     "Models": ["models"],
     "Pointer and screen": ["pointer", "screen"],
-    "Workspace": ["workspace"],
+    "Workspace": ["RWorkspace", "RWorksheet", "workspace"],
 }
 INTERNAL = "Internals"
 OTHERS = "Others"

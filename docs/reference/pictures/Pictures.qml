@@ -72,6 +72,7 @@ RApplicationWindow {
     Column {
         id: sheets
         width: root.width
+        BarSamples { width: sheets.width }
         ButtonSamples { width: sheets.width }
         TextSamples { width: sheets.width }
         FieldSamples { width: sheets.width }
