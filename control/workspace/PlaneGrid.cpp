@@ -28,9 +28,10 @@ QList<double> gridPlaces(double begin, double end, double step)
     const double last = std::floor(end / step);
     if (!(step > 0.0 && last >= first && last - first < mostLines))
         return places;
-    places.reserve(qsizetype(last - first) + 1);
-    for (double line = first; line <= last; line += 1.0)
-        places.append((line * step - begin) / (end - begin));
+    const int count = int(last - first) + 1;
+    places.reserve(count);
+    for (int line = 0; line < count; ++line)
+        places.append(((first + line) * step - begin) / (end - begin));
     return places;
 }
 

@@ -46,6 +46,7 @@ bool touches(const QRectF &rect, const QRectF &area)
 struct RectIndex::Tree : geometry::index::rtree<Leaf, geometry::index::quadratic<16>>
 {
     using rtree::rtree;
+    Tree &operator=(Tree &&) = delete; // allocates: trees are swapped
 };
 
 RectIndex::RectIndex()
@@ -165,7 +166,8 @@ void RectIndex::rebuild() const
         entry.isFiled = entry.isPresent;
         entry.isWaiting = false;
     }
-    *m_tree = Tree(leaves.begin(), leaves.end());
+    Tree rebuilt(leaves.begin(), leaves.end());
+    m_tree->swap(rebuilt);
 }
 
 } // namespace tamble::client

@@ -44,7 +44,7 @@ public:
     {
         QAccessible::installActivationObserver(this);
     }
-    ~Ears() { QAccessible::removeActivationObserver(this); }
+    ~Ears() override { QAccessible::removeActivationObserver(this); }
     void accessibilityActiveChanged(bool active) override
     {
         if (active)

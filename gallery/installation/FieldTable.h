@@ -4,6 +4,8 @@
 #include <QtCore/QString>
 #include <QtCore/QStringView>
 
+#include <limits>
+
 /// What sort of value a field holds; FieldRules.h says what each allows.
 enum class ValueKind {
     Line,         ///< one line of text
@@ -50,6 +52,9 @@ struct ChannelCount
 };
 
 constexpr int samplesPerMillisecond = 48;
+
+/// Value of a gain that is off, dB.
+constexpr double gainOff = -std::numeric_limits<double>::infinity();
 
 /// 4 × 4 of an amplifier, 16 × 2 of a mixer, 16 × 16 of a matrix.
 ChannelCount channelCount(DeviceKind kind);

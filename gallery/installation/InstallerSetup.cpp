@@ -1,13 +1,11 @@
 #include "InstallerSetup.h"
 
+#include "FieldTable.h"
 #include "NetworkSources.h"
 
 #include <array>
-#include <limits>
 
 namespace {
-
-constexpr double off = -std::numeric_limits<double>::infinity();
 
 constexpr std::array places{"Stage left", "Stage right", "Balcony", "Foyer", "Delay tower", "Control room"};
 
@@ -32,7 +30,7 @@ constexpr std::array<MixerInput, 16> band{{
     {"Vocal", 0.0},
     {"Vocal 2", -3.0},
     {"Choir", -11.0},
-    {"Talkback", off},
+    {"Talkback", gainOff},
 }};
 
 constexpr std::array matrixInputs{"Main L",     "Main R",     "Monitor 1", "Monitor 2", "Sub mix",  "Front fill",
@@ -90,7 +88,7 @@ DeviceRecord installedAmplifier(int number)
                         (isInput ? QStringLiteral("In %1") : QStringLiteral("Way %1")).arg(ofKind));
         amplifier.write(channel + QStringLiteral("Source"),
                         number % 5 == 4 && ofKind == 4 ? 9000 + number : networkSources()[source].id);
-        amplifier.write(channel + QStringLiteral("Gain"), ofKind == 4 ? off : -3.0 * i);
+        amplifier.write(channel + QStringLiteral("Gain"), ofKind == 4 ? gainOff : -3.0 * i);
         amplifier.write(channel + QStringLiteral("DelaySamples"), 48 * place + 12 * i);
     }
     return amplifier.record();

@@ -8,7 +8,6 @@
 #include <QtCore/QUuid>
 
 #include <algorithm>
-#include <limits>
 
 namespace {
 
@@ -17,7 +16,6 @@ constexpr double coldest = 20.0;   // °C
 constexpr double quietest = -60.0; // dB
 constexpr double loudest = 18.0;   // dB
 constexpr double loud = 6.0;       // dB, beyond which an output may clip
-constexpr double off = -std::numeric_limits<double>::infinity();
 
 /// Blocks from their places to others.
 class MoveStep : public EditStep
@@ -239,7 +237,7 @@ QVariant StageModel::dataOfDevice(int device, int role) const
 QVariant StageModel::dataOfLoudspeaker(const StageBlock &block, int role) const
 {
     const auto gain = [&] {
-        return isMuted(block) ? off : m_client.said(block.device, outputField(block, "Gain")).toDouble();
+        return isMuted(block) ? gainOff : m_client.said(block.device, outputField(block, "Gain")).toDouble();
     };
     switch (role) {
     case KindRole:
@@ -253,7 +251,7 @@ QVariant StageModel::dataOfLoudspeaker(const StageBlock &block, int role) const
     case LimitRole:
         return loud;
     case ValueTextRole:
-        return gain() == off ? tr("off") : tr("%1 dB").arg(gain(), 0, 'f', 1);
+        return gain() == gainOff ? tr("off") : tr("%1 dB").arg(gain(), 0, 'f', 1);
     case StatusRole:
         return !m_client.isOnline(block.device) ? QStringLiteral("offline")
                : isMuted(block)                 ? QStringLiteral("mute")

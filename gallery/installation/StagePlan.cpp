@@ -34,8 +34,9 @@ int countOf(int amplifier, int way)
 
 QPointF zoneOf(int amplifier)
 {
-    return {margin + zoneSize.width() * (amplifier % zoneColumns),
-            margin + headRoom + zoneSize.height() * (amplifier / zoneColumns)};
+    const int column = amplifier % zoneColumns;
+    const int row = amplifier / zoneColumns;
+    return {margin + zoneSize.width() * column, margin + headRoom + zoneSize.height() * row};
 }
 
 /// In the middle of the top: the mixers and the matrix.
