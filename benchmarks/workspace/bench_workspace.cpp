@@ -27,22 +27,22 @@ constexpr int movedItems = 500;
 constexpr int rounds = 20;
 
 /// A page of 1280 by 800 on which 8 by 5 items are seen.
-const char page[] = "RWorksheet { id: page; width: 1280; height: 800; property int count\n"
+const char worksheet[] = "RWorksheet { id: page; width: 1280; height: 800; property int count\n"
                     "property RWorkspace canvas: canvas\n"
                     "RWorkspace { id: canvas; anchors.fill: parent; planeRect: Qt.rect(0, 0, 20000, 20000)\n"
                     "Repeater { model: page.count; %1; required property int index\n"
                     "position: Qt.point(160 * (index % 8 + 8 * Math.floor(index / 400)) + 20,"
                     " 160 * (Math.floor(index / 8) % 50) + 20) } } } }";
 
-constexpr const char *block = "RWorkspaceItem { title: 'Amplifier'";
+constexpr const char *styledItem = "RWorkspaceItem { title: 'Amplifier'";
 constexpr const char *bareItem = "RWorkspaceItemBase { width: 96; height: 64";
 
 class Pages
 {
 public:
-    explicit Pages(ControlScene &scene, const char *item = block)
+    explicit Pages(ControlScene &scene, const char *item = styledItem)
         : m_scene(scene)
-        , m_component(scene.compile(ourModule, QByteArray(page).replace("%1", item).constData()))
+        , m_component(scene.compile(ourModule, QByteArray(worksheet).replace("%1", item).constData()))
     {}
 
     std::unique_ptr<QQuickItem> make(int count)
@@ -106,18 +106,18 @@ void sendMouse(QQuickWindow &window, QEvent::Type type, const QPointF &place)
     QCoreApplication::sendEvent(&window, &event);
 }
 
-void compareMoves(benchmark::State &state, const char *item)
+void compareMoves(benchmark::State &state, const char *kind)
 {
     constexpr int steps = 20;
     ControlScene scene;
-    Pages pages(scene, item);
+    Pages pages(scene, kind);
     const auto made = pages.make(manyItems);
     made->setVisible(true);
     scene.awaitFrame();
     auto &canvas = Pages::canvasOf(*made);
     QList<WorkspaceItemBase *> items;
-    for (QObject *item : canvas.items().first(movedItems))
-        items.append(static_cast<WorkspaceItemBase *>(item));
+    for (QObject *moved : canvas.items().first(movedItems))
+        items.append(static_cast<WorkspaceItemBase *>(moved));
     canvas.selection()->assign(items, nullptr);
     const QPointF grip = canvas.mapToScene(canvas.mapFromPlane(items.first()->planeRect().center()));
 
@@ -190,7 +190,7 @@ int main(int argc, char **argv)
     addComparison("pan", rounds, [](benchmark::State &state) { compareFrames(state, itemsInView, pan); });
     addComparison("zoom", rounds, [](benchmark::State &state) { compareFrames(state, itemsInView, zoom); });
     addComparison("empty", rounds, [](benchmark::State &state) { compareFrames(state, 0, pan); });
-    addComparison("move", rounds, [](benchmark::State &state) { compareMoves(state, block); });
+    addComparison("move", rounds, [](benchmark::State &state) { compareMoves(state, styledItem); });
     addComparison("move/bare", rounds, [](benchmark::State &state) { compareMoves(state, bareItem); });
     addComparison("create", rounds, compareMaking);
     benchmark::RunSpecifiedBenchmarks();
