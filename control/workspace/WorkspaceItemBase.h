@@ -5,16 +5,17 @@
 #include "workspace/WorkspaceBase.h"
 
 #include <QtCore/QPointF>
-#include <QtCore/QPointer>
 #include <QtCore/QRectF>
 #include <QtCore/QSizeF>
 #include <QtCore/QUuid>
 #include <QtQml/QQmlComponent>
 #include <QtQuick/QQuickItem>
 
-#include <optional>
+#include <memory>
 
 namespace tamble::client {
+
+class ItemContent;
 
 /// Item on the plane of a workspace. `position` and `size` are in plane units.
 ///
@@ -77,10 +78,10 @@ public:
     void setMinimumSize(const QSizeF &size);
     /// Where a page's content is: a child that is hidden while the item is out of view or not `detailed`, without a
     /// change of the item's own `visible`; null by default.
-    QQuickItem *contentItem() const { return m_contentItem; }
+    QQuickItem *contentItem() const;
     void setContentItem(QQuickItem *item);
     /// Content that is made below `contentItem`, or else below the item, when it is first to be seen; null by default.
-    QQmlComponent *contentComponent() const { return m_contentComponent; }
+    QQmlComponent *contentComponent() const;
     void setContentComponent(QQmlComponent *component);
 
     bool selected() const { return m_selected; }
@@ -134,6 +135,8 @@ protected:
     /// One of `selected`, `hovered`, `keyFocus`, `moving`, `locked`, `inView` and `detailed` has changed; for what a
     /// derived item makes of itself. Called before the signal.
     virtual void lookChange() {}
+    /// `size` has changed; likewise called before the signal.
+    virtual void sizeChange() {}
 
     void itemChange(ItemChange change, const ItemChangeData &data) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
@@ -153,6 +156,7 @@ private:
     void setInView(bool inView, bool detailed);
     void applyPosition();
     void applySize();
+    ItemContent &content();
     void updateContent();
     void showPosition(const QPointF &position);
     void endMove();
@@ -162,14 +166,13 @@ private:
     QPointF m_position;
     QSizeF m_size; // what was set, or invalid
     QSizeF m_minimumSize = {32.0, 32.0};
-    std::optional<QPointF> m_waitingPosition; // set by the page during a move
-    WorkspaceBase *m_workspace = nullptr;     // unregisters all when it goes
-    QPointer<QQuickItem> m_contentItem;
-    QPointer<QQmlComponent> m_contentComponent;
-    QPointer<QQuickItem> m_madeContent; // of the component, a child
-    qreal m_unit = 1.0;                 // of the workspace
-    quint32 m_slot = 0;                 // of the workspace's register
-    int m_rank = -1;                    // where the item was among its siblings when last looked up
+    WorkspaceBase *m_workspace = nullptr; // unregisters all when it goes
+    // By pointer, as most items have none: what 2,000 of them cost to make goes with their size.
+    std::unique_ptr<QPointF> m_waitingPosition; // set by the page during a move
+    std::unique_ptr<ItemContent> m_content;
+    qreal m_unit = 1.0; // of the workspace
+    quint32 m_slot = 0; // of the workspace's register
+    int m_rank = -1;    // where the item was among its siblings when last looked up
     bool m_selected = false;
     bool m_selectable = true;
     bool m_movable = true;
@@ -181,7 +184,7 @@ private:
     bool m_inView = false;
     bool m_detailed = true;
     bool m_isPlaced = false;  // and the workspace has not yet looked where
-    bool m_isPlacing = false; // the geometry follows the position, not the other way round
+    bool m_isPlacing = false; // Qt's position follows `position`, not the other way round
 };
 
 } // namespace tamble::client
