@@ -175,12 +175,15 @@ void WorkspaceItemBase::geometryChange(const QRectF &newGeometry, const QRectF &
         m_position = newGeometry.topLeft() / m_unit;
     if (m_workspace)
         m_workspace->placeItem(*this);
-    const QPointer<WorkspaceItemBase> self(this);
     if (isResized)
         sizeChange();
-    if (isMovedByPage)
+    if (isMovedByPage) {
+        const QPointer<WorkspaceItemBase> self(this);
         Q_EMIT positionChanged();
-    if (self && isResized)
+        if (!self)
+            return;
+    }
+    if (isResized)
         Q_EMIT sizeChanged();
 }
 
