@@ -97,7 +97,7 @@ void WorkspaceItemBase::setPlanePosition(const QPointF &position)
 
 void WorkspaceItemBase::showPosition(const QPointF &position)
 {
-    if (m_position == position)
+    if (m_position.x() == position.x() && m_position.y() == position.y())
         return;
     m_position = position;
     applyPosition();

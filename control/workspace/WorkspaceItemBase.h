@@ -162,29 +162,30 @@ private:
     void endMove();
     void speak();
 
-    mutable QUuid m_itemId; // null until somebody asks: most items are never asked
+    // What a step of a move touches comes first, in one line of the cache.
     QPointF m_position;
-    QSizeF m_size; // what was set, or invalid
-    QSizeF m_minimumSize = {32.0, 32.0};
+    qreal m_unit = 1.0;                   // of the workspace
     WorkspaceBase *m_workspace = nullptr; // unregisters all when it goes
-    // By pointer, as most items have none: what 2,000 of them cost to make goes with their size.
-    std::unique_ptr<QPointF> m_waitingPosition; // set by the page during a move
-    std::unique_ptr<ItemContent> m_content;
-    qreal m_unit = 1.0; // of the workspace
-    quint32 m_slot = 0; // of the workspace's register
-    int m_rank = -1;    // where the item was among its siblings when last looked up
+    quint32 m_slot = 0;                   // of the workspace's register
+    bool m_isPlaced = false;              // and the workspace has not yet looked where
+    bool m_isPlacing = false;             // Qt's position follows `position`, not the other way round
+    bool m_moving = false;
     bool m_selected = false;
     bool m_selectable = true;
     bool m_movable = true;
     bool m_resizable = false;
     bool m_locked = false;
-    bool m_moving = false;
     bool m_hovered = false;
     bool m_keyFocus = false;
     bool m_inView = false;
     bool m_detailed = true;
-    bool m_isPlaced = false;  // and the workspace has not yet looked where
-    bool m_isPlacing = false; // Qt's position follows `position`, not the other way round
+    int m_rank = -1; // where the item was among its siblings when last looked up
+    QSizeF m_size;   // what was set, or invalid
+    QSizeF m_minimumSize = {32.0, 32.0};
+    mutable QUuid m_itemId; // null until somebody asks: most items are never asked
+    // By pointer, as most items have none: what 2,000 of them cost to make goes with their size.
+    std::unique_ptr<QPointF> m_waitingPosition; // set by the page during a move
+    std::unique_ptr<ItemContent> m_content;
 };
 
 } // namespace tamble::client
