@@ -67,8 +67,8 @@ WorkspaceBase::WorkspaceBase(QQuickItem *parent)
     setClip(true);
     setActiveFocusOnTab(true);
     m_plane->setTransformOrigin(TopLeft);
-    // The canvas is one stop of the Tab key, whatever lies on it. (Qt would pass over an item all of whose children are
-    // such fences; the detection is none.)
+    // The canvas is one stop of the Tab key, whatever lies on it; see followFocus(). (Qt would pass over an item all of
+    // whose children are such fences; the detection is none.)
     QQuickItemPrivate::get(m_plane)->isTabFence = true;
     m_ownSelection->m_workspaces.append(this);
     connect(m_detection, &RMouseDetection::containsMouseChanged, this, &WorkspaceBase::updatePointerInside);
@@ -578,6 +578,20 @@ void WorkspaceBase::tellResized(const QHash<QUuid, QRectF> &before, const QHash<
 QString WorkspaceBase::spokenName() const
 {
     return tr("Workspace");
+}
+
+QList<QQuickItem *> WorkspaceBase::spokenOrder(const QList<QQuickItem *> &children) const
+{
+    QList<QQuickItem *> ordered;
+    for (WorkspaceItemBase *item : m_items->toRead()) {
+        if (item->inView() && children.contains(item))
+            ordered.append(item);
+    }
+    for (QQuickItem *child : children) {
+        if (!qobject_cast<WorkspaceItemBase *>(child))
+            ordered.append(child);
+    }
+    return ordered;
 }
 
 void WorkspaceBase::speak()

@@ -11,7 +11,9 @@
 #include <QtGui/QMouseEvent>
 #include <QtGui/QTouchEvent>
 #include <QtGui/QWheelEvent>
+#include <QtQuick/QQuickWindow>
 #include <QtQuick/private/qquickdrag_p.h>
+#include <QtQuick/private/qquickitem_p.h>
 
 #include <utility>
 
@@ -58,6 +60,12 @@ void WorkspaceBase::itemChange(ItemChange change, const ItemChangeData &data)
     const bool isGone = change == ItemSceneChange ||
                         ((change == ItemVisibleHasChanged || change == ItemEnabledHasChanged) && !data.boolValue);
     const QPointer<WorkspaceBase> self(this);
+    if (change == ItemSceneChange) {
+        disconnect(m_focusWatch);
+        if (data.window)
+            m_focusWatch =
+                connect(data.window, &QQuickWindow::activeFocusItemChanged, this, &WorkspaceBase::followFocus);
+    }
     if (isGone)
         cancelGesture();
     if (!self)
@@ -242,6 +250,28 @@ void WorkspaceBase::dropEvent(QDropEvent *event)
     }
     event->accept();
     Q_EMIT dropped(m_view.toPlane(event->position()), droppedData(*event->mimeData()));
+}
+
+// A click gives the keyboard to a control on an item, which Tab does not reach from outside: from there it goes through
+// the controls of the same item, and then leaves the canvas.
+void WorkspaceBase::followFocus()
+{
+    QQuickItem *focus = window() ? window()->activeFocusItem() : nullptr;
+    setTabFences(true);
+    m_focusInside = focus && focus != m_plane && m_plane->isAncestorOf(focus) ? focus : nullptr;
+    setTabFences(false);
+    for (QQuickItem *item = m_focusInside; item && item != m_plane; item = item->parentItem()) {
+        if (auto *entered = qobject_cast<WorkspaceItemBase *>(item))
+            return setCurrentItem(entered);
+    }
+}
+
+void WorkspaceBase::setTabFences(bool areFences)
+{
+    for (QQuickItem *item = m_focusInside; item && item != this; item = item->parentItem()) {
+        if (item == m_plane || qobject_cast<WorkspaceItemBase *>(item))
+            QQuickItemPrivate::get(item)->isTabFence = areFences;
+    }
 }
 
 void WorkspaceBase::focusInEvent(QFocusEvent *event)

@@ -37,6 +37,7 @@ bool isFiniteSize(const QSizeF &size)
 WorkspaceItemBase::WorkspaceItemBase(QQuickItem *parent)
     : QQuickItem(parent)
 {
+    QQuickItemPrivate::get(this)->isTabFence = true; // for its controls; the workspace lets Tab through
     if (parent)
         findWorkspace();
 }

@@ -42,7 +42,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT WorkspaceItemBase : public QQuickItem, public
     /// The workspace that the item is on, its nearest ancestor of that kind; null for none.
     Q_PROPERTY(tamble::client::WorkspaceBase *workspace READ workspace NOTIFY workspaceChanged)
     Q_PROPERTY(QSizeF minimumSize READ minimumSize WRITE setMinimumSize NOTIFY minimumSizeChanged)
-    /// Whether the pointer is over the item, and no other item of the plane in front of it.
+    /// Whether the pointer is over the item, and no other item of the plane in front of it. A control inside that shows
+    /// a hover of its own keeps it from the item.
     Q_PROPERTY(bool hovered READ hovered NOTIFY hoveredChanged)
     /// Whether keys act on the item: it is the current one of a workspace that has the keyboard.
     Q_PROPERTY(bool keyFocus READ keyFocus NOTIFY keyFocusChanged)

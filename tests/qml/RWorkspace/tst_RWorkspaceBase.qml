@@ -396,6 +396,26 @@ ThemedTestCase {
         verify(page.workspace.viewX > 2000 && page.workspace.viewY > 1000)
     }
 
+    function test_tabFromAControlOnAnItem() {
+        const page = makePage("")
+        const [before, after] = [page.children[0], page.children[2]]
+        const inside = [0, 20].map(y => createTemporaryQmlObject(
+            `import TambleClient.Control 1.0; RButton { text: 'inside'; width: 40; height: 20; y: ${y} }`, page.b))
+        createTemporaryQmlObject("import TambleClient.Control 1.0; RButton { text: 'of another' }", page.c)
+        mouseClick(inside[0])
+        inside[0].forceActiveFocus()
+        compare(page.workspace.currentItem, page.b)
+        keyClick(Qt.Key_Tab)
+        verify(inside[1].activeFocus)
+        keyClick(Qt.Key_Tab)
+        verify(after.activeFocus)
+        inside[0].forceActiveFocus()
+        keyClick(Qt.Key_Tab, Qt.ShiftModifier)
+        verify(page.workspace.activeFocus && page.b.keyFocus)
+        keyClick(Qt.Key_Tab)
+        verify(page.c.keyFocus)
+    }
+
     function test_commands_data() {
         return [
             { tag: "Space", keys: [[Qt.Key_Space]], selected: "b", log: [] },
