@@ -1,5 +1,7 @@
 #include "workspace/ItemContent.h"
 
+#include "base/PageItem.h"
+
 namespace tamble::client {
 
 void ItemContent::setComponent(QQmlComponent *component)
@@ -10,14 +12,8 @@ void ItemContent::setComponent(QQmlComponent *component)
 
 void ItemContent::show(bool isShown, QQuickItem &owner)
 {
-    if (isShown && m_component && !m_made && m_component->isReady()) {
-        QQuickItem *host = m_item ? m_item.data() : &owner;
-        const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue(host)}};
-        QObject *made = m_component->createWithInitialProperties(properties, m_component->creationContext());
-        m_made = qobject_cast<QQuickItem *>(made);
-        if (made)
-            made->setParent(&owner);
-    }
+    if (isShown && m_component && !m_made)
+        m_made = makePageItem(*m_component, m_item ? *m_item : owner, owner);
     if (m_item)
         m_item->setVisible(isShown);
     else if (m_made)

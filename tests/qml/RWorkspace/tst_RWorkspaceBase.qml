@@ -112,7 +112,7 @@ ThemedTestCase {
 
     function test_contentOnDemand() {
         const page = makePage("")
-        const content = createTemporaryQmlObject("import QtQuick; Component { Item { objectName: 'content' } }", page)
+        const content = createTemporaryObject(contentComponent, root).content
         page.a.position = Qt.point(2000, 40)
         tryVerify(() => !page.a.inView)
         page.a.contentComponent = content
@@ -121,6 +121,13 @@ ThemedTestCase {
         page.workspace.viewX = 1900
         tryVerify(() => page.a.children.length === 1)
         compare(page.a.children[0].objectName, "content")
+    }
+
+    Component {
+        id: contentComponent
+        QtObject {
+            property Component content: Item { objectName: "content" }
+        }
     }
 
     function test_press_data() {
