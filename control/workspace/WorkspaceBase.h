@@ -38,7 +38,9 @@ struct SnapRules;
 /// Enter activates the current item, Ctrl+A selects all, Delete asks for deletion, Esc takes back what is under way or
 /// clears the selection; Ctrl with Plus, Minus and 0 zooms, with 1 shows all and with 2 the selected items. From a
 /// control on an item Tab goes to the other controls of that item and then on.
-class TAMBLE_CLIENT_CONTROL_EXPORT WorkspaceBase : public QQuickItem, public SpokenControl
+class TAMBLE_CLIENT_CONTROL_EXPORT WorkspaceBase : public QQuickItem,
+                                                   public SpokenControl,
+                                                   private QAccessible::ActivationObserver
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RWorkspaceBase)
@@ -288,7 +290,6 @@ protected:
 private:
     friend class RWorkspaceSelection;
     friend class WorkspaceItemBase;
-    class Ears;
 
     template <typename Change>
     void changeView(Change change);
@@ -321,6 +322,7 @@ private:
     void selectCurrent(bool toggles);
     bool moveCurrent(bool isForward);
     void askForMenu();
+    void accessibilityActiveChanged(bool active) override;
     void speak();
 
     PlaneView m_view;
@@ -348,7 +350,6 @@ private:
     QPointer<RWorkspaceSelection> m_selection;
     std::unique_ptr<WorkspaceItems> m_items;
     std::unique_ptr<WorkspaceInput> m_input;
-    std::unique_ptr<Ears> m_ears;
 };
 
 } // namespace tamble::client

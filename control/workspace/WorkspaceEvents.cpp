@@ -13,7 +13,6 @@
 #include <QtGui/QWheelEvent>
 #include <QtQuick/QQuickWindow>
 #include <QtQuick/private/qquickdrag_p.h>
-#include <QtQuick/private/qquickitem_p.h>
 
 #include <utility>
 
@@ -250,45 +249,6 @@ void WorkspaceBase::dropEvent(QDropEvent *event)
     }
     event->accept();
     Q_EMIT dropped(m_view.toPlane(event->position()), droppedData(*event->mimeData()));
-}
-
-// A click gives the keyboard to a control on an item, which Tab does not reach from outside: from there it goes through
-// the controls of the same item, and then leaves the canvas.
-void WorkspaceBase::followFocus()
-{
-    QQuickItem *focus = window() ? window()->activeFocusItem() : nullptr;
-    setTabFences(true);
-    m_focusInside = focus && focus != m_plane && m_plane->isAncestorOf(focus) ? focus : nullptr;
-    setTabFences(false);
-    for (QQuickItem *item = m_focusInside; item && item != m_plane; item = item->parentItem()) {
-        if (auto *entered = qobject_cast<WorkspaceItemBase *>(item))
-            return setCurrentItem(entered);
-    }
-}
-
-void WorkspaceBase::setTabFences(bool areFences)
-{
-    for (QQuickItem *item = m_focusInside; item && item != this; item = item->parentItem()) {
-        if (item == m_plane || qobject_cast<WorkspaceItemBase *>(item))
-            QQuickItemPrivate::get(item)->isTabFence = areFences;
-    }
-}
-
-void WorkspaceBase::focusInEvent(QFocusEvent *event)
-{
-    QQuickItem::focusInEvent(event);
-    updateKeyFocus();
-}
-
-void WorkspaceBase::focusOutEvent(QFocusEvent *event)
-{
-    const QPointer<WorkspaceBase> self(this);
-    QQuickItem::focusOutEvent(event);
-    m_input->holdSpace(false);
-    setFiltersChildMouseEvents(false);
-    m_input->nudge().finish();
-    if (self)
-        updateKeyFocus();
 }
 
 } // namespace tamble::client
