@@ -28,11 +28,11 @@ constexpr int rounds = 20;
 
 /// A page of 1280 by 800 on which 8 by 5 items are seen.
 const char worksheet[] = "RWorksheet { id: page; width: 1280; height: 800; property int count\n"
-                    "property RWorkspace canvas: canvas\n"
-                    "RWorkspace { id: canvas; anchors.fill: parent; planeRect: Qt.rect(0, 0, 20000, 20000)\n"
-                    "Repeater { model: page.count; %1; required property int index\n"
-                    "position: Qt.point(160 * (index % 8 + 8 * Math.floor(index / 400)) + 20,"
-                    " 160 * (Math.floor(index / 8) % 50) + 20) } } } }";
+                         "property RWorkspace canvas: canvas\n"
+                         "RWorkspace { id: canvas; anchors.fill: parent; planeRect: Qt.rect(0, 0, 20000, 20000)\n"
+                         "Repeater { model: page.count; %1; required property int index\n"
+                         "position: Qt.point(160 * (index % 8 + 8 * Math.floor(index / 400)) + 20,"
+                         " 160 * (Math.floor(index / 8) % 50) + 20) } } } }";
 
 constexpr const char *styledItem = "RWorkspaceItem { title: 'Amplifier'";
 constexpr const char *bareItem = "RWorkspaceItemBase { width: 96; height: 64";
