@@ -174,6 +174,7 @@ private Q_SLOTS:
         group->setZ(1);
 
         auto *added = new WorkspaceItemBase;
+        added->setParent(canvas.workspace);
         added->setParentItem(canvas.workspace);
         QCOMPARE(added->parentItem(), canvas.workspace->plane());
         QCOMPARE(canvas.workspace->items().size(), 4);
