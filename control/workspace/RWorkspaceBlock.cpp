@@ -156,9 +156,9 @@ void RWorkspaceBlock::updateLook()
     if (!isComponentComplete() || (!inView() && !m_look))
         return;
     followZoom();
+    fitLines();
     if (inView()) {
         feedStates();
-        fitLines();
         if (!m_look)
             m_look = new BlockLook(*this);
         m_look->refresh();
@@ -168,11 +168,13 @@ void RWorkspaceBlock::updateLook()
 
 void RWorkspaceBlock::followZoom()
 {
-    if (inView() == bool(m_zoomConnection))
+    // A workspace that goes leaves its items in view.
+    const bool follows = inView() && workspace();
+    if (follows == bool(m_zoomConnection))
         return;
     disconnect(m_zoomConnection);
     m_zoomConnection = {};
-    if (inView())
+    if (follows)
         m_zoomConnection = connect(workspace(), &WorkspaceBase::zoomChanged, this, [this] {
             if (fitLines())
                 m_look->refresh();
@@ -181,6 +183,8 @@ void RWorkspaceBlock::followZoom()
 
 bool RWorkspaceBlock::fitLines()
 {
+    if (!m_zoomConnection)
+        return false;
     const qreal zoom = workspace()->zoom();
     // In steps, so that not every zoom draws all lines anew; never too thin to be seen.
     const qreal steps = std::ceil(std::log(1.0 / zoom) / std::log(lineStep) - 1e-6);

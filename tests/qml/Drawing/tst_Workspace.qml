@@ -54,7 +54,7 @@ ThemedTestCase {
 
     // Lines are a pixel wide, or a little more, where a unit is less. Some renderers blend them with what is beside.
     function test_linesAtAnyZoom_data() {
-        return [0.2, 0.3, 0.45, 0.6, 0.75, 0.9].map(zoom => ({ tag: String(zoom), zoom: zoom }))
+        return Array.from([0.2, 0.3, 0.45, 0.6, 0.75, 0.9], zoom => ({ tag: String(zoom), zoom: zoom }))
     }
     function test_linesAtAnyZoom(row) {
         const item = itemOf()

@@ -49,7 +49,7 @@ ThemedTestCase {
 
     // Keys of the window count where the canvas has not the focus.
     function test_zoomKeys() {
-        const page = make("Item { id: page; property int pressed: 0; property Item workspace: RWorkspace { parent: page; width: 300; height: 200 } property Item other: Item { parent: page }\n" + ["Ctrl+=", "Ctrl++", "Ctrl+-", "Ctrl+0"].map(keys => "Shortcut { sequence: '" + keys + "'; onActivated: ++page.pressed }").join("\n") + " }")
+        const page = make("Item { id: page; property int pressed: 0; property Item workspace: RWorkspace { parent: page; width: 300; height: 200 } property Item other: Item { parent: page }\n" + Array.from(["Ctrl+=", "Ctrl++", "Ctrl+-", "Ctrl+0"], keys => "Shortcut { sequence: '" + keys + "'; onActivated: ++page.pressed }").join("\n") + " }")
         const press = () => {
             const zooms = []
             for (const [key, modifiers] of [[Qt.Key_Plus, Qt.ControlModifier], [Qt.Key_0, Qt.ControlModifier], [Qt.Key_Minus, Qt.ControlModifier]]) {
