@@ -14,7 +14,10 @@ FocusScope {
     /*! Selects what the page shows in detail. */
     function showChosen() {
         const isChosen = row => Festival.chosenDevices.includes(rows.get(row).device)
-        devices.selectedIndexes = Array.from({ length: rows.count }, (_, row) => row).filter(isChosen)
+        const chosen = Array.from({ length: rows.count }, (_, row) => row).filter(isChosen)
+        devices.selectedIndexes = chosen
+        if (chosen.length > 0)
+            devices.currentIndex = chosen[0]
     }
 
     Connections {
