@@ -1,5 +1,6 @@
 #include "base/InputMeaning.h"
 #include "pointer/RMouseDetection.h"
+#include "workspace/DroppedData.h"
 #include "workspace/WorksheetBase.h"
 #include "workspace/WorkspaceBase.h"
 #include "workspace/WorkspaceInput.h"
@@ -12,7 +13,6 @@
 #include <QtGui/QTouchEvent>
 #include <QtGui/QWheelEvent>
 #include <QtQuick/QQuickWindow>
-#include <QtQuick/private/qquickdrag_p.h>
 
 #include <utility>
 
@@ -25,22 +25,6 @@ namespace {
 PointerAt pointerOf(const QMouseEvent &event)
 {
     return {event.position(), event.modifiers()};
-}
-
-/// The item that is dragged within the application, or else what another one has put into the drag.
-QVariant droppedData(const QMimeData &data)
-{
-    // Qt keeps the meta-object of that class to itself.
-    if (data.inherits("QQuickDragMimeData"))
-        return QVariant::fromValue(static_cast<const QQuickDragMimeData &>(data).source());
-    if (data.hasUrls())
-        return QVariant::fromValue(data.urls());
-    if (data.hasText())
-        return data.text();
-    QVariantMap formats;
-    for (const QString &format : data.formats())
-        formats.insert(format, data.data(format));
-    return formats;
 }
 
 } // namespace
