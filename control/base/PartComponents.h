@@ -72,8 +72,8 @@ class PartComponents : public QObject
 public:
     static PartComponents &of(QQmlEngine *engine);
 
-    /// Makes a part that is an item below `parent`; null outside of QML.
-    static QQuickItem *makeItem(Part part, QQuickItem &parent);
+    /// Makes a part that is an item below `parent`, with further initial properties; null outside of QML.
+    static QQuickItem *makeItem(Part part, QQuickItem &parent, QVariantMap properties = {});
 
     /// Makes a part as a child of `owner`; null, with a log line, when its file has a fault.
     QObject *make(Part part, QObject *owner, const QVariantMap &initialProperties);
