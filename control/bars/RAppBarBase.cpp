@@ -76,17 +76,25 @@ RAppBarBase::RAppBarBase(QQuickItem *parent)
 RAppBarBase::~RAppBarBase()
 {
     disconnect(m_windowFocus);
-    for (QQuickItem *row : {m_leadingRow, m_navigationRow, m_trailingRow, m_subRow}) {
+    for (QQuickItem *row : {leadingRow(), navigationRow(), trailingRow(), subRow()}) {
         if (row)
             row->disconnect(this);
     }
 }
 
+void RAppBarBase::setRow(QPointer<QQuickItem> &stored, QQuickItem *row)
+{
+    if (stored || !row)
+        return;
+    stored = row;
+    connect(row, &QQuickItem::implicitWidthChanged, this, &RAppBarBase::planAgain);
+    planAgain();
+    Q_EMIT rowsChanged();
+}
+
 void RAppBarBase::componentComplete()
 {
     QQuickToolBar::componentComplete();
-    for (QQuickItem *row : {m_leadingRow, m_navigationRow, m_trailingRow, m_subRow})
-        connect(row, &QQuickItem::implicitWidthChanged, this, &RAppBarBase::planAgain);
     planAgain();
 }
 
@@ -109,7 +117,7 @@ void RAppBarBase::itemChange(ItemChange change, const ItemChangeData &data)
 void RAppBarBase::updatePolish()
 {
     QQuickToolBar::updatePolish();
-    if (!isComponentComplete())
+    if (!isComponentComplete() || !hasRows())
         return;
     const BarWidths widths{rowWidth(*m_leadingRow, widthNow), rowWidth(*m_navigationRow, widthWithText),
                            rowWidth(*m_navigationRow, widthWithoutText), rowWidth(*m_trailingRow, widthNow)};
@@ -151,7 +159,7 @@ void RAppBarBase::reveal(const QQuickItem *item)
 
 RAppBarBase::Place RAppBarBase::placeOf(const QQuickItem *item) const
 {
-    if (!item || !isAncestorOf(item))
+    if (!item || !hasRows() || !isAncestorOf(item))
         return Place::Elsewhere;
     return m_subRow->isAncestorOf(item) ? Place::SubRow : Place::MainRow;
 }
@@ -159,10 +167,12 @@ RAppBarBase::Place RAppBarBase::placeOf(const QQuickItem *item) const
 FocusRow RAppBarBase::buttonsAt(Place place) const
 {
     QList<RButtonBase *> buttons;
+    if (!hasRows())
+        return FocusRow(std::move(buttons));
     if (place == Place::SubRow) {
         collectButtons(*m_subRow, buttons);
     } else if (place == Place::MainRow) {
-        for (const QQuickItem *row : {m_leadingRow, m_navigationRow, m_trailingRow})
+        for (const QQuickItem *row : {leadingRow(), navigationRow(), trailingRow()})
             collectButtons(*row, buttons);
     }
     return FocusRow(std::move(buttons));

@@ -19,11 +19,11 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RAppBarBase : public QQuickToolBar
     Q_OBJECT
     QML_NAMED_ELEMENT(RAppBarBase)
     /// The rows that hold the parts: `leadingRow`, `navigationRow` and `trailingRow`, which stand side by side, and
-    /// `subRow` below them.
-    Q_PROPERTY(QQuickItem *leadingRow MEMBER m_leadingRow NOTIFY rowsChanged FINAL REQUIRED)
-    Q_PROPERTY(QQuickItem *navigationRow MEMBER m_navigationRow NOTIFY rowsChanged FINAL REQUIRED)
-    Q_PROPERTY(QQuickItem *trailingRow MEMBER m_trailingRow NOTIFY rowsChanged FINAL REQUIRED)
-    Q_PROPERTY(QQuickItem *subRow MEMBER m_subRow NOTIFY rowsChanged FINAL REQUIRED)
+    /// `subRow` below them. Each is given once.
+    Q_PROPERTY(QQuickItem *leadingRow READ leadingRow WRITE setLeadingRow NOTIFY rowsChanged FINAL REQUIRED)
+    Q_PROPERTY(QQuickItem *navigationRow READ navigationRow WRITE setNavigationRow NOTIFY rowsChanged FINAL REQUIRED)
+    Q_PROPERTY(QQuickItem *trailingRow READ trailingRow WRITE setTrailingRow NOTIFY rowsChanged FINAL REQUIRED)
+    Q_PROPERTY(QQuickItem *subRow READ subRow WRITE setSubRow NOTIFY rowsChanged FINAL REQUIRED)
     /// Pixels per density-independent unit.
     Q_PROPERTY(qreal unit MEMBER m_unit NOTIFY unitChanged FINAL)
     /// Whether the texts of the navigation have no room, so that its buttons show only their icons.
@@ -39,6 +39,14 @@ public:
     explicit RAppBarBase(QQuickItem *parent = nullptr);
     ~RAppBarBase() override;
 
+    QQuickItem *leadingRow() const { return m_leadingRow; }
+    void setLeadingRow(QQuickItem *row) { setRow(m_leadingRow, row); }
+    QQuickItem *navigationRow() const { return m_navigationRow; }
+    void setNavigationRow(QQuickItem *row) { setRow(m_navigationRow, row); }
+    QQuickItem *trailingRow() const { return m_trailingRow; }
+    void setTrailingRow(QQuickItem *row) { setRow(m_trailingRow, row); }
+    QQuickItem *subRow() const { return m_subRow; }
+    void setSubRow(QQuickItem *row) { setRow(m_subRow, row); }
     bool isCompact() const { return m_plan.compact; }
     qreal navigationRoom() const { return m_plan.navigation; }
     qreal wholeWidth() const { return m_plan.whole; }
@@ -66,6 +74,8 @@ private:
     /// What has the focus.
     enum class Place { Elsewhere, MainRow, SubRow };
 
+    void setRow(QPointer<QQuickItem> &stored, QQuickItem *row);
+    bool hasRows() const { return m_leadingRow && m_navigationRow && m_trailingRow && m_subRow; }
     Place placeOf(const QQuickItem *item) const;
     FocusRow buttonsAt(Place place) const;
     void followFocus();
@@ -74,10 +84,10 @@ private:
     void usePlan(const BarPlan &plan);
     void reveal(const QQuickItem *item);
 
-    QQuickItem *m_leadingRow = nullptr;
-    QQuickItem *m_navigationRow = nullptr;
-    QQuickItem *m_trailingRow = nullptr;
-    QQuickItem *m_subRow = nullptr;
+    QPointer<QQuickItem> m_leadingRow;
+    QPointer<QQuickItem> m_navigationRow;
+    QPointer<QQuickItem> m_trailingRow;
+    QPointer<QQuickItem> m_subRow;
     QMetaObject::Connection m_windowFocus;
     QPointer<QQuickItem> m_focusedButton; // one of the bar's, whose keys are seen first here
     Place m_focusPlace = Place::Elsewhere;
