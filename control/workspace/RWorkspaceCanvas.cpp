@@ -32,12 +32,6 @@ constexpr qreal focusGap = 3.0;
 // Of the whole, less than a pixel.
 constexpr qreal wholeView = 0.9999;
 
-bool isZoomKey(int key)
-{
-    return key == Qt::Key_Plus || key == Qt::Key_Equal || key == Qt::Key_Minus || key == Qt::Key_Underscore ||
-           key == Qt::Key_0;
-}
-
 } // namespace
 
 const std::array<SheetColors::Source, 3> RWorkspaceCanvas::colorSources = {{
@@ -218,20 +212,6 @@ void RWorkspaceCanvas::showFocus()
     }
     m_focusPlace->setPosition(place.topLeft());
     m_focusPlace->setSize(place.size());
-}
-
-// The canvas's own keys mean its zoom while it has the focus, also in a window that has a zoom by the same keys.
-bool RWorkspaceCanvas::event(QEvent *event)
-{
-    if (event->type() == QEvent::ShortcutOverride) {
-        const auto &key = static_cast<const QKeyEvent &>(*event);
-        const auto modifiers = key.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
-        if (modifiers == Qt::ControlModifier && isZoomKey(key.key())) {
-            event->accept();
-            return true;
-        }
-    }
-    return WorkspaceBase::event(event);
 }
 
 void RWorkspaceCanvas::componentComplete()

@@ -46,7 +46,6 @@ Q_SIGNALS:
     void ssGuideColorChanged();
 
 protected:
-    bool event(QEvent *event) override;
     void componentComplete() override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;

@@ -316,6 +316,7 @@ private:
     void updateKeyFocus();
     void followFocus();
     void setTabFences(bool areFences);
+    bool overridesShortcut(const QKeyEvent &event) const;
     bool handleKey(const QKeyEvent &event);
     bool handleControlKey(int key);
     bool moveByArrow(const QKeyEvent &event);

@@ -71,13 +71,9 @@ void WorkspaceBase::tellSheet()
 
 bool WorkspaceBase::event(QEvent *event)
 {
-    if (event->type() == QEvent::ShortcutOverride) {
-        // During a gesture Esc means that, whatever shortcut a page has for it.
-        const bool isEscape = static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
-        if (isEscape && m_input->isUnderWay()) {
-            event->accept();
-            return true;
-        }
+    if (event->type() == QEvent::ShortcutOverride && overridesShortcut(static_cast<const QKeyEvent &>(*event))) {
+        event->accept();
+        return true;
     }
     if (event->type() == QEvent::NativeGesture && m_interactive) {
         const auto &gesture = *static_cast<QNativeGestureEvent *>(event);

@@ -14,6 +14,7 @@ namespace tamble::client {
 namespace {
 
 constexpr double arrowPanPixels = 40.0;
+constexpr double focusMargin = 8.0; // pixels around the current item, for its frame
 constexpr Qt::KeyboardModifiers keyModifiers =
     Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
 
@@ -31,6 +32,12 @@ QPointF wayOf(int key)
     default:
         return QPointF();
     }
+}
+
+bool isZoomKey(int key)
+{
+    return key == Qt::Key_Plus || key == Qt::Key_Equal || key == Qt::Key_Minus || key == Qt::Key_Underscore ||
+           key == Qt::Key_0;
 }
 
 } // namespace
@@ -51,6 +58,15 @@ void WorkspaceBase::keyReleaseEvent(QKeyEvent *event)
     setFiltersChildMouseEvents(false);
     if (!hasPanned)
         selectCurrent(event->modifiers() & Qt::ControlModifier);
+}
+
+// During a gesture Esc takes it back, and with the focus the keys of the zoom are those of the canvas, whatever
+// shortcuts the window has for them.
+bool WorkspaceBase::overridesShortcut(const QKeyEvent &event) const
+{
+    if (event.key() == Qt::Key_Escape)
+        return m_input->isUnderWay();
+    return (event.modifiers() & keyModifiers & ~Qt::ShiftModifier) == Qt::ControlModifier && isZoomKey(event.key());
 }
 
 bool WorkspaceBase::handleKey(const QKeyEvent &event)
@@ -167,7 +183,8 @@ bool WorkspaceBase::moveCurrent(bool isForward)
     if (next < 0 || next >= items.size())
         return false;
     const QPointer<WorkspaceBase> self(this);
-    const QRectF rect = items[next]->planeRect();
+    const double margin = focusMargin / m_view.scale();
+    const QRectF rect = items[next]->planeRect().adjusted(-margin, -margin, margin, margin);
     setCurrentItem(items[next]);
     if (self)
         ensureVisible(rect);
