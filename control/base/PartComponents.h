@@ -75,6 +75,9 @@ public:
     /// Makes a part that is an item below `parent`; null outside of QML.
     static QQuickItem *makeItem(Part part, QQuickItem &parent);
 
+    /// Shows or hides `item`, a part below `parent` that is made when it first shows, and null until then.
+    static void show(QQuickItem *&item, Part part, QQuickItem &parent, bool shown);
+
     /// Makes a part as a child of `owner`; null, with a log line, when its file has a fault.
     QObject *make(Part part, QObject *owner, const QVariantMap &initialProperties);
 

@@ -192,11 +192,24 @@ void RTabButtonBase::keyPressEvent(QKeyEvent *event)
         if (event->key() == Qt::Key_Delete && m_isClosable) {
             event->accept();
             if (!event->isAutoRepeat())
-                Q_EMIT closeRequested();
+                requestClose();
             return;
         }
     }
     RButtonBase::keyPressEvent(event);
+}
+
+void RTabButtonBase::requestClose()
+{
+    const FocusRow tabs = row();
+    RButtonBase *next = tabs.buttonAt(isMirrored() ? Qt::Key_Left : Qt::Key_Right, this, isMirrored());
+    if (next == this)
+        next = tabs.buttonAt(isMirrored() ? Qt::Key_Right : Qt::Key_Left, this, isMirrored());
+    const QPointer<RButtonBase> heir = hasActiveFocus() && next != this ? next : nullptr;
+    const QPointer<RTabButtonBase> guard(this);
+    Q_EMIT closeRequested();
+    if (heir && !(guard && hasActiveFocus()))
+        heir->forceActiveFocus(Qt::OtherFocusReason);
 }
 
 void RTabButtonBase::focusInEvent(QFocusEvent *event)

@@ -55,6 +55,9 @@ public:
     /// Width in pixels that dot and marks take at the end.
     qreal endSpace() const { return m_endSpace; }
 
+    /// Asks the page to close the tab. When it does so at once, the focus stays in the row.
+    Q_INVOKABLE void requestClose();
+
     QColor borderColor();
     void setBorderColor(const QColor &color);
     bool borderVisible();

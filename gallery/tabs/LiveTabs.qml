@@ -9,6 +9,12 @@ Column {
     property int view: 0
     property int lastNumber: 3
 
+    /*! A function of the column: the tab and what it knows go with its row. */
+    function close(index: int) {
+        scenes.remove(index)
+        root.current = Math.max(0, Math.min(root.current, scenes.count - 1))
+    }
+
     spacing: theme.dp(16)
 
     ListModel {
@@ -36,10 +42,7 @@ Column {
                 closable: true
                 selected: root.current === index
                 onClicked: root.current = index
-                onCloseRequested: {
-                    scenes.remove(index)
-                    root.current = Math.max(0, Math.min(root.current, scenes.count - 1))
-                }
+                onCloseRequested: root.close(index)
             }
         }
         // qmllint enable unqualified

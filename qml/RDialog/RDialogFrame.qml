@@ -53,8 +53,8 @@ Rectangle {
             function onAreaFocused(area: rect) {
                 const lowest = area.y + area.height + 2 * root.pad - view.height
                 const rightmost = area.x + area.width + 2 * root.pad - view.width
-                view.contentY = Math.max(0, Math.min(area.y, Math.max(view.contentY, lowest)))
-                view.contentX = Math.max(0, Math.min(area.x, Math.max(view.contentX, rightmost)))
+                view.contentY = Math.max(0, Math.min(area.y, Math.max(view.contentY, lowest), view.contentHeight - view.height))
+                view.contentX = Math.max(0, Math.min(area.x, Math.max(view.contentX, rightmost), view.contentWidth - view.width))
             }
             function onScrolled(lines: real) {
                 view.contentY = Math.max(0, Math.min(view.contentHeight - view.height, view.contentY + 32 * RThemeValues.unit * lines))
