@@ -88,6 +88,11 @@ RDialogBody *RDialogBase::body()
     return m_body;
 }
 
+QQuickAbstractButton *RDialogBase::standardButton(QPlatformDialogHelper::StandardButton button) const
+{
+    return m_buttons.standard(button);
+}
+
 QQmlListProperty<QObject> RDialogBase::content()
 {
     const auto append = [](QQmlListProperty<QObject> *list, QObject *object) {

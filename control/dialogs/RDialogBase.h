@@ -81,10 +81,7 @@ public:
     void setSsHeaderColor(const QColor &color) { m_colors.setColor(DialogColors::HeaderText, color); }
 
     /// The button with this flag, once the dialog has been open; null for none.
-    Q_INVOKABLE QQuickAbstractButton *standardButton(QPlatformDialogHelper::StandardButton button) const
-    {
-        return m_buttons.standard(button);
-    }
+    Q_INVOKABLE QQuickAbstractButton *standardButton(QPlatformDialogHelper::StandardButton button) const;
 
     /// For what shows the dialog: the item that carries its style, its header, the place of the body, and who holds the
     /// standard and the further buttons.
