@@ -24,6 +24,8 @@ ThemedTestCase {
         const page = makeDialog(body ?? "")
         page.dialog.open()
         tryVerify(() => page.dialog.opened)
+        // Its buttons are placed with the frame.
+        waitForRendering(page.dialog.contentItem)
         return page
     }
     function button(item: var, text: string): var {
