@@ -485,6 +485,8 @@ void registerParts()
     name(Part::ViewBlur, "RViewContainer/RViewBlur.qml");
     name(Part::ViewBusy, "RViewContainer/RViewBusy.qml");
     name(Part::DialogFrame, "RDialog/RDialogFrame.qml");
+    name(Part::DialogIcon, "RDialog/RDialogIcon.qml");
+    name(Part::DialogVeil, "RDialog/RDialogVeil.qml");
     name(Part::MessageBoxDialog, "RDialog/RMessageBoxDialog.qml");
     name(Part::RubberBand, "RSelectionRect/RSelectionRect.qml");
     name(Part::WorkspaceItemTitle, "RWorkspace/RWorkspaceItemTitle.qml");

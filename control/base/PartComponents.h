@@ -51,6 +51,8 @@ enum class Part {
     PaneToggle,       ///< What folds a pane, above its header.
     FlyoutHeader,     ///< The header of a flyout.
     DialogFrame,      ///< What a dialog shows around what the page puts into it.
+    DialogIcon,       ///< The icon in front of its title.
+    DialogVeil,       ///< What covers its body while it waits.
     MessageBoxDialog, ///< The dialog of a message box.
     TabDot,           ///< What tells that what a tab stands for is modified.
     TabMarks,         ///< What stands at the end of a tab.

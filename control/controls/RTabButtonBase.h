@@ -89,6 +89,8 @@ protected:
     void selectionChange() override;
     void styleChange() override;
     void componentComplete() override;
+    void paddingChange(const QMarginsF &newPadding, const QMarginsF &oldPadding) override;
+    void mirrorChange() override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
 
@@ -98,6 +100,7 @@ private:
     void updateDot();
     void updateMarks();
     void updateEndSpace();
+    void updatePadding();
 
     // What the page has set, in place of what the sheets say.
     std::optional<QColor> m_borderColor;

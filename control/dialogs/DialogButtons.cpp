@@ -49,12 +49,15 @@ QQuickAbstractButton *DialogButtons::ofEnter(int wanted) const
     return nullptr;
 }
 
-void DialogButtons::mark(const QQuickAbstractButton *ofEnter)
+void DialogButtons::mark(QQuickAbstractButton *ofEnter)
 {
-    for (int i = 0; m_standardBox && i < m_standardBox->count(); ++i) {
-        QQuickItem *button = m_standardBox->itemAt(i);
-        button->setProperty("pressedByEnter", button == ofEnter);
+    if (m_marked == ofEnter)
+        return;
+    for (QQuickAbstractButton *button : {m_marked.get(), ofEnter}) {
+        if (button)
+            button->setProperty("pressedByEnter", button == ofEnter);
     }
+    m_marked = ofEnter;
 }
 
 void DialogButtons::addFurther(QQuickItem &button)

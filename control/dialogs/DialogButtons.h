@@ -23,7 +23,7 @@ public:
     /// The button of the flag `wanted`; for 0 Ok, or else the first one that accepts. Null for none.
     QQuickAbstractButton *ofEnter(int wanted) const;
     /// Shows which button Enter presses; null for none.
-    void mark(const QQuickAbstractButton *ofEnter);
+    void mark(QQuickAbstractButton *ofEnter);
 
     void addFurther(QQuickItem &button);
     const QList<QPointer<QQuickItem>> &further() const { return m_further; }
@@ -31,6 +31,7 @@ public:
 private:
     QPointer<QQuickDialogButtonBox> m_standardBox;
     QPointer<QQuickItem> m_furtherRow;
+    QPointer<QQuickAbstractButton> m_marked; ///< The one that shows that Enter presses it.
     QList<QPointer<QQuickItem>> m_further;
 };
 

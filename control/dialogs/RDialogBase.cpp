@@ -181,6 +181,17 @@ void RDialogBase::make()
     setContentItem(frame);
     qmlExecuteDeferred(this); // the page's part
     m_colors.follow(*frame, *m_header);
+    updateParts();
+    connect(this, &RDialogBase::iconKeyChanged, this, &RDialogBase::updateParts);
+    connect(this, &RDialogBase::busyChanged, this, &RDialogBase::updateParts);
+}
+
+void RDialogBase::updateParts()
+{
+    if (m_header)
+        PartComponents::show(m_icon, Part::DialogIcon, *m_header, !m_iconKey.isEmpty());
+    if (m_frame)
+        PartComponents::show(m_veil, Part::DialogVeil, *m_frame, m_isBusy);
 }
 
 void RDialogBase::takeParts(QQuickItem *frame, QQuickItem *header, QQuickItem *place,

@@ -126,6 +126,7 @@ private:
     void onAboutToShow();
     void onVisibleChanged();
     void make();
+    void updateParts();
     void placeFocus();
     void onFocusMoved();
     bool enterFields();
@@ -140,6 +141,8 @@ private:
     QPointer<RDialogBody> m_body; ///< A child, made when the first thing is put into it.
     QPointer<QQuickItem> m_frame; ///< This and the header are made when the dialog first opens.
     QPointer<QQuickItem> m_header;
+    QQuickItem *m_icon = nullptr; ///< Below the header, and the veil below the frame: made when they are first shown.
+    QQuickItem *m_veil = nullptr;
     DialogColors m_colors;
     int m_defaultButton = 0;
     bool m_isBusy = false;
