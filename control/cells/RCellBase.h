@@ -199,7 +199,7 @@ private:
     QPointer<RCellContainerBase> m_container;
     QPointer<RCellGridPropertiesBase> m_ownGrid;
     QPointer<QQuickItem> m_control;
-    QPointer<QObject> m_editor;     ///< What has the focus in the control while it is edited.
+    QPointer<QObject> m_editor;         ///< What has the focus in the control while it is edited.
     QQuickItem *m_focusFrame = nullptr; // these three: children, made when they are first shown
     QQuickItem *m_selectionFrame = nullptr;
     QQuickItem *m_refusalMark = nullptr;
