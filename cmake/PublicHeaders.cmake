@@ -42,6 +42,13 @@ set(TAMBLE_PUBLIC_HEADERS
     meter/RMeterBase.h
 
     style/loading/ThemeSelector.h
+
+    # A canvas whose changes are heard, and whose items are placed, without QML.
+    base/SpokenControl.h
+    workspace/PlaneView.h
+    workspace/RWorkspaceSelection.h
+    workspace/WorkspaceBase.h
+    workspace/WorkspaceItemBase.h
 )
 
 # The build target all_verify_interface_header_sets compiles each by itself, without precompiled ones that would hide a

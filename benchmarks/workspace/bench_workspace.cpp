@@ -3,6 +3,7 @@
 //   empty      such a frame beside one of an empty page: us
 //   move       a step of dragging 500 selected items of 2,000, beside placing 500 Items: us; "bare" are those without
 //              a look
+//   values     600 live value bars that are out of view, beside as many properties with the same binding: us
 //   create     2,000 items on a workspace from C++, beside plain ones with parent, position and size: us
 // No display is needed.
 
@@ -28,11 +29,11 @@ constexpr int rounds = 20;
 
 /// A page of 1280 by 800 on which 8 by 5 items are seen.
 const char worksheet[] = "RWorksheet { id: page; width: 1280; height: 800; property int count\n"
-                    "property RWorkspace canvas: canvas\n"
-                    "RWorkspace { id: canvas; anchors.fill: parent; planeRect: Qt.rect(0, 0, 20000, 20000)\n"
-                    "Repeater { model: page.count; %1; required property int index\n"
-                    "position: Qt.point(160 * (index % 8 + 8 * Math.floor(index / 400)) + 20,"
-                    " 160 * (Math.floor(index / 8) % 50) + 20) } } } }";
+                         "property RWorkspace canvas: canvas\n"
+                         "RWorkspace { id: canvas; anchors.fill: parent; planeRect: Qt.rect(0, 0, 20000, 20000)\n"
+                         "Repeater { model: page.count; %1; required property int index\n"
+                         "position: Qt.point(160 * (index % 8 + 8 * Math.floor(index / 400)) + 20,"
+                         " 160 * (Math.floor(index / 8) % 50) + 20) } } } }";
 
 constexpr const char *styledItem = "RWorkspaceItem { title: 'Amplifier'";
 constexpr const char *bareItem = "RWorkspaceItemBase { width: 96; height: 64";
@@ -146,6 +147,39 @@ void compareMoves(benchmark::State &state, const char *kind)
     compare(state, moveOurs, movePlain, "us", 1e6);
 }
 
+// A frame in which a value changes to which all bars, or plain properties, are bound.
+Measure valuesOf(ControlScene &scene, QQuickItem &page)
+{
+    return [&scene, &page] {
+        constexpr int frames = 20;
+        const double before = processSeconds();
+        for (int frame = 0; frame < frames; ++frame) {
+            page.setProperty("level", frame);
+            scene.window().update();
+            scene.awaitFrame();
+        }
+        return Cost{(processSeconds() - before) / frames, 0.0};
+    };
+}
+
+void compareValues(benchmark::State &state)
+{
+    ControlScene scene;
+    const auto canvasComponent = scene.compile(
+        ourModule, "RWorkspace { id: page; width: 1280; height: 800; planeRect: Qt.rect(0, 0, 9000, 9000)\n"
+                   "property real level; Repeater { model: 600; RWorkspaceItem { position: Qt.point(20, 20)\n"
+                   "valueBar: RWorkspaceItemValueBar { value: page.level } } } }");
+    const auto plainComponent = scene.compile(
+        ourModule, "Item { id: page; width: 1280; height: 800; property real level\n"
+                   "Repeater { model: 600; Loader { sourceComponent: Item { property real value: page.level } } } }");
+    const auto canvas = scene.create(*canvasComponent);
+    scene.awaitFrame(); // which makes the bars
+    canvas->setProperty("viewX", 5000.0);
+    scene.awaitFrame();
+    const auto plain = scene.create(*plainComponent);
+    compare(state, valuesOf(scene, *canvas), valuesOf(scene, *plain), "us", 1e6);
+}
+
 template <typename Item, typename Place>
 Cost costOfMaking(QQuickItem &parent, Place place)
 {
@@ -192,6 +226,7 @@ int main(int argc, char **argv)
     addComparison("empty", rounds, [](benchmark::State &state) { compareFrames(state, 0, pan); });
     addComparison("move", rounds, [](benchmark::State &state) { compareMoves(state, styledItem); });
     addComparison("move/bare", rounds, [](benchmark::State &state) { compareMoves(state, bareItem); });
+    addComparison("values", rounds, compareValues);
     addComparison("create", rounds, compareMaking);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

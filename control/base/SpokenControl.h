@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtGui/QAccessible>
 
@@ -18,6 +19,8 @@ public:
     virtual QString spokenDescription(const QString &given) const { return given; }
     /// Adds to the states that every item has (visible, enabled, focus).
     virtual void addSpokenStates(QAccessible::State &) const {}
+    /// Puts what the control contains into the order in which tools walk it; by default that of Qt, of painting.
+    virtual QList<QQuickItem *> spokenOrder(const QList<QQuickItem *> &children) const { return children; }
     /// A tool presses the control; false, the default, for one that is not pressed.
     virtual bool pressBySpeech() { return false; }
 

@@ -62,6 +62,16 @@ public:
         return kind == QAccessible::Description ? control->spokenDescription(given) : given;
     }
 
+    QAccessibleInterface *child(int index) const override
+    {
+        return QAccessible::queryAccessibleInterface(children().value(index));
+    }
+
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        return int(children().indexOf(qobject_cast<QQuickItem *>(child->object())));
+    }
+
     void doAction(const QString &action) override
     {
         SpokenControl *control = this->control();
@@ -77,6 +87,12 @@ public:
 private:
     /// Null while the item is being destroyed, which is told as well.
     SpokenControl *control() const { return dynamic_cast<SpokenControl *>(object()); }
+
+    QList<QQuickItem *> children() const
+    {
+        const SpokenControl *control = this->control();
+        return control ? control->spokenOrder(childItems()) : QList<QQuickItem *>();
+    }
 };
 
 // Asked for each class of the object, the most derived one first.

@@ -1,6 +1,7 @@
 #include "workspace/BlockLook.h"
 
 #include "base/ControlLog.h"
+#include "base/PageItem.h"
 #include "base/PartComponents.h"
 #include "controls/RTintedImage.h"
 #include "scenegraph/RectanglesNode.h"
@@ -112,19 +113,11 @@ void BlockLook::showValueBar()
 {
     QQmlComponent *component = m_block.valueBar();
     if (component && m_block.detailed() && !std::exchange(m_hasAskedForBar, true)) {
-        const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue<QQuickItem *>(this)}};
-        // Qt 6.4 crashes on one that is not ready.
-        QObject *made = component->isReady()
-                            ? component->createWithInitialProperties(properties, component->creationContext())
-                            : nullptr;
-        m_valueBar = qobject_cast<QQuickItem *>(made);
-        if (m_valueBar) {
-            m_valueBar->setParent(this);
+        m_valueBar = makePageItem(*component, *this, *this);
+        if (m_valueBar)
             Q_EMIT m_block.valueBarItemChanged();
-        } else {
-            delete made;
+        else
             qCWarning(controlLog).noquote() << "RWorkspaceItem has no value bar" << component->errorString();
-        }
     }
     if (m_valueBar)
         m_valueBar->setVisible(m_block.detailed());

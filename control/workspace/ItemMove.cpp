@@ -85,6 +85,11 @@ void ItemMove::showAll(CornerOf cornerOf)
         if (WorkspaceItemBase *item = m_entries[i].item)
             item->showPosition(cornerOf(i));
     }
+    const bool isOfMovingItems = m_kind != AtOnce;
+    if (m_workspace && isOfMovingItems)
+        m_workspace->polish();
+    if (selection && isOfMovingItems)
+        selection->geometryChange();
     if (selection)
         selection->releaseGeometry();
 }

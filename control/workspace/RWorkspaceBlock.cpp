@@ -190,11 +190,8 @@ void RWorkspaceBlock::componentComplete()
     updateLook();
 }
 
-void RWorkspaceBlock::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+void RWorkspaceBlock::sizeChange()
 {
-    WorkspaceItemBase::geometryChange(newGeometry, oldGeometry);
-    if (newGeometry.size() == oldGeometry.size())
-        return;
     placeContent();
     updateLook();
 }

@@ -88,7 +88,7 @@ Q_SIGNALS:
 protected:
     void lookChange() override { updateLook(); }
     void componentComplete() override;
-    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+    void sizeChange() override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:

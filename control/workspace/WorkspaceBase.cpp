@@ -14,15 +14,11 @@
 #include <cmath>
 #include <utility>
 
-// What a workspace shows: its view, its items, its selection, and what gestures make of them.
+// The items of a workspace, its selection, and what gestures make of them.
 
 namespace tamble::client {
 
 namespace {
-
-// Pixels around the viewport within which items are drawn, for their frames and marks.
-constexpr double viewMargin = 16.0;
-constexpr double leastDetailedZoom = 0.4;
 
 template <typename Value>
 QVariantMap textMap(const QHash<QUuid, Value> &values)
@@ -35,26 +31,6 @@ QVariantMap textMap(const QHash<QUuid, Value> &values)
 
 } // namespace
 
-/// Tells a workspace that somebody has begun to listen to assistive tools.
-class WorkspaceBase::Ears : public QAccessible::ActivationObserver
-{
-public:
-    explicit Ears(WorkspaceBase &workspace)
-        : m_workspace(workspace)
-    {
-        QAccessible::installActivationObserver(this);
-    }
-    ~Ears() override { QAccessible::removeActivationObserver(this); }
-    void accessibilityActiveChanged(bool active) override
-    {
-        if (active)
-            m_workspace.speak();
-    }
-
-private:
-    WorkspaceBase &m_workspace;
-};
-
 WorkspaceBase::WorkspaceBase(QQuickItem *parent)
     : QQuickItem(parent)
     , m_detection(new RMouseDetection(this))
@@ -62,13 +38,13 @@ WorkspaceBase::WorkspaceBase(QQuickItem *parent)
     , m_ownSelection(new RWorkspaceSelection(this))
     , m_items(std::make_unique<WorkspaceItems>(*this))
     , m_input(std::make_unique<WorkspaceInput>(*this))
-    , m_ears(std::make_unique<Ears>(*this))
 {
+    QAccessible::installActivationObserver(this);
     setClip(true);
     setActiveFocusOnTab(true);
     m_plane->setTransformOrigin(TopLeft);
-    // The canvas is one stop of the Tab key, whatever lies on it. (Qt would pass over an item all of whose children are
-    // such fences; the detection is none.)
+    // The canvas is one stop of the Tab key, whatever lies on it; see followFocus(). (Qt would pass over an item all of
+    // whose children are such fences; the detection is none.)
     QQuickItemPrivate::get(m_plane)->isTabFence = true;
     m_ownSelection->m_workspaces.append(this);
     connect(m_detection, &RMouseDetection::containsMouseChanged, this, &WorkspaceBase::updatePointerInside);
@@ -84,7 +60,7 @@ WorkspaceBase::~WorkspaceBase()
 {
     blockSignals(true);
     m_detection->disconnect(this);
-    m_ears.reset();
+    QAccessible::removeActivationObserver(this);
     m_input.reset();
     leaveSelection();
     selection()->m_workspaces.removeOne(this);
@@ -94,142 +70,6 @@ WorkspaceBase::~WorkspaceBase()
 QQmlListProperty<QObject> WorkspaceBase::content()
 {
     return QQuickItemPrivate::get(m_plane)->data();
-}
-
-// The view.
-
-template <typename Change>
-void WorkspaceBase::changeView(Change change)
-{
-    const PlaneView before = m_view;
-    change(m_view);
-    if (isComponentComplete())
-        m_view.clamp();
-    if (before == m_view)
-        return;
-    placePlane();
-    const QPointer<WorkspaceBase> self(this);
-    const PlaneView now = m_view;
-    if (before.unit() != now.unit())
-        m_items->setUnit(now.unit());
-    const auto tellIf = [&self](bool hasChanged, void (WorkspaceBase::*signal)()) {
-        if (hasChanged && self)
-            Q_EMIT(self->*signal)();
-    };
-    tellIf(before.plane() != now.plane(), &WorkspaceBase::planeRectChanged);
-    tellIf(before.unit() != now.unit(), &WorkspaceBase::unitChanged);
-    tellIf(before.minimumZoom() != now.minimumZoom(), &WorkspaceBase::minimumZoomChanged);
-    tellIf(before.maximumZoom() != now.maximumZoom(), &WorkspaceBase::maximumZoomChanged);
-    tellIf(before.zoom() != now.zoom(), &WorkspaceBase::zoomChanged);
-    tellIf(before.view().x() != now.view().x(), &WorkspaceBase::viewXChanged);
-    tellIf(before.view().y() != now.view().y(), &WorkspaceBase::viewYChanged);
-    tellIf(self && self->m_pointerInside, &WorkspaceBase::pointerPositionChanged);
-    if (!self)
-        return;
-    polish();
-    m_input->viewChange();
-}
-
-void WorkspaceBase::placePlane()
-{
-    m_plane->setPosition(-m_view.view() * m_view.scale());
-    m_plane->setScale(m_view.zoom());
-    const QPointF corner = m_view.plane().bottomRight() * m_view.unit();
-    m_plane->setSize(QSizeF(corner.x(), corner.y()));
-}
-
-void WorkspaceBase::setPlaneRect(const QRectF &rect)
-{
-    changeView([&rect](PlaneView &view) { view.setPlane(rect); });
-}
-
-void WorkspaceBase::setUnit(qreal unit)
-{
-    changeView([unit](PlaneView &view) { view.setUnit(unit); });
-}
-
-void WorkspaceBase::setZoom(qreal zoom)
-{
-    changeView([zoom](PlaneView &view) { view.setZoom(zoom); });
-}
-
-void WorkspaceBase::setMinimumZoom(qreal zoom)
-{
-    changeView([zoom](PlaneView &view) { view.setMinimumZoom(zoom); });
-}
-
-void WorkspaceBase::setMaximumZoom(qreal zoom)
-{
-    changeView([zoom](PlaneView &view) { view.setMaximumZoom(zoom); });
-}
-
-void WorkspaceBase::setViewX(qreal x)
-{
-    changeView([x](PlaneView &view) { view.setView(QPointF(x, view.view().y())); });
-}
-
-void WorkspaceBase::setViewY(qreal y)
-{
-    changeView([y](PlaneView &view) { view.setView(QPointF(view.view().x(), y)); });
-}
-
-void WorkspaceBase::pan(const QPointF &pixels)
-{
-    changeView([&pixels](PlaneView &view) { view.pan(pixels); });
-}
-
-void WorkspaceBase::zoomTo(qreal factor, const QPointF &anchor)
-{
-    changeView([factor, &anchor](PlaneView &view) { view.zoomAbout(factor, anchor); });
-}
-
-void WorkspaceBase::ensureVisible(const QRectF &rect)
-{
-    changeView([&rect](PlaneView &view) { view.ensureVisible(rect); });
-}
-
-void WorkspaceBase::fit(const QRectF &rect, double mostZoom)
-{
-    changeView([&rect, mostZoom](PlaneView &view) { view.fit(rect, mostZoom); });
-}
-
-void WorkspaceBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
-{
-    QQuickItem::geometryChange(newGeometry, oldGeometry);
-    m_detection->setSize(newGeometry.size());
-    changeView([&newGeometry](PlaneView &view) { view.setViewport(newGeometry.size()); });
-}
-
-void WorkspaceBase::componentComplete()
-{
-    QQuickItem::componentComplete();
-    changeView([](PlaneView &) {});
-    polish();
-    if (QAccessible::isActive())
-        speak();
-}
-
-void WorkspaceBase::updatePolish()
-{
-    const double margin = viewMargin / m_view.scale();
-    const QPointer<WorkspaceBase> self(this);
-    m_items->showIn(m_view.seen().adjusted(-margin, -margin, margin, margin), m_view.zoom() >= leastDetailedZoom);
-    if (self)
-        updateHovered();
-}
-
-// Settings.
-
-void WorkspaceBase::setGridSize(qreal size)
-{
-    if (std::isfinite(size) && size >= 0.0 && std::exchange(m_gridSize, size) != size)
-        Q_EMIT gridSizeChanged();
-}
-
-void WorkspaceBase::setSnapDistance(qreal pixels)
-{
-    if (std::isfinite(pixels) && std::exchange(m_snapDistance, pixels) != pixels)
-        Q_EMIT snapDistanceChanged();
 }
 
 void WorkspaceBase::setReadOnly(bool readOnly)
@@ -462,54 +302,11 @@ WorkspaceItemBase *WorkspaceBase::itemWithGripAt(const QPointF &point, double pi
     return nullptr;
 }
 
-QObject *WorkspaceBase::currentItem() const
-{
-    return m_currentItem;
-}
-
-void WorkspaceBase::setCurrentItem(WorkspaceItemBase *item)
-{
-    if (m_currentItem == item || (item && item->workspace() != this))
-        return;
-    const QPointer<WorkspaceItemBase> before = std::exchange(m_currentItem, item);
-    const QPointer<WorkspaceBase> self(this);
-    if (before && before->workspace() == this)
-        before->setState(&WorkspaceItemBase::m_keyFocus, false, &WorkspaceItemBase::keyFocusChanged);
-    if (self)
-        updateKeyFocus();
-    if (self)
-        Q_EMIT currentItemChanged();
-}
-
-void WorkspaceBase::updateKeyFocus()
-{
-    if (!m_currentItem)
-        return;
-    const QPointer<WorkspaceItemBase> item = m_currentItem;
-    const bool hasFocus = hasActiveFocus();
-    const bool hasChanged =
-        item->setState(&WorkspaceItemBase::m_keyFocus, hasFocus, &WorkspaceItemBase::keyFocusChanged);
-    if (hasChanged && hasFocus && item && QAccessible::isActive()) {
-        item->speak();
-        announce(*item, QAccessible::Focus);
-    }
-}
-
 // Gestures.
 
 void WorkspaceBase::cancelGesture()
 {
     m_input->cancel();
-}
-
-SnapRules WorkspaceBase::snapRules(bool isSuspended) const
-{
-    SnapRules rules{m_view.plane()};
-    if (m_snapToItems && !isSuspended)
-        rules.distance = m_snapDistance / m_view.scale();
-    if (m_snapToGrid && !isSuspended)
-        rules.grid = m_gridSize;
-    return rules;
 }
 
 void WorkspaceBase::setMove(ItemMove *move)
@@ -573,20 +370,6 @@ void WorkspaceBase::tellResized(const QHash<QUuid, QRectF> &before, const QHash<
     Q_EMIT geometriesCommitted(before, after);
     if (self)
         Q_EMIT itemsResized(textMap(before), textMap(after));
-}
-
-QString WorkspaceBase::spokenName() const
-{
-    return tr("Workspace");
-}
-
-void WorkspaceBase::speak()
-{
-    beginToSpeak(*this);
-    for (WorkspaceItemBase *item : m_items->all()) {
-        if (item->inView())
-            item->speak();
-    }
 }
 
 } // namespace tamble::client

@@ -36,8 +36,11 @@ struct SnapRules;
 ///
 /// Keys: the arrows move the selected items, Tab goes from item to item in reading order and then on, Space selects and
 /// Enter activates the current item, Ctrl+A selects all, Delete asks for deletion, Esc takes back what is under way or
-/// clears the selection; Ctrl with Plus, Minus and 0 zooms, with 1 shows all and with 2 the selected items.
-class TAMBLE_CLIENT_CONTROL_EXPORT WorkspaceBase : public QQuickItem, public SpokenControl
+/// clears the selection; Ctrl with Plus, Minus and 0 zooms, with 1 shows all and with 2 the selected items. From a
+/// control on an item Tab goes to the other controls of that item and then on.
+class TAMBLE_CLIENT_CONTROL_EXPORT WorkspaceBase : public QQuickItem,
+                                                   public SpokenControl,
+                                                   private QAccessible::ActivationObserver
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RWorkspaceBase)
@@ -176,6 +179,8 @@ public:
 
     QAccessible::Role spokenRole() const override { return QAccessible::LayeredPane; }
     QString spokenName() const override;
+    /// Items in reading order, the rest after them.
+    QList<QQuickItem *> spokenOrder(const QList<QQuickItem *> &children) const override;
 
     // What gestures ask, and what they show and tell.
 
@@ -285,7 +290,6 @@ protected:
 private:
     friend class RWorkspaceSelection;
     friend class WorkspaceItemBase;
-    class Ears;
 
     template <typename Change>
     void changeView(Change change);
@@ -310,12 +314,15 @@ private:
     void setHovered(bool isHovered);
     void updateHovered();
     void updateKeyFocus();
+    void followFocus();
+    void setTabFences(bool areFences);
     bool handleKey(const QKeyEvent &event);
     bool handleControlKey(int key);
     bool moveByArrow(const QKeyEvent &event);
     void selectCurrent(bool toggles);
     bool moveCurrent(bool isForward);
     void askForMenu();
+    void accessibilityActiveChanged(bool active) override;
     void speak();
 
     PlaneView m_view;
@@ -335,13 +342,14 @@ private:
     ItemMove *m_move = nullptr;             // of a gesture
     RMouseDetection *m_detection = nullptr; // a child; controls on the plane keep hover events to themselves
     QQuickItem *m_plane = nullptr;          // a child
+    QPointer<QQuickItem> m_focusInside;     // a control on the plane that has the keyboard
+    QMetaObject::Connection m_focusWatch;
     WorkspaceItemBase *m_currentItem = nullptr;
     WorkspaceItemBase *m_hoveredItem = nullptr;
     RWorkspaceSelection *m_ownSelection = nullptr; // a child
     QPointer<RWorkspaceSelection> m_selection;
     std::unique_ptr<WorkspaceItems> m_items;
     std::unique_ptr<WorkspaceInput> m_input;
-    std::unique_ptr<Ears> m_ears;
 };
 
 } // namespace tamble::client

@@ -1,5 +1,6 @@
 #include "base/InputMeaning.h"
 #include "pointer/RMouseDetection.h"
+#include "workspace/DroppedData.h"
 #include "workspace/WorksheetBase.h"
 #include "workspace/WorkspaceBase.h"
 #include "workspace/WorkspaceInput.h"
@@ -11,7 +12,7 @@
 #include <QtGui/QMouseEvent>
 #include <QtGui/QTouchEvent>
 #include <QtGui/QWheelEvent>
-#include <QtQuick/private/qquickdrag_p.h>
+#include <QtQuick/QQuickWindow>
 
 #include <utility>
 
@@ -24,22 +25,6 @@ namespace {
 PointerAt pointerOf(const QMouseEvent &event)
 {
     return {event.position(), event.modifiers()};
-}
-
-/// The item that is dragged within the application, or else what another one has put into the drag.
-QVariant droppedData(const QMimeData &data)
-{
-    // Qt keeps the meta-object of that class to itself.
-    if (data.inherits("QQuickDragMimeData"))
-        return QVariant::fromValue(static_cast<const QQuickDragMimeData &>(data).source());
-    if (data.hasUrls())
-        return QVariant::fromValue(data.urls());
-    if (data.hasText())
-        return data.text();
-    QVariantMap formats;
-    for (const QString &format : data.formats())
-        formats.insert(format, data.data(format));
-    return formats;
 }
 
 } // namespace
@@ -58,6 +43,12 @@ void WorkspaceBase::itemChange(ItemChange change, const ItemChangeData &data)
     const bool isGone = change == ItemSceneChange ||
                         ((change == ItemVisibleHasChanged || change == ItemEnabledHasChanged) && !data.boolValue);
     const QPointer<WorkspaceBase> self(this);
+    if (change == ItemSceneChange) {
+        disconnect(m_focusWatch);
+        if (data.window)
+            m_focusWatch =
+                connect(data.window, &QQuickWindow::activeFocusItemChanged, this, &WorkspaceBase::followFocus);
+    }
     if (isGone)
         cancelGesture();
     if (!self)
@@ -242,23 +233,6 @@ void WorkspaceBase::dropEvent(QDropEvent *event)
     }
     event->accept();
     Q_EMIT dropped(m_view.toPlane(event->position()), droppedData(*event->mimeData()));
-}
-
-void WorkspaceBase::focusInEvent(QFocusEvent *event)
-{
-    QQuickItem::focusInEvent(event);
-    updateKeyFocus();
-}
-
-void WorkspaceBase::focusOutEvent(QFocusEvent *event)
-{
-    const QPointer<WorkspaceBase> self(this);
-    QQuickItem::focusOutEvent(event);
-    m_input->holdSpace(false);
-    setFiltersChildMouseEvents(false);
-    m_input->nudge().finish();
-    if (self)
-        updateKeyFocus();
 }
 
 } // namespace tamble::client

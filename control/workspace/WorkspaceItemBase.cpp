@@ -1,11 +1,10 @@
 #include "workspace/WorkspaceItemBase.h"
 
+#include "workspace/ItemContent.h"
 #include "workspace/WorkspaceItems.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtCore/QScopedValueRollback>
-#include <QtQml/QQmlContext>
-#include <QtQml/QQmlEngine>
 #include <QtQuick/private/qquickitem_p.h>
 
 #include <cmath>
@@ -38,6 +37,7 @@ bool isFiniteSize(const QSizeF &size)
 WorkspaceItemBase::WorkspaceItemBase(QQuickItem *parent)
     : QQuickItem(parent)
 {
+    QQuickItemPrivate::get(this)->isTabFence = true; // for its controls; the workspace lets Tab through
     if (parent)
         findWorkspace();
 }
@@ -91,17 +91,22 @@ void WorkspaceItemBase::setPlanePosition(const QPointF &position)
     if (!std::isfinite(position.x()) || !std::isfinite(position.y()))
         return;
     if (m_moving)
-        m_waitingPosition = position;
+        m_waitingPosition = std::make_unique<QPointF>(position);
     else
         showPosition(position);
 }
 
 void WorkspaceItemBase::showPosition(const QPointF &position)
 {
-    if (m_position == position)
+    if (m_position.x() == position.x() && m_position.y() == position.y())
         return;
     m_position = position;
     applyPosition();
+    // The move itself tells the view and the selection, once for all of its items.
+    if (m_workspace && m_moving)
+        m_workspace->m_items->place(*this);
+    else if (m_workspace)
+        m_workspace->placeItem(*this);
     Q_EMIT positionChanged();
 }
 
@@ -163,14 +168,23 @@ void WorkspaceItemBase::setUnit(qreal unit)
 void WorkspaceItemBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
     QQuickItem::geometryChange(newGeometry, oldGeometry);
-    const bool isMovedByPage = !m_isPlacing && newGeometry.topLeft() != oldGeometry.topLeft();
+    if (m_isPlacing)
+        return;
+    const bool isMovedByPage = newGeometry.topLeft() != oldGeometry.topLeft();
+    const bool isResized = newGeometry.size() != oldGeometry.size();
     if (isMovedByPage)
         m_position = newGeometry.topLeft() / m_unit;
     if (m_workspace)
         m_workspace->placeItem(*this);
-    if (isMovedByPage)
+    if (isResized)
+        sizeChange();
+    if (isMovedByPage) {
+        const QPointer<WorkspaceItemBase> self(this);
         Q_EMIT positionChanged();
-    if (newGeometry.size() != oldGeometry.size())
+        if (!self)
+            return;
+    }
+    if (isResized)
         Q_EMIT sizeChanged();
 }
 
@@ -244,41 +258,45 @@ void WorkspaceItemBase::setInView(bool inView, bool detailed)
         Q_EMIT detailedChanged();
 }
 
+ItemContent &WorkspaceItemBase::content()
+{
+    if (!m_content)
+        m_content = std::make_unique<ItemContent>();
+    return *m_content;
+}
+
+QQuickItem *WorkspaceItemBase::contentItem() const
+{
+    return m_content ? m_content->item() : nullptr;
+}
+
 void WorkspaceItemBase::setContentItem(QQuickItem *item)
 {
-    if (m_contentItem == item)
+    if (contentItem() == item)
         return;
-    m_contentItem = item;
+    content().setItem(item);
     updateContent();
     Q_EMIT contentItemChanged();
 }
 
+QQmlComponent *WorkspaceItemBase::contentComponent() const
+{
+    return m_content ? m_content->component() : nullptr;
+}
+
 void WorkspaceItemBase::setContentComponent(QQmlComponent *component)
 {
-    if (m_contentComponent == component)
+    if (contentComponent() == component)
         return;
-    m_contentComponent = component;
-    delete m_madeContent;
+    content().setComponent(component);
     updateContent();
     Q_EMIT contentComponentChanged();
 }
 
 void WorkspaceItemBase::updateContent()
 {
-    const bool isShown = m_inView && m_detailed;
-    if (isShown && m_contentComponent && !m_madeContent && m_contentComponent->isReady()) {
-        QQuickItem *host = m_contentItem ? m_contentItem.data() : this;
-        const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue(host)}};
-        QQmlContext *context = m_contentComponent->creationContext();
-        QObject *made = m_contentComponent->createWithInitialProperties(properties, context);
-        m_madeContent = qobject_cast<QQuickItem *>(made);
-        if (made)
-            made->setParent(this);
-    }
-    if (m_contentItem)
-        m_contentItem->setVisible(isShown);
-    else if (m_madeContent)
-        m_madeContent->setVisible(isShown);
+    if (m_content)
+        m_content->show(m_inView && m_detailed, *this);
 }
 
 void WorkspaceItemBase::speak()

@@ -5,16 +5,17 @@
 #include "workspace/WorkspaceBase.h"
 
 #include <QtCore/QPointF>
-#include <QtCore/QPointer>
 #include <QtCore/QRectF>
 #include <QtCore/QSizeF>
 #include <QtCore/QUuid>
 #include <QtQml/QQmlComponent>
 #include <QtQuick/QQuickItem>
 
-#include <optional>
+#include <memory>
 
 namespace tamble::client {
+
+class ItemContent;
 
 /// Item on the plane of a workspace. `position` and `size` are in plane units.
 ///
@@ -41,7 +42,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT WorkspaceItemBase : public QQuickItem, public
     /// The workspace that the item is on, its nearest ancestor of that kind; null for none.
     Q_PROPERTY(tamble::client::WorkspaceBase *workspace READ workspace NOTIFY workspaceChanged)
     Q_PROPERTY(QSizeF minimumSize READ minimumSize WRITE setMinimumSize NOTIFY minimumSizeChanged)
-    /// Whether the pointer is over the item, and no other item of the plane in front of it.
+    /// Whether the pointer is over the item, and no other item of the plane in front of it. A control inside that shows
+    /// a hover of its own keeps it from the item.
     Q_PROPERTY(bool hovered READ hovered NOTIFY hoveredChanged)
     /// Whether keys act on the item: it is the current one of a workspace that has the keyboard.
     Q_PROPERTY(bool keyFocus READ keyFocus NOTIFY keyFocusChanged)
@@ -77,10 +79,10 @@ public:
     void setMinimumSize(const QSizeF &size);
     /// Where a page's content is: a child that is hidden while the item is out of view or not `detailed`, without a
     /// change of the item's own `visible`; null by default.
-    QQuickItem *contentItem() const { return m_contentItem; }
+    QQuickItem *contentItem() const;
     void setContentItem(QQuickItem *item);
     /// Content that is made below `contentItem`, or else below the item, when it is first to be seen; null by default.
-    QQmlComponent *contentComponent() const { return m_contentComponent; }
+    QQmlComponent *contentComponent() const;
     void setContentComponent(QQmlComponent *component);
 
     bool selected() const { return m_selected; }
@@ -134,6 +136,8 @@ protected:
     /// One of `selected`, `hovered`, `keyFocus`, `moving`, `locked`, `inView` and `detailed` has changed; for what a
     /// derived item makes of itself. Called before the signal.
     virtual void lookChange() {}
+    /// `size` has changed; likewise called before the signal.
+    virtual void sizeChange() {}
 
     void itemChange(ItemChange change, const ItemChangeData &data) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
@@ -153,35 +157,36 @@ private:
     void setInView(bool inView, bool detailed);
     void applyPosition();
     void applySize();
+    ItemContent &content();
     void updateContent();
     void showPosition(const QPointF &position);
     void endMove();
     void speak();
 
-    mutable QUuid m_itemId; // null until somebody asks: most items are never asked
+    // What a step of a move touches comes first, in one line of the cache.
     QPointF m_position;
-    QSizeF m_size; // what was set, or invalid
-    QSizeF m_minimumSize = {32.0, 32.0};
-    std::optional<QPointF> m_waitingPosition; // set by the page during a move
-    WorkspaceBase *m_workspace = nullptr;     // unregisters all when it goes
-    QPointer<QQuickItem> m_contentItem;
-    QPointer<QQmlComponent> m_contentComponent;
-    QPointer<QQuickItem> m_madeContent; // of the component, a child
-    qreal m_unit = 1.0;                 // of the workspace
-    quint32 m_slot = 0;                 // of the workspace's register
-    int m_rank = -1;                    // where the item was among its siblings when last looked up
+    qreal m_unit = 1.0;                   // of the workspace
+    WorkspaceBase *m_workspace = nullptr; // unregisters all when it goes
+    quint32 m_slot = 0;                   // of the workspace's register
+    bool m_isPlaced = false;              // and the workspace has not yet looked where
+    bool m_isPlacing = false;             // Qt's position follows `position`, not the other way round
+    bool m_moving = false;
     bool m_selected = false;
     bool m_selectable = true;
     bool m_movable = true;
     bool m_resizable = false;
     bool m_locked = false;
-    bool m_moving = false;
     bool m_hovered = false;
     bool m_keyFocus = false;
     bool m_inView = false;
     bool m_detailed = true;
-    bool m_isPlaced = false;  // and the workspace has not yet looked where
-    bool m_isPlacing = false; // the geometry follows the position, not the other way round
+    int m_rank = -1; // where the item was among its siblings when last looked up
+    QSizeF m_size;   // what was set, or invalid
+    QSizeF m_minimumSize = {32.0, 32.0};
+    mutable QUuid m_itemId; // null until somebody asks: most items are never asked
+    // By pointer, as most items have none: what 2,000 of them cost to make goes with their size.
+    std::unique_ptr<QPointF> m_waitingPosition; // set by the page during a move
+    std::unique_ptr<ItemContent> m_content;
 };
 
 } // namespace tamble::client

@@ -9,6 +9,9 @@
 class PointerWindow : public QQuickWindow
 {
 public:
+    static constexpr QPoint middle{100, 100}; ///< of the item
+    static constexpr QPoint outside{10, 10};  ///< in the window beside it
+
     PointerWindow()
     {
         // Not where the windows before it were, since the mouse is not moved to where it is.

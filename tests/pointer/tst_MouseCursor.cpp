@@ -15,9 +15,6 @@ using namespace tamble::client;
 
 namespace {
 
-constexpr QPoint middle(100, 100);
-constexpr QPoint outside(10, 10);
-
 Qt::CursorShape overrideShape()
 {
     const QCursor *cursor = QGuiApplication::overrideCursor();
@@ -57,10 +54,10 @@ private Q_SLOTS:
             QCOMPARE(window.cursor().shape(), expected);
         });
         const Change asItIs = [](PointerWindow &, RMouseCursor &) {};
-        row("in the parent", asItIs, middle, Qt::CrossCursor);
-        row("beside the parent", asItIs, outside, Qt::ArrowCursor);
+        row("in the parent", asItIs, PointerWindow::middle, Qt::CrossCursor);
+        row("beside the parent", asItIs, PointerWindow::outside, Qt::ArrowCursor);
         row(
-            "no such shape", [](PointerWindow &, RMouseCursor &cursor) { cursor.setShape(-7); }, middle,
+            "no such shape", [](PointerWindow &, RMouseCursor &cursor) { cursor.setShape(-7); }, PointerWindow::middle,
             Qt::ArrowCursor);
         row(
             "inactive: the parent's own",
@@ -68,10 +65,10 @@ private Q_SLOTS:
                 window.box.setCursor(Qt::WaitCursor);
                 cursor.setActive(false);
             },
-            middle, Qt::WaitCursor);
+            PointerWindow::middle, Qt::WaitCursor);
         row(
             "instead of the parent's own",
-            [](PointerWindow &window, RMouseCursor &) { window.box.setCursor(Qt::WaitCursor); }, middle,
+            [](PointerWindow &window, RMouseCursor &) { window.box.setCursor(Qt::WaitCursor); }, PointerWindow::middle,
             Qt::CrossCursor);
         row(
             "not in place of another child's",
@@ -81,13 +78,13 @@ private Q_SLOTS:
                 field->setCursor(Qt::IBeamCursor);
                 cursor.stackAfter(field);
             },
-            middle, Qt::IBeamCursor);
+            PointerWindow::middle, Qt::IBeamCursor);
         row(
             "the last of two",
             [](PointerWindow &window, RMouseCursor &) { (new RMouseCursor(&window.box))->setShape(Qt::BusyCursor); },
-            middle, Qt::BusyCursor);
+            PointerWindow::middle, Qt::BusyCursor);
         row(
-            "disabled", [](PointerWindow &, RMouseCursor &cursor) { cursor.setEnabled(false); }, middle,
+            "disabled", [](PointerWindow &, RMouseCursor &cursor) { cursor.setEnabled(false); }, PointerWindow::middle,
             Qt::ArrowCursor);
         row(
             "turned", [](PointerWindow &window, RMouseCursor &) { window.box.setRotation(45); }, QPoint(53, 53),
@@ -100,7 +97,7 @@ private Q_SLOTS:
         PointerWindow window;
         auto cursor = std::make_unique<RMouseCursor>(&window.box);
         cursor->setShape(Qt::CrossCursor);
-        window.moveTo(middle);
+        window.moveTo(PointerWindow::middle);
         cursor->setShape(Qt::SizeAllCursor);
         QCOMPARE(window.cursor().shape(), Qt::SizeAllCursor);
         cursor.reset();
@@ -115,7 +112,7 @@ private Q_SLOTS:
             cursor.setShape(Qt::CrossCursor);
             cursor.setSource(QUrl::fromLocalFile(pathOf(file)));
             cursor.setHotSpot(hotSpot);
-            window.moveTo(middle);
+            window.moveTo(PointerWindow::middle);
             const QCursor shown = window.cursor();
             if (expected.x() < 0) {
                 QCOMPARE(shown.shape(), Qt::CrossCursor);
@@ -216,14 +213,14 @@ private Q_SLOTS:
     {
         PointerWindow window;
         RMouseCursor cursor(&window.box);
-        window.moveTo(outside);
+        window.moveTo(PointerWindow::outside);
         {
             QSignalSpy told(&cursor, &RMouseCursor::positionChanged);
-            window.moveTo(middle);
+            window.moveTo(PointerWindow::middle);
             QCOMPARE(told.count(), 1);
         }
-        window.moveTo(outside);
-        QCOMPARE(cursor.position(), QPointF(window.mapToGlobal(outside)));
+        window.moveTo(PointerWindow::outside);
+        QCOMPARE(cursor.position(), QPointF(window.mapToGlobal(PointerWindow::outside)));
     }
 
 private:

@@ -11,9 +11,6 @@ using namespace tamble::client;
 
 namespace {
 
-constexpr QPoint middle(100, 100);
-constexpr QPoint outside(10, 10);
-
 /// A detection that fills the box of its window.
 struct Watched
 {
@@ -55,7 +52,7 @@ private Q_SLOTS:
             change(watched);
             QCOMPARE(watched.isUnder(point), isInside);
             if (isInside)
-                QVERIFY(!watched.isUnder(outside));
+                QVERIFY(!watched.isUnder(PointerWindow::outside));
         });
         const Change asItIs = [](Watched &) {};
         row("first pixel", asItIs, QPoint(50, 50), true);
@@ -65,7 +62,8 @@ private Q_SLOTS:
         row("turned: beyond the old edge", Change([](Watched &of) { of.window.box.setRotation(45); }), QPoint(40, 100),
             true);
         row("larger", Change([](Watched &of) { of.window.box.setScale(1.5); }), QPoint(30, 30), true);
-        row("nothing is left of it", Change([](Watched &of) { of.window.box.setScale(0); }), middle, false);
+        row("nothing is left of it", Change([](Watched &of) { of.window.box.setScale(0); }), PointerWindow::middle,
+            false);
         row("cut off by what is around it", Change([](Watched &of) {
                 of.window.box.setClip(true);
                 of.detection->setX(50);
@@ -78,15 +76,18 @@ private Q_SLOTS:
                 child->setAcceptHoverEvents(true);
                 child->setAcceptedMouseButtons(Qt::AllButtons);
             }),
-            middle, true);
+            PointerWindow::middle, true);
         row("below an item that handles hover", Change([](Watched &of) {
                 newItem(*of.window.contentItem(), {0, 0, 200, 200})->setAcceptHoverEvents(true);
             }),
-            middle, true);
-        row("hidden around it", Change([](Watched &of) { of.window.box.setVisible(false); }), middle, false);
-        row("disabled around it", Change([](Watched &of) { of.window.box.setEnabled(false); }), middle, false);
-        row("inactive", Change([](Watched &of) { of.detection->setActive(false); }), middle, false);
-        row("in no window", Change([](Watched &of) { of.window.box.setParentItem(nullptr); }), middle, false);
+            PointerWindow::middle, true);
+        row("hidden around it", Change([](Watched &of) { of.window.box.setVisible(false); }), PointerWindow::middle,
+            false);
+        row("disabled around it", Change([](Watched &of) { of.window.box.setEnabled(false); }), PointerWindow::middle,
+            false);
+        row("inactive", Change([](Watched &of) { of.detection->setActive(false); }), PointerWindow::middle, false);
+        row("in no window", Change([](Watched &of) { of.window.box.setParentItem(nullptr); }), PointerWindow::middle,
+            false);
     }
     void whereItIs() { checkRow(); }
 
@@ -95,7 +96,7 @@ private Q_SLOTS:
     {
         const auto row = rowsOf([](Change leave, Change enter) {
             Watched watched;
-            QVERIFY(watched.isUnder(middle));
+            QVERIFY(watched.isUnder(PointerWindow::middle));
             QSignalSpy exited(watched.detection.get(), &RMouseDetection::exited);
             QSignalSpy entered(watched.detection.get(), &RMouseDetection::entered);
             leave(watched);
@@ -141,14 +142,14 @@ private Q_SLOTS:
                 QCoreApplication::sendEvent(&of.window, &leave);
             },
             [](Watched &of) {
-                QEnterEvent enter(middle, middle, middle);
+                QEnterEvent enter(PointerWindow::middle, PointerWindow::middle, PointerWindow::middle);
                 QCoreApplication::sendEvent(&of.window, &enter);
             });
         row(
             "the window is hidden", [](Watched &of) { of.window.hide(); },
             [](Watched &of) {
                 of.window.show();
-                of.window.moveTo(middle + QPoint(1, 0));
+                of.window.moveTo(PointerWindow::middle + QPoint(1, 0));
             });
     }
     void underRestingPointer() { checkRow(); }
@@ -163,7 +164,7 @@ private Q_SLOTS:
         QCOMPARE(log.take(), QStringList({"mouseXChanged", "mouseYChanged", "entered", "containsMouseChanged"}));
         watched.window.moveTo(QPoint(61, 70));
         QCOMPARE(log.take(), QStringList({"mouseXChanged"}));
-        watched.window.moveTo(outside);
+        watched.window.moveTo(PointerWindow::outside);
         QCOMPARE(log.take(), QStringList({"exited", "containsMouseChanged"}));
         QCOMPARE(watched.detection->mouseX(), 11.0);
     }
@@ -190,7 +191,7 @@ private Q_SLOTS:
     {
         const auto row = rowsOf([](Change act, const QStringList &expected, bool isPressed) {
             Watched watched;
-            watched.window.moveTo(outside);
+            watched.window.moveTo(PointerWindow::outside);
             QStringList log;
             RMouseDetection *detection = watched.detection.get();
             QObject::connect(detection, &RMouseDetection::pressedOutside, detection, [&log] { log << "outside"; });
@@ -200,44 +201,47 @@ private Q_SLOTS:
             QCOMPARE(log, expected);
             QCOMPARE(detection->pressedInside(), isPressed);
             for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton})
-                QTest::mouseRelease(&watched.window, button, {}, outside);
+                QTest::mouseRelease(&watched.window, button, {}, PointerWindow::outside);
             QVERIFY(!detection->pressedInside());
         });
-        row("inside", Change([](Watched &of) { QTest::mousePress(&of.window, Qt::RightButton, {}, middle); }),
+        row("inside",
+            Change([](Watched &of) { QTest::mousePress(&of.window, Qt::RightButton, {}, PointerWindow::middle); }),
             QStringList{"pressed"}, true);
-        row("outside", Change([](Watched &of) { QTest::mousePress(&of.window, Qt::LeftButton, {}, outside); }),
+        row("outside",
+            Change([](Watched &of) { QTest::mousePress(&of.window, Qt::LeftButton, {}, PointerWindow::outside); }),
             QStringList{"outside"}, false);
-        row("double click", Change([](Watched &of) { QTest::mouseDClick(&of.window, Qt::LeftButton, {}, middle); }),
+        row("double click",
+            Change([](Watched &of) { QTest::mouseDClick(&of.window, Qt::LeftButton, {}, PointerWindow::middle); }),
             QStringList({"pressed", "released", "pressed", "released"}), false);
         row("dragged out and released there", Change([](Watched &of) {
-                QTest::mousePress(&of.window, Qt::LeftButton, {}, middle);
-                of.window.moveTo(outside);
+                QTest::mousePress(&of.window, Qt::LeftButton, {}, PointerWindow::middle);
+                of.window.moveTo(PointerWindow::outside);
                 QVERIFY(of.detection->pressedInside());
-                QTest::mouseRelease(&of.window, Qt::LeftButton, {}, outside);
+                QTest::mouseRelease(&of.window, Qt::LeftButton, {}, PointerWindow::outside);
             }),
             QStringList({"pressed", "released"}), false);
         row("the second of two buttons", Change([](Watched &of) {
-                QTest::mousePress(&of.window, Qt::LeftButton, {}, middle);
-                QTest::mousePress(&of.window, Qt::RightButton, {}, outside);
-                QTest::mouseRelease(&of.window, Qt::LeftButton, {}, outside);
+                QTest::mousePress(&of.window, Qt::LeftButton, {}, PointerWindow::middle);
+                QTest::mousePress(&of.window, Qt::RightButton, {}, PointerWindow::outside);
+                QTest::mouseRelease(&of.window, Qt::LeftButton, {}, PointerWindow::outside);
             }),
             QStringList({"pressed", "outside", "released"}), false);
         row("in another window", Change([](Watched &of) {
                 PointerWindow other;
-                QTest::mousePress(&other, Qt::LeftButton, {}, middle);
-                QTest::mouseRelease(&other, Qt::LeftButton, {}, middle);
+                QTest::mousePress(&other, Qt::LeftButton, {}, PointerWindow::middle);
+                QTest::mouseRelease(&other, Qt::LeftButton, {}, PointerWindow::middle);
                 QVERIFY(!of.detection->containsMouse());
             }),
             QStringList{"outside"}, false);
         row("hidden while pressed", Change([](Watched &of) {
-                QTest::mousePress(&of.window, Qt::LeftButton, {}, middle);
+                QTest::mousePress(&of.window, Qt::LeftButton, {}, PointerWindow::middle);
                 of.window.box.setVisible(false);
             }),
             QStringList({"pressed", "released"}), false);
         row("inactive", Change([](Watched &of) {
                 of.detection->setActive(false);
-                QTest::mouseClick(&of.window, Qt::LeftButton, {}, outside);
-                QTest::mouseClick(&of.window, Qt::LeftButton, {}, middle);
+                QTest::mouseClick(&of.window, Qt::LeftButton, {}, PointerWindow::outside);
+                QTest::mouseClick(&of.window, Qt::LeftButton, {}, PointerWindow::middle);
             }),
             QStringList(), false);
     }
@@ -246,10 +250,10 @@ private Q_SLOTS:
     void twoWindows()
     {
         Watched first, second;
-        QVERIFY(first.isUnder(middle));
-        QVERIFY(second.isUnder(middle));
+        QVERIFY(first.isUnder(PointerWindow::middle));
+        QVERIFY(second.isUnder(PointerWindow::middle));
         QVERIFY(!first.detection->containsMouse());
-        QVERIFY(first.isUnder(middle));
+        QVERIFY(first.isUnder(PointerWindow::middle));
         QVERIFY(!second.detection->containsMouse());
     }
 
@@ -258,20 +262,20 @@ private Q_SLOTS:
         Watched watched;
         const std::unique_ptr<QPointingDevice> device(QTest::createTouchDevice());
         QSignalSpy outsidePresses(watched.detection.get(), &RMouseDetection::pressedOutside);
-        QTest::touchEvent(&watched.window, device.get()).press(0, middle);
+        QTest::touchEvent(&watched.window, device.get()).press(0, PointerWindow::middle);
         QVERIFY(watched.detection->containsMouse());
         QVERIFY(watched.detection->pressedInside());
         // A second finger does not draw the pointer away.
-        QTest::touchEvent(&watched.window, device.get()).stationary(0).press(1, outside);
+        QTest::touchEvent(&watched.window, device.get()).stationary(0).press(1, PointerWindow::outside);
         QCOMPARE(outsidePresses.count(), 1);
         QVERIFY(watched.detection->containsMouse());
-        QTest::touchEvent(&watched.window, device.get()).stationary(1).release(0, middle);
+        QTest::touchEvent(&watched.window, device.get()).stationary(1).release(0, PointerWindow::middle);
         QVERIFY(!watched.detection->containsMouse());
-        QTest::touchEvent(&watched.window, device.get()).release(1, outside);
+        QTest::touchEvent(&watched.window, device.get()).release(1, PointerWindow::outside);
         QVERIFY(!watched.detection->pressedInside());
-        QTest::touchEvent(&watched.window, device.get()).press(2, middle);
+        QTest::touchEvent(&watched.window, device.get()).press(2, PointerWindow::middle);
         QVERIFY(watched.detection->containsMouse());
-        QTest::touchEvent(&watched.window, device.get()).release(2, middle);
+        QTest::touchEvent(&watched.window, device.get()).release(2, PointerWindow::middle);
     }
 
     void listenersChangeWhatIsUnderThePointer()
@@ -285,7 +289,7 @@ private Q_SLOTS:
             watched.detection->setActive(false);
         });
         SignalLog log(&second);
-        QVERIFY(!watched.isUnder(middle));
+        QVERIFY(!watched.isUnder(PointerWindow::middle));
         QCOMPARE(log.take(), QStringList{"activeChanged"});
         QVERIFY(third.containsMouse());
     }
@@ -301,9 +305,9 @@ private Q_SLOTS:
                     if (watched && watched->detection)
                         deleteIt(watched);
                 });
-            QTest::mousePress(&watched->window, Qt::LeftButton, {}, middle);
+            QTest::mousePress(&watched->window, Qt::LeftButton, {}, PointerWindow::middle);
             QVERIFY(!watched || !watched->detection);
-            QVERIFY(other.isUnder(middle));
+            QVERIFY(other.isUnder(PointerWindow::middle));
         });
         row("itself", [](std::unique_ptr<Watched> &watched) { watched->detection.reset(); });
         row("its window", [](std::unique_ptr<Watched> &watched) {
@@ -325,7 +329,7 @@ private Q_SLOTS:
         }
         auto *item = qobject_cast<RMouseDetection *>(detection.get());
         item->setParentItem(&window.box);
-        window.moveTo(middle);
+        window.moveTo(PointerWindow::middle);
         QVERIFY(item->containsMouse());
     }
 };

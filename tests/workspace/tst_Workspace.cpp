@@ -187,7 +187,8 @@ private Q_SLOTS:
         SeenPage page{{}};
         const auto made = page.make(u"RWorkspaceBase { width: 200; height: 100; Accessible.name: 'Rack'\n"
                                     "RWorkspaceItemBase { Accessible.name: 'Amplifier'; position: Qt.point(8, 16); "
-                                    "width: 40; height: 40 } }"_s);
+                                    "width: 40; height: 40 }\n"
+                                    "RWorkspaceItemBase { Accessible.name: 'Mixer'; width: 4; height: 4 } }"_s);
         auto *workspace = qobject_cast<WorkspaceBase *>(made.get());
         QVERIFY(workspace);
         auto *item = qobject_cast<WorkspaceItemBase *>(workspace->items().first());
@@ -205,6 +206,11 @@ private Q_SLOTS:
         seen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QVERIFY(item->selected() && seen->state().selected);
         QCOMPARE(seen->text(QAccessible::Description), u"8, 16, selected"_s);
+        QCOMPARE(pane->childCount(), 2);
+        QCOMPARE(pane->child(0)->text(QAccessible::Name), u"Mixer"_s);
+        QCOMPARE(pane->child(1), seen);
+        QCOMPARE(pane->indexOfChild(seen), 1);
+        QVERIFY(!pane->child(2));
     }
 };
 

@@ -112,7 +112,7 @@ ThemedTestCase {
 
     function test_contentOnDemand() {
         const page = makePage("")
-        const content = createTemporaryQmlObject("import QtQuick; Component { Item { objectName: 'content' } }", page)
+        const content = createTemporaryObject(contentComponent, root).content
         page.a.position = Qt.point(2000, 40)
         tryVerify(() => !page.a.inView)
         page.a.contentComponent = content
@@ -121,6 +121,13 @@ ThemedTestCase {
         page.workspace.viewX = 1900
         tryVerify(() => page.a.children.length === 1)
         compare(page.a.children[0].objectName, "content")
+    }
+
+    Component {
+        id: contentComponent
+        QtObject {
+            property Component content: Item { objectName: "content" }
+        }
     }
 
     function test_press_data() {
@@ -394,6 +401,26 @@ ThemedTestCase {
         keyClick(Qt.Key_Tab)
         compare(page.workspace.currentItem, page.c)
         verify(page.workspace.viewX > 2000 && page.workspace.viewY > 1000)
+    }
+
+    function test_tabFromAControlOnAnItem() {
+        const page = makePage("")
+        const [before, after] = [page.children[0], page.children[2]]
+        const inside = [0, 20].map(y => createTemporaryQmlObject(
+            `import TambleClient.Control 1.0; RButton { text: 'inside'; width: 40; height: 20; y: ${y} }`, page.b))
+        createTemporaryQmlObject("import TambleClient.Control 1.0; RButton { text: 'of another' }", page.c)
+        mouseClick(inside[0])
+        inside[0].forceActiveFocus()
+        compare(page.workspace.currentItem, page.b)
+        keyClick(Qt.Key_Tab)
+        verify(inside[1].activeFocus)
+        keyClick(Qt.Key_Tab)
+        verify(after.activeFocus)
+        inside[0].forceActiveFocus()
+        keyClick(Qt.Key_Tab, Qt.ShiftModifier)
+        verify(page.workspace.activeFocus && page.b.keyFocus)
+        keyClick(Qt.Key_Tab)
+        verify(page.c.keyFocus)
     }
 
     function test_commands_data() {
