@@ -61,6 +61,9 @@ RApplicationWindow {
         function onThemeChosen(word) {
             root.setTheme(word)
         }
+        function onDevicesAsked() {
+            root.currentPage = 0
+        }
         function onCatalogueAsked(page) {
             root.currentPage = root.festivalPages.length + page
         }

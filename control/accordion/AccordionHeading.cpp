@@ -1,6 +1,7 @@
 #include "accordion/AccordionHeading.h"
 
 #include "accordion/RAccordionColumn.h"
+#include "base/Ancestor.h"
 #include "base/PartComponents.h"
 #include "controls/RTintedImage.h"
 
@@ -73,7 +74,7 @@ void AccordionHeading::updateColors()
 
 RAccordionColumn *AccordionHeading::column() const
 {
-    return RAccordionColumn::around(*this);
+    return nearestAncestor<RAccordionColumn>(*this);
 }
 
 void AccordionHeading::updateChevron()

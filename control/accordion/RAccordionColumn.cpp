@@ -44,15 +44,6 @@ RAccordionColumn *RAccordionColumn::of(const QQuickItem *item)
     return item ? dynamic_cast<RAccordionColumn *>(item->parentItem()) : nullptr;
 }
 
-RAccordionColumn *RAccordionColumn::around(const QQuickItem &item)
-{
-    for (QQuickItem *parent = item.parentItem(); parent; parent = parent->parentItem()) {
-        if (auto *column = dynamic_cast<RAccordionColumn *>(parent))
-            return column;
-    }
-    return nullptr;
-}
-
 QList<RAccordionItemBase *> RAccordionColumn::sections() const
 {
     QList<RAccordionItemBase *> found;

@@ -46,8 +46,6 @@ public:
 
     /// The accordion that an item is a section of; null for none.
     static RAccordionColumn *of(const QQuickItem *item);
-    /// The nearest accordion around an item; null for none.
-    static RAccordionColumn *around(const QQuickItem &item);
 
     /// Whether opening a section closes the others; false by default.
     bool isExclusive() const { return m_isExclusive; }

@@ -82,15 +82,6 @@ RAppBarBase::~RAppBarBase()
     }
 }
 
-RAppBarBase *RAppBarBase::around(const QQuickItem &item)
-{
-    for (QQuickItem *parent = item.parentItem(); parent; parent = parent->parentItem()) {
-        if (auto *bar = qobject_cast<RAppBarBase *>(parent))
-            return bar;
-    }
-    return nullptr;
-}
-
 void RAppBarBase::componentComplete()
 {
     QQuickToolBar::componentComplete();

@@ -39,9 +39,6 @@ public:
     explicit RAppBarBase(QQuickItem *parent = nullptr);
     ~RAppBarBase() override;
 
-    /// The bar that an item stands in; null for none.
-    static RAppBarBase *around(const QQuickItem &item);
-
     bool isCompact() const { return m_plan.compact; }
     qreal navigationRoom() const { return m_plan.navigation; }
     qreal wholeWidth() const { return m_plan.whole; }

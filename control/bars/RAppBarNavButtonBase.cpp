@@ -1,6 +1,7 @@
 #include "bars/RAppBarNavButtonBase.h"
 
 #include "bars/RAppBarBase.h"
+#include "base/Ancestor.h"
 #include "base/PartComponents.h"
 
 #include <QtQuick/private/qquickitem_p.h>
@@ -98,7 +99,7 @@ void RAppBarNavButtonBase::iconChange()
 
 void RAppBarNavButtonBase::selectionChange()
 {
-    if (RAppBarBase *bar = RAppBarBase::around(*this); bar && isSelected())
+    if (RAppBarBase *bar = nearestAncestor<RAppBarBase>(*this); bar && isSelected())
         bar->planAgain();
 }
 
@@ -110,7 +111,7 @@ void RAppBarNavButtonBase::updateSize()
     setRightPadding(margin * m_unit + (isMirrored() ? iconSpace() : 0.0));
     setImplicitSize(isTextHidden() ? compactWidth() : naturalWidth(),
                     (m_isForSubPage ? subHeight : compactSize) * m_unit);
-    if (RAppBarBase *bar = RAppBarBase::around(*this))
+    if (RAppBarBase *bar = nearestAncestor<RAppBarBase>(*this))
         bar->planAgain();
     updateFit();
 }

@@ -55,10 +55,13 @@ QObject *PartComponents::make(Part part, QObject *owner, const QVariantMap &init
     return made;
 }
 
-QQuickItem *PartComponents::makeItem(Part part, QQuickItem &parent)
+QQuickItem *PartComponents::makeItem(Part part, QQuickItem &parent, QVariantMap properties)
 {
-    QQmlEngine *engine = qmlEngine(&parent);
-    const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue(&parent)}};
+    // Parts of native items that no page has made belong to what is around them.
+    QQmlEngine *engine = nullptr;
+    for (const QQuickItem *item = &parent; item && !engine; item = item->parentItem())
+        engine = qmlEngine(item);
+    properties.insert(QStringLiteral("parent"), QVariant::fromValue(&parent));
     return engine ? qobject_cast<QQuickItem *>(of(engine).make(part, &parent, properties)) : nullptr;
 }
 

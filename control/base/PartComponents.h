@@ -74,8 +74,8 @@ class PartComponents : public QObject
 public:
     static PartComponents &of(QQmlEngine *engine);
 
-    /// Makes a part that is an item below `parent`; null outside of QML.
-    static QQuickItem *makeItem(Part part, QQuickItem &parent);
+    /// Makes a part that is an item below `parent`, with further initial properties; null outside of QML.
+    static QQuickItem *makeItem(Part part, QQuickItem &parent, QVariantMap properties = {});
 
     /// Shows or hides `item`, a part below `parent` that is made when it first shows, and null until then.
     static void show(QQuickItem *&item, Part part, QQuickItem &parent, bool shown);

@@ -35,14 +35,6 @@ void RFlyoutToolbarBase::setExclusive(bool exclusive)
     Q_EMIT exclusiveChanged();
 }
 
-RFlyoutToolbarBase *RFlyoutToolbarBase::around(const QQuickItem &item)
-{
-    QQuickItem *parent = item.parentItem();
-    while (parent && !qobject_cast<RFlyoutToolbarBase *>(parent))
-        parent = parent->parentItem();
-    return static_cast<RFlyoutToolbarBase *>(parent);
-}
-
 QList<RFlyoutToolbarItemBase *> RFlyoutToolbarBase::allTools() const
 {
     QList<RFlyoutToolbarItemBase *> found;

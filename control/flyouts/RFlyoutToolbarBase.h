@@ -33,8 +33,6 @@ public:
     bool isExclusive() const { return m_isExclusive; }
     void setExclusive(bool exclusive);
 
-    /// The bar that an item stands in, or null.
-    static RFlyoutToolbarBase *around(const QQuickItem &item);
     /// Those that can have the focus, from the start of the bar to its end.
     QList<RFlyoutToolbarItemBase *> tools() const;
     /// Where a key moves the focus from `here`; null for keys that move nothing.

@@ -1,5 +1,6 @@
 #include "flyouts/RFlyoutToolbarItemBase.h"
 
+#include "base/Ancestor.h"
 #include "base/PartComponents.h"
 #include "flyouts/FlyoutPlace.h"
 #include "flyouts/RFlyoutToolbarBase.h"
@@ -27,7 +28,7 @@ void RFlyoutToolbarItemBase::setFlyout(QObject *flyout)
 
 bool RFlyoutToolbarItemBase::isInRow() const
 {
-    const RFlyoutToolbarBase *bar = RFlyoutToolbarBase::around(*this);
+    const RFlyoutToolbarBase *bar = nearestAncestor<RFlyoutToolbarBase>(*this);
     return bar && bar->orientation() == Qt::Horizontal;
 }
 
@@ -66,7 +67,7 @@ void RFlyoutToolbarItemBase::toggleFlyout()
 
 void RFlyoutToolbarItemBase::editSelection(bool selected)
 {
-    RFlyoutToolbarBase *bar = RFlyoutToolbarBase::around(*this);
+    RFlyoutToolbarBase *bar = nearestAncestor<RFlyoutToolbarBase>(*this);
     if (!bar || !bar->isExclusive() || !isSelectable()) {
         RButtonBase::editSelection(selected);
     } else if (selected) {
@@ -84,9 +85,9 @@ void RFlyoutToolbarItemBase::deselect()
 
 bool RFlyoutToolbarItemBase::leaveBar(bool forwards)
 {
-    const RFlyoutToolbarBase *bar = RFlyoutToolbarBase::around(*this);
+    const RFlyoutToolbarBase *bar = nearestAncestor<RFlyoutToolbarBase>(*this);
     QQuickItem *next = nextItemInFocusChain(forwards);
-    while (next && next != this && RFlyoutToolbarBase::around(*next) == bar)
+    while (next && next != this && nearestAncestor<RFlyoutToolbarBase>(*next) == bar)
         next = next->nextItemInFocusChain(forwards);
     if (!next || next == this)
         return false;
@@ -96,7 +97,7 @@ bool RFlyoutToolbarItemBase::leaveBar(bool forwards)
 
 void RFlyoutToolbarItemBase::keyPressEvent(QKeyEvent *event)
 {
-    if (const RFlyoutToolbarBase *bar = RFlyoutToolbarBase::around(*this)) {
+    if (const RFlyoutToolbarBase *bar = nearestAncestor<RFlyoutToolbarBase>(*this)) {
         const bool isBack = event->key() == Qt::Key_Backtab;
         if (isBack || (event->key() == Qt::Key_Tab && event->modifiers() == Qt::NoModifier)) {
             event->setAccepted(leaveBar(!isBack));

@@ -80,14 +80,13 @@ void DetectionWatch::listen()
 /// Items may move under a pointer that rests, which takes a frame, and have their place when it is on its way.
 void DetectionWatch::followFrames()
 {
-    auto *window = m_detections.isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(m_spy.window());
-    if (window == m_window)
+    QWindow *window = m_detections.isEmpty() ? nullptr : m_spy.window();
+    if (window == m_window) // which may be on its way out, and no QQuickWindow any more
         return;
-    if (m_window)
-        m_window->disconnect(this);
+    disconnect(m_frames);
     m_window = window;
-    if (window)
-        connect(window, &QQuickWindow::afterAnimating, this, &DetectionWatch::updateLater);
+    if (auto *drawn = dynamic_cast<QQuickWindow *>(window))
+        m_frames = connect(drawn, &QQuickWindow::afterAnimating, this, &DetectionWatch::updateLater);
 }
 
 void DetectionWatch::updateLater()

@@ -38,7 +38,8 @@ private:
 
     RMouseEventSpy &m_spy;
     QList<RMouseDetection *> m_detections;
-    QPointer<QQuickWindow> m_window; ///< whose frames are followed
+    QMetaObject::Connection m_frames; ///< those of `m_window`
+    QPointer<QWindow> m_window;       ///< whose frames are followed
     bool m_updatesLater = false;
     unsigned m_updates = 0;
 };

@@ -16,6 +16,11 @@ bool isDrawn(const ColoredRectangle &rectangle)
     return !rectangle.rect.isEmpty() && rectangle.color.alpha() > 0;
 }
 
+bool isOpaque(const ColoredRectangle &rectangle)
+{
+    return !isDrawn(rectangle) || rectangle.color.alpha() == 255;
+}
+
 } // namespace
 
 RectanglesNode::RectanglesNode()
@@ -26,10 +31,14 @@ RectanglesNode::RectanglesNode()
     setMaterial(&m_material);
     // All of a node is at one depth, where of opaque rectangles the first would hide the others.
     m_material.setFlag(QSGMaterial::Blending);
+    m_opaqueMaterial.setFlag(QSGMaterial::Blending, false);
 }
 
-void RectanglesNode::setRectangles(std::span<const ColoredRectangle> rectangles)
+void RectanglesNode::setRectangles(std::span<const ColoredRectangle> rectangles, Placing placing)
 {
+    const bool isSolid = placing == Placing::Apart && std::all_of(rectangles.begin(), rectangles.end(), isOpaque);
+    if (isSolid != bool(opaqueMaterial()))
+        setOpaqueMaterial(isSolid ? &m_opaqueMaterial : nullptr);
     const auto count = int(std::count_if(rectangles.begin(), rectangles.end(), isDrawn));
     if (m_geometry.vertexCount() != count * cornerCount)
         m_geometry.allocate(count * cornerCount, count * indexCount);

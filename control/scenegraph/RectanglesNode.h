@@ -23,15 +23,23 @@ struct ColoredRectangle
 class RectanglesNode : public QSGGeometryNode, public PictureShape
 {
 public:
+    enum class Placing {
+        Stacked,
+        Apart, ///< Where two overlap they have one colour.
+    };
+
     RectanglesNode();
 
-    void setRectangles(std::span<const ColoredRectangle> rectangles);
+    /// Opaque ones that lie apart do not wait for what is below them: all such nodes are drawn at once, and do not keep
+    /// other things that are alike, such as the icons on them, from being drawn together.
+    void setRectangles(std::span<const ColoredRectangle> rectangles, Placing placing = Placing::Stacked);
 
     void paint(PictureCanvas &canvas) const override;
 
 private:
     QSGGeometry m_geometry;
     QSGVertexColorMaterial m_material;
+    QSGVertexColorMaterial m_opaqueMaterial;
 };
 
 } // namespace tamble::client

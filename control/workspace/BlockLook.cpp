@@ -7,8 +7,9 @@
 #include "scenegraph/RectanglesNode.h"
 #include "scenegraph/SoftwarePicture.h"
 #include "workspace/RWorkspaceBlock.h"
+#include "workspace/RWorkspaceItemValueBarBase.h"
 
-#include <QtQml/QQmlEngine>
+#include <QtQml/QQmlComponent>
 
 #include <algorithm>
 #include <cmath>
@@ -23,6 +24,7 @@ namespace {
 constexpr qreal partGap = 4.0;
 constexpr qreal headerIconSize = 16.0;
 constexpr qreal overviewIconSize = 24.0;
+constexpr qreal overviewGap = 6.0; // glyphs reach beyond their line, and what overlaps is drawn one by one
 constexpr qreal loneIconSize = 48.0;
 constexpr qreal markSize = 6.0;
 constexpr qreal plainBorder = 1.0;
@@ -32,6 +34,7 @@ constexpr qreal overviewBorder = 6.0;
 
 constexpr qreal disabledOpacity = 0.4;
 constexpr qreal behindContent = -1.0;
+constexpr qreal belowFrame = -1.0;
 
 void addBorder(std::vector<ColoredRectangle> &rectangles, const QRectF &rect, qreal width, const QColor &color)
 {
@@ -40,6 +43,17 @@ void addBorder(std::vector<ColoredRectangle> &rectangles, const QRectF &rect, qr
     rectangles.push_back({{rect.left(), rect.bottom() - width, rect.width(), width}, color});
     rectangles.push_back({{rect.left(), rect.top() + width, width, inner}, color});
     rectangles.push_back({{rect.right() - width, rect.top() + width, width, inner}, color});
+}
+
+// All of `inside` but the corners outside of `middle`.
+void addGround(std::vector<ColoredRectangle> &rectangles, const QRectF &inside, const QRectF &middle,
+               const QColor &color)
+{
+    const qreal top = std::max(inside.top(), middle.top());
+    const qreal bottom = std::min(inside.bottom(), middle.bottom());
+    rectangles.push_back({{QPointF(inside.left(), top), QPointF(inside.right(), bottom)}, color});
+    rectangles.push_back({{QPointF(middle.left(), inside.top()), QPointF(middle.right(), top)}, color});
+    rectangles.push_back({{QPointF(middle.left(), bottom), QPointF(middle.right(), inside.bottom())}, color});
 }
 
 void addMarks(std::vector<ColoredRectangle> &rectangles, const QRectF &rect, qreal size, const QColor &color)
@@ -68,25 +82,20 @@ BlockLook::BlockLook(RWorkspaceBlock &block)
 void BlockLook::refresh()
 {
     setSize(m_block.size());
-    if (!m_title && !m_block.title().isEmpty()) {
-        if (QQmlEngine *engine = qmlEngine(&m_block)) {
-            const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue<QQuickItem *>(this)},
-                                         {QStringLiteral("block"), QVariant::fromValue<QObject *>(&m_block)}};
-            m_title =
-                qobject_cast<QQuickItem *>(PartComponents::of(engine).make(Part::WorkspaceItemTitle, this, properties));
-        }
-        if (m_title) {
-            connect(m_title, &QQuickItem::implicitWidthChanged, this, &BlockLook::layOut);
-            connect(m_title, &QQuickItem::implicitHeightChanged, this, &BlockLook::layOut);
-        }
+    showTitle();
+    const QString &status = m_block.statusIconKey();
+    const QString lock = m_block.locked() ? QStringLiteral("lock") : QString();
+    if (m_block.detailed()) {
+        showIcon(m_icon, m_block.iconKey(), headerIconSize);
+        showIcon(m_statusIcon, status, headerIconSize);
+        showIcon(m_lockIcon, lock, headerIconSize);
+    } else {
+        const bool isAlone = !status.isEmpty() || m_block.title().isEmpty();
+        showIcon(m_icon, status.isEmpty() ? m_block.iconKey() : status, isAlone ? loneIconSize : overviewIconSize);
+        showIcon(m_statusIcon, QString(), headerIconSize);
+        showIcon(m_lockIcon, QString(), headerIconSize);
     }
-    const bool isDetailed = m_block.detailed();
-    const qreal loneSize = m_block.title().isEmpty() ? loneIconSize : overviewIconSize;
-    showIcon(m_icon, m_block.iconKey(), isDetailed ? headerIconSize : loneSize);
-    showIcon(m_statusIcon, isDetailed ? m_block.statusIconKey() : QString(), headerIconSize);
-    showIcon(m_lockIcon, isDetailed && m_block.locked() ? QStringLiteral("lock") : QString(), headerIconSize);
     showValueBar();
-    showFocus();
     layOut();
     // Not the ground, through which the grid would show.
     for (QQuickItem *part : childItems())
@@ -94,15 +103,27 @@ void BlockLook::refresh()
     update();
 }
 
+void BlockLook::showTitle()
+{
+    if (m_title || m_block.title().isEmpty())
+        return;
+    const QVariantMap properties{{QStringLiteral("block"), QVariant::fromValue<QObject *>(&m_block)}};
+    m_title = PartComponents::makeItem(Part::WorkspaceItemTitle, *this, properties);
+    if (!m_title)
+        return;
+    connect(m_title, &QQuickItem::implicitWidthChanged, this, &BlockLook::layOut);
+    connect(m_title, &QQuickItem::implicitHeightChanged, this, &BlockLook::layOut);
+}
+
 void BlockLook::showIcon(RTintedImage *&icon, const QString &key, qreal size)
 {
-    if (!icon && key.isEmpty())
+    if (key.isEmpty()) {
+        delete std::exchange(icon, nullptr);
         return;
+    }
     if (!icon)
         icon = new RTintedImage(this);
-    icon->setVisible(!key.isEmpty());
-    if (key.isEmpty())
-        return;
+    icon->setVisible(true);
     icon->setEnlargement(m_block.unit());
     icon->setSource(QUrl(QStringLiteral("qrc:/icons/%1_%2x%2.png").arg(key).arg(int(size))));
     icon->setSize(QSizeF(size, size) * m_block.unit());
@@ -114,13 +135,18 @@ void BlockLook::showValueBar()
     QQmlComponent *component = m_block.valueBar();
     if (component && m_block.detailed() && !std::exchange(m_hasAskedForBar, true)) {
         m_valueBar = makePageItem(*component, *this, *this);
-        if (m_valueBar)
+        if (m_valueBar) {
+            m_valueBar->setZ(belowFrame);
             Q_EMIT m_block.valueBarItemChanged();
-        else
+        } else {
             qCWarning(controlLog).noquote() << "RWorkspaceItem has no value bar" << component->errorString();
+        }
     }
-    if (m_valueBar)
-        m_valueBar->setVisible(m_block.detailed());
+    if (!m_valueBar)
+        return;
+    m_valueBar->setVisible(m_block.detailed());
+    if (auto *bar = qobject_cast<RWorkspaceItemValueBarBase *>(m_valueBar))
+        bar->setMarkWidth(m_block.lineWidth());
 }
 
 void BlockLook::dropValueBar()
@@ -131,14 +157,6 @@ void BlockLook::dropValueBar()
     m_valueBar->setVisible(false);
     std::exchange(m_valueBar, nullptr)->deleteLater();
     Q_EMIT m_block.valueBarItemChanged();
-}
-
-void BlockLook::showFocus()
-{
-    if (!m_focusFrame && m_block.keyFocus())
-        m_focusFrame = PartComponents::makeItem(Part::FocusFrame, *this);
-    if (m_focusFrame)
-        m_focusFrame->setVisible(m_block.keyFocus());
 }
 
 void BlockLook::layOut()
@@ -157,12 +175,12 @@ void BlockLook::layOutHeader()
     const qreal middle = headerHeight * unit / 2.0;
     qreal begin = 2.0 * gap;
     qreal end = width() - 2.0 * gap;
-    if (m_icon && m_icon->isVisible()) {
+    if (m_icon) {
         center(*m_icon, begin + m_icon->width() / 2.0, middle);
         begin += step;
     }
     for (RTintedImage *icon : {m_lockIcon, m_statusIcon}) {
-        if (!icon || !icon->isVisible())
+        if (!icon)
             continue;
         center(*icon, end - icon->width() / 2.0, middle);
         end -= step;
@@ -179,23 +197,23 @@ void BlockLook::layOutHeader()
     }
 }
 
-// The icon above the title; the title alone where both have no room.
+// The icon above the title; the title alone where both have no room, and what needs attention in the place of both.
 void BlockLook::layOutOverview()
 {
-    const qreal edge = overviewBorder * m_block.unit();
     const QPointF middle = boundingRect().center();
-    const qreal titleHeight = m_title && !m_block.title().isEmpty() ? m_title->implicitHeight() : 0.0;
+    const bool hasTitle = m_title && !m_block.title().isEmpty() && m_block.statusIconKey().isEmpty();
+    const qreal titleHeight = hasTitle ? m_title->implicitHeight() + overviewGap * m_block.unit() : 0.0;
+    const bool hasIcon = m_icon && (!hasTitle || m_icon->height() + titleHeight <= height());
     if (m_icon) {
-        const qreal all = m_icon->height() + titleHeight;
-        m_icon->setVisible(!m_block.iconKey().isEmpty() && (titleHeight == 0.0 || all <= height()));
+        m_icon->setVisible(hasIcon);
         center(*m_icon, middle.x(), middle.y() - titleHeight / 2.0);
     }
     if (m_title) {
-        const qreal room = width() - 2.0 * edge;
-        m_title->setVisible(room > 0.0);
+        const qreal room = width() - 2.0 * overviewBorder * m_block.unit();
+        m_title->setVisible(hasTitle && room > 0.0);
         m_title->setWidth(std::min(m_title->implicitWidth(), room));
-        const bool hasIcon = m_icon && m_icon->isVisible();
-        center(*m_title, middle.x(), middle.y() + (hasIcon ? m_icon->height() / 2.0 : 0.0));
+        const qreal iconHeight = hasIcon ? m_icon->height() + overviewGap * m_block.unit() : 0.0;
+        center(*m_title, middle.x(), middle.y() + iconHeight / 2.0);
     }
 }
 
@@ -208,14 +226,22 @@ QSGNode *BlockLook::updateFrame(QSGNode *oldNode) const
 {
     const qreal unit = m_block.unit();
     const QColor border = m_block.ssBorderColor();
-    const bool isSelected = m_block.selected();
-    const qreal width = !isSelected ? plainBorder : m_block.detailed() ? selectedBorder : overviewBorder;
-    std::vector<ColoredRectangle> rectangles{{boundingRect(), m_block.ssBackground()}};
-    addBorder(rectangles, boundingRect(), width * unit, border);
-    if (isSelected && m_block.detailed())
-        addMarks(rectangles, boundingRect(), markSize * unit, border);
+    const bool hasMarks = m_block.selected() && m_block.detailed();
+    const qreal least = !m_block.selected() ? plainBorder : hasMarks ? selectedBorder : overviewBorder;
+    const qreal width = unit * std::max(least, m_block.lineWidth());
+    const qreal mark = hasMarks ? std::max(width, markSize * unit) : width;
+    // The value bar has a ground of its own, and the frame goes around both.
+    const qreal bar = m_valueBar && m_block.detailed() ? m_valueBar->height() : 0.0;
+
+    const QRectF all = boundingRect();
+    const QRectF inside = all.adjusted(width, width, -width, -std::max(width, bar));
+    std::vector<ColoredRectangle> rectangles;
+    addGround(rectangles, inside, all.adjusted(mark, mark, -mark, -mark), m_block.ssBackground());
+    addBorder(rectangles, all, width, border);
+    if (hasMarks)
+        addMarks(rectangles, all, mark, border);
     auto *node = oldNode ? static_cast<RectanglesNode *>(oldNode) : new RectanglesNode;
-    node->setRectangles(rectangles);
+    node->setRectangles(rectangles, RectanglesNode::Placing::Apart);
     return node;
 }
 

@@ -8,7 +8,7 @@ class RTintedImage;
 class RWorkspaceBlock;
 
 /// What an item of a workspace shows around its content: ground, border and marks, header and value bar. Made when the
-/// item first comes into view, and hidden out of it.
+/// item first comes into view, and hidden out of it. The workspace draws the frame of the keyboard focus.
 ///
 /// It is placed natively and painted as one node, since a zoomed-out view shows hundreds.
 class BlockLook : public QQuickItem
@@ -35,19 +35,18 @@ protected:
 private:
     QSGNode *updateFrame(QSGNode *oldNode) const;
     void showValueBar();
+    void showTitle();
     void showIcon(RTintedImage *&icon, const QString &key, qreal size);
-    void showFocus();
     void layOut();
     void layOutHeader();
     void layOutOverview();
 
     RWorkspaceBlock &m_block;
-    QQuickItem *m_title = nullptr; // all of these are children, made when first needed
+    QQuickItem *m_title = nullptr; // all of these are children, made when first needed; icons go with their keys
     RTintedImage *m_icon = nullptr;
     RTintedImage *m_statusIcon = nullptr;
     RTintedImage *m_lockIcon = nullptr;
     QQuickItem *m_valueBar = nullptr;
-    QQuickItem *m_focusFrame = nullptr;
     bool m_hasAskedForBar = false;
 };
 

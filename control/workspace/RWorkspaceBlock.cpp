@@ -8,6 +8,7 @@
 #include <QtQuick/private/qquickitem_p.h>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace tamble::client {
@@ -17,6 +18,8 @@ namespace {
 // In density-independent units.
 constexpr QSizeF leastBlockSize{96.0, 64.0};
 constexpr qreal valueBarHeight = 6.0;
+
+constexpr qreal lineStep = 1.25; // factor
 
 } // namespace
 
@@ -152,6 +155,8 @@ void RWorkspaceBlock::updateLook()
 {
     if (!isComponentComplete() || (!inView() && !m_look))
         return;
+    followZoom();
+    fitLines();
     if (inView()) {
         feedStates();
         if (!m_look)
@@ -159,6 +164,32 @@ void RWorkspaceBlock::updateLook()
         m_look->refresh();
     }
     m_look->setVisible(inView());
+}
+
+void RWorkspaceBlock::followZoom()
+{
+    // A workspace that goes leaves its items in view.
+    const bool follows = inView() && workspace();
+    if (follows == bool(m_zoomConnection))
+        return;
+    disconnect(m_zoomConnection);
+    m_zoomConnection = {};
+    if (follows)
+        m_zoomConnection = connect(workspace(), &WorkspaceBase::zoomChanged, this, [this] {
+            if (fitLines())
+                m_look->refresh();
+        });
+}
+
+bool RWorkspaceBlock::fitLines()
+{
+    if (!m_zoomConnection)
+        return false;
+    const qreal zoom = workspace()->zoom();
+    // In steps, so that not every zoom draws all lines anew; never too thin to be seen.
+    const qreal steps = std::ceil(std::log(1.0 / zoom) / std::log(lineStep) - 1e-6);
+    const qreal width = zoom < 1.0 ? std::pow(lineStep, steps) : 1.0;
+    return std::exchange(m_lineWidth, width) != width;
 }
 
 // Natively and only where somebody sees it, since four bindings for each of thousands would be most of their cost. A

@@ -17,7 +17,7 @@ class BlockLook;
 /// The look of a device or block on a workspace: a header above what the page puts into it, and a value bar below.
 ///
 /// All but the page's content is made when the item first comes into view. At a zoom below 0.4 only icon and title are
-/// drawn.
+/// drawn, or in their place, large, the status icon.
 class TAMBLE_CLIENT_CONTROL_EXPORT RWorkspaceBlock : public tamble::client::WorkspaceItemBase
 {
     Q_OBJECT
@@ -64,6 +64,9 @@ public:
     /// Pixels per density-independent unit.
     qreal unit() const { return m_unit; }
     void setUnit(qreal unit);
+    /// Width in density-independent units of a line that is a pixel wide, or little more, at the workspace's zoom; at
+    /// least 1.
+    qreal lineWidth() const { return m_lineWidth; }
 
     QColor ssBackground() const { return m_colors.color(Background); }
     void setSsBackground(const QColor &color) { m_colors.setColor(Background, color); }
@@ -101,6 +104,8 @@ private:
     void updateSize();
     void placeContent();
     void feedStates();
+    void followZoom();
+    bool fitLines();
     void onColorsChanged(std::size_t begin, std::size_t end);
 
     SheetColors m_colors;
@@ -110,7 +115,9 @@ private:
     QPointer<QQmlComponent> m_valueBar;
     BlockLook *m_look = nullptr; // a child, made when the item first comes into view
     qreal m_unit = 1.0;
-    unsigned m_fedStates = 0; // bits in the order of their table
+    qreal m_lineWidth = 1.0;
+    QMetaObject::Connection m_zoomConnection; // while in view
+    unsigned m_fedStates = 0;                 // bits in the order of their table
 };
 
 } // namespace tamble::client

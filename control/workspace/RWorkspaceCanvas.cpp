@@ -4,8 +4,9 @@
 #include "plot/LinePlotter.h"
 #include "style/StyleSetProps.h"
 #include "workspace/PlaneGrid.h"
+#include "workspace/WorkspaceItemBase.h"
 
-#include <QtQml/QQmlEngine>
+#include <QtGui/QKeyEvent>
 #include <QtQuick/QQuickWindow>
 #include <QtQuick/QSGRectangleNode>
 
@@ -23,7 +24,19 @@ constexpr qreal scrollLayer = 3.0;
 constexpr qreal focusLayer = 4.0;
 
 // Lines that are this close together must not outshine what stands on them.
-constexpr double gridOpacity = 0.5;
+constexpr double gridOpacity = 0.35;
+
+// In density-independent units, between an item and the frame of the focus: its own border means something else.
+constexpr qreal focusGap = 3.0;
+
+// Of the whole, less than a pixel.
+constexpr qreal wholeView = 0.9999;
+
+bool isZoomKey(int key)
+{
+    return key == Qt::Key_Plus || key == Qt::Key_Equal || key == Qt::Key_Minus || key == Qt::Key_Underscore ||
+           key == Qt::Key_0;
+}
 
 } // namespace
 
@@ -41,11 +54,10 @@ RWorkspaceCanvas::RWorkspaceCanvas(QQuickItem *parent)
     for (const auto changed :
          {&WorkspaceBase::zoomChanged, &WorkspaceBase::viewXChanged, &WorkspaceBase::viewYChanged,
           &WorkspaceBase::planeRectChanged, &WorkspaceBase::unitChanged, &WorkspaceBase::gridSizeChanged,
-          &WorkspaceBase::gridVisibleChanged, &WorkspaceBase::guidesChanged})
+          &WorkspaceBase::gridVisibleChanged, &WorkspaceBase::guidesChanged, &WorkspaceBase::currentItemChanged})
         connect(this, changed, this, [this] { polish(); });
     for (const auto changed : {&WorkspaceBase::rubberBandActiveChanged, &WorkspaceBase::rubberBandRectChanged})
         connect(this, changed, this, &RWorkspaceCanvas::showRubberBand);
-    connect(this, &WorkspaceBase::currentItemChanged, this, &RWorkspaceCanvas::showFocus);
 }
 
 // What the base still says while it goes is not for what is gone already.
@@ -164,19 +176,15 @@ void RWorkspaceCanvas::showScrollBars()
     const QRectF whole = wholeRect();
     if (seen.isEmpty() || whole.isEmpty())
         return;
+    const auto share = [](qreal part) { return part > wholeView ? 1.0 : part; };
     const QRectF span((seen.x() - whole.x()) / whole.width(), (seen.y() - whole.y()) / whole.height(),
-                      seen.width() / whole.width(), seen.height() / whole.height());
+                      share(seen.width() / whole.width()), share(seen.height() / whole.height()));
     if (std::exchange(m_scrollSpan, span) != span)
         Q_EMIT scrollSpanChanged();
     if (m_scrollBars || (span.width() >= 1.0 && span.height() >= 1.0))
         return;
-    QQmlEngine *engine = qmlEngine(this);
-    if (!engine)
-        return;
-    const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue<QQuickItem *>(this)},
-                                 {QStringLiteral("canvas"), QVariant::fromValue<QObject *>(this)}};
-    m_scrollBars =
-        qobject_cast<QQuickItem *>(PartComponents::of(engine).make(Part::WorkspaceScrollBars, this, properties));
+    const QVariantMap properties{{QStringLiteral("canvas"), QVariant::fromValue<QObject *>(this)}};
+    m_scrollBars = PartComponents::makeItem(Part::WorkspaceScrollBars, *this, properties);
     if (m_scrollBars)
         m_scrollBars->setZ(scrollLayer);
 }
@@ -191,17 +199,39 @@ void RWorkspaceCanvas::scrollVertically(double place)
     setViewY(wholeRect().y() + place * wholeRect().height());
 }
 
-// An item that keys act on has a frame of its own.
+// Around the item that keys act on, or else around all; as wide at any zoom, and in front of the items beside it.
 void RWorkspaceCanvas::showFocus()
 {
-    const bool isShown = hasActiveFocus() && !currentItem();
-    if (isShown && !m_focusFrame) {
-        m_focusFrame = PartComponents::makeItem(Part::FocusFrame, *this);
-        if (m_focusFrame)
-            m_focusFrame->setZ(focusLayer);
+    if (hasActiveFocus() && !m_focusPlace) {
+        m_focusPlace = new QQuickItem(this);
+        m_focusPlace->setZ(focusLayer);
+        PartComponents::makeItem(Part::FocusFrame, *m_focusPlace);
     }
-    if (m_focusFrame)
-        m_focusFrame->setVisible(isShown);
+    if (!m_focusPlace)
+        return;
+    m_focusPlace->setVisible(hasActiveFocus());
+    QRectF place = boundingRect();
+    if (const auto *item = static_cast<WorkspaceItemBase *>(currentItem())) {
+        const QRectF rect = item->planeRect();
+        const qreal gap = focusGap * unit();
+        place = QRectF(mapFromPlane(rect.topLeft()), mapFromPlane(rect.bottomRight())).adjusted(-gap, -gap, gap, gap);
+    }
+    m_focusPlace->setPosition(place.topLeft());
+    m_focusPlace->setSize(place.size());
+}
+
+// The canvas's own keys mean its zoom while it has the focus, also in a window that has a zoom by the same keys.
+bool RWorkspaceCanvas::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto &key = static_cast<const QKeyEvent &>(*event);
+        const auto modifiers = key.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
+        if (modifiers == Qt::ControlModifier && isZoomKey(key.key())) {
+            event->accept();
+            return true;
+        }
+    }
+    return WorkspaceBase::event(event);
 }
 
 void RWorkspaceCanvas::componentComplete()
@@ -214,7 +244,7 @@ void RWorkspaceCanvas::itemChange(ItemChange change, const ItemChangeData &data)
 {
     WorkspaceBase::itemChange(change, data);
     if (change == ItemActiveFocusHasChanged)
-        showFocus();
+        polish();
 }
 
 void RWorkspaceCanvas::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
@@ -232,6 +262,7 @@ void RWorkspaceCanvas::updatePolish()
     showGrid();
     showGuides();
     showScrollBars();
+    showFocus();
 }
 
 QSGNode *RWorkspaceCanvas::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)

@@ -46,6 +46,7 @@ Q_SIGNALS:
     void ssGuideColorChanged();
 
 protected:
+    bool event(QEvent *event) override;
     void componentComplete() override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
@@ -81,7 +82,7 @@ private:
     QRectF m_scrollSpan = {0.0, 0.0, 1.0, 1.0};
     QQuickItem *m_rubberBand = nullptr; // children, made when first needed
     QQuickItem *m_scrollBars = nullptr;
-    QQuickItem *m_focusFrame = nullptr;
+    QQuickItem *m_focusPlace = nullptr;
 };
 
 } // namespace tamble::client

@@ -145,6 +145,12 @@ void RWorkspaceItemValueBarBase::setUnit(qreal unit)
     Q_EMIT unitChanged();
 }
 
+void RWorkspaceItemValueBarBase::setMarkWidth(qreal width)
+{
+    if (std::exchange(m_markWidth, width) != width)
+        refresh();
+}
+
 void RWorkspaceItemValueBarBase::setSsBackgroundBar(const QColor &color)
 {
     m_colors.setColor(Bar, color);
@@ -168,8 +174,9 @@ void RWorkspaceItemValueBarBase::refresh()
     const QRectF bar = m_reverse ? QRectF(end, 0.0, width() - end, height()) : QRectF(0.0, 0.0, end, height());
     QRectF delimiter;
     if (std::isfinite(m_delimiterValue)) {
-        const double begin = std::round(pixelOf(m_delimiterValue) - m_unit / 2.0);
-        delimiter = {std::clamp(begin, 0.0, std::max(0.0, width() - m_unit)), 0.0, m_unit, height()};
+        const double markWidth = m_unit * m_markWidth;
+        const double begin = std::round(pixelOf(m_delimiterValue) - markWidth / 2.0);
+        delimiter = {std::clamp(begin, 0.0, std::max(0.0, width() - markWidth)), 0.0, markWidth, height()};
     }
     const bool isBarNew = std::exchange(m_barRect, bar) != bar;
     const bool isDelimiterNew = std::exchange(m_delimiterRect, delimiter) != delimiter;

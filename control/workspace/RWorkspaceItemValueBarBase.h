@@ -60,6 +60,9 @@ public:
     void setLabel(const QString &label);
     void setText(const QString &text);
     void setUnit(qreal unit);
+    /// Width of the mark at `delimiterValue` in density-independent units, more than 1, the default, where it would be
+    /// too thin to be seen.
+    void setMarkWidth(qreal width);
 
     QColor ssBackground() const { return m_colors.color(Background); }
     void setSsBackground(const QColor &color) { m_colors.setColor(Background, color); }
@@ -115,6 +118,7 @@ private:
     double m_delimiterValue;
     std::optional<bool> m_givenAlarm;
     qreal m_unit = 1.0;
+    qreal m_markWidth = 1.0;
     QRectF m_barRect;
     QRectF m_delimiterRect;
     QString m_label;

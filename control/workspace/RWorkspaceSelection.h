@@ -82,7 +82,7 @@ Q_SIGNALS:
     void selectionChanged();
     /// An item was added to the selection.
     void itemSelected(QObject *item);
-    /// An item left the selection.
+    /// An item left the selection and is still there: of one that is destroyed `selectionChanged` tells.
     void itemDeselected(QObject *item);
 
 private:

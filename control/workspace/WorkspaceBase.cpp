@@ -59,6 +59,7 @@ WorkspaceBase::WorkspaceBase(QQuickItem *parent)
 WorkspaceBase::~WorkspaceBase()
 {
     blockSignals(true);
+    disconnect(m_focusWatch);
     m_detection->disconnect(this);
     QAccessible::removeActivationObserver(this);
     m_input.reset();

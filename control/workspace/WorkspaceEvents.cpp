@@ -1,3 +1,4 @@
+#include "base/Ancestor.h"
 #include "base/InputMeaning.h"
 #include "pointer/RMouseDetection.h"
 #include "workspace/DroppedData.h"
@@ -64,10 +65,8 @@ void WorkspaceBase::itemChange(ItemChange change, const ItemChangeData &data)
 // Children of its own a page notices by itself, but not what is put into them.
 void WorkspaceBase::tellSheet()
 {
-    for (QQuickItem *ancestor = parentItem(); ancestor; ancestor = ancestor->parentItem()) {
-        if (auto *sheet = qobject_cast<WorksheetBase *>(ancestor))
-            sheet->seekWorkspace();
-    }
+    for (auto *sheet = nearestAncestor<WorksheetBase>(*this); sheet; sheet = nearestAncestor<WorksheetBase>(*sheet))
+        sheet->seekWorkspace();
 }
 
 bool WorkspaceBase::event(QEvent *event)

@@ -54,7 +54,7 @@ void WorkspaceBase::followFocus()
     m_focusInside = focus && focus != m_plane && m_plane->isAncestorOf(focus) ? focus : nullptr;
     setTabFences(false);
     for (QQuickItem *item = m_focusInside; item && item != m_plane; item = item->parentItem()) {
-        if (auto *entered = qobject_cast<WorkspaceItemBase *>(item))
+        if (auto *entered = dynamic_cast<WorkspaceItemBase *>(item))
             return setCurrentItem(entered);
     }
 }
@@ -62,7 +62,7 @@ void WorkspaceBase::followFocus()
 void WorkspaceBase::setTabFences(bool areFences)
 {
     for (QQuickItem *item = m_focusInside; item && item != this; item = item->parentItem()) {
-        if (item == m_plane || qobject_cast<WorkspaceItemBase *>(item))
+        if (item == m_plane || dynamic_cast<WorkspaceItemBase *>(item))
             QQuickItemPrivate::get(item)->isTabFence = areFences;
     }
 }

@@ -11,6 +11,23 @@ FocusScope {
     /*! What is chosen is to be shown in detail. */
     signal opened()
 
+    /*! Selects what the page shows in detail. */
+    function showChosen() {
+        const isChosen = row => Festival.chosenDevices.includes(rows.get(row).device)
+        const chosen = Array.from({ length: rows.count }, (_, row) => row).filter(isChosen)
+        devices.selectedIndexes = chosen
+        if (chosen.length > 0)
+            devices.currentIndex = chosen[0]
+    }
+
+    Connections {
+        target: Festival
+
+        function onDevicesAsked() {
+            search.clear()
+            root.showChosen()
+        }
+    }
     RSortFilterProxyModel {
         id: wanted
         sourceModel: GalleryInstallation.allDevices
@@ -63,7 +80,7 @@ FocusScope {
         label: qsTr("Devices")
         selectionMode: RListView.Multiple
         placeholderText: qsTr("No device is like this")
-        Component.onCompleted: devices.select(0)
+        Component.onCompleted: root.showChosen()
         onSelectionEdited: indexes => root.chosen(indexes.map(index => rows.get(index).device))
         onActivated: root.opened()
 

@@ -9,10 +9,11 @@ Column {
         { keys: qsTr("Ctrl+Page Up, Page Down"), text: qsTr("previous and next page") },
         { keys: qsTr("Ctrl+Z, Ctrl+Y"), text: qsTr("undo and redo, on any page") },
         { keys: qsTr("Ctrl+F"), text: qsTr("search on the stage") },
+        { keys: qsTr("Enter, on the stage"), text: qsTr("the block's device") },
         { keys: qsTr("Tab, Shift+Tab"), text: qsTr("next and previous control") },
         { keys: qsTr("Arrows, with Shift, with Ctrl"), text: qsTr("step, finely, coarsely") },
         { keys: qsTr("Esc"), text: qsTr("give up what is being typed or dragged") },
-        { keys: qsTr("Ctrl++, Ctrl+-, Ctrl+0"), text: qsTr("larger, smaller, automatic size") },
+        { keys: qsTr("Ctrl++, Ctrl+-, Ctrl+0"), text: qsTr("larger, smaller, automatic size; on the stage: of the plan") },
         { keys: qsTr("Ctrl+T"), text: qsTr("next theme") },
     ]
 

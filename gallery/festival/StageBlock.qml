@@ -23,6 +23,8 @@ RWorkspaceItem {
     // The tools do not know the type of the id.
     itemId: root.blockId // qmllint disable
     position: root.place
+    // Devices have names of people's own.
+    size: root.kind === "loudspeaker" ? Qt.size(96, 64) : Qt.size(160, 64)
     iconKey: root.kind
     statusIconKey: root.status
     // qmllint disable unqualified
@@ -38,10 +40,10 @@ RWorkspaceItem {
         leftPadding: 8 * RThemeValues.unit
         rightPadding: 8 * RThemeValues.unit
         width: root.width
-        text: root.alarm.length > 0 ? root.alarm : root.valueText
+        // Nothing is laid out that nobody sees.
+        text: !visible ? "" : root.alarm.length > 0 ? root.alarm : root.valueText
         color: root.ssColor
         elide: Text.ElideRight
-        font.pixelSize: RThemeValues.fontSizeXS
         font.bold: root.alarm.length > 0
     }
     // qmllint enable unqualified

@@ -32,6 +32,12 @@ Flow {
     }
 
     spacing: theme.dp(16)
+    // Those that the field has no use for, since its text is entered already.
+    Keys.onPressed: event => {
+        event.accepted = search.activeFocus && [Qt.Key_Return, Qt.Key_Enter].includes(event.key)
+        if (event.accepted)
+            root.find()
+    }
 
     Shortcut {
         sequence: "Ctrl+F"
@@ -43,15 +49,7 @@ Flow {
         width: theme.dp(224)
         label: qsTr("Search")
         placeholderText: qsTr("Name or place, Enter for the next")
-        // The field takes the key as well.
-        Keys.onReturnPressed: event => {
-            root.find()
-            event.accepted = false
-        }
-        Keys.onEnterPressed: event => {
-            root.find()
-            event.accepted = false
-        }
+        onValueCommitted: root.find()
     }
     RButton {
         width: theme.dp(112)

@@ -6,6 +6,7 @@ import TambleClient.Control 1.0
 RWorksheet {
     id: root
 
+    property string name: qsTr("Festival ground")
     readonly property StageModel stage: GalleryInstallation.stage
     readonly property RWorkspaceSelection selection: canvas.selection
 
@@ -23,16 +24,25 @@ RWorksheet {
         canvas.distribute(orientation)
     }
 
-    title: qsTr("Festival ground")
+    /*! Takes a name that was edited, undone or redone. */
+    function reveal(name: var) {
+        root.name = name
+    }
+
+    title: root.name
+    onTitleEdited: title => GalleryInstallation.history.keep(root, root.name, title, qsTr("Plan renamed"), "name")
+    // The installation keeps everything at once.
+    onModifiedChanged: root.markSaved()
 
     RWorkspace {
         id: canvas
         focus: true
         planeRect: root.stage.area
         minimumZoom: 0.1
-        zoom: 0.5
-        viewX: 120
-        viewY: 280
+        zoom: 0.75
+        viewX: 136
+        viewY: 296
+        onItemActivated: id => Festival.openDevice(root.stage.deviceOf(id))
         onItemsMoved: (before, after, cause) => root.stage.move(before, after, cause)
 
         Repeater {

@@ -8,7 +8,6 @@
 namespace {
 
 constexpr qint64 gesturePause = 600; // ms without a step that end a gesture
-constexpr int mostSteps = 500;
 
 /// Of lists and objects of JavaScript only copies can be compared.
 QVariant comparable(const QVariant &state)
@@ -72,7 +71,6 @@ bool EditStep::mergeWith(const QUndoCommand *later)
 EditHistory::EditHistory(QObject *parent)
     : QUndoStack(parent)
 {
-    setUndoLimit(mostSteps);
     connect(this, &QUndoStack::indexChanged, this, &EditHistory::tellUndone);
 }
 

@@ -27,7 +27,7 @@ private:
     bool m_continues = false;
 };
 
-/// What was done and can be undone, whichever page it was done on.
+/// What was done and can be undone, without end, whichever page it was done on.
 class EditHistory : public QUndoStack
 {
     Q_OBJECT

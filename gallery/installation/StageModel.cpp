@@ -8,6 +8,8 @@
 #include <QtCore/QUuid>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace {
 
@@ -21,8 +23,7 @@ constexpr double loud = 6.0;       // dB, beyond which an output may clip
 class MoveStep : public EditStep
 {
 public:
-    MoveStep(StageModel &stage, const QHash<int, QPointF> &before, const QHash<int, QPointF> &after,
-             const QString &text)
+    MoveStep(StageModel &stage, const StagePlaces &before, const StagePlaces &after, const QString &text)
         : EditStep(text, QStringLiteral("stage"))
         , m_stage(&stage)
         , m_before(before)
@@ -40,7 +41,7 @@ protected:
     }
 
 private:
-    void place(const QHash<int, QPointF> &places)
+    void place(const StagePlaces &places)
     {
         if (m_stage)
             m_stage->place(places);
@@ -49,8 +50,8 @@ private:
     }
 
     QPointer<StageModel> m_stage;
-    QHash<int, QPointF> m_before;
-    QHash<int, QPointF> m_after;
+    StagePlaces m_before;
+    StagePlaces m_after;
 };
 
 /// The same in every run, so that pages may remember ids.
@@ -73,10 +74,30 @@ QString iconOf(DeviceKind kind)
     }
 }
 
-/// A field of the output that drives a loudspeaker.
-int outputField(const StageBlock &loudspeaker, const char *suffix)
+/// Fields of an amplifier's output, and all that have to do with the plan, looked up once.
+struct OutputFields
 {
-    return fieldIndex(QStringLiteral("output%1%2").arg(loudspeaker.way).arg(QLatin1String(suffix)));
+    explicit OutputFields(int way)
+        : gain(fieldIndex(QStringLiteral("output%1Gain").arg(way)))
+        , mute(fieldIndex(QStringLiteral("output%1Mute").arg(way)))
+    {}
+
+    int gain;
+    int mute;
+};
+struct StageFields
+{
+    int name = fieldIndex(u"name");
+    int location = fieldIndex(u"location");
+    int temperature = fieldIndex(u"temperature");
+    int mute = fieldIndex(u"mute"); // of amplifiers
+    std::array<OutputFields, 4> outputs{OutputFields(1), OutputFields(2), OutputFields(3), OutputFields(4)};
+};
+
+const StageFields &fields()
+{
+    static const StageFields indexes;
+    return indexes;
 }
 
 } // namespace
@@ -117,7 +138,7 @@ QVariant StageModel::data(const QModelIndex &index, int role) const
     case TitleRole:
         return titleOf(block);
     case AreaRole:
-        return m_client.shown(block.device, fieldIndex(u"location"));
+        return m_client.shown(block.device, fields().location);
     case PlaceRole:
         return m_places[row];
     case LockedRole: // it is built in
@@ -140,11 +161,11 @@ QHash<int, QByteArray> StageModel::roleNames() const
 
 void StageModel::move(const QVariantMap &before, const QVariantMap &after, const QString &cause)
 {
-    const QHash<int, QPointF> rows = rowsOf(after);
+    const StagePlaces rows = rowsOf(after);
     if (rows.isEmpty())
         return;
     const QString what =
-        rows.size() == 1 ? titleOf(stagePlan()[rows.constBegin().key()]) : tr("%n blocks", nullptr, int(rows.size()));
+        rows.size() == 1 ? titleOf(stagePlan()[rows.first().row]) : tr("%n blocks", nullptr, int(rows.size()));
     const QString text = cause == u"align"        ? tr("%1 aligned")
                          : cause == u"distribute" ? tr("%1 distributed")
                                                   : tr("%1 moved");
@@ -153,16 +174,13 @@ void StageModel::move(const QVariantMap &before, const QVariantMap &after, const
     m_history.take(new MoveStep(*this, rowsOf(before), rows, text.arg(what)));
 }
 
-void StageModel::place(const QHash<int, QPointF> &places)
+void StageModel::place(const StagePlaces &places)
 {
     QList<int> changed;
-    for (auto block = places.constBegin(); block != places.constEnd(); ++block) {
-        if (m_places[block.key()] == block.value())
-            continue;
-        m_places[block.key()] = block.value();
-        changed.append(block.key());
+    for (const auto &[row, place] : places) {
+        if (std::exchange(m_places[row], place) != place)
+            changed.append(row);
     }
-    std::sort(changed.begin(), changed.end());
     for (qsizetype i = 0; i < changed.size();) {
         const qsizetype begin = i;
         while (++i < changed.size() && changed[i] == changed[i - 1] + 1) {
@@ -206,12 +224,12 @@ QString StageModel::idOf(int row) const
 int StageModel::deviceOf(const QString &id) const
 {
     const int row = m_rows.value(id, -1);
-    return row >= 0 && !stagePlan()[row].isLoudspeaker() ? stagePlan()[row].device : -1;
+    return row >= 0 ? stagePlan()[row].device : -1;
 }
 
 QVariant StageModel::dataOfDevice(int device, int role) const
 {
-    const auto temperature = [&] { return m_client.said(device, fieldIndex(u"temperature")).toDouble(); };
+    const auto temperature = [&] { return m_client.said(device, fields().temperature).toDouble(); };
     switch (role) {
     case KindRole:
         return iconOf(m_client.kind(device));
@@ -236,14 +254,11 @@ QVariant StageModel::dataOfDevice(int device, int role) const
 
 QVariant StageModel::dataOfLoudspeaker(const StageBlock &block, int role) const
 {
-    const auto gain = [&] {
-        return isMuted(block) ? gainOff : m_client.said(block.device, outputField(block, "Gain")).toDouble();
-    };
     switch (role) {
     case KindRole:
         return QStringLiteral("loudspeaker");
     case ValueRole:
-        return gain();
+        return gainOf(block);
     case FromRole:
         return quietest;
     case ToRole:
@@ -251,7 +266,9 @@ QVariant StageModel::dataOfLoudspeaker(const StageBlock &block, int role) const
     case LimitRole:
         return loud;
     case ValueTextRole:
-        return gain() == gainOff ? tr("off") : tr("%1 dB").arg(gain(), 0, 'f', 1);
+        if (const double gain = gainOf(block); gain != gainOff)
+            return tr("%1 dB").arg(gain, 0, 'f', 1);
+        return tr("off");
     case StatusRole:
         return !m_client.isOnline(block.device) ? QStringLiteral("offline")
                : isMuted(block)                 ? QStringLiteral("mute")
@@ -272,45 +289,56 @@ QString StageModel::alarmOf(const StageBlock &block) const
 {
     if (!block.isLoudspeaker())
         return m_client.alarm(block.device);
-    const bool isLoud = !isMuted(block) && m_client.said(block.device, outputField(block, "Gain")).toDouble() > loud;
-    return isLoud ? tr("Too loud") : QString();
+    return gainOf(block) > loud ? tr("Too loud") : QString();
+}
+
+double StageModel::gainOf(const StageBlock &loudspeaker) const
+{
+    const int field = fields().outputs[std::size_t(loudspeaker.way - 1)].gain;
+    return isMuted(loudspeaker) ? gainOff : m_client.said(loudspeaker.device, field).toDouble();
 }
 
 bool StageModel::isMuted(const StageBlock &loudspeaker) const
 {
-    return m_client.said(loudspeaker.device, fieldIndex(u"mute")).toBool() ||
-           m_client.said(loudspeaker.device, outputField(loudspeaker, "Mute")).toBool();
+    return m_client.said(loudspeaker.device, fields().mute).toBool() ||
+           m_client.said(loudspeaker.device, fields().outputs[std::size_t(loudspeaker.way - 1)].mute).toBool();
 }
 
 /// Without those that nobody knows.
-QHash<int, QPointF> StageModel::rowsOf(const QVariantMap &places) const
+StagePlaces StageModel::rowsOf(const QVariantMap &places) const
 {
-    QHash<int, QPointF> rows;
+    StagePlaces rows;
+    rows.reserve(places.size());
     for (auto place = places.constBegin(); place != places.constEnd(); ++place) {
         if (const auto row = m_rows.constFind(place.key()); row != m_rows.constEnd())
-            rows.insert(*row, place.value().toPointF());
+            rows.append({*row, place.value().toPointF()});
     }
+    std::sort(rows.begin(), rows.end(), [](const StagePlace &a, const StagePlace &b) { return a.row < b.row; });
     return rows;
 }
 
 void StageModel::tellField(int device, int field)
 {
-    const DeviceKind kind = m_client.kind(device);
-    const bool isAmplifier = kind == DeviceKind::Amplifier;
-    const QString &name = deviceFields(kind).at(field).name;
-    const QList<int> gainRoles{ValueRole, ValueTextRole, StatusRole, AlarmRole};
-    if (name == u"name") {
+    const bool isAmplifier = m_client.kind(device) == DeviceKind::Amplifier;
+    const QList<int> gainRoles{ValueRole, ValueTextRole, AlarmRole};
+    const QList<int> muteRoles = gainRoles + QList<int>{StatusRole};
+    if (field == fields().name) {
         tell({device, 1}, {TitleRole, Qt::DisplayRole});
-    } else if (name == u"temperature") {
+    } else if (field == fields().temperature) {
         tell({device, 1}, {ValueRole, ValueTextRole, StatusRole, AlarmRole});
-    } else if (name == u"location") {
+    } else if (field == fields().location) {
         tell({device, 1}, {AreaRole});
         if (isAmplifier)
             tell(loudspeakersOf(device), {AreaRole});
-    } else if (isAmplifier && name == u"mute") {
-        tell(loudspeakersOf(device), gainRoles);
-    } else if (isAmplifier && name.startsWith(u"output") && (name.endsWith(u"Gain") || name.endsWith(u"Mute"))) {
-        tell(loudspeakersOf(device, name[6].digitValue()), gainRoles);
+    } else if (isAmplifier && field == fields().mute) {
+        tell(loudspeakersOf(device), muteRoles);
+    } else if (isAmplifier) {
+        int way = 0;
+        for (const auto &[gain, mute] : fields().outputs) {
+            ++way;
+            if (field == gain || field == mute)
+                tell(loudspeakersOf(device, way), field == gain ? gainRoles : muteRoles);
+        }
     }
 }
 

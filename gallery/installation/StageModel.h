@@ -11,6 +11,17 @@
 class EditHistory;
 class InstallationClient;
 
+/// Where a block stands, by its row; top left corner, in plane units.
+struct StagePlace
+{
+    int row;
+    QPointF place;
+
+    bool operator==(const StagePlace &) const = default;
+};
+/// In the order of the rows, each once. Steps are kept without end, so this is what a block of a step costs.
+using StagePlaces = QList<StagePlace>;
+
 /// The plan of the installation, a block a row: the devices, then the loudspeakers at the amplifiers.
 ///
 /// Roles: "blockId", "title", "kind" (icon of the block), "area" (where in the house), "place" (point, in plane units),
@@ -55,14 +66,15 @@ public:
 
     /// Takes a move of blocks, from id to point, as a step that can be undone. `cause` is what the workspace says.
     Q_INVOKABLE void move(const QVariantMap &before, const QVariantMap &after, const QString &cause);
-    /// Puts blocks to places, by their rows.
-    void place(const QHash<int, QPointF> &places);
+    /// Puts blocks to places.
+    void place(const StagePlaces &places);
 
     /// The first row behind `row`, and then from the top on, whose title or area has `text`; -1 for none.
     Q_INVOKABLE int nextWith(const QString &text, int row) const;
     /// Likewise with an alarm.
     Q_INVOKABLE int nextAlarm(int row) const;
-    /// The id of a row, empty without one; the device of a block, -1 for a loudspeaker and an unknown id.
+    /// The id of a row, empty without one; the device of a block, which for a loudspeaker is the amplifier that drives
+    /// it, and -1 for an unknown id.
     Q_INVOKABLE QString idOf(int row) const;
     Q_INVOKABLE int deviceOf(const QString &id) const;
 
@@ -71,10 +83,12 @@ private:
     QVariant dataOfLoudspeaker(const StageBlock &block, int role) const;
     QString titleOf(const StageBlock &block) const;
     QString alarmOf(const StageBlock &block) const;
+    /// In dB; off while it is muted.
+    double gainOf(const StageBlock &loudspeaker) const;
     bool isMuted(const StageBlock &loudspeaker) const;
     template <typename Fits>
     int nextThat(int row, Fits fits) const;
-    QHash<int, QPointF> rowsOf(const QVariantMap &places) const;
+    StagePlaces rowsOf(const QVariantMap &places) const;
     void tellField(int device, int field);
     void tell(BlockRange rows, const QList<int> &roles);
 

@@ -8,6 +8,8 @@ QtObject {
 
     /*! Numbers of the devices that the page of devices shows in detail. */
     property var chosenDevices: [0]
+    /*! Whether that page has the details in the place of the list where there is no room for both. */
+    property bool showsDetails: false
     /*! Whether that page lists only devices with an alarm. */
     property bool alarmsOnly: false
     /*! Whether the audience is there, so that nothing on the plan may be moved by accident. */
@@ -27,6 +29,18 @@ QtObject {
 
     /*! The user wants another theme. */
     signal themeChosen(string word)
+    /*! The page of devices is to be shown. */
+    signal devicesAsked()
     /*! A page of the catalogue is to be shown. */
     signal catalogueAsked(int page)
+
+    /*! Shows a device in detail; nothing for −1. */
+    function openDevice(device: int) {
+        if (device < 0)
+            return
+        root.alarmsOnly = false
+        root.chosenDevices = [device]
+        root.showsDetails = true
+        root.devicesAsked()
+    }
 }

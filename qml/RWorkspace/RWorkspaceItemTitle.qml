@@ -9,8 +9,8 @@ RText {
 
     text: root.block.title
     color: root.block.ssColor
-    // Below a zoom of 0.4 as large as a caption once more at a third.
-    font.pixelSize: root.block.detailed ? RThemeValues.fontSizeS : 3 * RThemeValues.fontSizeS
+    // Below a zoom of 0.4 as large as a text once more at a half.
+    font.pixelSize: root.block.detailed ? RThemeValues.fontSizeS : 2 * RThemeValues.fontSizeM
     elide: Text.ElideRight
     // Drawn at all sizes.
     renderType: Text.QtRendering

@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
-/*! Shows and sets the zoom of a workspace: smaller, a slider, larger, the percentage with a menu, and all of it. */
+/*! Shows and sets the zoom of a workspace: smaller, a slider, larger, the percentage with a menu, and all of it. One
+    stop of the Tab key, where the arrows zoom, and Space or Enter opens the menu, which has all that the buttons do. */
 T.ToolBar {
     id: root
 
@@ -58,6 +59,9 @@ T.ToolBar {
             width: root.width - 3 * root.buttonSize - percentage.width
             height: root.height
             workspace: root.workspace
+            Keys.onSpacePressed: percentage.toggleFlyout()
+            Keys.onReturnPressed: percentage.toggleFlyout()
+            Keys.onEnterPressed: percentage.toggleFlyout()
         }
         RFlyoutToolbarItem {
             width: root.buttonSize
@@ -72,6 +76,7 @@ T.ToolBar {
             width: 48 * RThemeValues.unit
             height: root.height
             label: qsTr("zoom factor")
+            focusPolicy: Qt.NoFocus
             text: qsTr("%1 %").arg(slider.percent)
             flyout: RMenu {
                 model: root.percentages.map(percent => ({ text: qsTr("%1 %").arg(percent), percent: percent })).concat([{ separator: true }, { text: qsTr("Fit all"), fit: "all" }, { text: qsTr("Fit selection"), fit: "selection", enabled: root.workspace !== null && !root.workspace.selection.empty }])
@@ -89,6 +94,7 @@ T.ToolBar {
             width: root.buttonSize
             height: root.height
             label: qsTr("fit all")
+            focusPolicy: Qt.NoFocus
             iconKey: "zoom-fit"
             onClicked: root.workspace.zoomToFit()
         }

@@ -56,6 +56,15 @@ struct Client
         frame.wait(1000);
     }
     QQuickItem *focused() const { return window->activeFocusItem(); }
+    /// An item on the page that has a property; null for none.
+    QQuickItem *find(const char *property) const
+    {
+        const QList<QQuickItem *> items = window->findChildren<QQuickItem *>();
+        const auto found = std::find_if(items.begin(), items.end(), [property](const QQuickItem *item) {
+            return item->isVisible() && item->metaObject()->indexOfProperty(property) >= 0;
+        });
+        return found == items.end() ? nullptr : *found;
+    }
     int page() const { return window->property("currentPage").toInt(); }
 
     GalleryAudio audio{nullptr};
@@ -158,6 +167,50 @@ private Q_SLOTS:
         }
         QCOMPARE(met.size(), client.pages.festival().size() + 3);
         QCOMPARE(met.mid(met.size() - 2), QStringList({QStringLiteral("ALARM"), QStringLiteral("MUTE ALL")}));
+    }
+
+    // Enter by Enter through the blocks that fit.
+    void planIsSearched()
+    {
+        const Client client(100, false);
+        QVERIFY(client.isReady());
+        client.press(Qt::Key_PageDown, Qt::ControlModifier);
+        QTRY_VERIFY(client.window->property("ready").toBool() && client.find("rubberBandActive"));
+        client.press(Qt::Key_F, Qt::ControlModifier);
+        for (const Qt::Key key : {Qt::Key_E, Qt::Key_R, Qt::Key_Space, Qt::Key_1, Qt::Key_9})
+            client.press(key);
+        QObject *selection = client.find("rubberBandActive")->property("selection").value<QObject *>();
+        const auto titleAfter = [&](Qt::Key key) {
+            client.press(key);
+            const auto items = selection->property("items").value<QList<QObject *>>();
+            return items.size() == 1 ? items.first()->property("title").toString() : QString();
+        };
+        QCOMPARE(titleAfter(Qt::Key_Return), QStringLiteral("Amplifier 19"));
+        client.press(Qt::Key_Backspace);
+        client.press(Qt::Key_E);
+        client.press(Qt::Key_R);
+        QCOMPARE(titleAfter(Qt::Key_Enter), QStringLiteral("Amplifier 20"));
+        QCOMPARE(titleAfter(Qt::Key_Return), QStringLiteral("Amplifier 21"));
+    }
+
+    // From a block on the plan to its device, and for a loudspeaker to its amplifier.
+    void planLeadsToTheDevice()
+    {
+        const Client client(100, false);
+        QVERIFY(client.isReady());
+        client.press(Qt::Key_PageDown, Qt::ControlModifier);
+        QTRY_VERIFY(client.window->property("ready").toBool() && client.find("rubberBandActive"));
+        QQuickItem *plan = client.find("rubberBandActive");
+        plan->forceActiveFocus();
+        client.press(Qt::Key_Tab);
+        client.press(Qt::Key_Tab);
+        const QString name = plan->property("currentItem").value<QObject *>()->property("title").toString();
+        QVERIFY(!name.isEmpty());
+        client.press(Qt::Key_Return);
+        QTRY_VERIFY(client.page() == 0 && client.window->property("ready").toBool() && client.find("closable"));
+        QTRY_COMPARE(client.find("closable")->property("title").toString(), name);
+        const QQuickItem *list = client.find("selectedIndexes");
+        QCOMPARE(list->property("selectedIndexes").value<QList<int>>(), QList{list->property("currentIndex").toInt()});
     }
 };
 

@@ -75,7 +75,8 @@ private Q_SLOTS:
         QCOMPARE(ids.size(), 2000);
         QCOMPARE(cells.size(), 2000);
         QCOMPARE(stage.model.deviceOf(stage.model.idOf(26)), 26);
-        QCOMPARE(stage.model.deviceOf(stage.model.idOf(27)), -1);
+        QCOMPARE(stage.model.deviceOf(stage.model.idOf(27)), 0);
+        QCOMPARE(stage.model.deviceOf(QString()), -1);
     }
 
     void rangesFollowThePlan()
@@ -172,6 +173,16 @@ private Q_SLOTS:
 
         stage.model.move({}, {{QStringLiteral("nobody"), QPointF()}}, QStringLiteral("drag"));
         QCOMPARE(history.count(), 2);
+        history.setIndex(0);
+
+        constexpr int many = 3000;
+        for (int i = 0; i < many; ++i)
+            stage.model.move(stage.places({{5, placeOf(5)}}), stage.places({{5, placeOf(5) + QPointF(8, 0)}}),
+                             QStringLiteral("keyboard"));
+        QCOMPARE(placeOf(5), before + QPointF(8.0 * many, 0));
+        QCOMPARE(history.count(), many);
+        history.setIndex(0);
+        QCOMPARE(placeOf(5), before);
     }
 
     void search_data()

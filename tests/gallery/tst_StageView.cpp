@@ -7,6 +7,8 @@
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickView>
 
+#include <memory>
+
 namespace {
 
 constexpr auto planPage = R"(
@@ -85,6 +87,15 @@ struct Plan
         QTest::mouseMove(&window, from + by);
         QTest::mouseRelease(&window, Qt::LeftButton, modifiers, from + by);
     }
+    double number(const char *property) const { return workspace->property(property).toDouble(); }
+    /// What the plan has at a point of the window.
+    QPointF planeAt(const QPointF &place) const
+    {
+        QPointF plane;
+        QMetaObject::invokeMethod(workspace, "mapToPlane", Q_RETURN_ARG(QPointF, plane),
+                                  Q_ARG(QPointF, workspace->mapFromScene(place)));
+        return plane;
+    }
     void show(int row) { QMetaObject::invokeMethod(view, "show", Q_ARG(int, row)); }
     QStringList selected() const
     {
@@ -140,6 +151,76 @@ private Q_SLOTS:
         QMetaObject::invokeMethod(plan.view, "align", Q_ARG(int, int(Qt::AlignLeft)));
         QCOMPARE(plan.placeInModel(36).x(), plan.placeInModel(27).x());
         QCOMPARE(plan.installation.history()->count(), 1);
+    }
+
+    // What the pointer is on stays under it.
+    void wheel_data()
+    {
+        const auto row =
+            rowsOf([](const QPoint &angle, Qt::KeyboardModifiers modifiers, double factor, const QPoint &direction) {
+                Plan plan;
+                QVERIFY(plan.isReady());
+                const QPointF place(600, 400);
+                const QPointF before = plan.planeAt(place);
+                const double zoom = plan.number("zoom");
+                QWheelEvent event(place, place, {}, angle, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+                QCoreApplication::sendEvent(&plan.window, &event);
+                QCOMPARE(plan.number("zoom"), zoom * factor);
+                const auto signOf = [](double way) { return way > 1.0 ? 1 : way < -1.0 ? -1 : 0; };
+                const QPointF way = plan.planeAt(place) - before;
+                QCOMPARE(QPoint(signOf(way.x()), signOf(way.y())), direction);
+            });
+        row("down", QPoint(0, -120), Qt::KeyboardModifiers(), 1.0, QPoint(0, 1));
+        row("up", QPoint(0, 120), Qt::KeyboardModifiers(), 1.0, QPoint(0, -1));
+        row("to the right", QPoint(0, -120), Qt::KeyboardModifiers(Qt::ShiftModifier), 1.0, QPoint(1, 0));
+        row("nearer", QPoint(0, 120), Qt::KeyboardModifiers(Qt::ControlModifier), 1.25, QPoint());
+        row("farther", QPoint(0, -240), Qt::KeyboardModifiers(Qt::ControlModifier), 0.64, QPoint());
+    }
+    void wheel() { checkRow(); }
+
+    void fingers()
+    {
+        Plan plan;
+        QVERIFY(plan.isReady());
+        const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+        const double zoom = plan.number("zoom");
+        const QPointF middle = plan.planeAt({600, 400});
+        QTest::touchEvent(&plan.window, screen.get()).press(0, {500, 400}).press(1, {700, 400});
+        for (const int reach : {110, 130, 160, 200})
+            QTest::touchEvent(&plan.window, screen.get()).move(0, {600 - reach, 400}).move(1, {600 + reach, 400});
+        QTest::touchEvent(&plan.window, screen.get()).release(0, {400, 400}).release(1, {800, 400});
+        QVERIFY2(plan.number("zoom") > 1.4 * zoom, qPrintable(QString::number(plan.number("zoom") / zoom)));
+        QVERIFY(QLineF(plan.planeAt({600, 400}), middle).length() < 16.0);
+
+        // On a block one finger moves that, beside it the plan.
+        plan.show(amplifier);
+        const QPointF before = plan.placeInModel(amplifier);
+        const auto stroke = [&](const QPoint &from) {
+            QTest::touchEvent(&plan.window, screen.get()).press(0, from);
+            for (const int way : {20, 40, 60})
+                QTest::touchEvent(&plan.window, screen.get()).move(0, from + QPoint(0, way));
+            QTest::touchEvent(&plan.window, screen.get()).release(0, from + QPoint(0, 60));
+        };
+        stroke(plan.pixel(amplifier));
+        QVERIFY(plan.placeInModel(amplifier).y() > before.y());
+        const QPointF moved = plan.placeInModel(amplifier);
+        const double view = plan.number("viewY");
+        stroke(plan.pixel(amplifier) - QPoint(0, 90));
+        QVERIFY(plan.number("viewY") < view);
+        QCOMPARE(plan.placeInModel(amplifier), moved);
+    }
+
+    void nameIsUndone()
+    {
+        Plan plan;
+        QVERIFY(plan.isReady());
+        const QString before = plan.view->property("title").toString();
+        QMetaObject::invokeMethod(plan.view, "titleEdited", Q_ARG(QString, QStringLiteral("Hall")));
+        QCOMPARE(plan.view->property("title").toString(), QStringLiteral("Hall"));
+        plan.installation.history()->undo();
+        QCOMPARE(plan.view->property("title").toString(), before);
+        plan.drag(amplifier, {8, 8});
+        QVERIFY(!plan.view->property("modified").toBool());
     }
 
     void showProtectsThePlan()

@@ -174,6 +174,7 @@ private Q_SLOTS:
         group->setZ(1);
 
         auto *added = new WorkspaceItemBase;
+        added->setParent(canvas.workspace);
         added->setParentItem(canvas.workspace);
         QCOMPARE(added->parentItem(), canvas.workspace->plane());
         QCOMPARE(canvas.workspace->items().size(), 4);
@@ -212,6 +213,36 @@ private Q_SLOTS:
         QCOMPARE(pane->indexOfChild(seen), 1);
         QVERIFY(!pane->child(2));
     }
+
+    void blocksAreHeard_data()
+    {
+        const auto row = rowsOf([](const QString &item, const QString &bar, const QStringList &heard) {
+            SeenPage page{{}};
+            const auto made = page.make(u"RWorkspace { width: 200; height: 100; RWorkspaceItem { "_s + item +
+                                        u"; valueBar: RWorkspaceItemValueBar { "_s + bar + u" } } }"_s);
+            auto *workspace = qobject_cast<WorkspaceBase *>(made.get());
+            QVERIFY(workspace);
+            page.window.show();
+            QObject *block = workspace->items().first();
+            QTRY_VERIFY(block->property("valueBarItem").value<QQuickItem *>());
+            QStringList texts;
+            for (QObject *part : {block, block->property("valueBarItem").value<QObject *>()}) {
+                QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(part);
+                QVERIFY(seen);
+                texts << seen->text(QAccessible::Name) << seen->text(QAccessible::Description);
+                QCOMPARE(seen->role(), part == block ? QAccessible::Button : QAccessible::ProgressBar);
+            }
+            QCOMPARE(texts, heard);
+        });
+        row("plain", u"title: 'Amp'"_s, u"value: 30"_s, QStringList({u"Amp"_s, u"0, 0"_s, u"value"_s, u"30 %"_s}));
+        row("without a title", u"locked: true"_s, u"from: -60; to: 0; value: -15; label: 'Load'"_s,
+            QStringList({u"Item"_s, u"0, 0, locked"_s, u"Load"_s, u"75 %"_s}));
+        row("own words", u"title: 'Amp'; position: Qt.point(8, 16)"_s, u"value: 30; text: '30 W'"_s,
+            QStringList({u"Amp"_s, u"8, 16"_s, u"value"_s, u"30 W"_s}));
+        row("no value", u"title: 'Amp'"_s, u"value: NaN"_s,
+            QStringList({u"Amp"_s, u"0, 0"_s, u"value"_s, u"no value"_s}));
+    }
+    void blocksAreHeard() { checkRow(); }
 };
 
 template struct TestClass<tst_Workspace>;

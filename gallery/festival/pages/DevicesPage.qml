@@ -7,7 +7,6 @@ FestivalPage {
     id: root
 
     readonly property bool wide: root.width >= theme.dp(840)
-    property bool showsDetails: false
 
     title: qsTr("Devices")
 
@@ -15,18 +14,18 @@ FestivalPage {
         id: list
         width: root.wide ? theme.dp(448) : parent.width
         height: parent.height
-        visible: root.wide || !root.showsDetails
+        visible: root.wide || !Festival.showsDetails
         focus: true
         onChosen: devices => Festival.chosenDevices = devices
-        onOpened: root.showsDetails = true
+        onOpened: Festival.showsDetails = true
     }
     DeviceDetails {
         x: root.wide ? list.width + theme.dp(16) : 0
         width: parent.width - x
         height: parent.height
-        visible: root.wide || root.showsDetails
+        visible: root.wide || Festival.showsDetails
         devices: Festival.chosenDevices
         closable: !root.wide
-        onClosed: root.showsDetails = false
+        onClosed: Festival.showsDetails = false
     }
 }

@@ -24,8 +24,7 @@ ThemedTestCase {
         const page = makeDialog(body ?? "")
         page.dialog.open()
         tryVerify(() => page.dialog.opened)
-        // Its buttons are placed with the frame.
-        waitForRendering(page.dialog.contentItem)
+        waitForRendering(page.dialog.contentItem) // which gives the buttons their places
         return page
     }
     function button(item: var, text: string): var {

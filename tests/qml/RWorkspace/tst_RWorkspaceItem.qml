@@ -108,6 +108,34 @@ ThemedTestCase {
         verify(!title.truncated && title.width < 20)
     }
 
+    // What is laid out while nobody sees it is right when somebody does.
+    function test_headerMadeOutOfView() {
+        const workspace = workspaceOf("RWorkspaceItem { title: 'Amp'; iconKey: 'mute'; statusIconKey: 'warning' }")
+        const item = workspace.items[0]
+        workspace.viewX = 1000
+        tryVerify(() => !item.inView)
+        root.sheet = "light"
+        item.title = "Amplifier"
+        workspace.viewX = 0
+        tryVerify(() => item.inView)
+        const title = findText(item, "Amplifier")
+        const icons = Array.from(partsOf(item)[0].children).filter(child => child.source !== undefined)
+        compare(icons.map(icon => icon.x + icon.width <= title.x).sort(), [false, true])
+    }
+
+    // Where little is drawn, what needs attention is, and large.
+    function test_statusAtASmallZoom() {
+        const item = itemOf("title: 'Amp'; iconKey: 'mute'")
+        item.workspace.zoom = 0.2
+        tryVerify(() => !item.detailed)
+        const title = findText(item, "Amp")
+        compare([iconsOf(item), title.visible], [["mute"], true])
+        item.statusIconKey = "warning"
+        compare([iconsOf(item), title.visible], [["warning"], false])
+        item.statusIconKey = ""
+        compare([iconsOf(item), title.visible], [["mute"], true])
+    }
+
     function test_states() {
         const item = itemOf("title: 'Amp'")
         const workspace = item.workspace

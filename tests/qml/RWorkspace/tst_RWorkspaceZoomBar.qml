@@ -82,6 +82,23 @@ ThemedTestCase {
         compare(button.text, "25 %")
     }
 
+    // One stop of the Tab key, from which all can be done.
+    function test_keys() {
+        root.workspace.forceActiveFocus()
+        const before = root.workspace.nextItemInFocusChain(true)
+        compare(before, root.slider)
+        compare(root.slider.nextItemInFocusChain(true), root.workspace)
+        const menu = part("label", "zoom factor").flyout
+        for (const key of [Qt.Key_Space, Qt.Key_Return]) {
+            root.slider.forceActiveFocus()
+            keyClick(key)
+            tryVerify(() => menu.opened)
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => !menu.visible)
+            tryVerify(() => root.slider.activeFocus)
+        }
+    }
+
     function test_withoutAWorkspace() {
         root.bar.workspace = null
         verify(!root.bar.contentItem.enabled)
