@@ -25,6 +25,7 @@
 #include "cells/RCellBase.h"
 #include "cells/RCellContainerBase.h"
 #include "cells/RCellGridPropertiesBase.h"
+#include "controls/RBoxShadowBase.h"
 #include "controls/RButtonBase.h"
 #include "controls/RCheckBoxBase.h"
 #include "controls/RControlBackground.h"
@@ -34,7 +35,6 @@
 #include "controls/RProgressBarBase.h"
 #include "controls/RTabButtonBase.h"
 #include "controls/RTintedImage.h"
-#include "controls/RUnderlay.h"
 #include "dialogs/RDialogBase.h"
 #include "dialogs/RDialogBody.h"
 #include "dialogs/RMessageBox.h"
@@ -429,11 +429,11 @@ void registerInternals(const Registrar &registrar)
     registrar.withLaterProperties<QQuickTextField>();
     registrar.withLaterProperties<QQuickTextEdit>();
     registrar.withLaterProperties<QQuickTextArea>();
+    registrar.creatable<RBoxShadowBase>("RBoxShadowBase");
     registrar.singleton<RPlotRules>("RPlotRules");
     registrar.creatable<SheetName>("RSheetName");
     registrar.creatable<RTintedImage>("RTintedImage");
     registrar.singleton<RTransferTable>("RTransferTable");
-    registrar.creatable<RUnderlay>("RUnderlay");
     registrar.creatable<WindowPalette>("RWindowPalette");
     registrar.singletons("Shared", {"RThemeValues"});
 }
@@ -485,6 +485,8 @@ void registerParts()
     name(Part::ViewBlur, "RViewContainer/RViewBlur.qml");
     name(Part::ViewBusy, "RViewContainer/RViewBusy.qml");
     name(Part::DialogFrame, "RDialog/RDialogFrame.qml");
+    name(Part::DialogIcon, "RDialog/RDialogIcon.qml");
+    name(Part::DialogVeil, "RDialog/RDialogVeil.qml");
     name(Part::MessageBoxDialog, "RDialog/RMessageBoxDialog.qml");
     name(Part::RubberBand, "RSelectionRect/RSelectionRect.qml");
     name(Part::WorkspaceItemTitle, "RWorkspace/RWorkspaceItemTitle.qml");

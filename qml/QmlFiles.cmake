@@ -129,6 +129,8 @@ set(unregistered
     RDialog/RDialogFooter.qml
     RDialog/RDialogFrame.qml
     RDialog/RDialogHeader.qml
+    RDialog/RDialogIcon.qml
+    RDialog/RDialogScrollBars.qml
     RDialog/RDialogVeil.qml
     RDialog/RMessageBoxDialog.qml
     RFader/RFaderHandle.qml

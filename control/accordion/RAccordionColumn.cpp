@@ -1,10 +1,10 @@
 #include "accordion/RAccordionColumn.h"
 
 #include "accordion/RAccordionSectionHeaderBase.h"
+#include "base/FocusReason.h"
 
 #include <QtQml/qqml.h>
 #include <QtQuick/QQuickWindow>
-#include <QtQuick/private/qquickdeliveryagent_p_p.h>
 #include <QtQuick/private/qquickitem_p.h>
 
 #include <algorithm>
@@ -24,12 +24,6 @@ qsizetype openCount(QQmlListProperty<RAccordionItemBase> *property)
 RAccordionItemBase *openAt(QQmlListProperty<RAccordionItemBase> *property, qsizetype index)
 {
     return static_cast<RAccordionColumn *>(property->object)->openSections().value(index);
-}
-
-bool comesByMouse(QQuickItem &item)
-{
-    const auto *agent = QQuickItemPrivate::get(&item)->deliveryAgentPrivate();
-    return agent && agent->lastFocusReason == Qt::MouseFocusReason;
 }
 
 } // namespace
@@ -292,7 +286,7 @@ void RAccordionColumn::followFocus(QQuickItem *focused)
         keepTabStop();
     }
     // What is pressed stays under the pointer.
-    if (!comesByMouse(*this))
+    if (!isFocusByMouse(*this))
         ensureVisible(focused);
 }
 

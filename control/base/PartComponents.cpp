@@ -65,4 +65,12 @@ QQuickItem *PartComponents::makeItem(Part part, QQuickItem &parent, QVariantMap 
     return engine ? qobject_cast<QQuickItem *>(of(engine).make(part, &parent, properties)) : nullptr;
 }
 
+void PartComponents::show(QQuickItem *&item, Part part, QQuickItem &parent, bool shown)
+{
+    if (shown && !item)
+        item = makeItem(part, parent);
+    if (item)
+        item->setVisible(shown);
+}
+
 } // namespace tamble::client

@@ -51,6 +51,8 @@ enum class Part {
     PaneToggle,       ///< What folds a pane, above its header.
     FlyoutHeader,     ///< The header of a flyout.
     DialogFrame,      ///< What a dialog shows around what the page puts into it.
+    DialogIcon,       ///< The icon in front of its title.
+    DialogVeil,       ///< What covers its body while it waits.
     MessageBoxDialog, ///< The dialog of a message box.
     TabDot,           ///< What tells that what a tab stands for is modified.
     TabMarks,         ///< What stands at the end of a tab.
@@ -74,6 +76,9 @@ public:
 
     /// Makes a part that is an item below `parent`, with further initial properties; null outside of QML.
     static QQuickItem *makeItem(Part part, QQuickItem &parent, QVariantMap properties = {});
+
+    /// Shows or hides `item`, a part below `parent` that is made when it first shows, and null until then.
+    static void show(QQuickItem *&item, Part part, QQuickItem &parent, bool shown);
 
     /// Makes a part as a child of `owner`; null, with a log line, when its file has a fault.
     QObject *make(Part part, QObject *owner, const QVariantMap &initialProperties);

@@ -1,5 +1,6 @@
 #include "cells/RCellBase.h"
 
+#include "base/PartComponents.h"
 #include "cells/CellViewFocus.h"
 #include "cells/RCellContainerBase.h"
 #include "controls/RButtonBase.h"
@@ -176,7 +177,7 @@ void RCellBase::setRefusal(const QString &reason)
 {
     if (std::exchange(m_refusal, reason) == reason)
         return;
-    showPart(m_refusalMark, Part::CellRefusal, !reason.isEmpty());
+    PartComponents::show(m_refusalMark, Part::CellRefusal, *this, !reason.isEmpty());
     if (m_refusalMark)
         m_refusalMark->setProperty("text", reason);
     announce(*this, QAccessible::DescriptionChanged);
@@ -380,20 +381,11 @@ void RCellBase::nameControl()
 
 void RCellBase::updateFrames()
 {
-    showPart(m_focusFrame, Part::FocusFrame, hasActiveFocus() && !(m_control && m_control->hasActiveFocus()));
+    PartComponents::show(m_focusFrame, Part::FocusFrame, *this,
+                         hasActiveFocus() && !(m_control && m_control->hasActiveFocus()));
     // Without a tint, the current cell is seen among selected ones.
-    showPart(m_selectionFrame, Part::CellSelection, m_selected || (m_highlighted && !hasActiveFocus()));
-}
-
-void RCellBase::showPart(QPointer<QObject> &part, Part kind, bool visible)
-{
-    QQmlEngine *engine = qmlEngine(this);
-    if (visible && !part && engine) {
-        const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue<QQuickItem *>(this)}};
-        part = PartComponents::of(engine).make(kind, this, properties);
-    }
-    if (part)
-        part->setProperty("visible", visible);
+    PartComponents::show(m_selectionFrame, Part::CellSelection, *this,
+                         m_selected || (m_highlighted && !hasActiveFocus()));
 }
 
 } // namespace tamble::client

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/ControlExport.h"
-#include "base/PartComponents.h"
 #include "base/SpokenControl.h"
 #include "cells/CellPlan.h"
 #include "cells/RCellGridPropertiesBase.h"
@@ -184,7 +183,6 @@ private:
     void placeControl();
     void nameControl();
     void updateFrames();
-    void showPart(QPointer<QObject> &part, Part kind, bool visible);
     void takeFocus();
     /// The TableView around the cell; null outside of one.
     QQuickItem *tableView() const;
@@ -201,10 +199,10 @@ private:
     QPointer<RCellContainerBase> m_container;
     QPointer<RCellGridPropertiesBase> m_ownGrid;
     QPointer<QQuickItem> m_control;
-    QPointer<QObject> m_editor;     ///< What has the focus in the control while it is edited.
-    QPointer<QObject> m_focusFrame; // these three: children, made when they are first shown
-    QPointer<QObject> m_selectionFrame;
-    QPointer<QObject> m_refusalMark;
+    QPointer<QObject> m_editor;         ///< What has the focus in the control while it is edited.
+    QQuickItem *m_focusFrame = nullptr; // these three: children, made when they are first shown
+    QQuickItem *m_selectionFrame = nullptr;
+    QQuickItem *m_refusalMark = nullptr;
     QString m_label;
     QString m_refusal;
     QColor m_ground;

@@ -33,10 +33,7 @@ void RCheckBoxBase::setFocusVisible(bool visible)
 {
     if (std::exchange(m_focusVisible, visible) == visible)
         return;
-    if (visible && !m_focusFrame)
-        m_focusFrame = PartComponents::makeItem(Part::FocusFrame, *this);
-    if (m_focusFrame)
-        m_focusFrame->setVisible(visible);
+    PartComponents::show(m_focusFrame, Part::FocusFrame, *this, visible);
     Q_EMIT focusVisibleChanged();
 }
 

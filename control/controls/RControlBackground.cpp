@@ -30,10 +30,7 @@ void RControlBackground::setFocusVisible(bool visible)
     if (m_focusVisible == visible)
         return;
     m_focusVisible = visible;
-    if (visible && !m_focusFrame)
-        m_focusFrame = PartComponents::makeItem(Part::FocusFrame, *this);
-    if (m_focusFrame)
-        m_focusFrame->setVisible(visible);
+    PartComponents::show(m_focusFrame, Part::FocusFrame, *this, visible);
     Q_EMIT focusVisibleChanged();
 }
 

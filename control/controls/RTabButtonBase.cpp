@@ -146,8 +146,37 @@ void RTabButtonBase::updateEndSpace()
 {
     const qreal space =
         (m_marks && isMarked() ? m_marks->width() : 0.0) + (m_dot && m_isModified ? m_dot->implicitWidth() : 0.0);
-    if (std::exchange(m_endSpace, space) != space)
-        Q_EMIT endSpaceChanged();
+    if (std::exchange(m_endSpace, space) == space)
+        return;
+    updatePadding();
+    Q_EMIT endSpaceChanged();
+}
+
+// Two bindings to the same would cost each tab 0.5 KB.
+void RTabButtonBase::updatePadding()
+{
+    if (m_endSpace > 0.0 && isMirrored())
+        setLeftPadding(horizontalPadding() + m_endSpace);
+    else
+        resetLeftPadding();
+    if (m_endSpace > 0.0 && !isMirrored())
+        setRightPadding(horizontalPadding() + m_endSpace);
+    else
+        resetRightPadding();
+}
+
+void RTabButtonBase::paddingChange(const QMarginsF &newPadding, const QMarginsF &oldPadding)
+{
+    RButtonBase::paddingChange(newPadding, oldPadding);
+    if (m_endSpace > 0.0)
+        updatePadding();
+}
+
+void RTabButtonBase::mirrorChange()
+{
+    RButtonBase::mirrorChange();
+    if (m_endSpace > 0.0)
+        updatePadding();
 }
 
 QString RTabButtonBase::spokenDescription(const QString &given) const
@@ -192,11 +221,24 @@ void RTabButtonBase::keyPressEvent(QKeyEvent *event)
         if (event->key() == Qt::Key_Delete && m_isClosable) {
             event->accept();
             if (!event->isAutoRepeat())
-                Q_EMIT closeRequested();
+                requestClose();
             return;
         }
     }
     RButtonBase::keyPressEvent(event);
+}
+
+void RTabButtonBase::requestClose()
+{
+    const FocusRow tabs = row();
+    RButtonBase *next = tabs.buttonAt(isMirrored() ? Qt::Key_Left : Qt::Key_Right, this, isMirrored());
+    if (next == this)
+        next = tabs.buttonAt(isMirrored() ? Qt::Key_Right : Qt::Key_Left, this, isMirrored());
+    const QPointer<RButtonBase> heir = hasActiveFocus() && next != this ? next : nullptr;
+    const QPointer<RTabButtonBase> guard(this);
+    Q_EMIT closeRequested();
+    if (heir && !(guard && hasActiveFocus()))
+        heir->forceActiveFocus(Qt::OtherFocusReason);
 }
 
 void RTabButtonBase::focusInEvent(QFocusEvent *event)

@@ -55,6 +55,9 @@ public:
     /// Width in pixels that dot and marks take at the end.
     qreal endSpace() const { return m_endSpace; }
 
+    /// Asks the page to close the tab. When it does so at once, the focus stays in the row.
+    Q_INVOKABLE void requestClose();
+
     QColor borderColor();
     void setBorderColor(const QColor &color);
     bool borderVisible();
@@ -86,6 +89,8 @@ protected:
     void selectionChange() override;
     void styleChange() override;
     void componentComplete() override;
+    void paddingChange(const QMarginsF &newPadding, const QMarginsF &oldPadding) override;
+    void mirrorChange() override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
 
@@ -95,6 +100,7 @@ private:
     void updateDot();
     void updateMarks();
     void updateEndSpace();
+    void updatePadding();
 
     // What the page has set, in place of what the sheets say.
     std::optional<QColor> m_borderColor;

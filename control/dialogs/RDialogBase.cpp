@@ -1,92 +1,39 @@
 #include "dialogs/RDialogBase.h"
 
-#include "base/InputMeaning.h"
+#include "base/FocusReason.h"
 #include "base/PartComponents.h"
-#include "controls/RButtonBase.h"
 #include "dialogs/DialogFields.h"
 #include "fields/FieldEdit.h"
-#include "style/StyleSetProps.h"
 
-#include <QtGui/QKeyEvent>
 #include <QtQml/QQmlEngine>
 #include <QtQml/qqml.h>
 #include <QtQuick/QQuickWindow>
 #include <QtQuick/private/qquickanchors_p.h>
 #include <QtQuick/private/qquickitem_p.h>
-#include <QtQuickTemplates2/private/qquickoverlay_p.h>
 
-#include <algorithm>
-#include <cmath>
+#include <array>
 #include <utility>
 
 namespace tamble::client {
 
 namespace {
 
-constexpr qreal greatestShare = 0.9; // of the window
-
-constexpr std::array<SheetColors::Source, 2> frameSources = {{
-    {&StyleSetProps::background},
-    {&StyleSetProps::border, "border"},
-}};
-constexpr std::array<SheetColors::Source, 2> headerSources = {{
-    {&StyleSetProps::background},
-    {&StyleSetProps::foreground, "foreground"},
-}};
-
 constexpr std::array<void (RDialogBase::*)(), 4> dialogColorSignals = {
     &RDialogBase::ssBackgroundChanged, &RDialogBase::ssBorderColorChanged, &RDialogBase::ssHeaderBackgroundChanged,
     &RDialogBase::ssHeaderColorChanged};
-
-/// How far a key scrolls the body, downwards.
-double scrolledLines(int key)
-{
-    constexpr double page = 8.0;
-    switch (key) {
-    case Qt::Key_Up:
-        return -1.0;
-    case Qt::Key_Down:
-        return 1.0;
-    case Qt::Key_PageUp:
-        return -page;
-    case Qt::Key_PageDown:
-        return page;
-    case Qt::Key_Home:
-        return -1e6;
-    case Qt::Key_End:
-        return 1e6;
-    default:
-        return 0.0;
-    }
-}
-
-bool pressesByEnter(const QQuickItem *item)
-{
-    const auto *button = qobject_cast<const RButtonBase *>(item);
-    return button && button->enterClicks();
-}
-
-QPlatformDialogHelper::StandardButton flagOf(const QQuickDialogButtonBox &box, const QQuickAbstractButton *button)
-{
-    for (int bit = QPlatformDialogHelper::FirstButton; bit <= QPlatformDialogHelper::LastButton; bit <<= 1) {
-        const auto flag = QPlatformDialogHelper::StandardButton(bit);
-        if (box.standardButton(flag) == button)
-            return flag;
-    }
-    return QPlatformDialogHelper::NoButton;
-}
 
 } // namespace
 
 RDialogBase::RDialogBase(QObject *parent)
     : QQuickDialog(parent)
     , m_origin(*this)
+    , m_place(*this)
+    , m_colors([this](std::size_t begin, std::size_t end) { tellColors(begin, end); })
 {
     connect(this, &QQuickPopup::aboutToShow, this, &RDialogBase::onAboutToShow);
     connect(this, &QQuickPopup::visibleChanged, this, &RDialogBase::onVisibleChanged);
     connect(this, &QQuickDialog::standardButtonsChanged, this, [this] {
-        if (m_standardBox)
-            m_standardBox->setStandardButtons(standardButtons());
+        m_buttons.setStandard(standardButtons());
         onFocusMoved();
     });
 }
@@ -98,8 +45,7 @@ RDialogBase::~RDialogBase()
     disconnect(this, nullptr, this, nullptr);
     if (QQuickWindow *window = this->window())
         window->disconnect(this);
-    m_frameColors.reset();
-    m_headerColors.reset();
+    m_colors.letGo();
 }
 
 RDialogBody *RDialogBase::body()
@@ -113,7 +59,7 @@ RDialogBody *RDialogBase::body()
 
 QQuickAbstractButton *RDialogBase::standardButton(QPlatformDialogHelper::StandardButton button) const
 {
-    return m_standardBox ? m_standardBox->standardButton(button) : nullptr;
+    return m_buttons.standard(button);
 }
 
 QQmlListProperty<QObject> RDialogBase::content()
@@ -136,19 +82,14 @@ QQmlListProperty<QObject> RDialogBase::content()
 QQmlListProperty<QQuickItem> RDialogBase::buttons()
 {
     const auto append = [](QQmlListProperty<QQuickItem> *list, QQuickItem *button) {
-        auto *dialog = static_cast<RDialogBase *>(list->object);
-        if (!button)
-            return;
-        button->setProperty("enterClicks", true);
-        dialog->m_furtherButtons.append(button);
-        if (dialog->m_furtherRow)
-            button->setParentItem(dialog->m_furtherRow);
+        if (button)
+            static_cast<RDialogBase *>(list->object)->m_buttons.addFurther(*button);
     };
     const auto count = [](QQmlListProperty<QQuickItem> *list) {
-        return qsizetype(static_cast<RDialogBase *>(list->object)->m_furtherButtons.size());
+        return qsizetype(static_cast<RDialogBase *>(list->object)->m_buttons.further().size());
     };
     const auto at = [](QQmlListProperty<QQuickItem> *list, qsizetype index) -> QQuickItem * {
-        return static_cast<RDialogBase *>(list->object)->m_furtherButtons.at(index);
+        return static_cast<RDialogBase *>(list->object)->m_buttons.further().at(index);
     };
     return {this, nullptr, append, count, at, nullptr};
 }
@@ -161,31 +102,6 @@ void RDialogBase::setDefaultButton(int button)
     Q_EMIT defaultButtonChanged();
 }
 
-qreal RDialogBase::maximumWidth() const
-{
-    return m_overlay ? greatestShare * m_overlay->width() : 0.0;
-}
-
-qreal RDialogBase::maximumHeight() const
-{
-    return m_overlay ? greatestShare * m_overlay->height() : 0.0;
-}
-
-QColor RDialogBase::color(std::size_t name) const
-{
-    if (m_given[name].isValid())
-        return m_given[name];
-    const bool isHeader = name >= HeaderBackground;
-    const auto &colors = isHeader ? m_headerColors : m_frameColors;
-    return colors ? colors->color(isHeader ? name - HeaderBackground : name) : QColor(Qt::transparent);
-}
-
-void RDialogBase::setColor(std::size_t name, const QColor &color)
-{
-    if (std::exchange(m_given[name], color) != color)
-        tellColors(name, name + 1);
-}
-
 void RDialogBase::tellColors(std::size_t begin, std::size_t end)
 {
     for (std::size_t i = begin; i < end; ++i)
@@ -194,54 +110,32 @@ void RDialogBase::tellColors(std::size_t begin, std::size_t end)
 
 void RDialogBase::componentComplete()
 {
-    moveToOverlay();
+    m_place.enterWindow();
     QQuickDialog::componentComplete();
 }
 
 void RDialogBase::setVisible(bool visible)
 {
     if (visible && !isVisible()) {
-        moveToOverlay();
-        if (m_overlay)
-            m_origin.rememberFocus(*m_overlay);
+        m_place.enterWindow();
+        if (const QQuickItem *overlay = m_place.overlay())
+            m_origin.rememberFocus(*overlay);
     }
     QQuickDialog::setVisible(visible);
 }
 
-// Above all of the window, whatever item the dialog is declared in: that may be small, rotated or scrolled away.
-void RDialogBase::moveToOverlay()
-{
-    const auto *declaredIn = qobject_cast<QQuickItem *>(parent());
-    const bool isGivenPlace = parentItem() && parentItem() != m_overlay;
-    QQuickWindow *window = !isGivenPlace && declaredIn && declaredIn->window() ? declaredIn->window() : this->window();
-    QQuickItem *overlay = window ? QQuickOverlay::overlay(window) : nullptr;
-    if (!overlay)
-        return;
-    if (m_overlay != overlay) {
-        if (m_overlay)
-            m_overlay->disconnect(this);
-        m_overlay = overlay;
-        for (auto signal : {&QQuickItem::widthChanged, &QQuickItem::heightChanged})
-            connect(overlay, signal, this, [this] {
-                Q_EMIT maximumSizeChanged();
-                place();
-            });
-        Q_EMIT maximumSizeChanged();
-    }
-    setParentItem(overlay);
-}
-
 void RDialogBase::onAboutToShow()
 {
-    moveToOverlay();
+    m_place.enterWindow();
     make();
-    // What is shown over a page inherits nothing from the part of it that it belongs to.
-    const auto *declaredIn = qobject_cast<QQuickItem *>(parent());
+    // What is shown over a page inherits nothing from the part of it that it belongs to; a message box belongs to none.
+    auto *declaredIn = qobject_cast<QQuickItem *>(parent());
+    if (!declaredIn && window())
+        declaredIn = window()->contentItem();
     const bool isMirrored = declaredIn && QQuickItemPrivate::get(declaredIn)->effectiveLayoutMirror;
     QQuickItemPrivate::get(popupItem())->setImplicitLayoutMirror(isMirrored, true);
-    m_shift = {};
     m_isEnterDown = false;
-    place();
+    m_place.centre();
 }
 
 void RDialogBase::make()
@@ -255,13 +149,18 @@ void RDialogBase::make()
         return;
     setContentItem(frame);
     qmlExecuteDeferred(this); // the page's part
-    const auto follow = [this](QQuickItem &item, std::span<const SheetColors::Source> sources, std::size_t first) {
-        const auto tell = [this, first](std::size_t begin, std::size_t end) { tellColors(first + begin, first + end); };
-        return std::make_unique<SheetColors>(item, sources, tell);
-    };
-    m_frameColors = follow(*frame, frameSources, Background);
-    m_headerColors = follow(*m_header, headerSources, HeaderBackground);
-    tellColors(0, nameCount);
+    m_colors.follow(*frame, *m_header);
+    updateParts();
+    connect(this, &RDialogBase::iconKeyChanged, this, &RDialogBase::updateParts);
+    connect(this, &RDialogBase::busyChanged, this, &RDialogBase::updateParts);
+}
+
+void RDialogBase::updateParts()
+{
+    if (m_header)
+        PartComponents::show(m_icon, Part::DialogIcon, *m_header, !m_iconKey.isEmpty());
+    if (m_frame)
+        PartComponents::show(m_veil, Part::DialogVeil, *m_frame, m_isBusy);
 }
 
 void RDialogBase::takeParts(QQuickItem *frame, QQuickItem *header, QQuickItem *place,
@@ -269,54 +168,26 @@ void RDialogBase::takeParts(QQuickItem *frame, QQuickItem *header, QQuickItem *p
 {
     m_frame = frame;
     m_header = header;
-    m_standardBox = standardBox;
-    m_furtherRow = furtherRow;
 
     body()->setParentItem(place);
     QQuickItemPrivate::get(m_body)->anchors()->setFill(place);
-    for (const QPointer<QQuickItem> &button : std::as_const(m_furtherButtons)) {
-        if (button)
-            button->setParentItem(furtherRow);
-    }
 
-    standardBox->setStandardButtons(standardButtons());
+    m_buttons.takePlaces(*standardBox, furtherRow);
+    m_buttons.setStandard(standardButtons());
     connect(standardBox, &QQuickDialogButtonBox::clicked, this, &RDialogBase::onButtonClicked);
-}
-
-void RDialogBase::beginMove()
-{
-    m_shiftAtPress = position() - middle();
 }
 
 void RDialogBase::moveBy(QPointF distance)
 {
-    if (!m_isMovable || !qIsFinite(distance.x()) || !qIsFinite(distance.y()))
-        return;
-    m_shift = m_shiftAtPress + distance;
-    place();
-}
-
-QPointF RDialogBase::middle() const
-{
-    return m_overlay ? QPointF(m_overlay->width() - width(), m_overlay->height() - height()) / 2.0 : QPointF();
-}
-
-void RDialogBase::place()
-{
-    const QPointF centred = middle();
-    const qreal least = std::max(margins(), 0.0);
-    const auto within = [least](qreal middle, qreal shift) {
-        return std::round(std::clamp(middle + shift, least, std::max(2.0 * middle - least, least)));
-    };
-    if (m_overlay)
-        setPosition({within(centred.x(), m_shift.x()), within(centred.y(), m_shift.y())});
+    if (m_isMovable)
+        m_place.moveBy(distance);
 }
 
 void RDialogBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
     QQuickDialog::geometryChange(newGeometry, oldGeometry);
     if (newGeometry.size() != oldGeometry.size())
-        place();
+        m_place.update();
 }
 
 void RDialogBase::onVisibleChanged()
@@ -354,8 +225,8 @@ void RDialogBase::onFocusMoved()
     if (!isVisible() || !window())
         return;
     QQuickItem *focused = window()->activeFocusItem();
-    showButtonOfEnter(focused == popupItem());
-    if (focused && m_body && m_body->isAncestorOf(focused))
+    m_buttons.mark(focused == popupItem() ? m_buttons.ofEnter(m_defaultButton) : nullptr);
+    if (focused && m_body && m_body->isAncestorOf(focused) && !isFocusByMouse(*focused))
         Q_EMIT areaFocused(focused->mapRectToItem(m_body, QRectF(QPointF(), focused->size())));
 }
 
@@ -379,11 +250,16 @@ void RDialogBase::accept()
 void RDialogBase::onButtonClicked(QQuickAbstractButton *button)
 {
     const QPointer<RDialogBase> guard(this);
-    const auto flag = flagOf(*m_standardBox, button);
+    const auto flag = m_buttons.flagOf(button);
     Q_EMIT buttonClicked(flag);
-    if (!guard)
-        return;
-    switch (QPlatformDialogHelper::buttonRole(flag)) {
+    if (guard)
+        press(QPlatformDialogHelper::buttonRole(flag));
+}
+
+void RDialogBase::press(QPlatformDialogHelper::ButtonRole role)
+{
+    const QPointer<RDialogBase> guard(this);
+    switch (role) {
     case QPlatformDialogHelper::AcceptRole:
     case QPlatformDialogHelper::YesRole:
         accept();
@@ -408,61 +284,6 @@ void RDialogBase::onButtonClicked(QQuickAbstractButton *button)
     default:
         break;
     }
-}
-
-QQuickAbstractButton *RDialogBase::buttonOfEnter() const
-{
-    if (!m_standardBox)
-        return nullptr;
-    if (m_defaultButton != 0)
-        return m_standardBox->standardButton(QPlatformDialogHelper::StandardButton(m_defaultButton));
-    if (QQuickAbstractButton *ok = m_standardBox->standardButton(QPlatformDialogHelper::Ok))
-        return ok;
-    for (int i = 0; i < m_standardBox->count(); ++i) {
-        auto *button = qobject_cast<QQuickAbstractButton *>(m_standardBox->itemAt(i));
-        const auto role = QPlatformDialogHelper::buttonRole(flagOf(*m_standardBox, button));
-        if (role == QPlatformDialogHelper::AcceptRole || role == QPlatformDialogHelper::YesRole)
-            return button;
-    }
-    return nullptr;
-}
-
-void RDialogBase::showButtonOfEnter(bool shown)
-{
-    const QQuickAbstractButton *ofEnter = shown ? buttonOfEnter() : nullptr;
-    for (int i = 0; m_standardBox && i < m_standardBox->count(); ++i) {
-        QQuickItem *button = m_standardBox->itemAt(i);
-        button->setProperty("pressedByEnter", button == ofEnter);
-    }
-}
-
-void RDialogBase::keyPressEvent(QKeyEvent *event)
-{
-    if (const double lines = scrolledLines(event->key()); lines != 0.0) {
-        event->accept();
-        Q_EMIT scrolled(lines);
-        return;
-    }
-    if (!isEnterKey(*event)) {
-        QQuickDialog::keyPressEvent(event);
-        return;
-    }
-    event->accept();
-    // With the release, as buttons do: whoever gets the focus back must not hear that of a key that closed the dialog.
-    if (!event->isAutoRepeat())
-        m_isEnterDown = !pressesByEnter(window() ? window()->activeFocusItem() : nullptr);
-}
-
-void RDialogBase::keyReleaseEvent(QKeyEvent *event)
-{
-    if (!isEnterKey(*event) || event->isAutoRepeat()) {
-        QQuickDialog::keyReleaseEvent(event);
-        return;
-    }
-    event->accept();
-    auto *button = qobject_cast<RButtonBase *>(buttonOfEnter());
-    if (std::exchange(m_isEnterDown, false) && button && !m_isBusy)
-        button->click();
 }
 
 } // namespace tamble::client

@@ -2,8 +2,10 @@
 
 #include "base/ControlExport.h"
 #include "base/PopupOrigin.h"
+#include "dialogs/DialogButtons.h"
+#include "dialogs/DialogColors.h"
+#include "dialogs/DialogPlace.h"
 #include "dialogs/RDialogBody.h"
-#include "style/SheetColors.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QColor>
@@ -12,9 +14,7 @@
 #include <QtQuickTemplates2/private/qquickdialog_p.h>
 #include <QtQuickTemplates2/private/qquickdialogbuttonbox_p.h>
 
-#include <array>
 #include <cstddef>
-#include <memory>
 
 namespace tamble::client {
 
@@ -66,19 +66,19 @@ public:
     int defaultButton() const { return m_defaultButton; }
     void setDefaultButton(int button);
     /// Most of the window that the dialog takes, in pixels (`maximumWidth`, `maximumHeight`): nine tenths.
-    qreal maximumWidth() const;
-    qreal maximumHeight() const;
+    qreal maximumWidth() const { return m_place.maximumSize().width(); }
+    qreal maximumHeight() const { return m_place.maximumSize().height(); }
     /// The item around `content`, to which that adds what it needs.
     RDialogBody *body();
 
-    QColor ssBackground() const { return color(Background); }
-    void setSsBackground(const QColor &color) { setColor(Background, color); }
-    QColor ssBorderColor() const { return color(BorderColor); }
-    void setSsBorderColor(const QColor &color) { setColor(BorderColor, color); }
-    QColor ssHeaderBackground() const { return color(HeaderBackground); }
-    void setSsHeaderBackground(const QColor &color) { setColor(HeaderBackground, color); }
-    QColor ssHeaderColor() const { return color(HeaderColor); }
-    void setSsHeaderColor(const QColor &color) { setColor(HeaderColor, color); }
+    QColor ssBackground() const { return m_colors.color(DialogColors::Background); }
+    void setSsBackground(const QColor &color) { m_colors.setColor(DialogColors::Background, color); }
+    QColor ssBorderColor() const { return m_colors.color(DialogColors::Border); }
+    void setSsBorderColor(const QColor &color) { m_colors.setColor(DialogColors::Border, color); }
+    QColor ssHeaderBackground() const { return m_colors.color(DialogColors::HeaderBackground); }
+    void setSsHeaderBackground(const QColor &color) { m_colors.setColor(DialogColors::HeaderBackground, color); }
+    QColor ssHeaderColor() const { return m_colors.color(DialogColors::HeaderText); }
+    void setSsHeaderColor(const QColor &color) { m_colors.setColor(DialogColors::HeaderText, color); }
 
     /// The button with this flag, once the dialog has been open; null for none.
     Q_INVOKABLE QQuickAbstractButton *standardButton(QPlatformDialogHelper::StandardButton button) const;
@@ -88,7 +88,7 @@ public:
     Q_INVOKABLE void takeParts(QQuickItem *frame, QQuickItem *header, QQuickItem *place,
                                QQuickDialogButtonBox *standardBox, QQuickItem *furtherRow);
     /// The header begins to drag the dialog (`beginMove`), and has come so far, in pixels (`moveBy`).
-    Q_INVOKABLE void beginMove();
+    Q_INVOKABLE void beginMove() { m_place.beginMove(); }
     Q_INVOKABLE void moveBy(QPointF distance);
 
     void setVisible(bool visible) override;
@@ -121,40 +121,29 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
-    enum ColorName : std::size_t { Background, BorderColor, HeaderBackground, HeaderColor, nameCount };
-
-    QColor color(std::size_t name) const;
-    void setColor(std::size_t name, const QColor &color);
     void tellColors(std::size_t begin, std::size_t end);
 
-    void moveToOverlay();
     void onAboutToShow();
     void onVisibleChanged();
     void make();
-    QPointF middle() const;
-    void place();
+    void updateParts();
     void placeFocus();
     void onFocusMoved();
     bool enterFields();
     void onButtonClicked(QQuickAbstractButton *button);
-    QQuickAbstractButton *buttonOfEnter() const;
-    void showButtonOfEnter(bool shown);
+    void press(QPlatformDialogHelper::ButtonRole role);
 
     PopupOrigin m_origin;
     QString m_iconKey;
     QPointer<QQuickItem> m_initialFocus;
-    QPointer<QQuickItem> m_overlay; ///< Of the window that it was last opened in.
-    QPointer<RDialogBody> m_body;   ///< A child, made when the first thing is put into it.
-    QPointer<QQuickItem> m_frame;   ///< These four are made when the dialog first opens.
+    DialogPlace m_place;
+    DialogButtons m_buttons;
+    QPointer<RDialogBody> m_body; ///< A child, made when the first thing is put into it.
+    QPointer<QQuickItem> m_frame; ///< This and the header are made when the dialog first opens.
     QPointer<QQuickItem> m_header;
-    QPointer<QQuickDialogButtonBox> m_standardBox;
-    QPointer<QQuickItem> m_furtherRow;
-    QList<QPointer<QQuickItem>> m_furtherButtons;
-    std::unique_ptr<SheetColors> m_frameColors;
-    std::unique_ptr<SheetColors> m_headerColors;
-    std::array<QColor, nameCount> m_given; ///< What the page has set; invalid where the sheets count.
-    QPointF m_shift;                       ///< From the middle of the window, in pixels.
-    QPointF m_shiftAtPress;
+    QQuickItem *m_icon = nullptr; ///< Below the header, and the veil below the frame: made when they are first shown.
+    QQuickItem *m_veil = nullptr;
+    DialogColors m_colors;
     int m_defaultButton = 0;
     bool m_isBusy = false;
     bool m_isClosable = true;

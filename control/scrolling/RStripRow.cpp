@@ -1,9 +1,10 @@
 #include "scrolling/RStripRow.h"
 
+#include "base/FocusReason.h"
+
 #include <QtCore/QEasingCurve>
 #include <QtGui/QWheelEvent>
 #include <QtQuick/QQuickWindow>
-#include <QtQuick/private/qquickdeliveryagent_p_p.h>
 #include <QtQuick/private/qquickitem_p.h>
 
 #include <algorithm>
@@ -164,8 +165,7 @@ void RStripRow::itemChange(ItemChange change, const ItemChangeData &data)
 // What is pressed stays under the pointer.
 void RStripRow::followFocus(QQuickItem *focused)
 {
-    const auto *agent = QQuickItemPrivate::get(this)->deliveryAgentPrivate();
-    if (focused && agent && agent->lastFocusReason != Qt::MouseFocusReason)
+    if (focused && !isFocusByMouse(*this))
         ensureVisible(focused);
 }
 

@@ -8,7 +8,9 @@
 #include <QtCore/QEvent>
 #include <QtGui/QPalette>
 #include <QtQuick/QQuickItem>
+#include <QtQuick/private/qquickitem_p.h>
 #include <QtQuick/private/qquickwindow_p.h>
+#include <QtQuickTemplates2/private/qquickpopup_p.h>
 
 #include <algorithm>
 #include <cmath>
@@ -128,6 +130,21 @@ std::optional<QPalette> sheetPalette(QQuickItem &root)
     return palette;
 }
 
+/// Hands their palette on to what stands in open popups, which Qt 6.4 does when they open only.
+void updatePopups(const QQuickWindow &window)
+{
+    const QList<QQuickPopup *> popups = window.findChildren<QQuickPopup *>();
+    for (QQuickPopup *popup : popups) {
+        const auto *own = popup->isVisible() ? popup->property("palette").value<QQuickPalette *>() : nullptr;
+        if (!own)
+            continue;
+        const QPalette palette = own->toQPalette();
+        const QList<QQuickItem *> parts = popup->popupItem()->childItems();
+        for (QQuickItem *part : parts)
+            QQuickItemPrivate::get(part)->inheritPalette(palette);
+    }
+}
+
 } // namespace
 
 WindowPalette::WindowPalette(QObject *parent)
@@ -151,8 +168,10 @@ void WindowPalette::apply()
 {
     if (!m_window)
         return;
-    if (const auto palette = sheetPalette(*m_window->contentItem()))
+    if (const auto palette = sheetPalette(*m_window->contentItem())) {
         QQuickWindowPrivate::get(m_window)->palette()->inheritPalette(*palette);
+        updatePopups(*m_window);
+    }
 }
 
 bool WindowPalette::eventFilter(QObject *, QEvent *event)

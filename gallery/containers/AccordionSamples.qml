@@ -18,8 +18,9 @@ Column {
         ListElement { name: "Ambience"; source: "Stage box B 2"; icon: "microphone" }
     }
 
-    Row {
-        spacing: theme.dp(16)
+    Flow {
+        width: parent.width
+        spacing: theme.dp(8)
 
         RCheckBox {
             id: exclusive

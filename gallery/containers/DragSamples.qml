@@ -63,7 +63,9 @@ Column {
         RStyleSet.typeName: "RFlyoutToolbar"
 
         RText {
-            anchors.centerIn: parent
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            anchors.margins: theme.dp(4)
             text: qsTr("Drag a rubber band here.")
         }
         RSelectionRect {

@@ -28,15 +28,18 @@ Item {
     Accessible.selected: root.selected
 
     RIcon {
-        x: theme.dp(16)
+        anchors.left: parent.left
+        anchors.leftMargin: theme.dp(16)
         anchors.verticalCenter: parent.verticalCenter
         key: root.kind
         ssIconForeground: root.color
         opacity: root.online ? 1 : 0.5
     }
     Column {
-        x: theme.dp(56)
-        width: state.x - x - theme.dp(8)
+        anchors.left: parent.left
+        anchors.leftMargin: theme.dp(56)
+        anchors.right: state.left
+        anchors.rightMargin: theme.dp(8)
         anchors.verticalCenter: parent.verticalCenter
         spacing: theme.dp(2)
 

@@ -20,6 +20,7 @@ Item {
 
     RText {
         id: clock
+        anchors.left: parent.left
         width: theme.dp(72)
         height: root.height
         text: root.time
@@ -27,14 +28,15 @@ Item {
     }
     RIcon {
         id: mark
-        x: clock.width
+        anchors.left: clock.right
         anchors.verticalCenter: parent.verticalCenter
         sizeClass: "XS"
         key: root.icons[root.kind] ?? "info"
     }
     RText {
         id: place
-        x: mark.x + theme.dp(32)
+        anchors.left: mark.left
+        anchors.leftMargin: theme.dp(32)
         width: root.narrow ? 0 : theme.dp(160)
         height: root.height
         visible: !root.narrow
@@ -44,8 +46,9 @@ Item {
         verticalAlignment: Text.AlignVCenter
     }
     RText {
-        x: place.x + place.width + (root.narrow ? 0 : theme.dp(8))
-        width: root.width - x
+        anchors.left: place.right
+        anchors.leftMargin: root.narrow ? 0 : theme.dp(8)
+        anchors.right: parent.right
         height: root.height
         text: root.narrow ? qsTr("%1 %2").arg(root.device).arg(root.text) : root.text
         elide: Text.ElideRight

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Layouts
 import Gallery
 import TambleClient.Control 1.0
 
@@ -6,6 +7,8 @@ GalleryPage {
     description: qsTr("What opens over a page: forms, questions and tools. Enter presses the marked button, Esc takes back what was typed and then closes, and the focus goes back to where it was.")
 
     TileGrid {
+        id: tiles
+
         Section {
             title: "RDialog"
             note: qsTr("Drag the header. Without a name the form is not accepted.")
@@ -19,6 +22,7 @@ GalleryPage {
             MessageBoxSamples {}
         }
         Section {
+            Layout.columnSpan: tiles.columns
             title: "RFlyoutWindow, RFlyoutToolbar"
             note: qsTr("Drag a header; edges and neighbours attract it, and what lies at an edge stays there. A double click or Alt+Up folds, Ctrl with an arrow moves, Ctrl+F6 goes to the next one, Esc closes.")
 

@@ -9,7 +9,7 @@ Flickable {
     /*! What the style engine has reported. */
     property alias reports: missing.reports
 
-    height: theme.dp(48)
+    implicitHeight: theme.dp(48)
     contentWidth: Math.max(root.width, tools.width)
     flickableDirection: Flickable.HorizontalFlick
     boundsBehavior: Flickable.StopAtBounds

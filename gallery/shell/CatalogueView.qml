@@ -10,12 +10,25 @@ FestivalPage {
     readonly property var page: Festival.cataloguePages[Festival.cataloguePage] ?? ({ title: "", source: "" })
     readonly property GalleryPage shownPage: loader.item as GalleryPage
     readonly property bool narrow: root.width < theme.dp(720)
+    readonly property bool mirrored: root.LayoutMirroring.enabled
 
     /*! In a narrow window the list of pages lies over the page. */
     function closeIndex() {
         if (index.open)
             loader.forceActiveFocus()
         index.open = false
+    }
+
+    // The focus leaves the list of pages with it, and stays in a page where the user has put it.
+    onNarrowChanged: {
+        if (root.narrow && index.focus && !index.open)
+            loader.focus = true
+        else if (!root.narrow && (!loader.activeFocus || root.Window.activeFocusItem === loader))
+            index.focus = true
+    }
+    Component.onCompleted: {
+        if (root.narrow)
+            loader.focus = true
     }
 
     title: root.page.title
@@ -25,8 +38,8 @@ FestivalPage {
 
     RowLayout {
         id: heading
-        x: loader.x + theme.dp(8)
-        width: root.width - x
+        x: loader.x + (root.mirrored ? 0 : theme.dp(8))
+        width: loader.width - theme.dp(8)
         height: theme.dp(48)
         spacing: 0
 
@@ -46,7 +59,8 @@ FestivalPage {
             Layout.fillWidth: true
             Layout.fillHeight: true
             Layout.maximumWidth: Math.ceil(title.implicitWidth)
-            leftPadding: theme.dp(16)
+            leftPadding: root.mirrored ? 0 : theme.dp(16)
+            rightPadding: root.mirrored ? theme.dp(16) : 0
             text: root.page.title
             elide: Text.ElideRight
             font.pixelSize: theme.fontSizeXXL
@@ -62,11 +76,10 @@ FestivalPage {
     }
     Loader {
         id: loader
-        x: root.narrow ? 0 : index.width
+        x: root.narrow || root.mirrored ? 0 : index.width
         y: heading.height
-        width: root.width - x
+        width: root.narrow ? root.width : root.width - index.width
         height: root.height - y
-        focus: root.narrow
         source: root.page.source
     }
     PageIndex {
@@ -74,10 +87,11 @@ FestivalPage {
 
         property bool open: false
 
+        x: root.mirrored ? root.width - index.width : 0
         y: root.narrow ? heading.height : 0
         height: root.height - y
         visible: !root.narrow || index.open
-        focus: !root.narrow
+        focus: true
         pages: Festival.cataloguePages
         currentIndex: Festival.cataloguePage
         Keys.onEscapePressed: event => {

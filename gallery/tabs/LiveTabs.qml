@@ -8,7 +8,16 @@ Column {
     property int current: 0
     property int view: 0
     property int lastNumber: 3
+    /*! Tabs become narrower, so that all of them and the button behind them are seen. */
+    readonly property real tabWidth: Math.min(theme.dp(128), (root.width - theme.dp(32)) / Math.max(1, scenes.count) - theme.dp(1))
 
+    /*! A function of the column: the tab and what it knows go with its row. */
+    function close(index: int) {
+        scenes.remove(index)
+        root.current = Math.max(0, Math.min(root.current, scenes.count - 1))
+    }
+
+    width: parent.width
     spacing: theme.dp(16)
 
     ListModel {
@@ -29,17 +38,14 @@ Column {
                 required property bool changed
                 required property string faults
 
-                width: theme.dp(128)
+                width: root.tabWidth
                 text: name
                 modified: changed
                 badge: faults
                 closable: true
                 selected: root.current === index
                 onClicked: root.current = index
-                onCloseRequested: {
-                    scenes.remove(index)
-                    root.current = Math.max(0, Math.min(root.current, scenes.count - 1))
-                }
+                onCloseRequested: root.close(index)
             }
         }
         // qmllint enable unqualified

@@ -20,6 +20,7 @@ Column {
         { text: qsTr("Identify"), iconKey: "identify" }
     ]
 
+    width: parent.width
     spacing: theme.dp(16)
 
     Row {

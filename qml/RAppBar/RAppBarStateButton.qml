@@ -21,6 +21,10 @@ RAppBarStateButtonBase {
     readonly property real iconSpace: icon.visible ? icon.width + root.margin : 0
     readonly property real linesWidth: Math.max(words.implicitWidth, lower.implicitWidth)
 
+    /*! Texts and icons on either ground. Where the flashing one is about as dark as they are, they take the colour of the
+        other. */
+    readonly property color shownColor: root.flashLit && Math.abs(root.ssColor.hslLightness - root.ssBackgroundFlashing.hslLightness) < 0.25 ? root.ssBackground : root.ssColor
+
     ssBackground: root.sheetBackground
     ssColor: root.sheetColor
     ssLineColor: root.sheetLineColor
@@ -57,7 +61,7 @@ RAppBarStateButtonBase {
             y: (parent.height - height) / 2
             visible: root.iconKey.length > 0
             key: root.iconKey
-            ssIconForeground: root.ssColor
+            ssIconForeground: root.shownColor
         }
         Column {
             id: lines
@@ -69,7 +73,7 @@ RAppBarStateButtonBase {
                 id: words
                 width: parent.width
                 text: root.plainText
-                color: root.ssColor
+                color: root.shownColor
                 elide: Text.ElideRight
                 horizontalAlignment: Text.AlignHCenter
             }
@@ -78,7 +82,7 @@ RAppBarStateButtonBase {
                 width: parent.width
                 visible: text.length > 0
                 text: root.armed ? qsTr("press again") : root.subText
-                color: root.ssColor
+                color: root.shownColor
                 font.pixelSize: root.armed ? RThemeValues.fontSizeS : RThemeValues.fontSizeXS
                 font.bold: root.armed
                 elide: Text.ElideRight
@@ -91,7 +95,7 @@ RAppBarStateButtonBase {
             visible: !root.consistent
             key: "dash"
             sizeClass: "XS"
-            ssIconForeground: root.ssColor
+            ssIconForeground: root.shownColor
         }
     }
 }

@@ -12,6 +12,9 @@ Rectangle {
     /*! The dialog that is shown. */
     required property RDialogBase dialog
 
+    /*! Where the body is seen, which may scroll there. */
+    readonly property alias view: view
+
     readonly property real pad: 16 * RThemeValues.unit
     readonly property real wantedWidth: Math.max(400 * RThemeValues.unit, header.implicitWidth, footer.implicitWidth, root.dialog.body.implicitWidth + 2 * root.pad)
     readonly property real wantedHeight: header.height + footer.height + root.dialog.body.implicitHeight + root.pad + root.lowerPad
@@ -38,8 +41,8 @@ Rectangle {
         clip: view.interactive
         enabled: !root.dialog.busy
 
-        T.ScrollBar.vertical: verticalBar.item as T.ScrollBar
-        T.ScrollBar.horizontal: horizontalBar.item as T.ScrollBar
+        T.ScrollBar.vertical: bars.vertical
+        T.ScrollBar.horizontal: bars.horizontal
 
         Item {
             id: place
@@ -53,8 +56,8 @@ Rectangle {
             function onAreaFocused(area: rect) {
                 const lowest = area.y + area.height + 2 * root.pad - view.height
                 const rightmost = area.x + area.width + 2 * root.pad - view.width
-                view.contentY = Math.max(0, Math.min(area.y, Math.max(view.contentY, lowest)))
-                view.contentX = Math.max(0, Math.min(area.x, Math.max(view.contentX, rightmost)))
+                view.contentY = Math.max(0, Math.min(area.y, Math.max(view.contentY, lowest), view.contentHeight - view.height))
+                view.contentX = Math.max(0, Math.min(area.x, Math.max(view.contentX, rightmost), view.contentWidth - view.width))
             }
             function onScrolled(lines: real) {
                 view.contentY = Math.max(0, Math.min(view.contentHeight - view.height, view.contentY + 32 * RThemeValues.unit * lines))
@@ -63,20 +66,18 @@ Rectangle {
     }
     // Nearly all dialogs show what is in them at once.
     Loader {
-        id: verticalBar
-        anchors.right: view.right
-        y: view.y
-        height: view.height
-        active: view.contentHeight > view.height
-        sourceComponent: Shared.RScrollBar {}
-    }
-    Loader {
-        id: horizontalBar
-        // In the room above the buttons.
-        y: view.y + view.height - (footer.height > 0 ? 0 : height)
-        width: view.width
-        active: view.contentWidth > view.width
-        sourceComponent: Shared.RScrollBar {}
+        id: bars
+
+        readonly property T.ScrollBar vertical: (bars.item as RDialogScrollBars)?.vertical ?? null
+        readonly property T.ScrollBar horizontal: (bars.item as RDialogScrollBars)?.horizontal ?? null
+
+        anchors.fill: view
+        active: view.interactive
+        // qmllint disable unqualified
+        sourceComponent: RDialogScrollBars {
+            hasRoomBelow: footer.height > 0
+        }
+        // qmllint enable unqualified
     }
     RDialogFooter {
         id: footer
@@ -89,11 +90,6 @@ Rectangle {
         id: header
         width: root.width
         dialog: root.dialog
-    }
-    Loader {
-        anchors.fill: view
-        active: root.dialog.busy
-        sourceComponent: RDialogVeil {}
     }
     Rectangle {
         anchors.fill: parent

@@ -12,6 +12,7 @@ Rectangle {
 
     /*! Whether there is anything in it. */
     readonly property bool needed: root.dialog.closable || root.dialog.title !== "" || root.dialog.iconKey !== ""
+    readonly property alias textColor: words.color
     readonly property real pad: 16 * RThemeValues.unit
     /*! What stands at both sides of the title. */
     readonly property real iconSpace: root.dialog.iconKey === "" ? 0 : 32 * RThemeValues.unit
@@ -34,19 +35,6 @@ Rectangle {
             if (drag.active)
                 root.dialog.moveBy(Qt.point(drag.activeTranslation.x, drag.activeTranslation.y))
         }
-    }
-    // Few dialogs have one.
-    Loader {
-        anchors.left: parent.left
-        anchors.leftMargin: root.pad
-        anchors.verticalCenter: parent.verticalCenter
-        active: root.iconSpace > 0
-        // qmllint disable unqualified
-        sourceComponent: RIcon {
-            key: root.dialog.iconKey
-            ssIconForeground: words.color
-        }
-        // qmllint enable unqualified
     }
     RText {
         id: words

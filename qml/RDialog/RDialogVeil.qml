@@ -9,6 +9,10 @@ Rectangle {
 
     property color ssBackground: root.RStyleSet.props.background
 
+    /*! What it stands in. */
+    readonly property RDialogFrame frame: root.parent as RDialogFrame
+
+    anchors.fill: root.frame.view
     color: Qt.alpha(root.ssBackground, 0.75)
 
     RLoadingAnimation {

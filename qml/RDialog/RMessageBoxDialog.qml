@@ -62,6 +62,7 @@ RDialog {
             }
             RButton {
                 id: details
+                anchors.left: parent.left
                 visible: root.detailedText !== ""
                 text: details.selected ? qsTr("Hide details") : qsTr("Show details")
                 selectable: true
@@ -82,6 +83,7 @@ RDialog {
             }
             RCheckBox {
                 id: keep
+                anchors.left: parent.left
                 visible: root.keepText !== ""
                 text: root.keepText
                 selectable: true

@@ -25,8 +25,7 @@ RTabButtonBase {
 
     implicitWidth: 144 * RThemeValues.unit
     implicitHeight: 32 * RThemeValues.unit
-    leftPadding: 4 * RThemeValues.unit + (root.mirrored ? root.endSpace : 0)
-    rightPadding: 4 * RThemeValues.unit + (root.mirrored ? 0 : root.endSpace)
+    horizontalPadding: 4 * RThemeValues.unit
     hoverEnabled: RThemeValues.hoverEnabled
     focusPolicy: Qt.StrongFocus
 

@@ -52,7 +52,7 @@ Row {
         hoverEnabled: RThemeValues.hoverEnabled
         focusPolicy: Qt.NoFocus
         text: qsTr("Close")
-        onClicked: root.tab.closeRequested()
+        onClicked: root.tab.requestClose()
 
         Rectangle {
             anchors.centerIn: parent

@@ -194,7 +194,7 @@ private Q_SLOTS:
             QVERIFY(readEverything(m_engine, page->property("object").value<QObject *>()) > 2);
         });
         for (const char *name : {"RButtonBase", "RControlBackground", "RFaderBase", "RMeterBar", "RMenuBase",
-                                 "RLabelBase", "RTabButtonBase", "RTintedImage", "RUnderlay"})
+                                 "RLabelBase", "RTabButtonBase", "RTintedImage", "RBoxShadowBase"})
             row(name, QString::fromLatin1(name) + QStringLiteral(" {}"));
         for (const char *name : {"RMouseEventSpy", "RPlotRules", "RTransferTable", "RThemeValues"})
             row(name, QString::fromLatin1(name));

@@ -126,6 +126,26 @@ private Q_SLOTS:
     }
     void texts() { checkRow(); }
 
+    void openPopupsFollow()
+    {
+        const auto page = objectFrom(m_engine, R"(
+            import QtQuick.Controls.Basic
+            import TambleClient.Control 1.0
+            RApplicationWindow { id: window; appStyleSheetKey: ''; width: 200; height: 200; visible: true
+                property alias field: field
+                Dialog { visible: true; palette.button: '#123456'; TextField { id: field } } })");
+        QVERIFY(page && QTest::qWaitForWindowExposed(qobject_cast<QWindow *>(page.get())));
+        const auto colour = [](const QObject *of, const char *role) {
+            return of->property("palette").value<QObject *>()->property(role).value<QColor>();
+        };
+        const auto *field = page->property("field").value<QQuickItem *>();
+        for (const char *theme : {"light", "contrast-dark"}) {
+            QMetaObject::invokeMethod(page.get(), "setTheme", Q_ARG(QString, QString::fromLatin1(theme)));
+            QCOMPARE(colour(field, "text"), colour(page.get(), "text"));
+            QCOMPARE(colour(field, "button"), QColor("#123456"));
+        }
+    }
+
     void whatThePageSetsStays()
     {
         const auto page =

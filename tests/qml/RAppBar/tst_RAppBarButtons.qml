@@ -103,6 +103,7 @@ ThemedTestCase {
         tryVerify(() => button.flashLit, 1100)
         verify(!Qt.colorEqual(button.ssBackground, button.ssBackgroundFlashing))
         compare(button.background.color, button.ssBackgroundFlashing)
+        verify(Math.abs(button.textControl.color.hslLightness - button.ssBackgroundFlashing.hslLightness) > 0.25)
     }
 
     function test_badges() {

@@ -204,6 +204,12 @@ ThemedTestCase {
         verify(button(page.dialog.contentItem, "OK").mapToItem(page.dialog.contentItem, 0, 0).x < 20)
     }
 
+    function test_whatFitsStaysUnderThePointer() {
+        const page = openedDialog("RButton { id: last; y: 60; text: 'Last'; onClicked: log.push('clicked') } property alias last: last")
+        mouseClick(page.dialog.last)
+        compare(page.log, ["clicked"])
+    }
+
     function test_focusedFieldIsInView() {
         const page = openedDialog("Item { id: room; y: 900; width: 100; implicitHeight: 40; RTextField { id: last } } property alias last: last")
         page.dialog.last.forceActiveFocus()

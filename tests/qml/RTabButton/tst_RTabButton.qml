@@ -60,6 +60,7 @@ ThemedTestCase {
             RTabButton { required property int index; text: index; closable: true; onCloseRequested: tabs.remove(index) } } }")
         row.children[0].forceActiveFocus()
         keyClick(Qt.Key_Delete)
+        compare(row.Window.activeFocusItem?.text, "0", "the focus stays in the row")
         tryCompare(row, "width", 144)
         mouseClick(row, 130, 16)
         tryVerify(() => row.children.length === 1, 1000, "the repeater alone is left")
