@@ -1,4 +1,5 @@
 #include "GalleryInstallation.h"
+#include "support/Rows.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QTemporaryDir>
