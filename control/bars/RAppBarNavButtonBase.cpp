@@ -7,6 +7,7 @@
 #include <QtQuick/private/qquickitem_p.h>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace tamble::client {
@@ -39,7 +40,7 @@ void RAppBarNavButtonBase::setIconOnly(bool iconOnly)
 
 void RAppBarNavButtonBase::setUnit(qreal unit)
 {
-    if (std::exchange(m_unit, unit) == unit)
+    if (!std::isfinite(unit) || std::exchange(m_unit, unit) == unit)
         return;
     updateSize();
     Q_EMIT unitChanged();

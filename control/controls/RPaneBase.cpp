@@ -6,6 +6,9 @@
 #include <QtQml/QQmlEngine>
 #include <QtQuickTemplates2/private/qquickpane_p_p.h>
 
+#include <cmath>
+#include <utility>
+
 namespace tamble::client {
 
 namespace {
@@ -62,9 +65,8 @@ void RPaneBase::assignContentPadding(std::optional<qreal> padding)
 
 void RPaneBase::setUnit(qreal unit)
 {
-    if (m_unit == unit)
+    if (!std::isfinite(unit) || std::exchange(m_unit, unit) == unit)
         return;
-    m_unit = unit;
     lookChange();
     if (isComponentComplete())
         updatePadding();

@@ -7,6 +7,7 @@
 #include <QtQml/qqml.h>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace tamble::client {
@@ -79,7 +80,7 @@ void RProgressBarBase::setEndless(bool endless)
 
 void RProgressBarBase::setUnit(qreal unit)
 {
-    if (std::exchange(m_unit, unit) == unit)
+    if (!std::isfinite(unit) || std::exchange(m_unit, unit) == unit)
         return;
     placeBar();
     Q_EMIT unitChanged();

@@ -118,7 +118,7 @@ QQuickItem *RWorkspaceBlock::valueBarItem() const
 
 void RWorkspaceBlock::setUnit(qreal unit)
 {
-    if (std::exchange(m_unit, unit) == unit)
+    if (!std::isfinite(unit) || std::exchange(m_unit, unit) == unit)
         return;
     updateSize();
     placeContent();

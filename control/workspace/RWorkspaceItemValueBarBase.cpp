@@ -139,7 +139,7 @@ void RWorkspaceItemValueBarBase::setText(const QString &text)
 
 void RWorkspaceItemValueBarBase::setUnit(qreal unit)
 {
-    if (std::exchange(m_unit, unit) == unit)
+    if (!std::isfinite(unit) || std::exchange(m_unit, unit) == unit)
         return;
     refresh();
     Q_EMIT unitChanged();
