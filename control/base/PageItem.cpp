@@ -21,9 +21,7 @@ QQuickItem *makePageItem(QQmlComponent &component, QQuickItem &parent, QQuickIte
         item->setParentItem(&parent);
     }
     component.completeCreate();
-    if (item)
-        made.release();
-    return item;
+    return item ? static_cast<QQuickItem *>(made.release()) : nullptr;
 }
 
 } // namespace tamble::client

@@ -3,6 +3,7 @@
 #include "controls/BoxShadowNode.h"
 #include "scenegraph/SoftwarePicture.h"
 
+#include <QtCore/QScopedValueRollback>
 #include <QtQuick/QQuickWindow>
 #include <QtQuick/QSGRectangleNode>
 
@@ -93,8 +94,12 @@ void RBoxShadowBase::stack()
         stackBefore(m_target);
 }
 
+// Once at a time: it may be its own target, or that of its target.
 void RBoxShadowBase::place()
 {
+    if (m_isPlacing)
+        return;
+    const QScopedValueRollback placing(m_isPlacing, true);
     const bool isBesideTarget = m_target && m_target != parentItem();
     setPosition(isBesideTarget ? m_target->position() + m_offset : m_offset);
     setZ(isBesideTarget ? m_target->z() : -1.0);

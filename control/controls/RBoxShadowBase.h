@@ -90,6 +90,7 @@ private:
     bool m_isActive = true;
     bool m_isShown = false;
     bool m_hasOwnTarget = false; ///< The page has named one.
+    bool m_isPlacing = false;
 };
 
 } // namespace tamble::client
