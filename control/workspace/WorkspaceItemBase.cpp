@@ -102,11 +102,11 @@ void WorkspaceItemBase::showPosition(const QPointF &position)
         return;
     m_position = position;
     applyPosition();
-    // The move itself tells the view and the selection, once for all of its items.
-    if (m_workspace && m_moving)
-        m_workspace->m_items->place(*this);
-    else if (m_workspace)
+    // A move tells the view and the selection itself, once for all of its items.
+    if (m_workspace && !m_moving)
         m_workspace->placeItem(*this);
+    else if (m_workspace && !m_isPlaced)
+        m_workspace->m_items->place(*this);
     Q_EMIT positionChanged();
 }
 
