@@ -25,7 +25,8 @@ FocusScope {
         focus: true
         activeFocusOnTab: true
         highlightMoveDuration: 0
-        currentIndex: root.currentIndex
+        // A list makes its first row the current one as it gets its rows.
+        currentIndex: list.count > 0 ? root.currentIndex : -1
         model: root.pages
         // qmllint disable unqualified
         delegate: PageEntry {
