@@ -138,6 +138,11 @@ const StylePathRef &StyleSet::stylePath()
     return m_path;
 }
 
+void StyleSet::leaveParentToItem()
+{
+    m_listener.reset();
+}
+
 void StyleSet::onParentChanged(QQuickItem *pNewParent)
 {
     if (pNewParent)

@@ -73,6 +73,10 @@ public:
     /// take 400 bytes for every item.
     void setFollower(StyleFollower *follower) { m_follower = follower; }
 
+    /// From now on the item itself calls onParentChanged() when it gets another parent or comes into a window. For items
+    /// that are moved by hundreds: Qt copies the list of an item's listeners whenever it moves the item.
+    void leaveParentToItem();
+
 public Q_SLOTS:
     /// Places the item anew below its new parent; no parent leaves it as it was.
     void onParentChanged(QQuickItem *pNewParent);
@@ -102,7 +106,7 @@ private:
     std::shared_ptr<UsageCountedStyleSetProps> m_props; // null until somebody reads a value
     StyleFollower *m_follower = nullptr;
     StateHelper *m_stateHelper = nullptr;     // a child, made when it is first used
-    std::unique_ptr<ItemListener> m_listener; // null when attached to another object than an item
+    std::unique_ptr<ItemListener> m_listener; // null when attached to another object or told by the item
     bool m_followsWindow = false;
 };
 

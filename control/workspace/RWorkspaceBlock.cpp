@@ -2,6 +2,7 @@
 
 #include "style/StateHelper.h"
 #include "style/StyleSet.h"
+#include "style/StyleTree.h"
 #include "workspace/BlockLook.h"
 
 #include <QtQml/qqml.h>
@@ -217,6 +218,8 @@ void RWorkspaceBlock::feedStates()
 void RWorkspaceBlock::componentComplete()
 {
     WorkspaceItemBase::componentComplete();
+    if (StyleSet *styleSet = attachedStyleSet(this))
+        styleSet->leaveParentToItem();
     updateSize();
     updateLook();
 }
@@ -229,6 +232,10 @@ void RWorkspaceBlock::sizeChange()
 
 void RWorkspaceBlock::itemChange(ItemChange change, const ItemChangeData &data)
 {
+    if (change == ItemParentHasChanged || change == ItemSceneChange) {
+        if (StyleSet *styleSet = attachedStyleSet(this))
+            styleSet->onParentChanged(parentItem());
+    }
     WorkspaceItemBase::itemChange(change, data);
     if (change == ItemEnabledHasChanged)
         updateLook();

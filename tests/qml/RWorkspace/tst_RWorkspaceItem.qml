@@ -151,6 +151,22 @@ ThemedTestCase {
         verify(item.RStyleSet.stateHelper.disabled)
     }
 
+    function test_styledByItsPlace() {
+        const item = make("RWorkspaceItem { property Item box: Item {} }")
+        const namesOf = () => item.RStyleSet.path.map(element => String(element.classes)).join(" ")
+        const places = make("Item { property Item first: Item { RStyleSet.name: 'first' }\n"
+                            + "property Item second: Item { RStyleSet.name: 'second' } }")
+        for (const place of [places.first, places.second]) {
+            place.parent = root
+            item.parent = place
+            verify(namesOf().includes(place.RStyleSet.name), namesOf())
+        }
+        // Below an item without a style that gets its parent later.
+        item.parent = item.box
+        item.box.parent = places.first
+        verify(namesOf().includes("first"), namesOf())
+    }
+
     function test_valueBar() {
         const item = itemOf("")
         const bars = Array.from([0, 1], () => createTemporaryObject(barComponent, root))
