@@ -8,6 +8,7 @@
 #include "workspace/WorkspaceItems.h"
 
 #include <QtCore/QMetaMethod>
+#include <QtCore/private/qmetaobject_p.h>
 #include <QtGui/QAccessible>
 #include <QtQuick/private/qquickitem_p.h>
 
@@ -27,6 +28,13 @@ QVariantMap textMap(const QHash<QUuid, Value> &values)
     for (auto value = values.begin(); value != values.end(); ++value)
         map.insert(value.key().toString(QUuid::WithoutBraces), value.value());
     return map;
+}
+
+// QObject's public question for listeners looks the signal up anew each time, which counts with thousands of items.
+template <typename Signal>
+uint signalIndexOf(Signal signal)
+{
+    return uint(QMetaObjectPrivate::signalIndex(QMetaMethod::fromSignal(signal)));
 }
 
 } // namespace
@@ -109,8 +117,8 @@ void WorkspaceBase::addItem(WorkspaceItemBase &item)
     m_items->place(item);
     polish();
     tellItemsLater();
-    static const QMetaMethod added = QMetaMethod::fromSignal(&WorkspaceBase::itemAdded);
-    const QPointer<WorkspaceBase> heard = isSignalConnected(added) ? this : nullptr;
+    static const uint added = signalIndexOf(&WorkspaceBase::itemAdded);
+    const QPointer<WorkspaceBase> heard = QQuickItemPrivate::get(this)->isSignalConnected(added) ? this : nullptr;
     const QUuid id = heard ? item.itemId() : QUuid();
     Q_EMIT item.workspaceChanged();
     if (heard)
@@ -121,8 +129,8 @@ void WorkspaceBase::removeItem(WorkspaceItemBase &item)
 {
     const QPointer<WorkspaceBase> self(this);
     const QPointer<WorkspaceItemBase> going(&item);
-    static const QMetaMethod removed = QMetaMethod::fromSignal(&WorkspaceBase::itemRemoved);
-    const bool isHeard = isSignalConnected(removed);
+    static const uint removed = signalIndexOf(&WorkspaceBase::itemRemoved);
+    const bool isHeard = QQuickItemPrivate::get(this)->isSignalConnected(removed);
     const QUuid id = isHeard ? item.itemId() : QUuid();
     if (m_move)
         m_move->itemGoes(item);
