@@ -170,8 +170,8 @@ void WorkspaceItemBase::geometryChange(const QRectF &newGeometry, const QRectF &
     QQuickItem::geometryChange(newGeometry, oldGeometry);
     if (m_isPlacing)
         return;
-    const bool isMovedByPage = newGeometry.topLeft() != oldGeometry.topLeft();
-    const bool isResized = newGeometry.size() != oldGeometry.size();
+    const bool isMovedByPage = newGeometry.x() != oldGeometry.x() || newGeometry.y() != oldGeometry.y();
+    const bool isResized = newGeometry.width() != oldGeometry.width() || newGeometry.height() != oldGeometry.height();
     if (isMovedByPage)
         m_position = newGeometry.topLeft() / m_unit;
     if (m_workspace)
