@@ -29,6 +29,7 @@
 #include "controls/RButtonBase.h"
 #include "controls/RCheckBoxBase.h"
 #include "controls/RControlBackground.h"
+#include "controls/RIconBase.h"
 #include "controls/RLabelBase.h"
 #include "controls/RLoadingAnimationBase.h"
 #include "controls/RPaneBase.h"
@@ -393,6 +394,7 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RListViewBase>("RListViewBase");
     registrar.creatable<RMenuBase>("RMenuBase");
     registrar.creatable<RMeterBar>("RMeterBar");
+    registrar.creatable<RIconBase>("RIconBase");
     registrar.creatable<RLabelBase>("RLabelBase");
     registrar.creatable<RLoadingAnimationBase>("RLoadingAnimationBase");
     registrar.creatable<RPaneBase>("RPaneBase");

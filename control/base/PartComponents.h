@@ -46,12 +46,12 @@ enum class Part {
     MenuRow,         ///< What an entry of a menu looks like.
     MenuLine,        ///< Likewise a separator.
     SubMenu,
-    FieldMenu,        ///< The context menu of text fields.
-    PaneHeader,       ///< The header of a pane.
-    PaneToggle,       ///< What folds a pane, above its header.
-    FlyoutHeader,     ///< The header of a flyout.
-    DialogFrame,      ///< What a dialog shows around what the page puts into it.
-    DialogIcon,       ///< The icon in front of its title.
+    FieldMenu,    ///< The context menu of text fields.
+    PaneHeader,   ///< The header of a pane.
+    PaneToggle,   ///< What folds a pane, above its header.
+    FlyoutHeader, ///< The header of a flyout.
+    DialogFrame,  ///< What a dialog shows around what the page puts into it.
+    DialogIcon,   ///< The icon in front of its title.
     DialogCloseButton,
     DialogScrollBars, ///< What moves its body.
     DialogVeil,       ///< What covers its body while it waits.

@@ -14,6 +14,7 @@
 #include <QtQml/qqml.h>
 #include <QtQuickTemplates2/private/qquickabstractbutton_p_p.h>
 
+#include <array>
 #include <utility>
 
 namespace tamble::client {
@@ -91,6 +92,7 @@ void RButtonBase::setSelected(bool selected)
         return;
     m_selected = selected;
     announceState();
+    feedStates();
     selectionChange();
     Q_EMIT selectedChanged();
 }
@@ -102,6 +104,7 @@ void RButtonBase::setConsistent(bool consistent)
     m_consistent = consistent;
     announceState();
     announce(*this, QAccessible::DescriptionChanged);
+    feedStates();
     selectionChange();
     Q_EMIT consistentChanged();
 }
@@ -282,9 +285,30 @@ void RButtonBase::useText()
     Q_EMIT plainTextChanged();
 }
 
+// All but "pressed": of `down` only a signal tells, and a connection takes more than a binding.
+void RButtonBase::feedStates()
+{
+    const std::array<FedStates::State, 5> states = {{
+        {StateHelper::Hovered, isHovered()},
+        {StateHelper::Disabled, !isEnabled()},
+        {StateHelper::Selected, m_selected},
+        {StateHelper::Inconsistent, !m_consistent},
+        {StateHelper::Focus, hasActiveFocus()},
+    }};
+    m_states.feed(*this, states);
+}
+
+void RButtonBase::hoverChange()
+{
+    QQuickAbstractButton::hoverChange();
+    feedStates();
+}
+
 void RButtonBase::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickAbstractButton::itemChange(change, data);
+    if (change == ItemActiveFocusHasChanged || change == ItemEnabledHasChanged)
+        feedStates();
     if (change == ItemVisibleHasChanged)
         clickOncePerKey();
 }

@@ -2,6 +2,7 @@
 
 #include "base/ControlExport.h"
 #include "base/SpokenControl.h"
+#include "style/FedStates.h"
 #include "style/StyleFollower.h"
 
 #include <QtGui/QColor>
@@ -17,7 +18,8 @@ class RButtonBasePrivate;
 class StyleSet;
 class StyleSetProps;
 
-/// The behaviour of all buttons: selection, which is not the template's check state, "mixed", Enter, and mnemonics.
+/// The behaviour of all buttons: selection, which is not the template's check state, "mixed", Enter, mnemonics, and
+/// most state words.
 ///
 /// Keys: Space presses, and clicks when it is released; Enter clicks when it is released, unless `enterClicks` is
 /// false. Esc lets go of a held Space without a click. Alt and the letter behind "&" click.
@@ -131,6 +133,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void nextCheckState() override;
+    void hoverChange() override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
     void buttonChange(ButtonChange change) override;
     void accessibilityActiveChanged(bool active) override;
@@ -142,13 +145,15 @@ private:
     Value followed(std::optional<Value> &known, Value (StyleSetProps::*read)());
     void onStyleChanged() override;
 
+    void feedStates();
     void useText();
     void clickOncePerKey();
     void announceState();
 
     PendingValue *m_pendingSelection = nullptr; // a child, made at the first click that edits
     StyleSet *m_styleSet = nullptr;             // the attached one, once it is followed
-    std::optional<QColor> m_sheetBackground;    // these four: empty until asked for
+    FedStates m_states;
+    std::optional<QColor> m_sheetBackground; // these four: empty until asked for
     std::optional<QColor> m_sheetColor;
     std::optional<QColor> m_sheetLineColor;
     std::optional<bool> m_sheetLineVisible;

@@ -2,6 +2,8 @@
 
 #include "base/PartComponents.h"
 
+#include <QtCore/QScopedValueRollback>
+
 namespace tamble::client {
 
 RControlBackground::RControlBackground(QQuickItem *parent)
@@ -20,8 +22,11 @@ void RControlBackground::setLineVisible(bool visible)
 
 QQuickRectangle *RControlBackground::line()
 {
-    if (!m_line)
-        m_line = qobject_cast<QQuickRectangle *>(PartComponents::makeItem(Part::ControlLine, *this));
+    // The bar reads `lineVisible`, whose binding may then be evaluated for the first time.
+    if (m_line || m_isMakingLine)
+        return m_line;
+    const QScopedValueRollback making(m_isMakingLine, true);
+    m_line = qobject_cast<QQuickRectangle *>(PartComponents::makeItem(Part::ControlLine, *this));
     return m_line;
 }
 

@@ -48,6 +48,7 @@ private:
     QQuickRectangle *m_line = nullptr;  // a child, made on demand
     QQuickItem *m_focusFrame = nullptr; // likewise
     bool m_lineVisible = false;
+    bool m_isMakingLine = false;
     bool m_focusVisible = false;
 };
 

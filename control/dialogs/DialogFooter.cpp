@@ -20,16 +20,41 @@ DialogFooter::DialogFooter(QQuickItem *parent)
     : QQuickItem(parent)
 {}
 
+DialogFooter::~DialogFooter()
+{
+    setListener(nullptr);
+}
+
+void DialogFooter::setListener(QQuickItemChangeListener *listener)
+{
+    for (const bool on : {false, true}) {
+        if (on)
+            m_listener = listener;
+        listenTo(m_standardRow, on);
+        listenTo(m_furtherRow, on);
+    }
+}
+
+void DialogFooter::listenTo(QQuickItem *row, bool on)
+{
+    if (!row || !m_listener)
+        return;
+    if (on)
+        QQuickItemPrivate::get(row)->addItemChangeListener(m_listener, QQuickItemPrivate::ImplicitWidth);
+    else
+        QQuickItemPrivate::get(row)->removeItemChangeListener(m_listener, QQuickItemPrivate::ImplicitWidth);
+}
+
 void DialogFooter::setStandardBox(QQuickDialogButtonBox *box)
 {
+    if (m_standardBox || !box)
+        return;
     m_standardBox = box;
     box->setParentItem(this);
     m_standardRow = new QQuickRow(box);
     box->setContentItem(m_standardRow);
     QQuickItemPrivate *self = QQuickItemPrivate::get(this);
     QQuickItemPrivate::get(box)->anchors()->setRight(self->right());
-    connect(box, &QQuickContainer::countChanged, this, &DialogFooter::buttonsChanged);
-    connect(m_standardRow, &QQuickItem::implicitWidthChanged, this, &DialogFooter::buttonsChanged);
 }
 
 QQuickItem &DialogFooter::furtherRow()
@@ -37,7 +62,7 @@ QQuickItem &DialogFooter::furtherRow()
     if (!m_furtherRow) {
         m_furtherRow = new QQuickRow(this);
         QQuickItemPrivate::get(m_furtherRow)->anchors()->setLeft(QQuickItemPrivate::get(this)->left());
-        connect(m_furtherRow, &QQuickItem::implicitWidthChanged, this, &DialogFooter::buttonsChanged);
+        listenTo(m_furtherRow, true);
     }
     return *m_furtherRow;
 }

@@ -31,14 +31,33 @@ DialogFrame::DialogFrame(QQuickItem *parent)
     m_border->setColor(Qt::transparent);
 }
 
+DialogFrame::~DialogFrame()
+{
+    listen(false);
+}
+
+RDialogBase *DialogFrame::dialog() const
+{
+    return m_dialog;
+}
+
+void DialogFrame::setDialog(RDialogBase *dialog)
+{
+    m_dialog = dialog;
+}
+
 void DialogFrame::setHeader(DialogHeader *header)
 {
+    if (m_header || !header)
+        return;
     m_header = header;
     header->setParentItem(this);
 }
 
 void DialogFrame::setFooter(DialogFooter *footer)
 {
+    if (m_footer || !footer)
+        return;
     m_footer = footer;
     footer->setParentItem(this);
 }
@@ -53,21 +72,44 @@ void DialogFrame::setBody(RDialogBody &body)
 {
     m_body = &body;
     body.setParentItem(m_view->contentItem());
-    for (auto signal : {&QQuickItem::implicitWidthChanged, &QQuickItem::implicitHeightChanged})
-        connect(&body, signal, this, &DialogFrame::measure);
     connect(&body, &RDialogBody::reachChanged, this, &DialogFrame::layOut);
+    listen(true);
     refresh();
 }
 
 void DialogFrame::componentComplete()
 {
     QQuickRectangle::componentComplete();
+    if (!m_dialog || !m_header || !m_footer)
+        return;
     m_header->setDialog(*m_dialog);
     m_header->stackBefore(m_border);
     m_footer->stackBefore(m_header);
     m_view->stackBefore(m_footer);
-    connect(m_footer, &DialogFooter::buttonsChanged, this, &DialogFrame::refresh);
-    connect(m_header->words(), &QQuickItem::implicitWidthChanged, this, &DialogFrame::refresh);
+}
+
+// At a tenth of the memory of connections.
+void DialogFrame::listen(bool on)
+{
+    const auto to = [this, on](QQuickItem *item, QQuickItemPrivate::ChangeTypes changes) {
+        if (item && on)
+            QQuickItemPrivate::get(item)->addItemChangeListener(this, changes);
+        else if (item)
+            QQuickItemPrivate::get(item)->removeItemChangeListener(this, changes);
+    };
+    to(m_body, QQuickItemPrivate::ImplicitWidth | QQuickItemPrivate::ImplicitHeight);
+    to(m_header ? m_header->words() : nullptr, QQuickItemPrivate::ImplicitWidth);
+    if (m_footer)
+        m_footer->setListener(on ? this : nullptr);
+}
+
+void DialogFrame::itemImplicitWidthChanged(QQuickItem *item)
+{
+    // The others make the header or the footer ask for more.
+    if (item == m_body)
+        measure();
+    else
+        refresh();
 }
 
 qreal DialogFrame::margin() const
@@ -83,7 +125,7 @@ qreal DialogFrame::lowerMargin() const
 
 void DialogFrame::refresh()
 {
-    if (!m_body)
+    if (!m_body || !m_dialog)
         return;
     setColor(m_dialog->ssBackground());
     m_border->border()->setColor(m_dialog->ssBorderColor());
@@ -99,8 +141,7 @@ void DialogFrame::measure()
 {
     const qreal width = std::max({leastFrameWidth * m_unit, m_header->implicitWidth(), m_footer->implicitWidth(),
                                   m_body->implicitWidth() + 2.0 * margin()});
-    const qreal height =
-        m_header->height() + m_footer->height() + m_body->implicitHeight() + margin() + lowerMargin();
+    const qreal height = m_header->height() + m_footer->height() + m_body->implicitHeight() + margin() + lowerMargin();
     setImplicitSize(std::ceil(std::min(width, m_dialog->maximumWidth())),
                     std::ceil(std::min(height, m_dialog->maximumHeight())));
     layOut();
@@ -128,8 +169,7 @@ void DialogFrame::layOut()
     // What cannot be narrower than the window lets it be is reached all the same.
     m_view->setContentWidth(std::max(m_view->width(), m_body->reach() + 2.0 * margin()));
     m_view->setContentHeight(m_body->height() + margin() + lowerMargin());
-    const bool scrolls =
-        m_view->contentHeight() > m_view->height() || m_view->contentWidth() > m_view->width();
+    const bool scrolls = m_view->contentHeight() > m_view->height() || m_view->contentWidth() > m_view->width();
     m_view->setInteractive(scrolls);
     m_view->setClip(scrolls);
     showScrollBars(scrolls && m_dialog->isVisible());
@@ -144,8 +184,7 @@ void DialogFrame::showScrollBars(bool shown)
         return;
     if (!isMade) {
         m_scrollBars->stackAfter(m_view);
-        auto *attached =
-            qobject_cast<QQuickScrollBarAttached *>(qmlAttachedPropertiesObject<QQuickScrollBar>(m_view));
+        auto *attached = qobject_cast<QQuickScrollBarAttached *>(qmlAttachedPropertiesObject<QQuickScrollBar>(m_view));
         attached->setVertical(m_scrollBars->property("vertical").value<QQuickScrollBar *>());
         attached->setHorizontal(m_scrollBars->property("horizontal").value<QQuickScrollBar *>());
     }
@@ -158,9 +197,13 @@ void DialogFrame::bringIntoView(const QRectF &area)
 {
     const qreal lowest = area.bottom() + 2.0 * margin() - m_view->height();
     const qreal rightmost = area.right() + 2.0 * margin() - m_view->width();
-    const auto within = [](qreal wanted, qreal room, qreal seen) { return std::max(0.0, std::min(wanted, room - seen)); };
-    m_view->setContentY(within(std::min(area.y(), std::max(m_view->contentY(), lowest)), m_view->contentHeight(), m_view->height()));
-    m_view->setContentX(within(std::min(area.x(), std::max(m_view->contentX(), rightmost)), m_view->contentWidth(), m_view->width()));
+    const auto within = [](qreal wanted, qreal room, qreal seen) {
+        return std::max(0.0, std::min(wanted, room - seen));
+    };
+    m_view->setContentY(
+        within(std::min(area.y(), std::max(m_view->contentY(), lowest)), m_view->contentHeight(), m_view->height()));
+    m_view->setContentX(
+        within(std::min(area.x(), std::max(m_view->contentX(), rightmost)), m_view->contentWidth(), m_view->width()));
 }
 
 void DialogFrame::scrollBy(qreal lines)

@@ -6,6 +6,7 @@
 #include <QtCore/QPointer>
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/private/qquickflickable_p.h>
+#include <QtQuick/private/qquickitemchangelistener_p.h>
 #include <QtQuick/private/qquickrectangle_p.h>
 
 namespace tamble::client {
@@ -15,23 +16,26 @@ class RDialogBody;
 
 /// What a dialog shows: its header, the body, which scrolls where it has no room, and its buttons. Laid out natively:
 /// the bindings for it would take longer than all that is in it.
-class DialogFrame : public QQuickRectangle
+class DialogFrame : public QQuickRectangle, private QQuickItemChangeListener
 {
     Q_OBJECT
     Q_MOC_INCLUDE("dialogs/RDialogBase.h")
     QML_NAMED_ELEMENT(RDialogFrameBase)
     Q_PROPERTY(tamble::client::RDialogBase *dialog READ dialog WRITE setDialog REQUIRED FINAL)
+    /// The part above the body, set once.
     Q_PROPERTY(tamble::client::DialogHeader *header READ header WRITE setHeader FINAL)
+    /// The part below the body, set once.
     Q_PROPERTY(tamble::client::DialogFooter *footer READ footer WRITE setFooter FINAL)
     Q_PROPERTY(QQuickItem *view READ view CONSTANT FINAL)
     Q_PROPERTY(qreal unit READ unit WRITE setUnit FINAL)
 
 public:
     explicit DialogFrame(QQuickItem *parent = nullptr);
+    ~DialogFrame() override;
 
     /// The dialog that is shown.
-    RDialogBase *dialog() const { return m_dialog; }
-    void setDialog(RDialogBase *dialog) { m_dialog = dialog; }
+    RDialogBase *dialog() const;
+    void setDialog(RDialogBase *dialog);
     DialogHeader *header() const { return m_header; }
     void setHeader(DialogHeader *header);
     DialogFooter *footer() const { return m_footer; }
@@ -42,6 +46,7 @@ public:
     qreal unit() const { return m_unit; }
     void setUnit(qreal unit);
 
+    /// Once, for the dialog's whole life.
     void setBody(RDialogBody &body);
     /// Shows what the dialog is like now.
     void refresh();
@@ -55,13 +60,16 @@ protected:
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 private:
+    void itemImplicitWidthChanged(QQuickItem *item) override;
+    void itemImplicitHeightChanged(QQuickItem *) override { measure(); }
+    void listen(bool on);
     qreal margin() const;
     qreal lowerMargin() const;
     void measure();
     void layOut();
     void showScrollBars(bool shown);
 
-    RDialogBase *m_dialog = nullptr; // which it is a part of
+    QPointer<RDialogBase> m_dialog;
     QPointer<DialogHeader> m_header;
     QPointer<DialogFooter> m_footer;
     QPointer<RDialogBody> m_body;

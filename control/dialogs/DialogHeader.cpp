@@ -26,12 +26,23 @@ constexpr qreal closeSpace = 40.0;
 
 DialogHeader::DialogHeader(QQuickItem *parent)
     : QQuickRectangle(parent)
+{}
+
+RDialogBase *DialogHeader::dialog() const
 {
+    return m_dialog;
+}
+
+void DialogHeader::setDialog(RDialogBase &dialog)
+{
+    m_dialog = &dialog;
     setAcceptedMouseButtons(Qt::LeftButton);
 }
 
 void DialogHeader::setWords(QQuickText *words)
 {
+    if (m_words || !words)
+        return;
     m_words = words;
     words->setParentItem(this);
     QQuickItemPrivate::get(words)->anchors()->setFill(this);
@@ -71,7 +82,8 @@ void DialogHeader::showParts()
 void DialogHeader::mousePressEvent(QMouseEvent *event)
 {
     m_pressed = event->scenePosition();
-    m_dialog->beginMove();
+    if (m_dialog)
+        m_dialog->beginMove();
 }
 
 void DialogHeader::mouseMoveEvent(QMouseEvent *event)
@@ -80,7 +92,7 @@ void DialogHeader::mouseMoveEvent(QMouseEvent *event)
     if (!keepMouseGrab() && way.manhattanLength() < QGuiApplication::styleHints()->startDragDistance())
         return;
     setKeepMouseGrab(true);
-    if (!m_dialog->isBusy())
+    if (m_dialog && !m_dialog->isBusy())
         m_dialog->moveBy(way);
 }
 

@@ -24,9 +24,9 @@ public:
     explicit DialogHeader(QQuickItem *parent = nullptr);
 
     /// The dialog that it belongs to.
-    RDialogBase *dialog() const { return m_dialog; }
-    void setDialog(RDialogBase &dialog) { m_dialog = &dialog; }
-    /// What shows the title.
+    RDialogBase *dialog() const;
+    void setDialog(RDialogBase &dialog);
+    /// What shows the title; set once.
     QQuickText *words() const { return m_words; }
     void setWords(QQuickText *words);
 
@@ -41,11 +41,11 @@ protected:
 private:
     void showParts();
 
-    RDialogBase *m_dialog = nullptr;      // which it is a part of
-    QPointer<QQuickText> m_words;         // these three are children
+    QPointer<RDialogBase> m_dialog;
+    QPointer<QQuickText> m_words; // these three are children
     QQuickItem *m_icon = nullptr;
     QQuickItem *m_closeButton = nullptr;
-    QPointF m_pressed;                    // in the scene
+    QPointF m_pressed; // in the scene
 };
 
 } // namespace tamble::client

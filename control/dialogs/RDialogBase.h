@@ -134,7 +134,7 @@ private:
     QPointer<QQuickItem> m_initialFocus;
     DialogPlace m_place;
     DialogButtons m_buttons;
-    QPointer<RDialogBody> m_body; ///< A child, made when the first thing is put into it.
+    QPointer<RDialogBody> m_body;  ///< A child, made when the first thing is put into it.
     QPointer<DialogFrame> m_frame; ///< Made when the dialog first opens.
     QQuickItem *m_veil = nullptr;  ///< Below the frame, made when it is first shown.
     DialogColors m_colors;

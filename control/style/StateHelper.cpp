@@ -3,6 +3,8 @@
 #include "style/StyleSet.h"
 
 #include <array>
+#include <bit>
+#include <cstddef>
 
 namespace tamble::client {
 
@@ -27,13 +29,38 @@ QString StateHelper::stateText(unsigned states)
     return text;
 }
 
-void StateHelper::assign(State state, bool value, void (StateHelper::*notify)())
+void StateHelper::give(State state, bool on)
 {
-    if (bool(m_states & state) == value)
+    m_given |= state;
+    assign(state, on);
+}
+
+void StateHelper::handBack(State state)
+{
+    m_given &= ~unsigned(state);
+    assign(state, m_fed & state);
+}
+
+void StateHelper::feed(State state, bool on)
+{
+    m_fed = on ? m_fed | state : m_fed & ~unsigned(state);
+    if (!(m_given & state))
+        assign(state, on);
+}
+
+void StateHelper::assign(State state, bool on)
+{
+    // In the order of the states' bits.
+    static constexpr std::array changeSignals = {
+        &StateHelper::pressedChanged,  &StateHelper::hoveredChanged,  &StateHelper::disabledChanged,
+        &StateHelper::readOnlyChanged, &StateHelper::selectedChanged, &StateHelper::inconsistentChanged,
+        &StateHelper::focusChanged,    &StateHelper::activeChanged,
+    };
+    if (bool(m_states & state) == on)
         return;
     m_states ^= state;
     m_styleSet.setState(stateText(m_states));
-    Q_EMIT(this->*notify)();
+    Q_EMIT(this->*changeSignals.at(std::size_t(std::countr_zero(unsigned(state)))))();
     Q_EMIT m_styleSet.stateChanged();
 }
 

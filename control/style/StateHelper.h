@@ -12,41 +12,66 @@ class StyleSet;
 
 /// The eight interaction states of a control, which write the state text of its style set. All are false by default.
 ///
-/// When a state changes, the style set has changed before the state's own notification is sent.
+/// Buttons and items on a workspace feed theirs themselves. What a page sets stays whatever they feed, until it sets
+/// `undefined`. When a state changes, the style set has changed before the state's own notification is sent.
 class TAMBLE_CLIENT_CONTROL_EXPORT StateHelper : public QObject
 {
     /// Each sets the word of its name in the state text: `hovered`, `selected`, `disabled`, `readOnly`, `inconsistent`,
     /// `focus`, `pressed`, `active`.
     Q_OBJECT
     QML_ANONYMOUS
-    Q_PROPERTY(bool hovered READ hovered WRITE setHovered NOTIFY hoveredChanged)
-    Q_PROPERTY(bool selected READ selected WRITE setSelected NOTIFY selectedChanged)
-    Q_PROPERTY(bool disabled READ disabled WRITE setDisabled NOTIFY disabledChanged)
-    Q_PROPERTY(bool readOnly READ readOnly WRITE setReadOnly NOTIFY readOnlyChanged)
-    Q_PROPERTY(bool inconsistent READ inconsistent WRITE setInconsistent NOTIFY inconsistentChanged)
-    Q_PROPERTY(bool focus READ focus WRITE setFocus NOTIFY focusChanged)
-    Q_PROPERTY(bool pressed READ pressed WRITE setPressed NOTIFY pressedChanged)
-    Q_PROPERTY(bool active READ active WRITE setActive NOTIFY activeChanged)
+    Q_PROPERTY(bool hovered READ hovered WRITE setHovered RESET resetHovered NOTIFY hoveredChanged)
+    Q_PROPERTY(bool selected READ selected WRITE setSelected RESET resetSelected NOTIFY selectedChanged)
+    Q_PROPERTY(bool disabled READ disabled WRITE setDisabled RESET resetDisabled NOTIFY disabledChanged)
+    Q_PROPERTY(bool readOnly READ readOnly WRITE setReadOnly RESET resetReadOnly NOTIFY readOnlyChanged)
+    Q_PROPERTY(
+        bool inconsistent READ inconsistent WRITE setInconsistent RESET resetInconsistent NOTIFY inconsistentChanged)
+    Q_PROPERTY(bool focus READ focus WRITE setFocus RESET resetFocus NOTIFY focusChanged)
+    Q_PROPERTY(bool pressed READ pressed WRITE setPressed RESET resetPressed NOTIFY pressedChanged)
+    Q_PROPERTY(bool active READ active WRITE setActive RESET resetActive NOTIFY activeChanged)
 
 public:
+    /// Bits, in the order of the words in the state text.
+    enum State : unsigned {
+        Pressed = 1,
+        Hovered = 2,
+        Disabled = 4,
+        ReadOnly = 8,
+        Selected = 16,
+        Inconsistent = 32,
+        Focus = 64,
+        Active = 128,
+    };
+
     explicit StateHelper(StyleSet &styleSet);
 
     bool hovered() const { return m_states & Hovered; }
-    void setHovered(bool hovered) { assign(Hovered, hovered, &StateHelper::hoveredChanged); }
+    void setHovered(bool on) { give(Hovered, on); }
+    void resetHovered() { handBack(Hovered); }
     bool selected() const { return m_states & Selected; }
-    void setSelected(bool selected) { assign(Selected, selected, &StateHelper::selectedChanged); }
+    void setSelected(bool on) { give(Selected, on); }
+    void resetSelected() { handBack(Selected); }
     bool disabled() const { return m_states & Disabled; }
-    void setDisabled(bool disabled) { assign(Disabled, disabled, &StateHelper::disabledChanged); }
+    void setDisabled(bool on) { give(Disabled, on); }
+    void resetDisabled() { handBack(Disabled); }
     bool readOnly() const { return m_states & ReadOnly; }
-    void setReadOnly(bool readOnly) { assign(ReadOnly, readOnly, &StateHelper::readOnlyChanged); }
+    void setReadOnly(bool on) { give(ReadOnly, on); }
+    void resetReadOnly() { handBack(ReadOnly); }
     bool inconsistent() const { return m_states & Inconsistent; }
-    void setInconsistent(bool inconsistent) { assign(Inconsistent, inconsistent, &StateHelper::inconsistentChanged); }
+    void setInconsistent(bool on) { give(Inconsistent, on); }
+    void resetInconsistent() { handBack(Inconsistent); }
     bool focus() const { return m_states & Focus; }
-    void setFocus(bool focus) { assign(Focus, focus, &StateHelper::focusChanged); }
+    void setFocus(bool on) { give(Focus, on); }
+    void resetFocus() { handBack(Focus); }
     bool pressed() const { return m_states & Pressed; }
-    void setPressed(bool pressed) { assign(Pressed, pressed, &StateHelper::pressedChanged); }
+    void setPressed(bool on) { give(Pressed, on); }
+    void resetPressed() { handBack(Pressed); }
     bool active() const { return m_states & Active; }
-    void setActive(bool active) { assign(Active, active, &StateHelper::activeChanged); }
+    void setActive(bool on) { give(Active, on); }
+    void resetActive() { handBack(Active); }
+
+    /// What the control itself says of a state, which counts as long as no page has set it.
+    void feed(State state, bool on);
 
 Q_SIGNALS:
     void hoveredChanged();
@@ -59,23 +84,15 @@ Q_SIGNALS:
     void activeChanged();
 
 private:
-    // In the order of the words in the state text.
-    enum State : unsigned {
-        Pressed = 1,
-        Hovered = 2,
-        Disabled = 4,
-        ReadOnly = 8,
-        Selected = 16,
-        Inconsistent = 32,
-        Focus = 64,
-        Active = 128,
-    };
-
     static QString stateText(unsigned states);
-    void assign(State state, bool value, void (StateHelper::*notify)());
+    void give(State state, bool on);
+    void handBack(State state);
+    void assign(State state, bool on);
 
     StyleSet &m_styleSet; // the parent
     unsigned m_states = 0;
+    unsigned m_given = 0; // by the page
+    unsigned m_fed = 0;
 };
 
 } // namespace tamble::client

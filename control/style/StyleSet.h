@@ -73,8 +73,8 @@ public:
     /// take 400 bytes for every item.
     void setFollower(StyleFollower *follower) { m_follower = follower; }
 
-    /// From now on the item itself calls onParentChanged() when it gets another parent or comes into a window. For items
-    /// that are moved by hundreds: Qt copies the list of an item's listeners whenever it moves the item.
+    /// From now on the item itself calls onParentChanged() when it gets another parent or comes into a window. For
+    /// items that are moved by hundreds: Qt copies the list of an item's listeners whenever it moves the item.
     void leaveParentToItem();
 
 public Q_SLOTS:

@@ -1,6 +1,5 @@
 #include "workspace/RWorkspaceBlock.h"
 
-#include "style/StateHelper.h"
 #include "style/StyleSet.h"
 #include "style/StyleTree.h"
 #include "workspace/BlockLook.h"
@@ -193,26 +192,16 @@ bool RWorkspaceBlock::fitLines()
     return std::exchange(m_lineWidth, width) != width;
 }
 
-// Natively and only where somebody sees it, since four bindings for each of thousands would be most of their cost. A
-// state is written when it has changed: what a page has set for good stays.
+// Only where somebody sees it, since even this counts with thousands of them.
 void RWorkspaceBlock::feedStates()
 {
-    using Setter = void (StateHelper::*)(bool);
-    const std::array<std::pair<Setter, bool>, 4> states = {{
-        {&StateHelper::setSelected, selected()},
-        {&StateHelper::setHovered, hovered()},
-        {&StateHelper::setFocus, keyFocus()},
-        {&StateHelper::setDisabled, !isEnabled()},
+    const std::array<FedStates::State, 4> states = {{
+        {StateHelper::Selected, selected()},
+        {StateHelper::Hovered, hovered()},
+        {StateHelper::Focus, keyFocus()},
+        {StateHelper::Disabled, !isEnabled()},
     }};
-    for (std::size_t i = 0; i < states.size(); ++i) {
-        const auto &[set, isOn] = states[i];
-        const unsigned bit = 1U << i;
-        if (bool(m_fedStates & bit) == isOn)
-            continue;
-        m_fedStates ^= bit;
-        auto *styleSet = static_cast<StyleSet *>(qmlAttachedPropertiesObject<StyleSet>(this));
-        (styleSet->stateHelper()->*set)(isOn);
-    }
+    m_states.feed(*this, states);
 }
 
 void RWorkspaceBlock::componentComplete()

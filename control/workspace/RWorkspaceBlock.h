@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ControlExport.h"
+#include "style/FedStates.h"
 #include "style/SheetColors.h"
 #include "workspace/WorkspaceItemBase.h"
 
@@ -117,7 +118,7 @@ private:
     qreal m_unit = 1.0;
     qreal m_lineWidth = 1.0;
     QMetaObject::Connection m_zoomConnection; // while in view
-    unsigned m_fedStates = 0;                 // bits in the order of their table
+    FedStates m_states;
 };
 
 } // namespace tamble::client

@@ -11,12 +11,8 @@ RFlyoutToolbarItemBase {
     ssColor: root.sheetColor
     ssLineColor: root.ssColor
 
-    RStyleSet.stateHelper.hovered: root.hovered
     RStyleSet.stateHelper.pressed: root.down
-    RStyleSet.stateHelper.disabled: !root.enabled
     RStyleSet.stateHelper.selected: root.consistent && root.selected
-    RStyleSet.stateHelper.inconsistent: !root.consistent
-    RStyleSet.stateHelper.focus: root.activeFocus
 
     implicitWidth: Math.max(40 * RThemeValues.unit, words.implicitWidth + 8 * RThemeValues.unit)
     implicitHeight: 40 * RThemeValues.unit

@@ -16,12 +16,8 @@ RTabButtonBase {
     ssLineColor: root.sheetLineColor
     ssLineVisible: root.RStyleSet.props.isSet("line-visible") && root.RStyleSet.props.lineVisible
 
-    RStyleSet.stateHelper.hovered: root.hovered
     RStyleSet.stateHelper.pressed: root.down
-    RStyleSet.stateHelper.disabled: !root.enabled
     RStyleSet.stateHelper.selected: root.consistent && root.selected
-    RStyleSet.stateHelper.inconsistent: !root.consistent
-    RStyleSet.stateHelper.focus: root.activeFocus
 
     implicitWidth: 144 * RThemeValues.unit
     implicitHeight: 32 * RThemeValues.unit

@@ -19,12 +19,7 @@ RButtonBase {
     ssLineColor: root.sheetLineColor
     ssLineVisible: root.sheetLineVisible
 
-    RStyleSet.stateHelper.hovered: root.hovered
     RStyleSet.stateHelper.pressed: root.down
-    RStyleSet.stateHelper.disabled: !root.enabled
-    RStyleSet.stateHelper.selected: root.selected
-    RStyleSet.stateHelper.inconsistent: !root.consistent
-    RStyleSet.stateHelper.focus: root.activeFocus
 
     implicitWidth: 144 * RThemeValues.unit
     implicitHeight: 32 * RThemeValues.unit

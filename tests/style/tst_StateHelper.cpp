@@ -25,6 +25,21 @@ private Q_SLOTS:
     }
     void words() { checkRow(); }
 
+    void whatAPageSetsHolds()
+    {
+        StyleSet styleSet;
+        StateHelper &helper = *styleSet.stateHelper();
+        helper.setFocus(false);
+        for (const bool fed : {true, false}) {
+            helper.feed(StateHelper::Focus, fed);
+            helper.feed(StateHelper::Hovered, fed);
+            QCOMPARE(styleSet.state(), fed ? QStringLiteral("hovered ") : QString());
+        }
+        helper.feed(StateHelper::Focus, true);
+        QVERIFY(helper.setProperty("focus", QVariant())); // as `undefined` does
+        QCOMPARE(styleSet.state(), QStringLiteral("focus "));
+    }
+
     void styleSetFollows()
     {
         StyleSet styleSet;
