@@ -112,6 +112,12 @@ void DialogFrame::itemImplicitWidthChanged(QQuickItem *item)
         refresh();
 }
 
+// Not while it is made, nor while the dialog goes.
+bool DialogFrame::isWhole() const
+{
+    return m_dialog && m_header && m_footer && m_body;
+}
+
 qreal DialogFrame::margin() const
 {
     return bodyMargin * m_unit;
@@ -125,7 +131,7 @@ qreal DialogFrame::lowerMargin() const
 
 void DialogFrame::refresh()
 {
-    if (!m_body || !m_dialog)
+    if (!isWhole())
         return;
     setColor(m_dialog->ssBackground());
     m_border->border()->setColor(m_dialog->ssBorderColor());
@@ -139,6 +145,8 @@ void DialogFrame::refresh()
 
 void DialogFrame::measure()
 {
+    if (!isWhole())
+        return;
     const qreal width = std::max({leastFrameWidth * m_unit, m_header->implicitWidth(), m_footer->implicitWidth(),
                                   m_body->implicitWidth() + 2.0 * margin()});
     const qreal height = m_header->height() + m_footer->height() + m_body->implicitHeight() + margin() + lowerMargin();
@@ -150,12 +158,14 @@ void DialogFrame::measure()
 void DialogFrame::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
     QQuickRectangle::geometryChange(newGeometry, oldGeometry);
-    if (m_body && newGeometry.size() != oldGeometry.size())
+    if (newGeometry.size() != oldGeometry.size())
         layOut();
 }
 
 void DialogFrame::layOut()
 {
+    if (!isWhole())
+        return;
     m_border->setSize(size());
     m_header->setWidth(width());
     m_footer->setY(height() - m_footer->height());

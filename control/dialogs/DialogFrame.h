@@ -63,6 +63,7 @@ private:
     void itemImplicitWidthChanged(QQuickItem *item) override;
     void itemImplicitHeightChanged(QQuickItem *) override { measure(); }
     void listen(bool on);
+    bool isWhole() const;
     qreal margin() const;
     qreal lowerMargin() const;
     void measure();
