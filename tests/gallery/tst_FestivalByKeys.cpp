@@ -51,9 +51,19 @@ struct Client
     {
         QTest::keyClick(window, key, modifiers);
         // Some scroll with the next frame.
+        nextFrame();
+    }
+    void nextFrame() const
+    {
         QSignalSpy frame(window, &QQuickWindow::frameSwapped);
         window->update();
         frame.wait(1000);
+    }
+    void zoom(int percent) const
+    {
+        QQmlExpression(qmlContext(window), window, QStringLiteral("theme.setDpZoomFactor(%1 / 100)").arg(percent))
+            .evaluate();
+        nextFrame();
     }
     QQuickItem *focused() const { return window->activeFocusItem(); }
     /// An item on the page that has a property; null for none.
@@ -141,6 +151,36 @@ private Q_SLOTS:
             QVERIFY2(met.size() > 1, "the focus is caught");
             client.press(Qt::Key_PageDown, Qt::ControlModifier);
             QTRY_VERIFY(client.window->property("ready").toBool());
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+    // On every page, of the catalogue too.
+    void focusStaysSeenAtAnotherSize_data()
+    {
+        QTest::addColumn<int>("page");
+        const PageList pages(QStringLiteral(":/Gallery"));
+        const QStringList names = pages.names();
+        for (int page = 0; page < names.size(); ++page)
+            QTest::newRow(qPrintable(names.at(page))) << page;
+    }
+    void focusStaysSeenAtAnotherSize()
+    {
+        QFETCH(const int, page);
+        const Client client(100, false);
+        QVERIFY(client.isReady());
+        client.window->setProperty("currentPage", page);
+        QTRY_VERIFY(client.window->property("ready").toBool());
+        QStringList faults;
+        QList<const QQuickItem *> met;
+        while (!met.contains(client.focused()) && met.size() < 60) {
+            met.append(client.focused());
+            for (const int percent : {75, 300, 150, 100}) {
+                client.zoom(percent);
+                if (const QString fault = faultOf(client); !fault.isEmpty())
+                    faults.append(QStringLiteral("stop %1, %2 %: %3").arg(met.size()).arg(percent).arg(fault));
+            }
+            client.press(Qt::Key_Tab);
         }
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }
