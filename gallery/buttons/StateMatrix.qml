@@ -12,7 +12,9 @@ Section {
     property var classes: ButtonLooks.classes
     property var looks: ButtonLooks.looks
 
-    readonly property real labelWidth: theme.dp(120)
+    /*! Whether the titles of the states stand above the buttons, which would be too small beside them. */
+    readonly property bool narrow: root.contentWidth < theme.dp(420)
+    readonly property real labelWidth: root.narrow ? 0 : theme.dp(120)
     readonly property real gap: theme.dp(8)
     readonly property real cellWidth: Math.floor((root.contentWidth - root.labelWidth) / root.classes.length - root.gap)
 
@@ -20,7 +22,7 @@ Section {
         spacing: root.gap
 
         Row {
-            leftPadding: root.labelWidth + root.gap
+            leftPadding: root.narrow ? 0 : root.labelWidth + root.gap
             spacing: root.gap
 
             // qmllint disable unqualified
@@ -42,29 +44,34 @@ Section {
         Repeater {
             model: root.looks
 
-            Row {
+            Grid {
                 id: look
 
                 required property var modelData
 
+                columns: root.narrow ? 1 : 2
                 spacing: root.gap
+                verticalItemAlignment: Grid.AlignVCenter
 
                 RText {
-                    width: root.labelWidth
-                    anchors.verticalCenter: parent.verticalCenter
+                    width: root.narrow ? root.contentWidth : root.labelWidth
                     text: look.modelData.title
                     elide: Text.ElideRight
                 }
-                Repeater {
-                    model: root.classes
+                Row {
+                    spacing: root.gap
 
-                    ButtonSample {
-                        required property string modelData
+                    Repeater {
+                        model: root.classes
 
-                        width: root.cellWidth
-                        sourceComponent: root.sample
-                        styleClass: modelData
-                        states: look.modelData.states
+                        ButtonSample {
+                            required property string modelData
+
+                            width: root.cellWidth
+                            sourceComponent: root.sample
+                            styleClass: modelData
+                            states: look.modelData.states
+                        }
                     }
                 }
             }

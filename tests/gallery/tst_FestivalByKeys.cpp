@@ -155,30 +155,27 @@ private Q_SLOTS:
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }
 
-    // On every page, of the catalogue too.
+    // In forms, lists, tables, rows of strips and accordions.
     void focusStaysSeenAtAnotherSize_data()
     {
-        QTest::addColumn<int>("page");
-        const PageList pages(QStringLiteral(":/Gallery"));
-        const QStringList names = pages.names();
-        for (int page = 0; page < names.size(); ++page)
-            QTest::newRow(qPrintable(names.at(page))) << page;
+        QTest::addColumn<QString>("page");
+        for (const char *page : {"festival-devices", "festival-routing", "festival-levels", "festival-settings",
+                                 "containers", "tables", "text"})
+            QTest::newRow(page) << QString::fromLatin1(page);
     }
     void focusStaysSeenAtAnotherSize()
     {
-        QFETCH(const int, page);
+        QFETCH(const QString, page);
         const Client client(100, false);
         QVERIFY(client.isReady());
-        client.window->setProperty("currentPage", page);
+        client.window->setProperty("currentPage", int(client.pages.indexOf(page)));
         QTRY_VERIFY(client.window->property("ready").toBool());
         QStringList faults;
-        QList<const QQuickItem *> met;
-        while (!met.contains(client.focused()) && met.size() < 60) {
-            met.append(client.focused());
-            for (const int percent : {75, 300, 150, 100}) {
+        for (int stop = 0; stop < 40; ++stop) {
+            for (const int percent : {75, 300, 100}) {
                 client.zoom(percent);
                 if (const QString fault = faultOf(client); !fault.isEmpty())
-                    faults.append(QStringLiteral("stop %1, %2 %: %3").arg(met.size()).arg(percent).arg(fault));
+                    faults.append(QStringLiteral("stop %1, %2 %: %3").arg(stop).arg(percent).arg(fault));
             }
             client.press(Qt::Key_Tab);
         }
