@@ -14,9 +14,9 @@ struct BarWidths
 /// How the room of a bar is shared out.
 struct BarPlan
 {
-    bool compact = false;    ///< Whether navigation shows icons without texts.
-    double navigation = 0.0; ///< Room for navigation in pixels; what does not fit is flicked.
-    double whole = 0.0;      ///< Width of all parts; where it is more than the bar's, they are flicked together.
+    bool compact = false;      ///< Whether navigation shows icons without texts.
+    double navigation = 0.0;   ///< Room for navigation in pixels; what does not fit is flicked.
+    double whole = 0.0;        ///< Width of all parts; where it is more than the bar's, they are flicked together.
     bool trailingStays = true; ///< Whether the trailing part stands still meanwhile.
 
     friend bool operator==(const BarPlan &, const BarPlan &) = default;

@@ -30,8 +30,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RAppBarBase : public QQuickToolBar
     Q_PROPERTY(bool compact READ isCompact NOTIFY compactChanged FINAL)
     /// Pixels that the navigation has room for.
     Q_PROPERTY(qreal navigationRoom READ navigationRoom NOTIFY navigationRoomChanged FINAL)
-    /// Pixels that the first row takes; where that is more than the bar's width, all of it is flicked, but for the end of
-    /// the bar where `trailingStays`.
+    /// Pixels that the first row takes; where that is more than the bar's width, all of it is flicked, but for the end
+    /// of the bar where `trailingStays`.
     Q_PROPERTY(qreal wholeWidth READ wholeWidth NOTIFY wholeWidthChanged FINAL)
     Q_PROPERTY(bool trailingStays READ doesTrailingStay NOTIFY trailingStaysChanged FINAL)
     /// Whether the second row has a visible child, and so shows.

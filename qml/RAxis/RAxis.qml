@@ -14,7 +14,7 @@ RAxisTemplate {
     property bool leftSided: false
 
     /*! Pixels from a tick to the end of the numbers to its right, which are wider than usual where one of them is. */
-    readonly property real numberRoom: Math.max(16 * RThemeValues.unit, metrics.widest(root.ticks) + 2 * RThemeValues.unit)
+    readonly property real numberRoom: Math.max(16 * RThemeValues.unit, metrics.widest(root.ticks) + 2 * RThemeValues.unit) // qmllint disable
 
     property color ssColor: root.RStyleSet.props.foreground
     property color ssTickColor: root.RStyleSet.props.tick

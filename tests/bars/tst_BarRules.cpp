@@ -14,15 +14,14 @@ class tst_BarRules : public QuietTest
 private Q_SLOTS:
     void plan_data()
     {
-        const auto row =
-            rowsOf([](const BarWidths &widths, double room, bool compact, double navigation, double whole,
-                      bool trailingStays) {
-                const BarPlan plan = planBar(widths, room, 144.0);
-                QCOMPARE(plan.compact, compact);
-                QCOMPARE(plan.navigation, navigation);
-                QCOMPARE(plan.whole, whole);
-                QCOMPARE(plan.trailingStays, trailingStays);
-            });
+        const auto row = rowsOf([](const BarWidths &widths, double room, bool compact, double navigation, double whole,
+                                   bool trailingStays) {
+            const BarPlan plan = planBar(widths, room, 144.0);
+            QCOMPARE(plan.compact, compact);
+            QCOMPARE(plan.navigation, navigation);
+            QCOMPARE(plan.whole, whole);
+            QCOMPARE(plan.trailingStays, trailingStays);
+        });
         const BarWidths widths{100.0, 500.0, 240.0, 200.0};
         row("all fits", widths, 1000.0, false, 500.0, 1000.0, true);
         row("to the pixel", widths, 800.0, false, 500.0, 800.0, true);
