@@ -8,7 +8,7 @@
 namespace tamble::client {
 
 /// Keeps what has the keyboard focus in sight while the interface of the window around it gets another size, which
-/// would move it out of the views that scroll it. Seen itself it is nothing.
+/// would move it out of the views that scroll it. It shows nothing itself.
 class TAMBLE_CLIENT_CONTROL_EXPORT FocusReveal : public QQuickItem
 {
     Q_OBJECT

@@ -13,8 +13,8 @@ Section {
     property var looks: ButtonLooks.looks
 
     /*! Whether the titles of the states stand above the buttons, which would be too small beside them. */
-    readonly property bool narrow: root.contentWidth < theme.dp(420)
-    readonly property real labelWidth: root.narrow ? 0 : theme.dp(120)
+    readonly property bool narrow: root.contentWidth < theme.dp(420) && root.classes.length > 2
+    readonly property real labelWidth: root.narrow ? -root.gap : theme.dp(120)
     readonly property real gap: theme.dp(8)
     readonly property real cellWidth: Math.floor((root.contentWidth - root.labelWidth) / root.classes.length - root.gap)
 
@@ -22,7 +22,7 @@ Section {
         spacing: root.gap
 
         Row {
-            leftPadding: root.narrow ? 0 : root.labelWidth + root.gap
+            leftPadding: root.labelWidth + root.gap
             spacing: root.gap
 
             // qmllint disable unqualified
