@@ -27,7 +27,7 @@ ThemedTestCase {
 
     function test_wideNumbersStandClearOfTheTicks() {
         const axis = make("RAxis { maxValue: 20000; tickCount: 4 }")
-        const numbers = axis.children.filter(tick => tick.children.length > 0).map(tick => tick.children[0])
+        const numbers = Array.from(axis.children).filter(tick => tick.children.length > 0).map(tick => tick.children[0])
         verify(numbers.every(number => number.x >= 5), "\u2212 would be read")
         verify(numbers.every(number => number.x + number.width === numbers[0].x + numbers[0].width))
     }
