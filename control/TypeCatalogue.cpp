@@ -92,6 +92,7 @@
 #include "pointer/RMouseDetection.h"
 #include "pointer/RMouseEventSpy.h"
 #include "screen/RScreen.h"
+#include "scrolling/FocusReveal.h"
 #include "scrolling/RStripRow.h"
 #include "style/SheetName.h"
 #include "style/StateHelper.h"
@@ -435,6 +436,7 @@ void registerInternals(const Registrar &registrar)
     registrar.withLaterProperties<QQuickTextEdit>();
     registrar.withLaterProperties<QQuickTextArea>();
     registrar.creatable<RBoxShadowBase>("RBoxShadowBase");
+    registrar.creatable<FocusReveal>("RFocusReveal");
     registrar.singleton<RPlotRules>("RPlotRules");
     registrar.creatable<SheetName>("RSheetName");
     registrar.creatable<RTintedImage>("RTintedImage");

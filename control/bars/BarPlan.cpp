@@ -10,7 +10,8 @@ BarPlan planBar(const BarWidths &widths, double room, double leastNavigation)
     const bool compact = widths.navigation > left;
     const double wanted = compact ? widths.compactNavigation : widths.navigation;
     const double navigation = left < std::min(wanted, leastNavigation) ? wanted : std::min(wanted, left);
-    return {compact, navigation, std::max(room, widths.leading + navigation + widths.trailing)};
+    const double whole = std::max(room, widths.leading + navigation + widths.trailing);
+    return {compact, navigation, whole, whole <= room || room - widths.trailing >= leastNavigation};
 }
 
 } // namespace tamble::client

@@ -13,7 +13,7 @@ namespace tamble::client {
 
 namespace {
 
-/// In density-independent units; with less room for the navigation, the whole row is flicked.
+/// In density-independent units; with less room for the navigation, more of the row than that is flicked.
 constexpr double leastNavigation = 144.0;
 
 /// In density-independent units: what the arrows at the ends of a flicked row cover.
@@ -144,6 +144,8 @@ void RAppBarBase::usePlan(const BarPlan &plan)
         Q_EMIT navigationRoomChanged();
     if (before.whole != plan.whole)
         Q_EMIT wholeWidthChanged();
+    if (before.trailingStays != plan.trailingStays)
+        Q_EMIT trailingStaysChanged();
 }
 
 void RAppBarBase::reveal(const QQuickItem *item)
@@ -166,16 +168,20 @@ RAppBarBase::Place RAppBarBase::placeOf(const QQuickItem *item) const
 
 FocusRow RAppBarBase::buttonsAt(Place place) const
 {
-    QList<RButtonBase *> buttons;
-    if (!hasRows())
-        return FocusRow(std::move(buttons));
-    if (place == Place::SubRow) {
-        collectButtons(*m_subRow, buttons);
-    } else if (place == Place::MainRow) {
-        for (const QQuickItem *row : {leadingRow(), navigationRow(), trailingRow()})
-            collectButtons(*row, buttons);
+    FocusRow found;
+    if (!hasRows() || place == Place::Elsewhere)
+        return found;
+    QList<const QQuickItem *> rows{m_subRow};
+    if (place == Place::MainRow)
+        rows = {leadingRow(), navigationRow(), trailingRow()};
+    if (isMirrored())
+        std::reverse(rows.begin(), rows.end());
+    for (const QQuickItem *row : std::as_const(rows)) {
+        QList<RButtonBase *> buttons;
+        collectButtons(*row, buttons);
+        found.append(FocusRow(std::move(buttons)));
     }
-    return FocusRow(std::move(buttons));
+    return found;
 }
 
 void RAppBarBase::followFocus()

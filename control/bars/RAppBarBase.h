@@ -30,8 +30,10 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RAppBarBase : public QQuickToolBar
     Q_PROPERTY(bool compact READ isCompact NOTIFY compactChanged FINAL)
     /// Pixels that the navigation has room for.
     Q_PROPERTY(qreal navigationRoom READ navigationRoom NOTIFY navigationRoomChanged FINAL)
-    /// Pixels that the first row takes; where that is more than the bar's width, all of it is flicked.
+    /// Pixels that the first row takes; where that is more than the bar's width, all of it is flicked, but for the end
+    /// of the bar where `trailingStays`.
     Q_PROPERTY(qreal wholeWidth READ wholeWidth NOTIFY wholeWidthChanged FINAL)
+    Q_PROPERTY(bool trailingStays READ doesTrailingStay NOTIFY trailingStaysChanged FINAL)
     /// Whether the second row has a visible child, and so shows.
     Q_PROPERTY(bool subNavVisible READ isSubNavVisible NOTIFY subNavVisibleChanged FINAL)
 
@@ -50,6 +52,7 @@ public:
     bool isCompact() const { return m_plan.compact; }
     qreal navigationRoom() const { return m_plan.navigation; }
     qreal wholeWidth() const { return m_plan.whole; }
+    bool doesTrailingStay() const { return m_plan.trailingStays; }
     bool isSubNavVisible() const { return m_isSubNavVisible; }
 
     /// To be called when a part may have another width, or another page is chosen, which is then shown.
@@ -61,6 +64,7 @@ Q_SIGNALS:
     void compactChanged();
     void navigationRoomChanged();
     void wholeWidthChanged();
+    void trailingStaysChanged();
     void subNavVisibleChanged();
 
 protected:

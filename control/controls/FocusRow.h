@@ -16,6 +16,9 @@ public:
     FocusRow() = default;
     explicit FocusRow(QList<RButtonBase *> buttons);
 
+    /// Adds buttons that stand to the right of all before them, or would if nothing scrolled.
+    void append(const FocusRow &more) { m_buttons += more.m_buttons; }
+
     const QList<RButtonBase *> &buttons() const { return m_buttons; }
     bool contains(const QQuickItem *item) const;
 

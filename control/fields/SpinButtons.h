@@ -23,7 +23,7 @@ public:
     void enable(bool minus, bool plus, int pressed);
 
 private:
-    std::array<QQuickRectangle *, 3> m_bars; ///< Children: of "minus", and the two of "plus".
+    std::array<QQuickRectangle *, 4> m_bars; ///< Children: of "minus", and those of "plus": across, above, below.
 };
 
 } // namespace tamble::client

@@ -12,7 +12,9 @@ Section {
     property var classes: ButtonLooks.classes
     property var looks: ButtonLooks.looks
 
-    readonly property real labelWidth: theme.dp(120)
+    /*! Whether the titles of the states stand above the buttons, which would be too small beside them. */
+    readonly property bool narrow: root.contentWidth < theme.dp(420) && root.classes.length > 2
+    readonly property real labelWidth: root.narrow ? -root.gap : theme.dp(120)
     readonly property real gap: theme.dp(8)
     readonly property real cellWidth: Math.floor((root.contentWidth - root.labelWidth) / root.classes.length - root.gap)
 
@@ -42,29 +44,34 @@ Section {
         Repeater {
             model: root.looks
 
-            Row {
+            Grid {
                 id: look
 
                 required property var modelData
 
+                columns: root.narrow ? 1 : 2
                 spacing: root.gap
+                verticalItemAlignment: Grid.AlignVCenter
 
                 RText {
-                    width: root.labelWidth
-                    anchors.verticalCenter: parent.verticalCenter
+                    width: root.narrow ? root.contentWidth : root.labelWidth
                     text: look.modelData.title
                     elide: Text.ElideRight
                 }
-                Repeater {
-                    model: root.classes
+                Row {
+                    spacing: root.gap
 
-                    ButtonSample {
-                        required property string modelData
+                    Repeater {
+                        model: root.classes
 
-                        width: root.cellWidth
-                        sourceComponent: root.sample
-                        styleClass: modelData
-                        states: look.modelData.states
+                        ButtonSample {
+                            required property string modelData
+
+                            width: root.cellWidth
+                            sourceComponent: root.sample
+                            styleClass: modelData
+                            states: look.modelData.states
+                        }
                     }
                 }
             }

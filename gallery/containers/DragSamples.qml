@@ -36,7 +36,7 @@ Column {
     Surface {
         width: parent.width
         height: theme.dp(64)
-        RStyleSet.typeName: "RFlyoutToolbar"
+        RStyleSet.typeName: "RFlyoutWindow"
 
         RText {
             anchors.centerIn: parent
@@ -60,7 +60,7 @@ Column {
         id: ground
         width: parent.width
         height: theme.dp(96)
-        RStyleSet.typeName: "RFlyoutToolbar"
+        RStyleSet.typeName: "RFlyoutWindow"
 
         RText {
             anchors.right: parent.right

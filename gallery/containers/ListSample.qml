@@ -19,6 +19,6 @@ Column {
         id: area
         width: parent.width
         height: theme.dp(192)
-        RStyleSet.typeName: "RFlyoutToolbar"
+        RStyleSet.typeName: "RFlyoutWindow"
     }
 }

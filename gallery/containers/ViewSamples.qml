@@ -15,23 +15,22 @@ Column {
         width: parent.width
         spacing: theme.dp(8)
 
-        RButtonRow {
-            // qmllint disable unqualified
-            Repeater {
-                model: container.views
+        // qmllint disable unqualified
+        Repeater {
+            model: container.views
 
-                RButton {
-                    required property var modelData
+            RButton {
+                required property var modelData
 
-                    width: theme.dp(112)
-                    text: modelData.title
-                    selected: container.currentKey === modelData.key
-                    onClicked: container.show(modelData.key)
-                }
+                width: theme.dp(112)
+                text: modelData.title
+                selected: container.currentKey === modelData.key
+                onClicked: container.show(modelData.key)
             }
-            // qmllint enable unqualified
         }
+        // qmllint enable unqualified
         RButtonIcon {
+            width: theme.dp(32)
             label: qsTr("Back")
             iconItem.key: "chevron-left"
             enabled: container.history.length > 0
@@ -46,7 +45,7 @@ Column {
     Surface {
         width: parent.width
         height: theme.dp(208)
-        RStyleSet.typeName: "RFlyoutToolbar"
+        RStyleSet.typeName: "RFlyoutWindow"
 
         RViewContainer {
             id: container

@@ -92,6 +92,7 @@ Column {
             text: qsTr("°C")
             model: rows
             role: "temperature"
+            numbers: true
         }
     }
     ListView {

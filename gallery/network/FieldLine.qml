@@ -5,7 +5,7 @@ import TambleClient.Control 1.0
 
 /*! A line of a form: the caption of a field, the control that edits it, what became of the last request, and what the
     devices really have. Esc gives up a request that failed, Enter repeats it. */
-RowLayout {
+GridLayout {
     id: root
 
     required property DeviceSelection target
@@ -17,6 +17,8 @@ RowLayout {
     readonly property alias source: source
 
     readonly property bool failed: source.errorText.length > 0
+    /*! Whether the answers stand below the control, as they have no room beside it. */
+    readonly property bool narrow: root.width < theme.dp(400)
 
     function repeat(event: var) {
         event.accepted = root.failed
@@ -24,7 +26,8 @@ RowLayout {
             source.request(source.shown)
     }
 
-    spacing: theme.dp(12)
+    columnSpacing: theme.dp(12)
+    rowSpacing: 0
     Keys.onEscapePressed: event => {
         event.accepted = root.failed
         source.dismiss()
@@ -44,12 +47,18 @@ RowLayout {
     }
     Item {
         id: place
+        Layout.fillWidth: root.narrow
         Layout.preferredWidth: theme.dp(168)
         implicitHeight: root.editor.height
     }
     ColumnLayout {
+        Layout.row: root.narrow ? 1 : 0
+        Layout.column: root.narrow ? 1 : 2
+        Layout.columnSpan: root.narrow ? 2 : 1
         Layout.fillWidth: true
         Layout.preferredWidth: 1
+        // The form does not jump with each request.
+        Layout.minimumHeight: root.narrow ? (root.target.observed ? 2 : 1) * theme.dp(14) : 0
         spacing: 0
 
         RText {
@@ -74,6 +83,8 @@ RowLayout {
     }
     // qmllint disable unqualified
     Loader {
+        Layout.row: 0
+        Layout.column: root.narrow ? 2 : 3
         Layout.preferredWidth: theme.dp(28)
         active: root.target.observed
         visible: root.target.observed

@@ -39,7 +39,7 @@ GalleryPage {
         }
         Section {
             title: qsTr("64 x 64 crosspoints")
-            note: qsTr("On a TableView. Every third input has a signal.")
+            note: qsTr("On a TableView. Every third input has a signal, and a loudspeaker tells where it goes.")
 
             LargeMatrix {
                 width: parent.width

@@ -29,7 +29,7 @@ GalleryPage {
     TileGrid {
         Section {
             title: qsTr("Network settings")
-            note: qsTr("Enter sends a text to all chosen amplifiers. Beside the field: what became of it, and what the devices really have.")
+            note: qsTr("Enter sends a text to all chosen amplifiers. Beside the field or below it: what became of it, and what the devices really have.")
 
             DeviceChooser {
                 id: chooser

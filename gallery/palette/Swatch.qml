@@ -23,6 +23,23 @@ Item {
 
     implicitHeight: theme.dp(24)
 
+    // Shows through colours that are not opaque.
+    // qmllint disable unqualified
+    Repeater {
+        model: ground.color.a < 1 && root.value.isColor ? 4 : 0
+
+        Rectangle {
+            required property int index
+
+            x: index * theme.dp(10)
+            y: theme.dp(index % 2 === 0 ? 2 : 12)
+            width: theme.dp(10)
+            height: theme.dp(10)
+            color: ground.border.color
+            Accessible.ignored: true
+        }
+    }
+    // qmllint enable unqualified
     Rectangle {
         id: ground
         y: theme.dp(2)

@@ -19,10 +19,12 @@ Item {
         RStyleSet.typeName: "RPane"
     }
     Image {
+        id: picture
         x: (root.width - width) / 2
         y: theme.dp(64) - height / 2
-        width: theme.dp(implicitWidth)
-        height: theme.dp(implicitHeight)
+        // A pixel of the file is a unit of the interface, on displays of any resolution.
+        width: theme.dp(picture.sourceSize.width)
+        height: theme.dp(picture.sourceSize.height)
         source: "image://tamble/" + root.pictureId
         Accessible.role: Accessible.Graphic
         Accessible.name: root.pictureId

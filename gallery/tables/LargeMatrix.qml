@@ -42,6 +42,7 @@ TableView {
         selectable: true
         selected: crosspoint.routed
         active: crosspoint.hasSignal
+        iconKey: crosspoint.routed && crosspoint.hasSignal ? "loudspeaker" : ""
         onSelectionEdited: selected => root.model.route(crosspoint.row, crosspoint.column, selected)
     }
     // qmllint enable unqualified

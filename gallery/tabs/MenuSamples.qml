@@ -56,7 +56,7 @@ Column {
         id: area
         width: parent.width
         height: theme.dp(96)
-        RStyleSet.typeName: "RFlyoutToolbar"
+        RStyleSet.typeName: "RFlyoutWindow"
         activeFocusOnTab: true
         Keys.onMenuPressed: contextMenu.popupAt(area)
 

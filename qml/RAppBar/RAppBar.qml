@@ -20,9 +20,11 @@ RAppBarBase {
 
     property color ssBackground: root.RStyleSet.props.background
 
-    /*! Pixels: the height of the first row (`rowHeight`), and what is left beside the title (`gap`). */
+    /*! Pixels: the height of the first row (`rowHeight`), what is left beside the title (`gap`), and what stands still
+        at the end of the row (`stillWidth`). */
     readonly property real rowHeight: 48 * RThemeValues.unit
     readonly property real gap: 16 * RThemeValues.unit
+    readonly property real stillWidth: root.trailingStays ? trailingItems.width : 0
 
     leadingRow: leadingItems
     navigationRow: navigationItems
@@ -37,17 +39,20 @@ RAppBarBase {
         color: root.ssBackground
     }
     contentItem: Item { // qmllint disable deferred-property-id
+        id: rows
         LayoutMirroring.enabled: root.mirrored
         LayoutMirroring.childrenInherit: true
 
         RAppBarView {
-            width: parent.width
+            anchors.left: parent.left
+            width: parent.width - root.stillWidth
             height: root.rowHeight
-            contentWidth: root.wholeWidth
+            contentWidth: root.wholeWidth - root.stillWidth
             ground: root.ssBackground
 
             Item {
-                width: root.wholeWidth
+                id: flicked
+                width: root.wholeWidth - root.stillWidth
                 height: root.rowHeight
 
                 Row {
@@ -75,8 +80,8 @@ RAppBarBase {
 
                     anchors.left: navigationView.right
                     anchors.leftMargin: root.gap
-                    anchors.right: trailingItems.left
-                    anchors.rightMargin: root.gap
+                    anchors.right: parent.right
+                    anchors.rightMargin: root.gap + (root.trailingStays ? 0 : trailingItems.width)
                     height: parent.height
                     visible: width > 2 * root.gap
                     text: root.title
@@ -84,13 +89,14 @@ RAppBarBase {
                     horizontalAlignment: Text.AlignHCenter
                     Accessible.ignored: true
                 }
-                Row {
-                    id: trailingItems
-                    anchors.right: parent.right
-                    height: parent.height
-                    spacing: RThemeValues.unit
-                }
             }
+        }
+        Row {
+            id: trailingItems
+            parent: root.trailingStays ? rows : flicked
+            anchors.right: parent.right
+            height: root.rowHeight
+            spacing: RThemeValues.unit
         }
         Rectangle {
             id: subGround

@@ -85,8 +85,8 @@ RAppBarStateButtonBase {
             }
         }
         RIcon {
-            x: root.mirrored ? root.width - width - root.margin / 2 : root.margin / 2
-            y: root.margin / 2
+            // In the corner, clear of the longest text.
+            x: root.mirrored ? root.width - width : 0
             visible: !root.consistent
             key: "dash"
             sizeClass: "XS"

@@ -126,6 +126,9 @@ T.ApplicationWindow {
         engine.onException: (type, message) => root.styleException(type, message)
     }
     RWindowPalette {}
+    RFocusReveal {
+        settled: theme.dpLoadFlag
+    }
     Shortcut {
         enabled: root.zoomShortcuts
         sequences: ["Ctrl++", "Ctrl+="]

@@ -13,6 +13,9 @@ RAxisTemplate {
     /*! Numbers to the left of the ticks instead of to their right. */
     property bool leftSided: false
 
+    /*! Pixels from a tick to the end of the numbers to its right, which are wider than usual where one of them is. */
+    readonly property real numberRoom: Math.max(16 * RThemeValues.unit, metrics.widest(root.ticks) + 2 * RThemeValues.unit) // qmllint disable
+
     property color ssColor: root.RStyleSet.props.foreground
     property color ssTickColor: root.RStyleSet.props.tick
 
@@ -22,6 +25,16 @@ RAxisTemplate {
     implicitHeight: 280 * RThemeValues.unit
     Accessible.ignored: true
 
+    FontMetrics {
+        id: metrics
+
+        function widest(ticks: var): real {
+            return Math.max(0, ...Array.from(ticks, tick => metrics.advanceWidth(tick.label)))
+        }
+
+        font.family: RThemeValues.fontFamily
+        font.pixelSize: RThemeValues.fontSizeXS
+    }
     Repeater {
         model: root.ticks // qmllint disable
 
@@ -39,7 +52,7 @@ RAxisTemplate {
             RText {
                 id: number
                 // Not by alignment, which a page could mirror.
-                x: (root.leftSided ? -4 * RThemeValues.unit : tick.width + 16 * RThemeValues.unit) - number.width
+                x: (root.leftSided ? -4 * RThemeValues.unit : tick.width + root.numberRoom) - number.width
                 y: (tick.height - number.height) / 2
                 text: tick.modelData.label
                 color: root.ssColor

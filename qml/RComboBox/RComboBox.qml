@@ -52,6 +52,7 @@ RComboBoxBase {
             width: root.width
             height: (root.activeFocus ? 2 : 1) * RThemeValues.unit
             color: root.ssLineColor
+            opacity: root.enabled ? 1 : 0.5
         }
     }
 
@@ -62,7 +63,7 @@ RComboBoxBase {
         height: root.height - 3 * RThemeValues.unit
         color: root.hovered ? root.ssIndicatorBackgroundHover : root.ssIndicatorBackground
         arrowColor: root.ssColor
-        opacity: root.enabled ? 1 : 0.4
+        opacity: root.enabled && !root.readOnly ? 1 : 0.4
     }
 
     popup: RComboBoxPopup { // qmllint disable deferred-property-id

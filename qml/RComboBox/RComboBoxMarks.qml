@@ -10,6 +10,7 @@ Item {
 
     anchors.fill: parent
     visible: !root.comboBox.editable
+    opacity: root.comboBox.enabled ? 1 : 0.5
 
     Shared.RStyleProbe {
         id: style

@@ -24,9 +24,12 @@ RTextField {
     /*! Drawn behind the number, not part of what is typed; none by default. */
     property alias unit: unit.text
 
+    /*! Pixels that the marks at the end take: none for the flag of a mixed one, which has the corner. */
+    readonly property real marksWidth: (root.edit.edited || !root.edit.confirmed || !root.edit.acceptable ? 16 : 0) * RThemeValues.unit
+
     horizontalAlignment: TextInput.AlignRight
     inputMethodHints: Qt.ImhFormattedNumbersOnly
-    rightPadding: (8 + (root.edit.marked ? 16 : 0)) * RThemeValues.unit + (unit.visible ? unit.implicitWidth + 4 * RThemeValues.unit : 0)
+    rightPadding: 8 * RThemeValues.unit + root.marksWidth + (unit.visible ? unit.implicitWidth + 4 * RThemeValues.unit : 0)
 
     RNumberSteps {
         id: steps
@@ -37,7 +40,7 @@ RTextField {
     }
     RText {
         id: unit
-        x: root.effectiveHorizontalAlignment === TextInput.AlignLeft ? Math.min(root.leftPadding + root.contentWidth, root.width - root.rightPadding) + 4 * RThemeValues.unit : root.width - unit.implicitWidth - (8 + (root.edit.marked ? 16 : 0)) * RThemeValues.unit
+        x: root.effectiveHorizontalAlignment === TextInput.AlignLeft ? Math.min(root.leftPadding + root.contentWidth, root.width - root.rightPadding) + 4 * RThemeValues.unit : root.width - unit.implicitWidth - 8 * RThemeValues.unit - root.marksWidth
         height: root.height
         color: root.color
         verticalAlignment: Text.AlignVCenter

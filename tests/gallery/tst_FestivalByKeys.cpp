@@ -51,9 +51,19 @@ struct Client
     {
         QTest::keyClick(window, key, modifiers);
         // Some scroll with the next frame.
+        nextFrame();
+    }
+    void nextFrame() const
+    {
         QSignalSpy frame(window, &QQuickWindow::frameSwapped);
         window->update();
         frame.wait(1000);
+    }
+    void zoom(int percent) const
+    {
+        QQmlExpression(qmlContext(window), window, QStringLiteral("theme.setDpZoomFactor(%1 / 100)").arg(percent))
+            .evaluate();
+        nextFrame();
     }
     QQuickItem *focused() const { return window->activeFocusItem(); }
     /// An item on the page that has a property; null for none.
@@ -141,6 +151,35 @@ private Q_SLOTS:
             QVERIFY2(met.size() > 1, "the focus is caught");
             client.press(Qt::Key_PageDown, Qt::ControlModifier);
             QTRY_VERIFY(client.window->property("ready").toBool());
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+    // In forms, tables, rows of strips and accordions.
+    void focusStaysSeenAtAnotherSize_data()
+    {
+        QTest::addColumn<QString>("page");
+        for (const char *page : {"festival-devices", "festival-levels", "containers", "tables"})
+            QTest::newRow(page) << QString::fromLatin1(page);
+    }
+    void focusStaysSeenAtAnotherSize()
+    {
+        QFETCH(const QString, page);
+        const Client client(100, false);
+        QVERIFY(client.isReady());
+        client.window->setProperty("currentPage", int(client.pages.indexOf(page)));
+        QTRY_VERIFY(client.window->property("ready").toBool());
+        QStringList faults;
+        for (int stop = 0; stop < 30; ++stop) {
+            client.press(Qt::Key_Tab);
+            // Not at each stop, for time.
+            for (const int percent : {300, 75}) {
+                if (stop % 3 > 0)
+                    break;
+                client.zoom(percent);
+                if (const QString fault = faultOf(client); !fault.isEmpty())
+                    faults.append(QStringLiteral("stop %1, %2 %: %3").arg(stop).arg(percent).arg(fault));
+            }
         }
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }

@@ -8,6 +8,12 @@ FestivalPage {
 
     readonly property bool wide: root.width >= theme.dp(840)
 
+    // Where both have no room, the one with the focus stays.
+    onWideChanged: {
+        if (!root.wide && (list.activeFocus || details.activeFocus))
+            Festival.showsDetails = details.activeFocus
+    }
+
     title: qsTr("Devices")
 
     DeviceList {
@@ -20,6 +26,7 @@ FestivalPage {
         onOpened: Festival.showsDetails = true
     }
     DeviceDetails {
+        id: details
         x: root.wide ? list.width + theme.dp(16) : 0
         width: parent.width - x
         height: parent.height

@@ -25,6 +25,13 @@ ThemedTestCase {
         compare(number.y + number.height / 2, 0.5, "centred on its tick")
     }
 
+    function test_wideNumbersStandClearOfTheTicks() {
+        const axis = make("RAxis { maxValue: 20000; tickCount: 4 }")
+        const numbers = Array.from(axis.children).filter(tick => tick.children.length > 0).map(tick => tick.children[0])
+        verify(numbers.every(number => number.x >= 5), "\u2212 would be read")
+        verify(numbers.every(number => number.x + number.width === numbers[0].x + numbers[0].width))
+    }
+
     function test_ticksFollowTheRange() {
         const axis = make("RAxis { maxValue: 10; tickCount: 10 }")
         axis.minValue = -10
