@@ -14,12 +14,7 @@ RBarButtonBase {
     ssBackground: root.sheetBackground
     ssColor: root.sheetColor
 
-    RStyleSet.stateHelper.hovered: root.hovered
     RStyleSet.stateHelper.pressed: root.down
-    RStyleSet.stateHelper.disabled: !root.enabled
-    RStyleSet.stateHelper.selected: root.selected
-    RStyleSet.stateHelper.inconsistent: !root.consistent
-    RStyleSet.stateHelper.focus: root.activeFocus
 
     implicitWidth: 48 * RThemeValues.unit
     implicitHeight: 48 * RThemeValues.unit

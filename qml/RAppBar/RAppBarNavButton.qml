@@ -15,12 +15,7 @@ RAppBarNavButtonBase {
     ssLineColor: root.sheetLineColor
     ssLineVisible: root.sheetLineVisible
 
-    RStyleSet.stateHelper.hovered: root.hovered
     RStyleSet.stateHelper.pressed: root.down
-    RStyleSet.stateHelper.disabled: !root.enabled
-    RStyleSet.stateHelper.selected: root.selected
-    RStyleSet.stateHelper.inconsistent: !root.consistent
-    RStyleSet.stateHelper.focus: root.activeFocus
 
     unit: RThemeValues.unit
     wordsWidth: words.implicitWidth

@@ -30,12 +30,7 @@ RAppBarStateButtonBase {
     ssLineColor: root.sheetLineColor
     ssLineVisible: root.sheetLineVisible
 
-    RStyleSet.stateHelper.hovered: root.hovered
     RStyleSet.stateHelper.pressed: root.down
-    RStyleSet.stateHelper.disabled: !root.enabled
-    RStyleSet.stateHelper.selected: root.selected
-    RStyleSet.stateHelper.inconsistent: !root.consistent
-    RStyleSet.stateHelper.focus: root.activeFocus
 
     // It grows with its text, up to where that is elided.
     implicitWidth: Math.max(96 * RThemeValues.unit, Math.min(240 * RThemeValues.unit, root.linesWidth + root.iconSpace + 2 * root.margin))
