@@ -379,6 +379,9 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RDraggableItemBase>("RDraggableItemBase");
     registrar.creatable<RDialogBase>("RDialogBase");
     registrar.creatable<RDialogBody>("RDialogBody");
+    registrar.creatable<DialogFooter>("RDialogFooterBase");
+    registrar.creatable<DialogFrame>("RDialogFrameBase");
+    registrar.creatable<DialogHeader>("RDialogHeaderBase");
     registrar.creatable<RFaderBase>("RFaderBase");
     registrar.creatable<FlyoutHandle>("RFlyoutHandle");
     registrar.creatable<RFlyoutLayer>("RFlyoutLayer");
@@ -486,6 +489,8 @@ void registerParts()
     name(Part::ViewBusy, "RViewContainer/RViewBusy.qml");
     name(Part::DialogFrame, "RDialog/RDialogFrame.qml");
     name(Part::DialogIcon, "RDialog/RDialogIcon.qml");
+    name(Part::DialogCloseButton, "RDialog/RDialogCloseButton.qml");
+    name(Part::DialogScrollBars, "RDialog/RDialogScrollBars.qml");
     name(Part::DialogVeil, "RDialog/RDialogVeil.qml");
     name(Part::MessageBoxDialog, "RDialog/RMessageBoxDialog.qml");
     name(Part::RubberBand, "RSelectionRect/RSelectionRect.qml");

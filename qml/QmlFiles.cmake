@@ -125,6 +125,7 @@ set(unregistered
     RCell/RCellRefusal.qml
     RCell/RCellSelection.qml
     RDialog/RDialogButton.qml
+    RDialog/RDialogCloseButton.qml
     RDialog/RDialogDim.qml
     RDialog/RDialogFooter.qml
     RDialog/RDialogFrame.qml

@@ -52,6 +52,8 @@ enum class Part {
     FlyoutHeader,     ///< The header of a flyout.
     DialogFrame,      ///< What a dialog shows around what the page puts into it.
     DialogIcon,       ///< The icon in front of its title.
+    DialogCloseButton,
+    DialogScrollBars, ///< What moves its body.
     DialogVeil,       ///< What covers its body while it waits.
     MessageBoxDialog, ///< The dialog of a message box.
     TabDot,           ///< What tells that what a tab stands for is modified.

@@ -4,25 +4,30 @@
 
 namespace tamble::client {
 
-void DialogButtons::takePlaces(QQuickDialogButtonBox &standardBox, QQuickItem *furtherRow)
+void DialogButtons::takePlaces(DialogFooter &footer)
 {
-    m_standardBox = &standardBox;
-    m_furtherRow = furtherRow;
+    m_footer = &footer;
     for (const QPointer<QQuickItem> &button : std::as_const(m_further)) {
         if (button)
-            button->setParentItem(furtherRow);
+            button->setParentItem(&footer.furtherRow());
     }
+}
+
+QQuickDialogButtonBox *DialogButtons::box() const
+{
+    return m_footer ? m_footer->standardBox() : nullptr;
 }
 
 void DialogButtons::setStandard(QPlatformDialogHelper::StandardButtons flags)
 {
-    if (m_standardBox)
-        m_standardBox->setStandardButtons(flags);
+    if (QQuickDialogButtonBox *holder = box())
+        holder->setStandardButtons(flags);
 }
 
 QQuickAbstractButton *DialogButtons::standard(Flag flag) const
 {
-    return m_standardBox ? m_standardBox->standardButton(flag) : nullptr;
+    const QQuickDialogButtonBox *holder = box();
+    return holder ? holder->standardButton(flag) : nullptr;
 }
 
 DialogButtons::Flag DialogButtons::flagOf(const QQuickAbstractButton *button) const
@@ -40,8 +45,9 @@ QQuickAbstractButton *DialogButtons::ofEnter(int wanted) const
         return standard(Flag(wanted));
     if (QQuickAbstractButton *ok = standard(QPlatformDialogHelper::Ok))
         return ok;
-    for (int i = 0; m_standardBox && i < m_standardBox->count(); ++i) {
-        auto *button = qobject_cast<QQuickAbstractButton *>(m_standardBox->itemAt(i));
+    const QQuickDialogButtonBox *holder = box();
+    for (int i = 0; holder && i < holder->count(); ++i) {
+        auto *button = qobject_cast<QQuickAbstractButton *>(holder->itemAt(i));
         const auto role = QPlatformDialogHelper::buttonRole(flagOf(button));
         if (role == QPlatformDialogHelper::AcceptRole || role == QPlatformDialogHelper::YesRole)
             return button;
@@ -64,8 +70,8 @@ void DialogButtons::addFurther(QQuickItem &button)
 {
     button.setProperty("enterClicks", true);
     m_further.append(&button);
-    if (m_furtherRow)
-        button.setParentItem(m_furtherRow);
+    if (m_footer)
+        button.setParentItem(&m_footer->furtherRow());
 }
 
 } // namespace tamble::client

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dialogs/DialogFooter.h"
+
 #include <QtCore/QList>
 #include <QtCore/QPointer>
 #include <QtQuickTemplates2/private/qquickdialogbuttonbox_p.h>
@@ -12,8 +14,8 @@ class DialogButtons
 public:
     using Flag = QPlatformDialogHelper::StandardButton;
 
-    /// The dialog has parts now: who holds the standard and who the further buttons.
-    void takePlaces(QQuickDialogButtonBox &standardBox, QQuickItem *furtherRow);
+    /// The dialog has parts now.
+    void takePlaces(DialogFooter &footer);
 
     void setStandard(QPlatformDialogHelper::StandardButtons flags);
     /// Null for none, and before the dialog has parts.
@@ -29,8 +31,9 @@ public:
     const QList<QPointer<QQuickItem>> &further() const { return m_further; }
 
 private:
-    QPointer<QQuickDialogButtonBox> m_standardBox;
-    QPointer<QQuickItem> m_furtherRow;
+    QQuickDialogButtonBox *box() const;
+
+    QPointer<DialogFooter> m_footer;
     QPointer<QQuickAbstractButton> m_marked; ///< The one that shows that Enter presses it.
     QList<QPointer<QQuickItem>> m_further;
 };

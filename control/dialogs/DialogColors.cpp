@@ -4,6 +4,7 @@
 
 #include <QtQuick/QQuickItem>
 
+#include <algorithm>
 #include <utility>
 
 namespace tamble::client {
@@ -14,9 +15,11 @@ constexpr std::array<SheetColors::Source, 2> frameSources = {{
     {&StyleSetProps::background},
     {&StyleSetProps::border, "border"},
 }};
-constexpr std::array<SheetColors::Source, 2> headerSources = {{
+// Not every sheet has a colour of its own for the title.
+constexpr std::array<SheetColors::Source, 3> headerSources = {{
     {&StyleSetProps::background},
-    {&StyleSetProps::foreground, "foreground"},
+    {&StyleSetProps::foreground, "foreground", 2},
+    {&StyleSetProps::foreground, nullptr, -1, "RText"},
 }};
 
 } // namespace
@@ -43,7 +46,11 @@ void DialogColors::setColor(Name name, const QColor &color)
 void DialogColors::follow(QQuickItem &frame, QQuickItem &header)
 {
     const auto follow = [this](QQuickItem &item, std::span<const SheetColors::Source> sources, std::size_t first) {
-        const auto tell = [this, first](std::size_t begin, std::size_t end) { m_changed(first + begin, first + end); };
+        const auto tell = [this, first](std::size_t begin, std::size_t end) {
+            // What stands in for the last one is not among them.
+            constexpr std::size_t last = nameCount - 1;
+            m_changed(std::min(first + begin, last), std::min(first + end, last + 1));
+        };
         return std::make_unique<SheetColors>(item, sources, tell);
     };
     m_frame = follow(frame, frameSources, Background);

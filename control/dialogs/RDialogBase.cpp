@@ -8,7 +8,6 @@
 #include <QtQml/QQmlEngine>
 #include <QtQml/qqml.h>
 #include <QtQuick/QQuickWindow>
-#include <QtQuick/private/qquickanchors_p.h>
 #include <QtQuick/private/qquickitem_p.h>
 
 #include <array>
@@ -106,6 +105,8 @@ void RDialogBase::tellColors(std::size_t begin, std::size_t end)
 {
     for (std::size_t i = begin; i < end; ++i)
         Q_EMIT(this->*dialogColorSignals[i])();
+    if (m_frame)
+        m_frame->refresh();
 }
 
 void RDialogBase::componentComplete()
@@ -143,38 +144,30 @@ void RDialogBase::make()
     QQmlEngine *engine = qmlEngine(this);
     if (m_frame || !engine)
         return;
-    auto *frame = qobject_cast<QQuickItem *>(PartComponents::of(engine).make(
+    m_frame = qobject_cast<DialogFrame *>(PartComponents::of(engine).make(
         Part::DialogFrame, this, {{QStringLiteral("dialog"), QVariant::fromValue(this)}}));
-    if (!frame)
+    if (!m_frame)
         return;
-    setContentItem(frame);
+    setContentItem(m_frame);
+    m_buttons.takePlaces(*m_frame->footer());
+    connect(m_frame->footer()->standardBox(), &QQuickDialogButtonBox::clicked, this, &RDialogBase::onButtonClicked);
     qmlExecuteDeferred(this); // the page's part
-    m_colors.follow(*frame, *m_header);
-    updateParts();
-    connect(this, &RDialogBase::iconKeyChanged, this, &RDialogBase::updateParts);
-    connect(this, &RDialogBase::busyChanged, this, &RDialogBase::updateParts);
-}
-
-void RDialogBase::updateParts()
-{
-    if (m_header)
-        PartComponents::show(m_icon, Part::DialogIcon, *m_header, !m_iconKey.isEmpty());
-    if (m_frame)
-        PartComponents::show(m_veil, Part::DialogVeil, *m_frame, m_isBusy);
-}
-
-void RDialogBase::takeParts(QQuickItem *frame, QQuickItem *header, QQuickItem *place,
-                            QQuickDialogButtonBox *standardBox, QQuickItem *furtherRow)
-{
-    m_frame = frame;
-    m_header = header;
-
-    body()->setParentItem(place);
-    QQuickItemPrivate::get(m_body)->anchors()->setFill(place);
-
-    m_buttons.takePlaces(*standardBox, furtherRow);
+    m_colors.follow(*m_frame, *m_frame->header());
     m_buttons.setStandard(standardButtons());
-    connect(standardBox, &QQuickDialogButtonBox::clicked, this, &RDialogBase::onButtonClicked);
+    m_frame->setBody(*body());
+    refresh();
+    for (auto signal : {&RDialogBase::iconKeyChanged, &RDialogBase::busyChanged, &RDialogBase::closableChanged,
+                        &RDialogBase::maximumSizeChanged})
+        connect(this, signal, this, &RDialogBase::refresh);
+    connect(this, &QQuickDialog::titleChanged, this, &RDialogBase::refresh);
+}
+
+void RDialogBase::refresh()
+{
+    if (!m_frame)
+        return;
+    m_frame->refresh();
+    PartComponents::show(m_veil, Part::DialogVeil, *m_frame, m_isBusy);
 }
 
 void RDialogBase::moveBy(QPointF distance)
@@ -226,8 +219,8 @@ void RDialogBase::onFocusMoved()
         return;
     QQuickItem *focused = window()->activeFocusItem();
     m_buttons.mark(focused == popupItem() ? m_buttons.ofEnter(m_defaultButton) : nullptr);
-    if (focused && m_body && m_body->isAncestorOf(focused) && !isFocusByMouse(*focused))
-        Q_EMIT areaFocused(focused->mapRectToItem(m_body, QRectF(QPointF(), focused->size())));
+    if (focused && m_frame && m_body && m_body->isAncestorOf(focused) && !isFocusByMouse(*focused))
+        m_frame->bringIntoView(focused->mapRectToItem(m_body, QRectF(QPointF(), focused->size())));
 }
 
 bool RDialogBase::enterFields()

@@ -4,6 +4,7 @@
 #include "base/PopupOrigin.h"
 #include "dialogs/DialogButtons.h"
 #include "dialogs/DialogColors.h"
+#include "dialogs/DialogFrame.h"
 #include "dialogs/DialogPlace.h"
 #include "dialogs/RDialogBody.h"
 
@@ -65,6 +66,9 @@ public:
     /// accepts.
     int defaultButton() const { return m_defaultButton; }
     void setDefaultButton(int button);
+    QString iconKey() const { return m_iconKey; }
+    bool isBusy() const { return m_isBusy; }
+    bool isClosable() const { return m_isClosable; }
     /// Most of the window that the dialog takes, in pixels (`maximumWidth`, `maximumHeight`): nine tenths.
     qreal maximumWidth() const { return m_place.maximumSize().width(); }
     qreal maximumHeight() const { return m_place.maximumSize().height(); }
@@ -83,10 +87,6 @@ public:
     /// The button with this flag, once the dialog has been open; null for none.
     Q_INVOKABLE QQuickAbstractButton *standardButton(QPlatformDialogHelper::StandardButton button) const;
 
-    /// For what shows the dialog: the item that carries its style, its header, the place of the body, and who holds the
-    /// standard and the further buttons.
-    Q_INVOKABLE void takeParts(QQuickItem *frame, QQuickItem *header, QQuickItem *place,
-                               QQuickDialogButtonBox *standardBox, QQuickItem *furtherRow);
     /// The header begins to drag the dialog (`beginMove`), and has come so far, in pixels (`moveBy`).
     Q_INVOKABLE void beginMove() { m_place.beginMove(); }
     Q_INVOKABLE void moveBy(QPointF distance);
@@ -109,10 +109,6 @@ Q_SIGNALS:
     void ssHeaderColorChanged();
     /// The user has pressed the standard button with this flag; sent before what follows from it.
     void buttonClicked(int button);
-    /// The focus has come to this area of the body, which is to be in view.
-    void areaFocused(const QRectF &area);
-    /// A key that nothing else has answered scrolls the body so many lines down.
-    void scrolled(qreal lines);
 
 protected:
     void componentComplete() override;
@@ -126,7 +122,7 @@ private:
     void onAboutToShow();
     void onVisibleChanged();
     void make();
-    void updateParts();
+    void refresh();
     void placeFocus();
     void onFocusMoved();
     bool enterFields();
@@ -139,10 +135,8 @@ private:
     DialogPlace m_place;
     DialogButtons m_buttons;
     QPointer<RDialogBody> m_body; ///< A child, made when the first thing is put into it.
-    QPointer<QQuickItem> m_frame; ///< This and the header are made when the dialog first opens.
-    QPointer<QQuickItem> m_header;
-    QQuickItem *m_icon = nullptr; ///< Below the header, and the veil below the frame: made when they are first shown.
-    QQuickItem *m_veil = nullptr;
+    QPointer<DialogFrame> m_frame; ///< Made when the dialog first opens.
+    QQuickItem *m_veil = nullptr;  ///< Below the frame, made when it is first shown.
     DialogColors m_colors;
     int m_defaultButton = 0;
     bool m_isBusy = false;

@@ -48,7 +48,8 @@ void RDialogBase::keyPressEvent(QKeyEvent *event)
 {
     if (const double lines = scrolledLines(event->key()); lines != 0.0) {
         event->accept();
-        Q_EMIT scrolled(lines);
+        if (m_frame)
+            m_frame->scrollBy(lines);
         return;
     }
     if (!isEnterKey(*event)) {

@@ -6,11 +6,11 @@ RIcon {
     id: root
 
     /*! What it stands in. */
-    readonly property RDialogHeader header: root.parent as RDialogHeader
+    readonly property RDialogHeaderBase header: root.parent as RDialogHeaderBase
 
     anchors.left: root.header.left
-    anchors.leftMargin: root.header.pad
+    anchors.leftMargin: 16 * RThemeValues.unit
     anchors.verticalCenter: root.header.verticalCenter
     key: root.header.dialog.iconKey
-    ssIconForeground: root.header.textColor
+    ssIconForeground: root.header.dialog.ssHeaderColor
 }

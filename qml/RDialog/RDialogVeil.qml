@@ -10,7 +10,7 @@ Rectangle {
     property color ssBackground: root.RStyleSet.props.background
 
     /*! What it stands in. */
-    readonly property RDialogFrame frame: root.parent as RDialogFrame
+    readonly property RDialogFrameBase frame: root.parent as RDialogFrameBase
 
     anchors.fill: root.frame.view
     color: Qt.alpha(root.ssBackground, 0.75)
