@@ -84,7 +84,7 @@ private:
     std::optional<bool> m_borderVisible;
     QQuickItem *m_badgeFrame = nullptr; // a child, made for the first badge
     QObject *m_toolTip = nullptr;       // likewise, when it is first needed
-    unsigned m_fedStates = 0; // a bit for each that feedStates() has set
+    unsigned m_fedStates = 0;           // a bit for each that feedStates() has set
     bool m_isShortened = false;
 };
 
