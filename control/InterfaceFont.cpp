@@ -1,6 +1,7 @@
 #include "InterfaceFont.h"
 
 #include <QtCore/QPointer>
+#include <QtCore/QResource>
 #include <QtGui/QFont>
 #include <QtGui/QFontDatabase>
 #include <QtGui/QGuiApplication>
@@ -14,8 +15,9 @@ void registerInterfaceFont()
     if (served || !qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
         return;
     served = QCoreApplication::instance();
+    // As data, which are used where the library has them; of a file, the font database would keep two copies.
     for (const char *file : {":/asset/fonts/Lato-Regular.ttf", ":/asset/fonts/Lato-Bold.ttf"})
-        QFontDatabase::addApplicationFont(QString::fromLatin1(file));
+        QFontDatabase::addApplicationFontFromData(QResource(QString::fromLatin1(file)).uncompressedData());
     QFont::insertSubstitution(QStringLiteral("Brack Office Sans"), QStringLiteral("Lato"));
 }
 

@@ -7,9 +7,13 @@
 
 #include <QtCore/QTextStream>
 #include <QtGui/QGuiApplication>
-#include <QtQml/QQmlApplicationEngine>
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickWindow>
 #include <QtQuickControls2/QQuickStyle>
+
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -31,6 +35,15 @@ void begin(GalleryInstallation &installation)
     constexpr int tenMinutes = 600'000;
     installation.dropOut(unplugged, tenMinutes);
     installation.advance(behaviour.latency);
+}
+
+/// Icons take a small part of the textures that Qt would make by the size of the window: 8 MB for a common one.
+void limitTextureAtlas()
+{
+    for (const auto &[name, pixels] : {std::pair("QSG_ATLAS_WIDTH", "1024"), std::pair("QSG_ATLAS_HEIGHT", "512")}) {
+        if (!qEnvironmentVariableIsSet(name))
+            qputenv(name, pixels);
+    }
 }
 
 GalleryOptions optionsFrom(int argc, char **argv)
@@ -55,6 +68,8 @@ int main(int argc, char **argv)
     if (!options.scale.isEmpty())
         qputenv("QT_SCALE_FACTOR", options.scale.toLatin1());
 
+    limitTextureAtlas();
+
     const PageList pages(QStringLiteral(":/Gallery"));
     const int firstPage = options.page.isEmpty() ? 0 : int(pages.indexOf(options.page));
     if (firstPage < 0) {
@@ -74,21 +89,23 @@ int main(int argc, char **argv)
     if (!options.audioFile.isEmpty() && !audio.open(options.audioFile))
         return fail(audio.errorText(), EXIT_FAILURE);
 
-    QQmlApplicationEngine engine;
+    // Not an application engine, which would look for variants by platform and language of each file and picture.
+    QQmlEngine engine;
     // The module in the build tree, and as installed.
     engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../qml"));
     engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/" TAMBLE_INSTALLED_QML_PATH));
     engine.addImportPath(QStringLiteral("qrc:/"));
-    engine.setInitialProperties({{QStringLiteral("festivalPages"), pages.festival()},
-                                 {QStringLiteral("cataloguePages"), pages.catalogue()},
-                                 {QStringLiteral("currentPage"), firstPage},
-                                 {QStringLiteral("startZoom"), options.zoom},
-                                 {QStringLiteral("still"), !options.screenshotDir.isEmpty()}});
-    engine.load(QUrl(QStringLiteral("qrc:/Gallery/GalleryWindow.qml")));
-    if (engine.rootObjects().isEmpty())
-        return fail(QStringLiteral("the window cannot be loaded"), EXIT_FAILURE);
+    QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/Gallery/GalleryWindow.qml")));
+    const std::unique_ptr<QObject> root(
+        component.createWithInitialProperties({{QStringLiteral("festivalPages"), pages.festival()},
+                                               {QStringLiteral("cataloguePages"), pages.catalogue()},
+                                               {QStringLiteral("currentPage"), firstPage},
+                                               {QStringLiteral("startZoom"), options.zoom},
+                                               {QStringLiteral("still"), !options.screenshotDir.isEmpty()}}));
+    auto *window = qobject_cast<QQuickWindow *>(root.get());
+    if (!window)
+        return fail(QStringLiteral("the window cannot be loaded: %1").arg(component.errorString()), EXIT_FAILURE);
 
-    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
     if (options.firstFrame) {
         printFirstFrame(*window);
         return EXIT_SUCCESS;

@@ -83,6 +83,13 @@ void RAppBarNavButtonBase::addSpokenStates(QAccessible::State &state) const
     state.selected = state.checked;
 }
 
+// A text that gets its room before it is complete is laid out once, not three times.
+void RAppBarNavButtonBase::classBegin()
+{
+    RBarButtonBase::classBegin();
+    updateSize();
+}
+
 void RAppBarNavButtonBase::componentComplete()
 {
     RBarButtonBase::componentComplete();
@@ -100,18 +107,19 @@ void RAppBarNavButtonBase::iconChange()
 
 void RAppBarNavButtonBase::selectionChange()
 {
+    RBarButtonBase::selectionChange();
     if (RAppBarBase *bar = nearestAncestor<RAppBarBase>(*this); bar && isSelected())
         bar->planAgain();
 }
 
 void RAppBarNavButtonBase::updateSize()
 {
-    if (!isComponentComplete())
-        return;
     setLeftPadding(margin * m_unit + (isMirrored() ? 0.0 : iconSpace()));
     setRightPadding(margin * m_unit + (isMirrored() ? iconSpace() : 0.0));
     setImplicitSize(isTextHidden() ? compactWidth() : naturalWidth(),
                     (m_isForSubPage ? subHeight : compactSize) * m_unit);
+    if (!isComponentComplete())
+        return;
     if (RAppBarBase *bar = nearestAncestor<RAppBarBase>(*this))
         bar->planAgain();
     updateFit();

@@ -57,6 +57,7 @@ Q_SIGNALS:
     void iconSpaceChanged();
 
 protected:
+    void classBegin() override;
     void componentComplete() override;
     void iconChange() override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;

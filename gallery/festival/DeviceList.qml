@@ -13,8 +13,8 @@ FocusScope {
 
     /*! Selects what the page shows in detail. */
     function showChosen() {
-        const isChosen = row => Festival.chosenDevices.includes(rows.get(row).device)
-        const chosen = Array.from({ length: rows.count }, (_, row) => row).filter(isChosen)
+        const found = Festival.chosenDevices.map(device => rows.indexOf("device", device))
+        const chosen = found.filter(row => row >= 0).sort((a, b) => a - b)
         devices.selectedIndexes = chosen
         if (chosen.length > 0)
             devices.currentIndex = chosen[0]

@@ -54,12 +54,18 @@ private:
     StagePlaces m_after;
 };
 
-/// The same in every run, so that pages may remember ids.
-QString idOfBlock(const StageBlock &block)
+/// The same in every run, so that pages may remember ids: one of the plan's own, with the row in its last two bytes.
+QUuid idOfRow(int row)
 {
-    const QUuid blocks(QStringLiteral("{8f2ad1c6-0f0b-4d53-9a2e-5b0c1f6e7d41}"));
-    const QString name = QStringLiteral("%1.%2.%3").arg(block.device).arg(block.way).arg(block.number);
-    return QUuid::createUuidV5(blocks, name).toString(QUuid::WithoutBraces);
+    return {0x8f2ad1c6, 0x0f0b, 0x4d53, 0x9a, 0x2e, 0x5b, 0x0c, 0x1f, 0x6e, uchar(row >> 8), uchar(row)};
+}
+
+/// -1 for an unknown id.
+int rowOf(const QString &id)
+{
+    const QUuid uuid(id);
+    const int row = (uuid.data4[6] << 8) | uuid.data4[7];
+    return row < stagePlan().size() && uuid == idOfRow(row) ? row : -1;
 }
 
 QString iconOf(DeviceKind kind)
@@ -107,11 +113,9 @@ StageModel::StageModel(const InstallationClient &client, EditHistory &history, Q
     , m_client(client)
     , m_history(history)
 {
-    for (const StageBlock &block : stagePlan()) {
-        m_rows.insert(idOfBlock(block), int(m_ids.size()));
-        m_ids.append(idOfBlock(block));
+    m_places.reserve(stagePlan().size());
+    for (const StageBlock &block : stagePlan())
         m_places.append(block.place);
-    }
     connect(&client, &InstallationClient::fieldChanged, this, &StageModel::tellField);
     connect(&client, &InstallationClient::onlineChanged, this, [this](int device) {
         tell({device, 1}, {StatusRole, AlarmRole});
@@ -133,7 +137,7 @@ QVariant StageModel::data(const QModelIndex &index, int role) const
     const StageBlock &block = stagePlan()[row];
     switch (role) {
     case IdRole:
-        return m_ids[row];
+        return idOf(row);
     case Qt::DisplayRole:
     case TitleRole:
         return titleOf(block);
@@ -218,12 +222,12 @@ int StageModel::nextThat(int row, Fits fits) const
 
 QString StageModel::idOf(int row) const
 {
-    return m_ids.value(row);
+    return row >= 0 && row < count() ? idOfRow(row).toString(QUuid::WithoutBraces) : QString();
 }
 
 int StageModel::deviceOf(const QString &id) const
 {
-    const int row = m_rows.value(id, -1);
+    const int row = rowOf(id);
     return row >= 0 ? stagePlan()[row].device : -1;
 }
 
@@ -310,8 +314,8 @@ StagePlaces StageModel::rowsOf(const QVariantMap &places) const
     StagePlaces rows;
     rows.reserve(places.size());
     for (auto place = places.constBegin(); place != places.constEnd(); ++place) {
-        if (const auto row = m_rows.constFind(place.key()); row != m_rows.constEnd())
-            rows.append({*row, place.value().toPointF()});
+        if (const int row = rowOf(place.key()); row >= 0)
+            rows.append({row, place.value().toPointF()});
     }
     std::sort(rows.begin(), rows.end(), [](const StagePlace &a, const StagePlace &b) { return a.row < b.row; });
     return rows;

@@ -95,6 +95,4 @@ private:
     const InstallationClient &m_client;
     EditHistory &m_history;
     QList<QPointF> m_places;
-    QStringList m_ids;
-    QHash<QString, int> m_rows; ///< by id
 };

@@ -1,19 +1,14 @@
 import QtQuick
 
-/*! Makes the veil of a window when that is busy for the first time, and keeps it: few windows ever are. */
+/*! Makes the veil of a window when that is busy for the first time, and keeps it: few windows ever are. By its address,
+    since what is named here would be loaded with the window. */
 Loader {
     id: root
 
     required property bool busy
 
-    active: false
-    // qmllint disable unqualified
-    sourceComponent: RBusyVeil {
-        busy: root.busy
-    }
-    // qmllint enable unqualified
     onBusyChanged: {
-        if (root.busy)
-            root.active = true
+        if (root.busy && root.status === Loader.Null)
+            root.setSource("RBusyVeil.qml", { busy: Qt.binding(() => root.busy) })
     }
 }

@@ -69,8 +69,6 @@ Shared.RScrollView {
     implicitWidth: 288 * RThemeValues.unit
     implicitHeight: 96 * RThemeValues.unit
     hoverEnabled: RThemeValues.hoverEnabled
-    // The focus of the root is meant for the text.
-    focusPolicy: Qt.NoFocus
 
     background: RFieldFrame { // qmllint disable deferred-property-id
         unit: RThemeValues.unit

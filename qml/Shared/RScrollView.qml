@@ -7,6 +7,9 @@ import QtQuick.Templates as T
 T.ScrollView {
     id: root
 
+    // The focus is meant for what is scrolled. Said here, where Qt finds the number as it compiles the file: in a file
+    // that builds on this one, it would list all names of the namespace while the page is made.
+    focusPolicy: Qt.NoFocus
     contentWidth: root.availableWidth
 
     T.ScrollBar.vertical: RScrollBar {
