@@ -76,6 +76,7 @@ void DialogFooter::layOut(qreal maximumWidth, qreal unit)
     for (int i = 0; i < count; ++i)
         m_standardBox->itemAt(i)->setProperty("widest", widest);
     m_standardRow->setSpacing(spacing);
+    m_standardBox->setSpacing(spacing); // by which it places the row
     const qreal standardWidth = m_standardRow->implicitWidth();
     const qreal furtherWidth = m_furtherRow ? m_furtherRow->implicitWidth() : 0.0;
     const qreal gap = furtherWidth > 0.0 && standardWidth > 0.0 ? margin : 0.0;

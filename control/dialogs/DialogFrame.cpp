@@ -138,6 +138,9 @@ void DialogFrame::refresh()
     m_border->border()->setWidth(m_unit);
     m_view->setEnabled(!m_dialog->isBusy());
     m_footer->setEnabled(!m_dialog->isBusy());
+    PartComponents::show(m_veil, Part::DialogVeil, *this, m_dialog->isBusy());
+    if (m_veil)
+        m_veil->stackBefore(m_footer);
     m_header->refresh(m_unit);
     m_footer->layOut(m_dialog->maximumWidth(), m_unit);
     measure();
