@@ -2,9 +2,6 @@
 
 #include "style/StyleSetProps.h"
 
-#include <QtQml/QQmlContext>
-#include <QtQml/QQmlEngine>
-
 #include <cmath>
 #include <utility>
 
@@ -130,9 +127,6 @@ void RIconBase::updatePicture()
 {
     if (!isComponentComplete())
         return;
-    // Which files a page can name is its engine's to say.
-    if (QQmlContext *context = qmlContext(this); context && m_source && !qmlContext(m_image))
-        QQmlEngine::setContextForObject(m_image, context);
     const QUrl picture = source();
     if (m_image->source() == picture)
         return;

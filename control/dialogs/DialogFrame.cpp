@@ -4,6 +4,7 @@
 #include "dialogs/RDialogBase.h"
 #include "dialogs/RDialogBody.h"
 
+#include <QtCore/QScopedValueRollback>
 #include <QtQml/qqml.h>
 #include <QtQuickTemplates2/private/qquickscrollbar_p.h>
 
@@ -191,6 +192,10 @@ void DialogFrame::layOut()
 // Nearly all dialogs show what is in them at once.
 void DialogFrame::showScrollBars(bool shown)
 {
+    // As they are made they may lay out the frame again.
+    if (m_isMakingBars)
+        return;
+    const QScopedValueRollback making(m_isMakingBars, true);
     const bool isMade = m_scrollBars != nullptr;
     PartComponents::show(m_scrollBars, Part::DialogScrollBars, *this, shown);
     if (!m_scrollBars)
