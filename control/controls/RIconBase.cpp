@@ -40,11 +40,11 @@ void RIconBase::setSizeClass(const QString &sizeClass)
 
 int RIconBase::size() const
 {
-    constexpr std::array<std::pair<const char *, int (*)()>, 4> sizes = {
-        {{"XXS", ssSizeXXS}, {"XS", ssSizeXS}, {"M", ssSizeM}, {"L", ssSizeL}}};
+    constexpr std::array<std::pair<const char *, int>, 4> sizes = {
+        {{"XXS", ssSizeXXS()}, {"XS", ssSizeXS()}, {"M", ssSizeM()}, {"L", ssSizeL()}}};
     for (const auto &[word, edge] : sizes) {
         if (m_sizeClass == QLatin1String(word))
-            return edge();
+            return edge;
     }
     return ssSizeS();
 }

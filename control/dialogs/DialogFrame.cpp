@@ -1,5 +1,6 @@
 #include "dialogs/DialogFrame.h"
 
+#include "base/ItemListening.h"
 #include "base/PartComponents.h"
 #include "dialogs/RDialogBase.h"
 #include "dialogs/RDialogBody.h"
@@ -89,17 +90,10 @@ void DialogFrame::componentComplete()
     m_view->stackBefore(m_footer);
 }
 
-// At a tenth of the memory of connections.
 void DialogFrame::listen(bool on)
 {
-    const auto to = [this, on](QQuickItem *item, QQuickItemPrivate::ChangeTypes changes) {
-        if (item && on)
-            QQuickItemPrivate::get(item)->addItemChangeListener(this, changes);
-        else if (item)
-            QQuickItemPrivate::get(item)->removeItemChangeListener(this, changes);
-    };
-    to(m_body, QQuickItemPrivate::ImplicitWidth | QQuickItemPrivate::ImplicitHeight);
-    to(m_header ? m_header->words() : nullptr, QQuickItemPrivate::ImplicitWidth);
+    listenTo(m_body, *this, QQuickItemPrivate::ImplicitWidth | QQuickItemPrivate::ImplicitHeight, on);
+    listenTo(m_header ? m_header->words() : nullptr, *this, QQuickItemPrivate::ImplicitWidth, on);
     if (m_footer)
         m_footer->setListener(on ? this : nullptr);
 }

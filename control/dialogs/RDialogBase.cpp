@@ -154,7 +154,6 @@ void RDialogBase::make()
     m_colors.follow(*m_frame, *m_frame->header());
     m_buttons.setStandard(standardButtons());
     m_frame->setBody(*body());
-    refresh();
     for (auto signal : {&RDialogBase::iconKeyChanged, &RDialogBase::busyChanged, &RDialogBase::closableChanged,
                         &RDialogBase::maximumSizeChanged})
         connect(this, signal, this, &RDialogBase::refresh);
