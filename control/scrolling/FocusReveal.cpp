@@ -42,6 +42,14 @@ FocusPlace placeOf(QQuickItem &item)
     return {&item, cursor.isValid() ? cursor.toRectF() : wholeOf(item)};
 }
 
+/// Whether at least half of a place is seen, or the view is half full of it.
+bool isSeen(const QRectF &place, const QSizeF &room)
+{
+    const QSizeF seen = (place & QRectF({}, room)).size();
+    const QSizeF wanted = place.size().boundedTo(room) / 2.0;
+    return !room.isEmpty() && seen.width() >= wanted.width() && seen.height() >= wanted.height();
+}
+
 /// Scrolls every view around an item so that a part of it is seen. What fills a view is left as it is scrolled.
 void revealEverywhere(const QQuickItem &item, const QRectF &part)
 {
@@ -142,8 +150,8 @@ void FocusReveal::itemGeometryChanged(QQuickItem *resized, QQuickGeometryChange 
         return;
     const FocusPlace place = placeOf(*item);
     const bool wasSeen = std::ranges::all_of(std::as_const(m_views), [&](const QQuickItem *view) {
-        const QRectF room(QPointF(), view == resized ? before.size() : view->size());
-        return !view->isAncestorOf(place.item) || room.contains(view->mapRectFromItem(place.item, place.part).center());
+        return !view->isAncestorOf(place.item) ||
+               isSeen(view->mapRectFromItem(place.item, place.part), view == resized ? before.size() : view->size());
     });
     if (wasSeen)
         reveal();

@@ -30,7 +30,7 @@ ThemedTestCase {
             currentRow: 5; currentColumn: 0
         }
     }`
-    readonly property string list: "ListView { property Item focused: this; anchors.fill: parent; model: 50; delegate: Item { width: 9; height: 20 } currentIndex: 8 }"
+    readonly property string list: "ListView { property Item focused: this; anchors.fill: parent; cacheBuffer: 0; model: 50; delegate: Item { width: 9; height: 20 } currentIndex: 8 }"
 
     function test_staysSeen_data() {
         const lower = page => { page.height = 80 }
