@@ -82,10 +82,9 @@ protected:
     QQuickItem *layer() const { return m_layer; }
     /// Goes to the layer of the nearest screen; false where there is neither that nor a parent.
     bool enterLayer();
-    /// Its place is from now on the remembered one, if any, and else beside `opener`, unless that is null.
+    /// Goes back to its remembered place, if any. Without one, and until it is moved, it stands beside `opener`.
     void recall(QQuickItem *opener = nullptr, Qt::Edge edge = Qt::RightEdge);
-    /// It takes up room in the layer, or no longer; false when that is nothing new. For others to see it is up to the
-    /// caller.
+    /// Whether it takes part in the layer; false when that is nothing new. The caller makes it visible, or hides it.
     bool setShown(bool shown);
     /// Puts it where it belongs.
     void arrange();
