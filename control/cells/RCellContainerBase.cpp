@@ -219,6 +219,20 @@ QSizeF RCellContainerBase::headerSize() const
     return {columns > 0 ? m_grid->columnX(columns) : 0.0, rows > 0 ? m_grid->rowY(rows) : 0.0};
 }
 
+/// A header covers other cells, not itself.
+QMarginsF RCellContainerBase::coveredFor(const QQuickItem &item) const
+{
+    const QQuickItem *child = &item;
+    while (child && child->parentItem() != this)
+        child = child->parentItem();
+    const auto *cell = qobject_cast<const RCellBase *>(child);
+    if (!cell)
+        return {};
+    const double top = isHeaderRow(cell->area()) ? 0.0 : headerSize().height();
+    const double aside = isHeaderColumn(cell->area()) ? 0.0 : headerSize().width();
+    return {m_mirrored ? 0.0 : aside, top, m_mirrored ? aside : 0.0, 0.0};
+}
+
 QPointF RCellContainerBase::headerShift() const
 {
     const QSizeF header = headerSize();

@@ -6,6 +6,7 @@
 #include "cells/CellPlan.h"
 #include "cells/RCellGridPropertiesBase.h"
 #include "scrolling/EnclosingView.h"
+#include "scrolling/FrozenHeaders.h"
 
 #include <QtCore/QList>
 #include <QtCore/QPointer>
@@ -26,6 +27,7 @@ class RCellBase;
 /// as tab-separated text, Ctrl+V pastes such a text from the current cell on. Tab leaves the table.
 class TAMBLE_CLIENT_CONTROL_EXPORT RCellContainerBase : public QQuickItem,
                                                         public SpokenControl,
+                                                        public FrozenHeaders,
                                                         private QAccessible::ActivationObserver
 {
     Q_OBJECT
@@ -115,6 +117,8 @@ public:
     QAccessible::Role spokenRole() const override { return QAccessible::Table; }
     QString spokenName() const override { return m_title; }
     void addSpokenStates(QAccessible::State &state) const override;
+
+    QMarginsF coveredFor(const QQuickItem &item) const override;
 
 Q_SIGNALS:
     void gridPropertiesChanged();

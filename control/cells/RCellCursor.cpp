@@ -1,7 +1,6 @@
 #include "cells/RCellBase.h"
 #include "cells/RCellContainerBase.h"
 
-#include <QtCore/QMarginsF>
 #include <QtGui/QKeyEvent>
 
 #include <algorithm>
@@ -135,10 +134,8 @@ void RCellContainerBase::reveal()
 {
     if (!m_current || !m_grid)
         return;
-    const QSizeF header = headerSize();
     m_view.find();
-    m_view.reveal({m_current->position(), m_current->size()},
-                  {m_mirrored ? 0.0 : header.width(), header.height(), m_mirrored ? header.width() : 0.0, 0.0});
+    m_view.reveal({m_current->position(), m_current->size()}, coveredFor(*m_current));
 }
 
 CellArea RCellContainerBase::selectedArea()

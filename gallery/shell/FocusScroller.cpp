@@ -25,12 +25,13 @@ void FocusScroller::itemChange(ItemChange change, const ItemChangeData &data)
     if (change == ItemSceneChange) {
         disconnect(m_connection);
         if (data.window)
-            m_connection = connect(data.window, &QQuickWindow::activeFocusItemChanged, this, &FocusScroller::reveal);
+            m_connection = connect(data.window, &QQuickWindow::activeFocusItemChanged, this, &FocusScroller::polish);
     }
     QQuickItem::itemChange(change, data);
 }
 
-void FocusScroller::reveal()
+// A table gives the focus to a cell that it has not placed yet.
+void FocusScroller::updatePolish()
 {
     QQuickItem *item = window() ? window()->activeFocusItem() : nullptr;
     auto *content = m_view ? m_view->property("contentItem").value<QQuickItem *>() : nullptr;

@@ -22,10 +22,9 @@ Q_SIGNALS:
 
 protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;
+    void updatePolish() override;
 
 private:
-    void reveal();
-
     QPointer<QQuickItem> m_view;
     qreal m_margin = 8.0;
     QMetaObject::Connection m_connection;

@@ -60,8 +60,8 @@ private Q_SLOTS:
         m_flickable->setProperty("contentY", position.y() > 400.0 ? 0.0 : 600.0);
         m_view.contentItem()->forceActiveFocus();
         m_flickable->findChild<QQuickItem *>(QString::fromLatin1(QTest::currentDataTag()))->forceActiveFocus();
-        QCOMPARE(QPointF(m_flickable->property("contentX").toReal(), m_flickable->property("contentY").toReal()),
-                 position);
+        QTRY_COMPARE(QPointF(m_flickable->property("contentX").toReal(), m_flickable->property("contentY").toReal()),
+                     position);
     }
 
 private:
