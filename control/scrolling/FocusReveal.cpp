@@ -32,12 +32,14 @@ QRectF wholeOf(const QQuickItem &item)
     return {QPointF(), item.size()};
 }
 
-/// The row or cell within what has the focus as a whole, or where a text is edited.
+/// The row, cell or handle within what has the focus as a whole, or where a text is edited.
 FocusPlace placeOf(QQuickItem &item)
 {
-    auto *current = item.property("currentItem").value<QQuickItem *>();
-    if (current && item.isAncestorOf(current))
-        return {current, wholeOf(*current)};
+    for (const char *name : {"currentItem", "handle"}) {
+        auto *part = item.property(name).value<QQuickItem *>();
+        if (part && item.isAncestorOf(part))
+            return {part, wholeOf(*part)};
+    }
     const QVariant cursor = item.property("cursorRectangle");
     return {&item, cursor.isValid() ? cursor.toRectF() : wholeOf(item)};
 }

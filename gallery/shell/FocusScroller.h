@@ -25,6 +25,8 @@ protected:
     void updatePolish() override;
 
 private:
+    void reveal(const QQuickItem &item, const QQuickItem &content);
+
     QPointer<QQuickItem> m_view;
     qreal m_margin = 8.0;
     QMetaObject::Connection m_connection;

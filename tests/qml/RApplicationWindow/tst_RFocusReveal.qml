@@ -30,6 +30,7 @@ ThemedTestCase {
             currentRow: 5; currentColumn: 0
         }
     }`
+    readonly property string fader: "Flickable { property alias focused: level; anchors.fill: parent; contentHeight: 400; RFader { id: level; height: 400; from: 0; to: 100; value: 60 } }"
     readonly property string list: "ListView { property Item focused: this; anchors.fill: parent; cacheBuffer: 0; model: 50; delegate: Item { width: 9; height: 20 } currentIndex: 8 }"
 
     function test_staysSeen_data() {
@@ -44,6 +45,7 @@ ThemedTestCase {
             { tag: "narrower", body: root.flow, act: page => { page.width = 100 }, contentY: 150 },
             { tag: "scrolled away, lower", body: root.flow, from: 300, act: lower, contentY: 300 },
             { tag: "scrolled away, zoomed", body: root.flow, from: 300, act: zoomed(2), contentY: 200 },
+            { tag: "fader longer than its view, lower", body: root.fader, act: lower, contentY: 109 },
             { tag: "row, lower", body: root.list, act: lower, contentY: 100 },
             { tag: "row scrolled away, lower", body: root.list, from: 300, act: lower, contentY: 300 },
             { tag: "cell, lower", body: root.table, act: lower, contentY: 100 },
