@@ -41,9 +41,9 @@ private:
     bool moveToEnabled(int start, int direction);
 
     const RComboBoxBase &m_box;
-    int m_entry = -1;
     TypedLetters m_letters;
     std::optional<QPointF> m_pointer; ///< Where it was last over the list, in the scene.
+    int m_entry = -1;
     bool m_pointerMayRest = false;
 };
 

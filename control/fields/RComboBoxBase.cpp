@@ -1,62 +1,28 @@
 #include "fields/RComboBoxBase.h"
 
 #include "base/PartComponents.h"
-#include "base/PendingValue.h"
 #include "fields/ComboEntries.h"
+#include "fields/RComboBoxEntryBase.h"
 #include "fields/RTextFieldBase.h"
 
-#include <QtQmlModels/private/qqmlobjectmodel_p.h>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QWheelEvent>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
-#include <algorithm>
 #include <utility>
 
 namespace tamble::client {
 
 RComboBoxBase::RComboBoxBase(QQuickItem *parent)
-    : StyledComboBox(parent)
-    , m_highlight(*this)
+    : ValueComboBox(parent)
+    , m_list(*this)
 {}
 
-// The field loses the focus, and the model goes, when nothing of this is left.
+// The field loses the focus when nothing of this is left.
 RComboBoxBase::~RComboBoxBase()
 {
-    if (m_watchedModel)
-        m_watchedModel->disconnect(this);
     if (m_field)
         m_field->edit()->setEditor(nullptr);
-}
-
-void RComboBoxBase::setValue(const QVariant &value)
-{
-    m_isValueGiven = true;
-    if (m_value == value)
-        return;
-    m_value = value;
-    m_hadValue = m_hadValue || namesAnything(value);
-    if (m_hadValue)
-        entries();
-    followValue();
-    Q_EMIT valueChanged();
-}
-
-void RComboBoxBase::setConsistent(bool consistent)
-{
-    if (std::exchange(m_isConsistent, consistent) == consistent)
-        return;
-    needMarks();
-    Q_EMIT consistentChanged();
-    Q_EMIT mixedChanged();
-    announce(*this, QAccessible::DescriptionChanged);
-}
-
-void RComboBoxBase::setConfirmed(bool confirmed)
-{
-    if (std::exchange(m_isConfirmed, confirmed) == confirmed)
-        return;
-    needMarks();
-    Q_EMIT confirmedChanged();
-    announce(*this, QAccessible::DescriptionChanged);
 }
 
 void RComboBoxBase::setReadOnly(bool readOnly)
@@ -68,35 +34,9 @@ void RComboBoxBase::setReadOnly(bool readOnly)
     Q_EMIT readOnlyChanged();
 }
 
-QString RComboBoxBase::unknownText() const
-{
-    return m_unknownText.isNull() ? tr("unknown (%1)") : m_unknownText;
-}
-
-void RComboBoxBase::setUnknownText(const QString &text)
-{
-    if (std::exchange(m_unknownText, text) == text)
-        return;
-    Q_EMIT unknownTextChanged();
-    Q_EMIT otherTextChanged();
-}
-
 bool RComboBoxBase::isEditing() const
 {
-    return m_isOpen || (m_field && m_field->edit()->isEdited());
-}
-
-bool RComboBoxBase::isMixed() const
-{
-    return !m_isConsistent && !(m_pending && m_pending->isActive());
-}
-
-QString RComboBoxBase::otherText() const
-{
-    if (!m_hadValue || !namesAnything(m_value))
-        return m_enteredText;
-    const QString text = m_value.toString();
-    return isEditable() ? text : unknownText().arg(text);
+    return m_list.isOpen() || (m_field && m_field->edit()->isEdited());
 }
 
 bool RComboBoxBase::canOpen() const
@@ -113,7 +53,7 @@ void RComboBoxBase::open()
 
 void RComboBoxBase::close()
 {
-    if (m_isOpen)
+    if (m_list.isOpen())
         popup()->close();
 }
 
@@ -149,11 +89,7 @@ void RComboBoxBase::editTo(int index)
     if (m_field)
         m_field->edit()->cancel();
     if (guard)
-        pending().show(m_hadValue ? chosen : QVariant(index));
-    if (guard)
-        Q_EMIT valueEdited(chosen);
-    if (guard)
-        m_pending->commit();
+        tellChoice(index, chosen);
 }
 
 void RComboBoxBase::onTextEntered(const QString &text)
@@ -163,17 +99,13 @@ void RComboBoxBase::onTextEntered(const QString &text)
     if (index >= 0) {
         choose(index);
     } else {
-        m_enteredText = text;
-        if (m_hadValue)
-            pending().show(text);
-        setCurrentIndex(-1);
-        setEditText(text);
+        showEntered(text);
         close();
     }
     if (guard)
         Q_EMIT accepted();
-    if (guard && m_pending)
-        m_pending->commit();
+    if (guard)
+        commitEntered();
 }
 
 // A page may write it as well; what the field has told comes from the user, or is shown already.
@@ -181,31 +113,13 @@ void RComboBoxBase::onEditTextChanged()
 {
     if (m_field && m_field->text() == editText())
         return;
-    m_enteredText = editText();
-    Q_EMIT otherTextChanged();
-}
-
-PendingValue &RComboBoxBase::pending()
-{
-    if (!m_pending) {
-        m_pending = new PendingValue(this);
-        m_pending->setTarget(this);
-        connect(m_pending, &PendingValue::activeChanged, this, &RComboBoxBase::mixedChanged);
-    }
-    m_pending->setName(m_hadValue ? QStringLiteral("value") : QStringLiteral("currentIndex"));
-    m_pending->setSettleTime(m_settleTime);
-    return *m_pending;
+    setEnteredText(editText());
 }
 
 void RComboBoxBase::componentComplete()
 {
-    // The template takes the first entry for chosen unless an index was set. A page that waits for its device to say
-    // a value has chosen none.
-    if (m_isValueGiven && currentIndex() == -1)
-        setCurrentIndex(-1);
     needField();
-    QQuickComboBox::componentComplete();
-    followValue();
+    ValueComboBox::componentComplete();
 }
 
 // Nearly all boxes only show a text, which costs a third of a field.
@@ -218,16 +132,9 @@ void RComboBoxBase::needField()
         setContentItem(field);
 }
 
-// A field has its own.
-void RComboBoxBase::needMarks()
-{
-    if (!m_marks && !(m_isConfirmed && m_isConsistent))
-        m_marks = PartComponents::makeItem(Part::ComboMarks, *this);
-}
-
 void RComboBoxBase::contentItemChange(QQuickItem *newItem, QQuickItem *oldItem)
 {
-    QQuickComboBox::contentItemChange(newItem, oldItem);
+    ValueComboBox::contentItemChange(newItem, oldItem);
     if (m_field)
         m_field->disconnect(this);
     m_field = qobject_cast<RTextFieldBase *>(newItem);
@@ -235,9 +142,83 @@ void RComboBoxBase::contentItemChange(QQuickItem *newItem, QQuickItem *oldItem)
         return;
     connect(this, &QQuickComboBox::editTextChanged, this, &RComboBoxBase::onEditTextChanged, Qt::UniqueConnection);
     connect(m_field->edit(), &FieldEdit::editedChanged, this, &RComboBoxBase::editingChanged);
-    connect(m_field, &QQuickTextInput::textEdited, this, &RComboBoxBase::onTextTyped);
+    connect(m_field, &QQuickTextInput::textEdited, this, [this] { m_list.onTextTyped(m_field->text()); });
     connect(m_field, &RTextFieldBase::valueEdited, this,
             [this](const QVariant &text) { onTextEntered(text.toString()); });
+}
+
+void RComboBoxBase::followModel()
+{
+    if (count() == 0)
+        close();
+    ValueComboBox::followModel();
+}
+
+void RComboBoxBase::entryCreation(QObject *entry)
+{
+    if (auto *made = qobject_cast<RComboBoxEntryBase *>(entry))
+        made->setComboBox(this);
+}
+
+void RComboBoxBase::entriesChange(const QQmlChangeSet &change, bool reset)
+{
+    m_list.follow(change, reset);
+    if (count() == 0)
+        close();
+}
+
+void RComboBoxBase::onListVisible(bool visible)
+{
+    if (!m_list.setOpen(visible, isMixed() ? -1 : currentIndex()))
+        return;
+    Q_EMIT editingChanged();
+    announce(*this, QAccessible::DescriptionChanged);
+}
+
+void RComboBoxBase::fitEntry(qreal width)
+{
+    if (width <= m_entryWidth)
+        return;
+    m_entryWidth = width;
+    Q_EMIT entryWidthChanged();
+}
+
+bool RComboBoxBase::event(QEvent *event)
+{
+    if (!m_list.takesFirst(*event))
+        return ValueComboBox::event(event);
+    event->accept();
+    return true;
+}
+
+bool RComboBoxBase::eventFilter(QObject *object, QEvent *event)
+{
+    if (object == m_field && m_list.takesFirst(*event)) {
+        event->accept();
+        return true;
+    }
+    const bool isKey = object == m_field && event->type() == QEvent::KeyPress;
+    return (isKey && m_list.handleFieldKey(*static_cast<QKeyEvent *>(event))) ||
+           ValueComboBox::eventFilter(object, event);
+}
+
+// In place of the template, whose keys choose at once.
+void RComboBoxBase::keyPressEvent(QKeyEvent *event)
+{
+    event->setAccepted(m_list.handleKey(*event));
+}
+
+void RComboBoxBase::keyReleaseEvent(QKeyEvent *event)
+{
+    event->setAccepted(m_list.takesRelease(*event));
+}
+
+// In place of the template, which chooses while the list is closed.
+void RComboBoxBase::wheelEvent(QWheelEvent *event)
+{
+    event->setAccepted(m_list.isOpen());
+    if (m_list.isOpen())
+        m_list.turnWheel(event->angleDelta().y());
 }
 
 QString RComboBoxBase::spokenName() const
@@ -248,9 +229,9 @@ QString RComboBoxBase::spokenName() const
 QString RComboBoxBase::spokenDescription(const QString &given) const
 {
     QStringList parts{given, isMixed() ? tr("mixed") : currentIndex() >= 0 ? displayText() : otherText()};
-    if (!m_isConfirmed)
+    if (!isConfirmed())
         parts << tr("not confirmed");
-    parts << (m_isOpen ? tr("expanded") : tr("collapsed"));
+    parts << (m_list.isOpen() ? tr("expanded") : tr("collapsed"));
     parts.removeAll(QString());
     return parts.join(QStringLiteral(", "));
 }
@@ -261,13 +242,13 @@ void RComboBoxBase::addSpokenStates(QAccessible::State &state) const
     state.editable = isEditable();
     state.hasPopup = true;
     state.expandable = true;
-    state.expanded = m_isOpen;
-    state.collapsed = !m_isOpen;
+    state.expanded = m_list.isOpen();
+    state.collapsed = !m_list.isOpen();
 }
 
 bool RComboBoxBase::pressBySpeech()
 {
-    if (m_isOpen)
+    if (m_list.isOpen())
         close();
     else
         open();

@@ -5,6 +5,7 @@
 #include "fields/SpinButtons.h"
 #include "style/StyleSetProps.h"
 
+#include <QtGui/QGuiApplication>
 #include <QtGui/QWheelEvent>
 
 #include <utility>
@@ -180,7 +181,7 @@ void RSpinBoxBase::updateButtons()
     // A disabled box is dim as a whole.
     const auto shows = [this](bool canStep) { return !isEnabled() || canStep; };
     m_buttons->enable(shows(m_steps && m_steps->canStepDown()), shows(m_steps && m_steps->canStepUp()),
-                      m_pressedButton);
+                      m_held.button());
 }
 
 void RSpinBoxBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
@@ -223,6 +224,70 @@ void RSpinBoxBase::accessibilityActiveChanged(bool active)
 {
     if (active)
         beginToSpeak(*this);
+}
+
+int RSpinBoxBase::buttonAt(qreal x) const
+{
+    const qreal fromEnd = isMirrored() ? x : width() - x;
+    if (!m_buttonsVisible || fromEnd < 0.0 || fromEnd >= 2.0 * buttonWidth())
+        return 0;
+    return fromEnd < buttonWidth() ? 1 : -1;
+}
+
+void RSpinBoxBase::mousePressEvent(QMouseEvent *event)
+{
+    const int button = buttonAt(event->position().x());
+    forceActiveFocus(Qt::MouseFocusReason);
+    event->accept();
+    if (button == 0 || m_held.button() != 0)
+        return;
+    m_held.press(button, m_autoRepeat, *this);
+    updateButtons();
+    Q_EMIT pressedButtonChanged();
+    stepByButton();
+}
+
+void RSpinBoxBase::mouseReleaseEvent(QMouseEvent *)
+{
+    release();
+}
+
+void RSpinBoxBase::mouseUngrabEvent()
+{
+    release();
+}
+
+// Left to the mouse events that are made of touches which nobody takes.
+void RSpinBoxBase::touchEvent(QTouchEvent *event)
+{
+    event->ignore();
+}
+
+void RSpinBoxBase::timerEvent(QTimerEvent *event)
+{
+    if (!m_held.isMine(*event))
+        QQuickControl::timerEvent(event);
+    else if (m_held.goOn(m_autoRepeat, *this))
+        stepByButton();
+}
+
+void RSpinBoxBase::stepByButton()
+{
+    if (m_steps)
+        m_steps->step(m_held.stepSize(QGuiApplication::keyboardModifiers()), m_held.button());
+}
+
+void RSpinBoxBase::release()
+{
+    if (!m_held.release())
+        return;
+    const QPointer<RSpinBoxBase> guard(this);
+    if (m_steps)
+        m_steps->finish();
+    if (!guard)
+        return;
+    updateButtons();
+    Q_EMIT pressedButtonChanged();
 }
 
 void RSpinBoxBase::wheelEvent(QWheelEvent *event)

@@ -2,10 +2,10 @@
 
 #include "base/ControlExport.h"
 #include "fields/FieldSpeech.h"
+#include "fields/HeldSpinButton.h"
 #include "fields/NumberSteps.h"
 #include "style/SheetColors.h"
 
-#include <QtCore/QBasicTimer>
 #include <QtCore/QPointer>
 #include <QtQml/qqmlregistration.h>
 #include <QtQuickTemplates2/private/qquickcontrol_p.h>
@@ -80,7 +80,7 @@ public:
     QString suffix() const { return m_suffix; }
     void setSuffix(const QString &suffix);
     /// -1 while "minus" is held, 1 for "plus", else 0.
-    int pressedButton() const { return m_pressedButton; }
+    int pressedButton() const { return m_held.button(); }
 
     QColor ssBackground() const { return m_colors.color(Background); }
     void setSsBackground(const QColor &color) { m_colors.setColor(Background, color); }
@@ -185,10 +185,8 @@ private:
     QObject *m_invalidLook = nullptr;
     QString m_prefix;
     QString m_suffix;
-    QBasicTimer m_repeat;
     qreal m_unit = 1.0;
-    int m_pressedButton = 0;
-    int m_repeats = 0;
+    HeldSpinButton m_held;
     bool m_buttonsVisible = true;
     bool m_autoRepeat = true;
 };

@@ -1,7 +1,6 @@
 #include "flyouts/RFlyoutWindowBase.h"
 
 #include "base/ControlLog.h"
-#include "screen/RScreen.h"
 #include "scrolling/EnclosingView.h"
 
 #include <QtGui/QKeyEvent>
@@ -12,27 +11,11 @@
 
 namespace tamble::client {
 
-namespace {
-
-QQuickItem *layerOf(const QQuickItem &flyout)
-{
-    for (QQuickItem *item = flyout.parentItem(); item; item = item->parentItem()) {
-        if (qobject_cast<RScreen *>(item)) {
-            auto *layer = item->property("flyoutLayer").value<QQuickItem *>();
-            return layer ? layer : item;
-        }
-    }
-    return flyout.parentItem();
-}
-
-} // namespace
-
 RFlyoutWindowBase::RFlyoutWindowBase(QQuickItem *parent)
-    : TitledPane(parent)
+    : FloatingPane(parent)
 {
     setVisible(false);
     setFiltersChildMouseEvents(true);
-    followLayer();
     followFocus(window());
 }
 
@@ -41,14 +24,6 @@ RFlyoutWindowBase::~RFlyoutWindowBase()
 {
     followFocus(nullptr);
     giveFocusBack();
-}
-
-void RFlyoutWindowBase::setMovable(bool movable)
-{
-    if (m_isMovable == movable)
-        return;
-    m_isMovable = movable;
-    Q_EMIT movableChanged();
 }
 
 void RFlyoutWindowBase::setPinned(bool pinned)
@@ -67,21 +42,16 @@ void RFlyoutWindowBase::setContentComponent(QQmlComponent *component)
     if (m_madeContent)
         m_madeContent->deleteLater();
     m_madeContent = nullptr;
-    if (m_isShown)
+    if (isShown())
         makeContent();
     Q_EMIT contentComponentChanged();
-}
-
-QSizeF RFlyoutWindowBase::layerSize() const
-{
-    return m_layer ? m_layer->size() : QSizeF(0.0, 0.0);
 }
 
 void RFlyoutWindowBase::open()
 {
     if (!enterLayer())
         return;
-    if (!m_isShown)
+    if (!isShown())
         recall();
     show();
 }
@@ -90,37 +60,25 @@ void RFlyoutWindowBase::openAt(QQuickItem *item, Qt::Edge edge)
 {
     if (!enterLayer())
         return;
-    recall();
-    m_opener = item;
-    m_openerEdge = edge;
+    recall(item, edge);
     show();
-}
-
-bool RFlyoutWindowBase::enterLayer()
-{
-    QQuickItem *layer = layerOf(*this);
-    if (layer)
-        setParentItem(layer);
-    return layer;
 }
 
 void RFlyoutWindowBase::show()
 {
     const QPointer<RFlyoutWindowBase> guard(this);
-    if (!m_isShown)
+    if (!isShown())
         closeGroup(); // whose handlers may do anything
-    if (!guard || !m_layer)
+    if (!guard || !layer())
         return;
-    if (!m_isShown)
-        m_step = freeStep();
-    const bool wasShown = std::exchange(m_isShown, true);
+    const bool isNew = setShown(true);
     makeContent();
     updateHeader();
     setVisible(true);
     arrange();
     raise();
     takeFocus(Qt::PopupFocusReason);
-    if (wasShown)
+    if (!isNew)
         return;
     Q_EMIT shownChanged();
     if (guard)
@@ -132,8 +90,9 @@ void RFlyoutWindowBase::closeGroup()
     if (m_group.isEmpty())
         return;
     QList<QPointer<RFlyoutWindowBase>> others;
-    for (RFlyoutWindowBase *flyout : shownIn(*m_layer)) {
-        if (flyout != this && flyout->m_group == m_group && !flyout->m_isPinned)
+    for (FloatingPane *pane : shownIn(*layer())) {
+        auto *flyout = qobject_cast<RFlyoutWindowBase *>(pane);
+        if (flyout && flyout != this && flyout->m_group == m_group && !flyout->m_isPinned)
             others.append(flyout);
     }
     for (const auto &flyout : std::as_const(others)) {
@@ -144,7 +103,7 @@ void RFlyoutWindowBase::closeGroup()
 
 void RFlyoutWindowBase::close()
 {
-    if (!std::exchange(m_isShown, false))
+    if (!setShown(false))
         return;
     giveFocusBack();
     setVisible(false);
@@ -155,30 +114,11 @@ void RFlyoutWindowBase::close()
         Q_EMIT flyoutClosed();
 }
 
-void RFlyoutWindowBase::raise()
-{
-    if (!m_layer)
-        return;
-    QQuickItem *topmost = m_layer->childItems().constLast();
-    if (topmost != this)
-        stackAfter(topmost);
-}
-
-QList<RFlyoutWindowBase *> RFlyoutWindowBase::shownIn(const QQuickItem &layer)
-{
-    QList<RFlyoutWindowBase *> flyouts;
-    for (QQuickItem *child : layer.childItems()) {
-        auto *flyout = qobject_cast<RFlyoutWindowBase *>(child);
-        if (flyout && flyout->m_isShown)
-            flyouts.append(flyout);
-    }
-    return flyouts;
-}
-
 bool RFlyoutWindowBase::focusNext(const QQuickItem &layer)
 {
-    for (RFlyoutWindowBase *flyout : shownIn(layer)) {
-        if (flyout->hasActiveFocus())
+    for (FloatingPane *pane : shownIn(layer)) {
+        auto *flyout = qobject_cast<RFlyoutWindowBase *>(pane);
+        if (!flyout || flyout->hasActiveFocus())
             continue;
         flyout->raise();
         flyout->takeFocus(Qt::OtherFocusReason);
@@ -227,9 +167,10 @@ void RFlyoutWindowBase::makeContent()
 
 void RFlyoutWindowBase::itemChange(ItemChange change, const ItemChangeData &data)
 {
-    TitledPane::itemChange(change, data);
-    if (change == ItemParentHasChanged)
-        followLayer();
+    FloatingPane::itemChange(change, data);
+    // Later, since a layer that is being destroyed is no time for handlers.
+    if (change == ItemParentHasChanged && !data.item)
+        QMetaObject::invokeMethod(this, &RFlyoutWindowBase::close, Qt::QueuedConnection);
     else if (change == ItemSceneChange)
         followFocus(data.window);
 }
@@ -246,33 +187,12 @@ void RFlyoutWindowBase::followFocus(QQuickWindow *window)
 /// Scrolls to what the Tab key has reached.
 void RFlyoutWindowBase::revealFocus()
 {
-    const QQuickItem *focused = m_isShown && m_window ? m_window->activeFocusItem() : nullptr;
+    const QQuickItem *focused = isShown() && m_window ? m_window->activeFocusItem() : nullptr;
     if (!focused || !m_contentParent || !m_contentParent->isAncestorOf(focused))
         return;
     QQuickItem *view = contentItem();
     if (view->inherits("QQuickFlickable"))
         EnclosingView::reveal(*view, view->mapRectFromItem(focused, focused->boundingRect()), {});
-}
-
-void RFlyoutWindowBase::followLayer()
-{
-    if (m_layer == parentItem())
-        return;
-    if (m_layer)
-        m_layer->disconnect(this);
-    m_layer = parentItem();
-    if (m_layer) {
-        const auto onSize = [this] {
-            Q_EMIT layerSizeChanged();
-            arrange();
-        };
-        connect(m_layer, &QQuickItem::widthChanged, this, onSize);
-        connect(m_layer, &QQuickItem::heightChanged, this, onSize);
-    }
-    Q_EMIT layerSizeChanged();
-    // Later, since a layer that is being destroyed is no time for handlers.
-    if (!m_layer)
-        QMetaObject::invokeMethod(this, &RFlyoutWindowBase::close, Qt::QueuedConnection);
 }
 
 bool RFlyoutWindowBase::childMouseEventFilter(QQuickItem *child, QEvent *event)
@@ -281,14 +201,14 @@ bool RFlyoutWindowBase::childMouseEventFilter(QQuickItem *child, QEvent *event)
         raise();
         takeFocus(Qt::MouseFocusReason);
     }
-    return TitledPane::childMouseEventFilter(child, event);
+    return FloatingPane::childMouseEventFilter(child, event);
 }
 
 void RFlyoutWindowBase::mousePressEvent(QMouseEvent *event)
 {
     raise();
     takeFocus(Qt::MouseFocusReason);
-    TitledPane::mousePressEvent(event);
+    FloatingPane::mousePressEvent(event);
 }
 
 void RFlyoutWindowBase::keyPressEvent(QKeyEvent *event)
@@ -298,16 +218,16 @@ void RFlyoutWindowBase::keyPressEvent(QKeyEvent *event)
         event->accept();
         if (!event->isAutoRepeat())
             close();
-    } else if (event->key() == Qt::Key_F6 && modifiers == Qt::ControlModifier && m_layer) {
+    } else if (event->key() == Qt::Key_F6 && modifiers == Qt::ControlModifier && layer()) {
         event->accept();
-        focusNext(*m_layer);
+        focusNext(*layer());
     } else if ((event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) && modifiers == Qt::AltModifier) {
         event->accept();
         setCollapsed(event->key() == Qt::Key_Up);
     } else if (moveByKey(*event)) {
         event->accept();
     } else {
-        TitledPane::keyPressEvent(event);
+        FloatingPane::keyPressEvent(event);
     }
 }
 

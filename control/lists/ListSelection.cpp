@@ -81,8 +81,7 @@ void ListSelection::clear()
 void ListSelection::follow(std::span<const RowChange> leaving, std::span<const RowChange> coming)
 {
     m_rows = followed(std::move(m_rows), leaving, coming);
-    if (m_anchor >= 0)
-        m_anchor = followed(RowRanges(RowRange{m_anchor, m_anchor}), leaving, coming).first();
+    m_anchor = followedRow(m_anchor, leaving, coming);
 }
 
 void ListSelection::replaceRows(const RowRanges &rows)

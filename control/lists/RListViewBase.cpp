@@ -1,73 +1,33 @@
 #include "lists/RListViewBase.h"
 
-#include "base/PartComponents.h"
-#include "lists/RListRowBase.h"
+#include "base/InputMeaning.h"
 
-#include <QtCore/QMetaProperty>
+#include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
-#include <QtQml/qqml.h>
-#include <QtQuick/private/qquickaccessibleattached_p.h>
+#include <QtGui/QKeyEvent>
 
-#include <algorithm>
 #include <utility>
-
-// What a list selects and shows. Keys are in RListKeys.cpp, the pointer in RListPointer.cpp.
 
 namespace tamble::client {
 
-namespace {
-
-/// Writes a flag of a delegate; false for one that has none of the name. A required one is the model's.
-bool tell(QObject &row, const char *flag, bool value)
-{
-    const QMetaObject *type = row.metaObject();
-    const QMetaProperty property = type->property(type->indexOfProperty(flag));
-    return property.isWritable() && !property.isRequired() && property.typeId() == QMetaType::Bool &&
-           property.write(&row, value);
-}
-
-/// Where a row stood that is among those that leave.
-int formerPlace(int row, const std::vector<RowChange> &leaving)
-{
-    for (const RowChange &change : leaving) {
-        if (row >= change.first + change.count)
-            row -= change.count;
-        else if (row >= change.first)
-            return change.first;
-    }
-    return row;
-}
-
-} // namespace
-
 RListViewBase::RListViewBase(QQuickItem *parent)
-    : QQuickListView(parent)
+    : SelectableListView(parent)
+    , m_look(*this)
+    , m_keys(*this)
+    , m_presses(*this)
 {
     setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
-    connect(this, &QQuickItemView::modelChanged, this, &RListViewBase::takeModel);
-    connect(this, &QQuickItemView::currentIndexChanged, this, &RListViewBase::onCurrentIndexChanged);
-    connect(&m_rows, &ListRows::changed, this, &RListViewBase::onRowsChanged);
-    connect(&m_rows, &ListRows::replaced, this, &RListViewBase::onRowsReplaced);
-    connect(&m_rows, &ListRows::aboutToBeSorted, this, &RListViewBase::onAboutToBeSorted);
-    connect(&m_rows, &ListRows::sorted, this, &RListViewBase::onSorted);
-    connect(&m_rows, &ListRows::textsChanged, this, &QQuickItem::polish);
-    connect(&m_rows, &ListRows::reused, this, &QQuickItem::polish);
     QAccessible::installActivationObserver(this);
 }
 
 RListViewBase::~RListViewBase()
 {
     QAccessible::removeActivationObserver(this);
-    // Rows go after this, and the view says so.
-    disconnect(this, nullptr, this, nullptr);
-    m_rows.disconnect(this);
 }
 
 void RListViewBase::componentComplete()
 {
-    QQuickListView::componentComplete();
-    takeModel();
-    m_currentRow = currentIndex();
+    SelectableListView::componentComplete();
     if (QAccessible::isActive())
         beginToSpeak(*this);
 }
@@ -80,24 +40,6 @@ void RListViewBase::setTextRole(const QString &role)
     Q_EMIT textRoleChanged();
 }
 
-void RListViewBase::setSelectionMode(SelectionMode mode)
-{
-    if (selectionMode() == mode)
-        return;
-    const QPointer<RListViewBase> guard(this);
-    changeSelection([mode](ListSelection &selection) { selection.setMode(ListSelection::Mode(mode)); });
-    if (guard)
-        Q_EMIT selectionModeChanged();
-}
-
-void RListViewBase::setSelectedIndexes(const QList<int> &rows)
-{
-    RowRanges wanted(rows);
-    if (isComponentComplete())
-        wanted = wanted.part(0, m_rows.count());
-    changeSelection([&wanted](ListSelection &selection) { selection.setRows(wanted); });
-}
-
 void RListViewBase::setHoverEnabled(bool enabled)
 {
     if (isHoverEnabled() == enabled)
@@ -107,218 +49,212 @@ void RListViewBase::setHoverEnabled(bool enabled)
     Q_EMIT hoverEnabledChanged();
 }
 
-void RListViewBase::select(int index)
-{
-    if (index >= 0 && index < m_rows.count())
-        changeSelection([index](ListSelection &selection) { selection.select(index); });
-}
-
-void RListViewBase::toggle(int index)
-{
-    if (index >= 0 && index < m_rows.count())
-        changeSelection([index](ListSelection &selection) { selection.toggle(index); });
-}
-
-void RListViewBase::selectRange(int from, int to)
-{
-    const int last = m_rows.count() - 1;
-    if (last < 0 || std::max(from, to) < 0 || std::min(from, to) > last)
-        return;
-    changeSelection(
-        [&](ListSelection &selection) { selection.selectRange(std::clamp(from, 0, last), std::clamp(to, 0, last)); });
-}
-
-void RListViewBase::clearSelection()
-{
-    changeSelection([](ListSelection &selection) { selection.clear(); });
-}
-
-/// Whether other rows are selected, which is then said; the list may be gone by then.
-bool RListViewBase::changeSelection(const SelectionChange &change)
-{
-    const RowRanges before = m_selection.rows();
-    change(m_selection);
-    if (m_selection.rows() == before)
-        return false;
-    polish();
-    announce(*this, QAccessible::Selection);
-    Q_EMIT selectedIndexesChanged();
-    return true;
-}
-
-/// Likewise for the user, who is then at the row `current`.
-void RListViewBase::editSelection(int current, const SelectionChange &change)
-{
-    const QPointer<RListViewBase> guard(this);
-    const bool isChanged = changeSelection(change);
-    // A tool that is told of the change asks for the rows' states at once.
-    if (isChanged && guard && QAccessible::isActive())
-        forVisibleRows([this](int row, QQuickItem &item) { showRow(row, item); });
-    if (isChanged && guard)
-        Q_EMIT selectionEdited(QVariant::fromValue(selectedIndexes()));
-    if (guard && current < m_rows.count())
-        setCurrentIndex(current);
-}
-
-void RListViewBase::takeModel()
-{
-    if (!isComponentComplete())
-        return;
-    m_knownModel = model();
-    const bool isFirst = m_rows.count() == 0;
-    m_rows.setModel(instanceModelOf(*this));
-    const QPointer<RListViewBase> guard(this);
-    if (isFirst)
-        setSelectedIndexes(selectedIndexes());
-    else
-        onRowsReplaced();
-    if (guard)
-        forVisibleRows([this](int row, QQuickItem &item) { introduceRow(row, item); });
-}
-
-void RListViewBase::onRowsChanged(const std::vector<RowChange> &leaving, const std::vector<RowChange> &coming)
-{
-    if (isTakingModel())
-        return;
-    const auto follow = [&](int row) {
-        return row < 0 ? row : followed(RowRanges(RowRange{row, row}), leaving, coming).first();
-    };
-    m_press.row = follow(m_press.row);
-    m_lastTapped = follow(m_lastTapped);
-    const int current = m_currentRow;
-    m_currentRow = follow(current);
-    const QPointer<RListViewBase> guard(this);
-    changeSelection([&](ListSelection &selection) { selection.follow(leaving, coming); });
-    if (!guard || current < 0 || m_currentRow >= 0)
-        return;
-    // Enter must not use the row that has come to stand in the place of the one that the user saw.
-    forceLayout();
-    setCurrentIndex(-1);
-    if (guard)
-        m_formerRow = formerPlace(current, leaving);
-}
-
-void RListViewBase::onRowsReplaced()
-{
-    if (isTakingModel())
-        return;
-    cancelPress();
-    m_letters.clear();
-    m_lastTapped = -1;
-    const QPointer<RListViewBase> guard(this);
-    clearSelection();
-    if (guard)
-        polish();
-}
-
-void RListViewBase::onAboutToBeSorted()
-{
-    m_sortedCurrent = m_currentRow < 0 ? QPersistentModelIndex() : m_rows.modelIndex(m_currentRow);
-    m_sortedSelection.clear();
-    const QList<int> rows = selectedIndexes();
-    if (rows.size() == m_rows.count()) // stays so
-        return;
-    for (const int row : rows)
-        m_sortedSelection.append(m_rows.modelIndex(row));
-}
-
-void RListViewBase::onSorted()
-{
-    cancelPress();
-    const int current = std::exchange(m_sortedCurrent, {}).row();
-    const QPointer<RListViewBase> guard(this);
-    if (!m_sortedSelection.isEmpty()) {
-        QList<int> rows;
-        for (const QPersistentModelIndex &index : std::exchange(m_sortedSelection, {}))
-            rows.append(index.row());
-        changeSelection([&rows](ListSelection &selection) { selection.replaceRows(RowRanges(rows)); });
-    }
-    if (guard && current >= 0)
-        setCurrentIndex(current);
-    if (guard)
-        polish();
-}
-
-void RListViewBase::onCurrentIndexChanged()
-{
-    m_currentRow = currentIndex();
-    m_formerRow = -1;
-}
-
 void RListViewBase::initItem(int index, QObject *item)
 {
-    QQuickListView::initItem(index, item);
+    SelectableListView::initItem(index, item);
     auto *row = qobject_cast<QQuickItem *>(item);
     if (row && !isTakingModel())
-        introduceRow(index, *row);
+        m_look.introduceRow(index, *row);
 }
 
-void RListViewBase::introduceRow(int row, QQuickItem &item)
+void RListViewBase::rowsChange(std::span<const RowChange> leaving, std::span<const RowChange> coming)
 {
-    showRow(row, item);
-    if (QAccessible::isActive() && qobject_cast<RListRowBase *>(&item))
-        beginToSpeak(item);
+    m_presses.followRows(leaving, coming);
+}
+
+void RListViewBase::rowsReplacement()
+{
+    m_presses.forgetRows();
+    m_keys.forgetLetters();
+}
+
+void RListViewBase::rowsSorting()
+{
+    m_presses.cancel();
 }
 
 void RListViewBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
-    QQuickListView::geometryChange(newGeometry, oldGeometry);
+    SelectableListView::geometryChange(newGeometry, oldGeometry);
     polish();
 }
 
 void RListViewBase::updatePolish()
 {
-    QQuickListView::updatePolish();
-    findHoveredRow();
-    forVisibleRows([this](int row, QQuickItem &item) { showRow(row, item); });
+    SelectableListView::updatePolish();
+    m_look.findHoveredRow();
+    m_look.showRows();
 }
 
-template <typename Action>
-void RListViewBase::forVisibleRows(Action action)
+void RListViewBase::keyPressEvent(QKeyEvent *event)
 {
-    for (QQuickItem *item : contentItem()->childItems()) {
-        const QPointF centre = item->position() + QPointF(item->width(), item->height()) / 2.0;
-        const int row = indexAt(centre.x(), centre.y());
-        if (row >= 0 && itemAtIndex(row) == item) // not one that waits for its next use
-            action(row, *item);
-    }
+    forceLayout(); // what has changed since the last frame counts
+    event->setAccepted(m_keys.handle(*event));
 }
 
-void RListViewBase::showRow(int row, QQuickItem &item)
+int RListViewBase::rowBeginningWith(const QString &beginning, int start) const
 {
-    if (auto *plain = qobject_cast<RListRowBase *>(&item)) {
-        plain->setList(this);
-        plain->setText(m_rows.text(row, m_textRole));
-        if (orientation() == Vertical)
-            plain->setWidth(width());
-    }
-    const bool selected = isSelected(row);
-    const bool hovered = row == m_hoveredRow;
-    const bool isTold = tell(item, "selected", selected);
-    const bool showsHover = tell(item, "hovered", hovered) && hovered;
-    showMark(item, selected || showsHover, selected, isTold);
-    if (auto *attached = QQuickAccessibleAttached::attachedProperties(&item)) {
-        attached->set_selectable(selectionMode() != None);
-        attached->set_selected(selected);
-    }
+    return listRows().rowBeginningWith(beginning, m_textRole, start);
 }
 
-void RListViewBase::showMark(QQuickItem &item, bool visible, bool selected, bool filled)
+bool RListViewBase::activateCurrent(bool isRepeated)
 {
-    static const QString name = QStringLiteral("rowMark");
-    auto *mark = item.findChild<QObject *>(name, Qt::FindDirectChildrenOnly);
-    if (!mark && visible) {
-        const QVariantMap properties{{QStringLiteral("list"), QVariant::fromValue(this)},
-                                     {QStringLiteral("parent"), QVariant::fromValue(&item)}};
-        mark = PartComponents::of(qmlEngine(this)).make(Part::RowMark, &item, properties);
-        if (mark)
-            mark->setObjectName(name);
+    if (currentRow() < 0 || !isSignalConnected(QMetaMethod::fromSignal(&RListViewBase::activated)))
+        return false;
+    if (!isRepeated)
+        Q_EMIT activated(currentRow());
+    return true;
+}
+
+int RListViewBase::rowAt(const QPointF &place)
+{
+    if (!contains(place))
+        return -1;
+    const QPointF inContent = mapToItem(contentItem(), place);
+    return indexAt(inContent.x(), inContent.y());
+}
+
+void RListViewBase::click(int row, Qt::KeyboardModifiers modifiers, bool byFinger)
+{
+    m_keys.forgetLetters();
+    editSelection(row, [&](ListSelection &selection) {
+        const bool controls = modifiers & Qt::ControlModifier;
+        if (modifiers & Qt::ShiftModifier)
+            selection.extendTo(row, currentRow(), controls);
+        else if (controls || (byFinger && selectionMode() == Multiple))
+            selection.toggle(row);
+        else
+            selection.select(row);
+    });
+}
+
+void RListViewBase::press(const QQuickItem &row)
+{
+    forceLayout();
+    const QPointF centre = contentItem()->mapFromItem(&row, row.boundingRect().center());
+    const int index = indexAt(centre.x(), centre.y());
+    if (index >= 0)
+        click(index, Qt::NoModifier, selectionMode() == Multiple);
+}
+
+void RListViewBase::requestMenu(int row, const QPointF &place)
+{
+    const QPointer<RListViewBase> guard(this);
+    if (row >= 0) {
+        editSelection(row, [row](ListSelection &selection) {
+            if (!selection.rows().contains(row))
+                selection.select(row);
+        });
     }
-    if (!mark)
+    if (guard)
+        Q_EMIT contextMenuRequested(row < 0 ? -1 : currentRow(), place);
+}
+
+void RListViewBase::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton) {
+        m_presses.rightClick(event->position());
         return;
-    mark->setProperty("selected", selected);
-    mark->setProperty("filled", filled);
-    mark->setProperty("visible", visible);
+    }
+    m_presses.begin(event->position(), isByFinger(*event));
+    m_presses.awaitLongPress();
+    SelectableListView::mousePressEvent(event);
+    event->accept();
+    if (!m_presses.isTouch())
+        forceActiveFocus(Qt::MouseFocusReason);
+}
+
+void RListViewBase::mouseMoveEvent(QMouseEvent *event)
+{
+    m_presses.follow(event->position());
+    SelectableListView::mouseMoveEvent(event);
+}
+
+void RListViewBase::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QPointer<RListViewBase> guard(this);
+    SelectableListView::mouseReleaseEvent(event);
+    if (guard && m_presses.isTouch())
+        forceActiveFocus(Qt::MouseFocusReason);
+    if (guard)
+        m_presses.end(event->position(), event->modifiers());
+}
+
+void RListViewBase::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && !isByFinger(*event))
+        m_presses.doubleClick(event->position());
+}
+
+void RListViewBase::mouseUngrabEvent()
+{
+    m_presses.cancel();
+    SelectableListView::mouseUngrabEvent();
+}
+
+void RListViewBase::touchEvent(QTouchEvent *event)
+{
+    const QPointF place = event->points().first().position();
+    const QPointer<RListViewBase> guard(this);
+    if (event->type() == QEvent::TouchBegin) {
+        m_presses.begin(place, true);
+        m_presses.awaitLongPress();
+    } else if (event->type() == QEvent::TouchCancel) {
+        m_presses.cancel();
+    } else {
+        m_presses.follow(place);
+    }
+    SelectableListView::touchEvent(event);
+    if (!guard || event->type() != QEvent::TouchEnd || !m_presses.isOpen())
+        return;
+    forceActiveFocus(Qt::MouseFocusReason);
+    if (guard)
+        m_presses.end(place, event->modifiers());
+}
+
+void RListViewBase::touchUngrabEvent()
+{
+    m_presses.cancel();
+    SelectableListView::touchUngrabEvent();
+}
+
+// Of presses that a control in a row takes the list learns here.
+bool RListViewBase::childMouseEventFilter(QQuickItem *item, QEvent *event)
+{
+    const QPointer<RListViewBase> guard(this);
+    if (event->isPointerEvent() && contentItem()->isAncestorOf(item))
+        m_presses.watch(static_cast<const QPointerEvent &>(*event));
+    return !guard || SelectableListView::childMouseEventFilter(item, event);
+}
+
+void RListViewBase::timerEvent(QTimerEvent *event)
+{
+    if (!m_presses.onTimer(*event))
+        SelectableListView::timerEvent(event);
+}
+
+void RListViewBase::hoverEnterEvent(QHoverEvent *event)
+{
+    SelectableListView::hoverEnterEvent(event);
+    pointAt(event->position());
+}
+
+void RListViewBase::hoverMoveEvent(QHoverEvent *event)
+{
+    SelectableListView::hoverMoveEvent(event);
+    pointAt(event->position());
+}
+
+void RListViewBase::hoverLeaveEvent(QHoverEvent *event)
+{
+    SelectableListView::hoverLeaveEvent(event);
+    pointAt(std::nullopt);
+}
+
+void RListViewBase::pointAt(std::optional<QPointF> place)
+{
+    if (m_look.pointAt(place))
+        polish();
 }
 
 void RListViewBase::addSpokenStates(QAccessible::State &state) const
@@ -331,7 +267,7 @@ void RListViewBase::accessibilityActiveChanged(bool active)
     if (!active || !isComponentComplete())
         return;
     beginToSpeak(*this);
-    forVisibleRows([this](int row, QQuickItem &item) { introduceRow(row, item); });
+    m_look.introduceRows();
 }
 
 } // namespace tamble::client

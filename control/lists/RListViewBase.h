@@ -2,18 +2,14 @@
 
 #include "base/ControlExport.h"
 #include "base/SpokenControl.h"
-#include "base/TypedLetters.h"
-#include "lists/ListRows.h"
-#include "lists/ListSelection.h"
+#include "lists/ListKeys.h"
+#include "lists/ListLook.h"
+#include "lists/ListPresses.h"
+#include "lists/SelectableListView.h"
 
-#include <QtCore/QBasicTimer>
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QPersistentModelIndex>
 #include <QtGui/QColor>
 #include <QtQml/qqmlregistration.h>
-#include <QtQuick/private/qquicklistview_p.h>
 
-#include <functional>
 #include <optional>
 
 namespace tamble::client {
@@ -30,16 +26,13 @@ namespace tamble::client {
 /// Keys: Up, Down, PageUp, PageDown, Home and End move to another row and select it, with Shift from the row where that
 /// began, with Ctrl not at all. Space selects the current row, Ctrl+Space toggles it, Ctrl+A selects all rows and Esc
 /// none. Enter activates the current row, the Menu key asks for its menu, and letters lead to the row that begins so.
-class TAMBLE_CLIENT_CONTROL_EXPORT RListViewBase : public QQuickListView,
+class TAMBLE_CLIENT_CONTROL_EXPORT RListViewBase : public tamble::client::SelectableListView,
                                                    public SpokenControl,
                                                    private QAccessible::ActivationObserver
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RListViewBase)
     Q_PROPERTY(QString textRole READ textRole WRITE setTextRole NOTIFY textRoleChanged FINAL)
-    Q_PROPERTY(SelectionMode selectionMode READ selectionMode WRITE setSelectionMode NOTIFY selectionModeChanged FINAL)
-    Q_PROPERTY(
-        QList<int> selectedIndexes READ selectedIndexes WRITE setSelectedIndexes NOTIFY selectedIndexesChanged FINAL)
     /// What the list is about, for people who cannot see it.
     Q_PROPERTY(QString label MEMBER m_label NOTIFY labelChanged FINAL)
     /// Text shown while there is no row.
@@ -60,13 +53,6 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RListViewBase : public QQuickListView,
     Q_PROPERTY(QColor ssForegroundItemHover MEMBER m_ssForegroundItemHover NOTIFY ssForegroundItemHoverChanged FINAL)
 
 public:
-    enum SelectionMode : int {
-        None = ListSelection::None,         ///< Rows can be moved to and activated only.
-        Single = ListSelection::Single,     ///< One row, or none.
-        Multiple = ListSelection::Multiple, ///< Any rows.
-    };
-    Q_ENUM(SelectionMode)
-
     explicit RListViewBase(QQuickItem *parent = nullptr);
     ~RListViewBase() override;
 
@@ -74,28 +60,24 @@ public:
     /// member, and simple values are shown as they are.
     QString textRole() const { return m_textRole; }
     void setTextRole(const QString &role);
-    /// How many rows can be selected; `Single` by default.
-    SelectionMode selectionMode() const { return SelectionMode(m_selection.mode()); }
-    void setSelectionMode(SelectionMode mode);
-    /// The selected rows in ascending order, numbered from 0. Rows that are not there are left out. What the user
-    /// selects stays until the page sets other rows, or a bound expression changes.
-    QList<int> selectedIndexes() const { return m_selection.rows().rows(); }
-    void setSelectedIndexes(const QList<int> &rows);
     /// Whether the row below the pointer is highlighted.
     bool isHoverEnabled() const { return acceptHoverEvents(); }
     void setHoverEnabled(bool enabled);
 
-    /// Selects this row and no other.
-    Q_INVOKABLE void select(int index);
-    /// Selects a row, or no longer.
-    Q_INVOKABLE void toggle(int index);
-    /// Selects the rows from one to the other; where there can be one only, the second one.
-    Q_INVOKABLE void selectRange(int from, int to);
-    /// Selects nothing.
-    Q_INVOKABLE void clearSelection();
-    /// Whether a row is selected.
-    Q_INVOKABLE bool isSelected(int index) const { return m_selection.rows().contains(index); }
+    /// What a row without a delegate shows.
+    QString rowText(int row) const { return listRows().text(row, m_textRole); }
+    /// The first row from `start` on, going on at the beginning, whose text begins so in either case; -1 for none.
+    int rowBeginningWith(const QString &beginning, int start) const;
+    bool findsByLetters() const { return m_typeAhead; }
+    /// The row at a place in the list's coordinates; -1 for none.
+    int rowAt(const QPointF &place);
 
+    /// The user clicks a row, or taps it.
+    void click(int row, Qt::KeyboardModifiers modifiers, bool byFinger);
+    /// The user asks for the menu of a row, or of none: -1.
+    void requestMenu(int row, const QPointF &place);
+    /// The user presses Enter, or holds it; false where nobody listens and the key is the dialog's around the list.
+    bool activateCurrent(bool isRepeated);
     /// A tool presses a row.
     void press(const QQuickItem &row);
 
@@ -105,8 +87,6 @@ public:
 
 Q_SIGNALS:
     void textRoleChanged();
-    void selectionModeChanged();
-    void selectedIndexesChanged();
     void labelChanged();
     void placeholderTextChanged();
     void typeAheadChanged();
@@ -118,13 +98,16 @@ Q_SIGNALS:
     void ssForegroundItemHoverChanged();
     /// The user wants to use a row: by Enter, a double click or a double tap.
     void activated(int index);
-    /// The user has selected other rows: all that are selected now.
-    void selectionEdited(const QVariant &indexes);
     /// A right click, a long press or the Menu key, on a row that is then selected, or on none: -1. `position` is in
     /// the list's coordinates.
     void contextMenuRequested(int index, const QPointF &position);
 
 protected:
+    void introduceRows() override { m_look.introduceRows(); }
+    void showRows() override { m_look.showRows(); }
+    void rowsChange(std::span<const RowChange> leaving, std::span<const RowChange> coming) override;
+    void rowsReplacement() override;
+    void rowsSorting() override;
     void componentComplete() override;
     void initItem(int index, QObject *item) override;
     void updatePolish() override;
@@ -144,50 +127,8 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
-    /// A press that may become a click, a double tap or a long press.
-    struct Press
-    {
-        QPointF at;   ///< In the list's coordinates.
-        int row = -1; ///< Followed while the model changes.
-        bool isOpen = false;
-        bool byFinger = false;
-    };
-
     void accessibilityActiveChanged(bool active) override;
-    void takeModel();
-    void onRowsChanged(const std::vector<RowChange> &leaving, const std::vector<RowChange> &coming);
-    void onRowsReplaced();
-    void onAboutToBeSorted();
-    void onSorted();
-    void onCurrentIndexChanged();
-    bool isTakingModel() const { return m_knownModel != model(); }
-
-    template <typename Action>
-    void forVisibleRows(Action action);
-    void introduceRow(int row, QQuickItem &item);
-    void showRow(int row, QQuickItem &item);
-    void showMark(QQuickItem &item, bool visible, bool selected, bool filled);
-    using SelectionChange = std::function<void(ListSelection &)>;
-    bool changeSelection(const SelectionChange &change);
-    void editSelection(int current, const SelectionChange &change);
-
-    bool handleKey(const QKeyEvent &event);
-    std::optional<int> targetOf(const QKeyEvent &event) const;
-    int rowsPerPage() const;
-    void moveTo(int row, Qt::KeyboardModifiers modifiers);
-    bool activateCurrent(const QKeyEvent &event);
-    void find(const QString &letters);
-    int rowAt(const QPointF &place);
-    void beginPress(const QPointF &place, bool byFinger);
-    void followPress(const QPointF &place);
-    void endPress(const QPointF &place, Qt::KeyboardModifiers modifiers);
-    void cancelPress();
-    void click(int row, Qt::KeyboardModifiers modifiers, bool byFinger);
-    void requestMenu(int row, const QPointF &place);
-    QPointF menuPlaceOfCurrent() const;
-    void doubleClick(const QPointF &place);
     void pointAt(std::optional<QPointF> place);
-    bool findHoveredRow();
 
     QString m_textRole = QStringLiteral("display");
     QString m_label;
@@ -197,20 +138,9 @@ private:
     QColor m_ssForegroundItemSelected;
     QColor m_ssBackgroundItemHover;
     QColor m_ssForegroundItemHover;
-    QVariant m_knownModel; ///< The page's model whose rows these are.
-    ListRows m_rows;
-    ListSelection m_selection;
-    TypedLetters m_letters;
-    Press m_press;
-    QBasicTimer m_longPress;
-    QElapsedTimer m_lastTap;
-    int m_lastTapped = -1; ///< Row of that.
-    int m_currentRow = -1; ///< Like currentIndex, which the view brings up to date later.
-    int m_formerRow = -1;  ///< Where the current row was that has left the model.
-    int m_hoveredRow = -1;
-    std::optional<QPointF> m_pointer;               ///< In the list's coordinates, while it is above.
-    QList<QPersistentModelIndex> m_sortedSelection; ///< These two while the model sorts its rows.
-    QPersistentModelIndex m_sortedCurrent;
+    ListLook m_look;
+    ListKeys m_keys;
+    ListPresses m_presses;
     bool m_typeAhead = true;
 };
 

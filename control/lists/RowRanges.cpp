@@ -139,4 +139,9 @@ RowRanges followed(RowRanges rows, std::span<const RowChange> leaving, std::span
     return rows;
 }
 
+int followedRow(int row, std::span<const RowChange> leaving, std::span<const RowChange> coming)
+{
+    return row < 0 ? -1 : followed(RowRanges(RowRange{row, row}), leaving, coming).first();
+}
+
 } // namespace tamble::client

@@ -65,5 +65,7 @@ private:
 /// The same rows after a change of the list. Changes count one after the other, first all that leave: each is numbered
 /// as those before it have left the list.
 RowRanges followed(RowRanges rows, std::span<const RowChange> leaving, std::span<const RowChange> coming);
+/// Likewise for one row; -1 for one that has left, and for none.
+int followedRow(int row, std::span<const RowChange> leaving, std::span<const RowChange> coming);
 
 } // namespace tamble::client

@@ -1,12 +1,13 @@
-#include "flyouts/RFlyoutWindowBase.h"
+#include "flyouts/FloatingPane.h"
+
+#include "screen/RScreen.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QKeyEvent>
 
 #include <algorithm>
-
-// Where the flyout stands.
+#include <utility>
 
 namespace tamble::client {
 
@@ -18,9 +19,9 @@ constexpr QSizeF leastSize(160.0, 80.0);
 constexpr QSizeF reachableHeader(64.0, 32.0);
 
 /// The arrangements that are kept by key.
-QHash<QString, RFlyoutWindowBase::Arrangement> &memory()
+QHash<QString, FloatingPane::Arrangement> &memory()
 {
-    static QHash<QString, RFlyoutWindowBase::Arrangement> kept;
+    static QHash<QString, FloatingPane::Arrangement> kept;
     return kept;
 }
 
@@ -40,12 +41,112 @@ QPointF directionOf(int key)
     }
 }
 
+QQuickItem *layerOf(const QQuickItem &pane)
+{
+    for (QQuickItem *item = pane.parentItem(); item; item = item->parentItem()) {
+        if (qobject_cast<RScreen *>(item)) {
+            auto *layer = item->property("flyoutLayer").value<QQuickItem *>();
+            return layer ? layer : item;
+        }
+    }
+    return pane.parentItem();
+}
+
 } // namespace
 
-/// The first one at which no other flyout stands that was not placed.
-int RFlyoutWindowBase::freeStep() const
+FloatingPane::FloatingPane(QQuickItem *parent)
+    : TitledPane(parent)
 {
-    const QList<RFlyoutWindowBase *> others = shownIn(*m_layer);
+    followLayer();
+}
+
+// The layer may get another size as this leaves it.
+FloatingPane::~FloatingPane()
+{
+    if (m_layer)
+        m_layer->disconnect(this);
+}
+
+void FloatingPane::setMovable(bool movable)
+{
+    if (m_isMovable == movable)
+        return;
+    m_isMovable = movable;
+    Q_EMIT movableChanged();
+}
+
+QSizeF FloatingPane::layerSize() const
+{
+    return m_layer ? m_layer->size() : QSizeF(0.0, 0.0);
+}
+
+bool FloatingPane::enterLayer()
+{
+    QQuickItem *layer = layerOf(*this);
+    if (layer)
+        setParentItem(layer);
+    return layer;
+}
+
+void FloatingPane::raise()
+{
+    if (!m_layer)
+        return;
+    QQuickItem *topmost = m_layer->childItems().constLast();
+    if (topmost != this)
+        stackAfter(topmost);
+}
+
+QList<FloatingPane *> FloatingPane::shownIn(const QQuickItem &layer)
+{
+    QList<FloatingPane *> panes;
+    for (QQuickItem *child : layer.childItems()) {
+        auto *pane = qobject_cast<FloatingPane *>(child);
+        if (pane && pane->m_isShown)
+            panes.append(pane);
+    }
+    return panes;
+}
+
+void FloatingPane::followLayer()
+{
+    if (m_layer == parentItem())
+        return;
+    if (m_layer)
+        m_layer->disconnect(this);
+    m_layer = parentItem();
+    if (m_layer) {
+        const auto onSize = [this] {
+            Q_EMIT layerSizeChanged();
+            arrange();
+        };
+        connect(m_layer, &QQuickItem::widthChanged, this, onSize);
+        connect(m_layer, &QQuickItem::heightChanged, this, onSize);
+    }
+    Q_EMIT layerSizeChanged();
+}
+
+void FloatingPane::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    TitledPane::itemChange(change, data);
+    if (change == ItemParentHasChanged)
+        followLayer();
+}
+
+bool FloatingPane::setShown(bool shown)
+{
+    if (m_isShown == shown)
+        return false;
+    if (shown)
+        m_step = freeStep();
+    m_isShown = shown;
+    return true;
+}
+
+/// The first one at which no other pane stands that was not placed.
+int FloatingPane::freeStep() const
+{
+    const QList<FloatingPane *> others = shownIn(*m_layer);
     const auto isTaken = [&](int step) {
         return std::any_of(others.begin(), others.end(), [&](const auto *other) {
             return !other->m_arrangement.isPlaced && !other->m_opener && !other->m_pagePlace && other->m_step == step;
@@ -57,21 +158,22 @@ int RFlyoutWindowBase::freeStep() const
     return step;
 }
 
-void RFlyoutWindowBase::recall()
+void FloatingPane::recall(QQuickItem *opener, Qt::Edge edge)
 {
-    m_opener = nullptr;
+    m_opener = opener;
+    m_openerEdge = edge;
     const auto kept = memory().constFind(m_rememberKey);
     if (!m_rememberKey.isEmpty() && kept != memory().constEnd())
         m_arrangement = *kept;
 }
 
-void RFlyoutWindowBase::remember() const
+void FloatingPane::remember() const
 {
     if (!m_rememberKey.isEmpty())
         memory().insert(m_rememberKey, m_arrangement);
 }
 
-void RFlyoutWindowBase::setArrangement(const Arrangement &arrangement)
+void FloatingPane::setArrangement(const Arrangement &arrangement)
 {
     const bool hadSize = m_arrangement.givenSize.has_value();
     m_arrangement = arrangement;
@@ -86,7 +188,7 @@ void RFlyoutWindowBase::setArrangement(const Arrangement &arrangement)
     arrange();
 }
 
-void RFlyoutWindowBase::arrange()
+void FloatingPane::arrange()
 {
     if (!m_isShown || !m_layer || m_isArranging)
         return;
@@ -102,7 +204,7 @@ void RFlyoutWindowBase::arrange()
 }
 
 /// Where it belongs until the user moves it.
-QPointF RFlyoutWindowBase::firstPlace() const
+QPointF FloatingPane::firstPlace() const
 {
     if (m_opener) {
         const QRectF area = m_layer->mapRectFromItem(m_opener, QRectF(QPointF(), m_opener->size()));
@@ -112,60 +214,63 @@ QPointF RFlyoutWindowBase::firstPlace() const
     return m_pagePlace.value_or(centred(shownSize(), layerSize()) + QPointF(step, step));
 }
 
-QSizeF RFlyoutWindowBase::shownSize() const
+QSizeF FloatingPane::shownSize() const
 {
     return {width(), isCollapsed() ? headerHeight() : height()};
 }
 
-QList<QRectF> RFlyoutWindowBase::neighbours() const
+QList<QRectF> FloatingPane::neighbours() const
 {
     QList<QRectF> rects;
-    for (const RFlyoutWindowBase *flyout : shownIn(*m_layer)) {
-        if (flyout != this)
-            rects.append(QRectF(flyout->position(), flyout->shownSize()));
+    for (const FloatingPane *pane : shownIn(*m_layer)) {
+        if (pane != this)
+            rects.append(QRectF(pane->position(), pane->shownSize()));
     }
     return rects;
 }
 
-qreal RFlyoutWindowBase::reach() const
+qreal FloatingPane::reach() const
 {
     return m_snapsToEdges ? snapReach * m_unit : -1.0;
 }
 
-void RFlyoutWindowBase::dragTo(const QPointF &position)
+void FloatingPane::moveTo(const FlyoutPlace &place)
 {
-    if (!m_layer)
-        return;
-    m_arrangement.place = snapped(position, shownSize(), layerSize(), neighbours(), reach());
+    m_arrangement.place = place;
     m_arrangement.isPlaced = true;
     arrange();
 }
 
-void RFlyoutWindowBase::endMove()
+void FloatingPane::dragTo(const QPointF &position)
+{
+    if (!m_layer)
+        return;
+    moveTo(snapped(position, shownSize(), layerSize(), neighbours(), reach()));
+}
+
+void FloatingPane::endMove()
 {
     remember();
     Q_EMIT movedByUser(position());
 }
 
-void RFlyoutWindowBase::dragTo(const QSizeF &size)
+void FloatingPane::dragTo(const QSizeF &size)
 {
     if (!m_layer)
         return;
     if (!m_arrangement.givenSize)
         m_ownSize = {widthValid() ? width() : 0.0, heightValid() ? height() : 0.0};
     m_arrangement.givenSize = snappedSize(position(), size, layerSize(), leastSize * m_unit, neighbours(), reach());
-    m_arrangement.place = snapped(position(), *m_arrangement.givenSize, layerSize(), {}, std::min(reach(), 0.0));
-    m_arrangement.isPlaced = true;
-    arrange();
+    moveTo(snapped(position(), *m_arrangement.givenSize, layerSize(), {}, std::min(reach(), 0.0)));
 }
 
-void RFlyoutWindowBase::endResize()
+void FloatingPane::endResize()
 {
     remember();
     Q_EMIT resizedByUser(size());
 }
 
-void RFlyoutWindowBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+void FloatingPane::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
     TitledPane::geometryChange(newGeometry, oldGeometry);
     if (m_isArranging)
@@ -185,17 +290,14 @@ void RFlyoutWindowBase::geometryChange(const QRectF &newGeometry, const QRectF &
     arrange();
 }
 
-bool RFlyoutWindowBase::moveByKey(const QKeyEvent &event)
+bool FloatingPane::moveByKey(const QKeyEvent &event)
 {
     const QPointF direction = directionOf(event.key());
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
     if (!m_isMovable || !m_layer || direction.isNull() || (modifiers & ~Qt::ShiftModifier) != Qt::ControlModifier)
         return false;
     const qreal step = modifiers & Qt::ShiftModifier ? 1.0 : keyStep;
-    m_arrangement.place =
-        snapped(position() + direction * step * m_unit, shownSize(), layerSize(), {}, std::min(reach(), 0.0));
-    m_arrangement.isPlaced = true;
-    arrange();
+    moveTo(snapped(position() + direction * step * m_unit, shownSize(), layerSize(), {}, std::min(reach(), 0.0)));
     endMove();
     return true;
 }
