@@ -2,15 +2,11 @@
 
 #include "bars/BadgeText.h"
 #include "base/PartComponents.h"
-#include "style/StateHelper.h"
-#include "style/StyleSet.h"
 #include "style/StyleSetProps.h"
 
 #include <QtQml/QQmlEngine>
 #include <QtQml/qqml.h>
 
-#include <array>
-#include <cstddef>
 #include <utility>
 
 namespace tamble::client {
@@ -93,47 +89,6 @@ void RBarButtonBase::styleChange()
 {
     Q_EMIT borderColorChanged();
     Q_EMIT borderVisibleChanged();
-}
-
-void RBarButtonBase::selectionChange()
-{
-    feedStates();
-}
-
-void RBarButtonBase::itemChange(ItemChange change, const ItemChangeData &data)
-{
-    RButtonBase::itemChange(change, data);
-    if (change == ItemEnabledHasChanged || change == ItemActiveFocusHasChanged)
-        feedStates();
-}
-
-void RBarButtonBase::hoverChange()
-{
-    RButtonBase::hoverChange();
-    feedStates();
-}
-
-// Natively, since a binding for each takes a tenth of the time in which a button is made. All but "pressed", of which
-// the template tells only by a signal. A state is written when it has changed: what a page has set for good stays.
-void RBarButtonBase::feedStates()
-{
-    using Setter = void (StateHelper::*)(bool);
-    const std::array<std::pair<Setter, bool>, 5> states = {{
-        {&StateHelper::setHovered, isHovered()},
-        {&StateHelper::setDisabled, !isEnabled()},
-        {&StateHelper::setSelected, isSelected()},
-        {&StateHelper::setInconsistent, !isConsistent()},
-        {&StateHelper::setFocus, hasActiveFocus()},
-    }};
-    for (std::size_t i = 0; i < states.size(); ++i) {
-        const auto &[set, isOn] = states[i];
-        const unsigned bit = 1U << i;
-        if (bool(m_fedStates & bit) == isOn)
-            continue;
-        m_fedStates ^= bit;
-        auto *styleSet = static_cast<StyleSet *>(qmlAttachedPropertiesObject<StyleSet>(this));
-        (styleSet->stateHelper()->*set)(isOn);
-    }
 }
 
 QString RBarButtonBase::spokenName() const

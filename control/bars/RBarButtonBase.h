@@ -63,10 +63,7 @@ Q_SIGNALS:
 protected:
     /// `iconKey` has changed.
     virtual void iconChange() {}
-    void selectionChange() override;
     void styleChange() override;
-    void itemChange(ItemChange change, const ItemChangeData &data) override;
-    void hoverChange() override;
     void hoverEnterEvent(QHoverEvent *event) override;
     void hoverLeaveEvent(QHoverEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
@@ -74,7 +71,6 @@ protected:
     void buttonChange(ButtonChange change) override;
 
 private:
-    void feedStates();
     void updateToolTip();
 
     QString m_label;
@@ -84,7 +80,6 @@ private:
     std::optional<bool> m_borderVisible;
     QQuickItem *m_badgeFrame = nullptr; // a child, made for the first badge
     QObject *m_toolTip = nullptr;       // likewise, when it is first needed
-    unsigned m_fedStates = 0;           // a bit for each that feedStates() has set
     bool m_isShortened = false;
 };
 
