@@ -96,6 +96,8 @@ int main(int argc, char **argv)
     engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/" TAMBLE_INSTALLED_QML_PATH));
     engine.addImportPath(QStringLiteral("qrc:/"));
     QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/Gallery/GalleryWindow.qml")));
+    if (!component.isReady())
+        return fail(component.errorString(), EXIT_FAILURE);
     const std::unique_ptr<QObject> root(
         component.createWithInitialProperties({{QStringLiteral("festivalPages"), pages.festival()},
                                                {QStringLiteral("cataloguePages"), pages.catalogue()},
@@ -104,7 +106,7 @@ int main(int argc, char **argv)
                                                {QStringLiteral("still"), !options.screenshotDir.isEmpty()}}));
     auto *window = qobject_cast<QQuickWindow *>(root.get());
     if (!window)
-        return fail(QStringLiteral("the window cannot be loaded: %1").arg(component.errorString()), EXIT_FAILURE);
+        return fail(QStringLiteral("the window cannot be made: %1").arg(component.errorString()), EXIT_FAILURE);
 
     if (options.firstFrame) {
         printFirstFrame(*window);

@@ -107,7 +107,6 @@ void RAppBarNavButtonBase::iconChange()
 
 void RAppBarNavButtonBase::selectionChange()
 {
-    RBarButtonBase::selectionChange();
     if (RAppBarBase *bar = nearestAncestor<RAppBarBase>(*this); bar && isSelected())
         bar->planAgain();
 }

@@ -143,7 +143,8 @@ bool RCellBase::isLocked() const
 
 void RCellBase::setControl(QQuickItem *control)
 {
-    if (m_control == control)
+    // What the cell is placed in, or is itself, cannot be placed in it.
+    if (m_control == control || control == this || (control && control->isAncestorOf(this)))
         return;
     if (m_control)
         m_control->disconnect(this);

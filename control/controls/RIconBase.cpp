@@ -2,9 +2,6 @@
 
 #include "style/StyleSetProps.h"
 
-#include <QtQml/QQmlContext>
-#include <QtQml/QQmlEngine>
-
 #include <cmath>
 #include <utility>
 
@@ -43,11 +40,11 @@ void RIconBase::setSizeClass(const QString &sizeClass)
 
 int RIconBase::size() const
 {
-    constexpr std::array<std::pair<const char *, int (*)()>, 4> sizes = {
-        {{"XXS", ssSizeXXS}, {"XS", ssSizeXS}, {"M", ssSizeM}, {"L", ssSizeL}}};
+    constexpr std::array<std::pair<const char *, int>, 4> sizes = {
+        {{"XXS", ssSizeXXS()}, {"XS", ssSizeXS()}, {"M", ssSizeM()}, {"L", ssSizeL()}}};
     for (const auto &[word, edge] : sizes) {
         if (m_sizeClass == QLatin1String(word))
-            return edge();
+            return edge;
     }
     return ssSizeS();
 }
@@ -130,9 +127,6 @@ void RIconBase::updatePicture()
 {
     if (!isComponentComplete())
         return;
-    // Which files a page can name is its engine's to say.
-    if (QQmlContext *context = qmlContext(this); context && m_source && !qmlContext(m_image))
-        QQmlEngine::setContextForObject(m_image, context);
     const QUrl picture = source();
     if (m_image->source() == picture)
         return;

@@ -65,11 +65,11 @@ public:
     qreal imgHeight() const { return m_image->height(); }
     void setImgHeight(qreal height);
 
-    static int ssSizeXXS() { return 8; }
-    static int ssSizeXS() { return 16; }
-    static int ssSizeS() { return 24; }
-    static int ssSizeM() { return 32; }
-    static int ssSizeL() { return 48; }
+    static constexpr int ssSizeXXS() { return 8; }
+    static constexpr int ssSizeXS() { return 16; }
+    static constexpr int ssSizeS() { return 24; }
+    static constexpr int ssSizeM() { return 32; }
+    static constexpr int ssSizeL() { return 48; }
     /// Of the style: the colour of the picture.
     QColor ssIconForeground() const { return m_colors.color(0); }
     void setSsIconForeground(const QColor &color) { m_colors.setColor(0, color); }

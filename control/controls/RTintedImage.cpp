@@ -21,6 +21,15 @@ QQuickImagePrivate *privateOf(RTintedImage *image)
     return static_cast<QQuickImagePrivate *>(QQuickItemPrivate::get(image));
 }
 
+// Later versions of Qt read no file without an engine: one that no page has made takes that of what is around it.
+void takeContext(QQuickItem &image)
+{
+    for (const QQuickItem *item = image.parentItem(); item && !qmlContext(&image); item = item->parentItem()) {
+        if (QQmlContext *context = qmlContext(item))
+            QQmlEngine::setContextForObject(&image, context);
+    }
+}
+
 } // namespace
 
 void RTintedImage::setTinted(bool tinted)
@@ -53,6 +62,7 @@ void RTintedImage::setEnlargement(qreal enlargement)
 
 void RTintedImage::load()
 {
+    takeContext(*this);
     const qreal screenRatio = window() ? window()->effectiveDevicePixelRatio() : qApp->devicePixelRatio();
     if (m_enlargement > 1.0 && screenRatio <= 1.0) {
         const QQmlContext *context = qmlContext(this);

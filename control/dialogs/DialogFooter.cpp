@@ -1,5 +1,7 @@
 #include "dialogs/DialogFooter.h"
 
+#include "base/ItemListening.h"
+
 #include <QtQuick/private/qquickanchors_p.h>
 #include <QtQuick/private/qquickitem_p.h>
 
@@ -27,22 +29,13 @@ DialogFooter::~DialogFooter()
 
 void DialogFooter::setListener(QQuickItemChangeListener *listener)
 {
-    for (const bool on : {false, true}) {
-        if (on)
-            m_listener = listener;
-        listenTo(m_standardRow, on);
-        listenTo(m_furtherRow, on);
+    for (QQuickRow *row : {m_standardRow.get(), m_furtherRow}) {
+        if (m_listener)
+            listenTo(row, *m_listener, QQuickItemPrivate::ImplicitWidth, false);
+        if (listener)
+            listenTo(row, *listener, QQuickItemPrivate::ImplicitWidth, true);
     }
-}
-
-void DialogFooter::listenTo(QQuickItem *row, bool on)
-{
-    if (!row || !m_listener)
-        return;
-    if (on)
-        QQuickItemPrivate::get(row)->addItemChangeListener(m_listener, QQuickItemPrivate::ImplicitWidth);
-    else
-        QQuickItemPrivate::get(row)->removeItemChangeListener(m_listener, QQuickItemPrivate::ImplicitWidth);
+    m_listener = listener;
 }
 
 void DialogFooter::setStandardBox(QQuickDialogButtonBox *box)
@@ -62,7 +55,8 @@ QQuickItem &DialogFooter::furtherRow()
     if (!m_furtherRow) {
         m_furtherRow = new QQuickRow(this);
         QQuickItemPrivate::get(m_furtherRow)->anchors()->setLeft(QQuickItemPrivate::get(this)->left());
-        listenTo(m_furtherRow, true);
+        if (m_listener)
+            listenTo(m_furtherRow, *m_listener, QQuickItemPrivate::ImplicitWidth, true);
     }
     return *m_furtherRow;
 }
@@ -76,6 +70,7 @@ void DialogFooter::layOut(qreal maximumWidth, qreal unit)
     for (int i = 0; i < count; ++i)
         m_standardBox->itemAt(i)->setProperty("widest", widest);
     m_standardRow->setSpacing(spacing);
+    m_standardBox->setSpacing(spacing); // by which it places the row
     const qreal standardWidth = m_standardRow->implicitWidth();
     const qreal furtherWidth = m_furtherRow ? m_furtherRow->implicitWidth() : 0.0;
     const qreal gap = furtherWidth > 0.0 && standardWidth > 0.0 ? margin : 0.0;

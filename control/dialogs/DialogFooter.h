@@ -6,7 +6,6 @@
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/private/qquickitemchangelistener_p.h>
-
 #include <QtQuickTemplates2/private/qquickdialogbuttonbox_p.h>
 
 namespace tamble::client {
@@ -35,8 +34,6 @@ public:
     void layOut(qreal maximumWidth, qreal unit);
 
 private:
-    void listenTo(QQuickItem *row, bool on);
-
     QQuickItemChangeListener *m_listener = nullptr;
     QPointer<QQuickDialogButtonBox> m_standardBox;
     QPointer<QQuickRow> m_standardRow;

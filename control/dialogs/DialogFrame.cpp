@@ -1,9 +1,11 @@
 #include "dialogs/DialogFrame.h"
 
+#include "base/ItemListening.h"
 #include "base/PartComponents.h"
 #include "dialogs/RDialogBase.h"
 #include "dialogs/RDialogBody.h"
 
+#include <QtCore/QScopedValueRollback>
 #include <QtQml/qqml.h>
 #include <QtQuickTemplates2/private/qquickscrollbar_p.h>
 
@@ -88,17 +90,10 @@ void DialogFrame::componentComplete()
     m_view->stackBefore(m_footer);
 }
 
-// At a tenth of the memory of connections.
 void DialogFrame::listen(bool on)
 {
-    const auto to = [this, on](QQuickItem *item, QQuickItemPrivate::ChangeTypes changes) {
-        if (item && on)
-            QQuickItemPrivate::get(item)->addItemChangeListener(this, changes);
-        else if (item)
-            QQuickItemPrivate::get(item)->removeItemChangeListener(this, changes);
-    };
-    to(m_body, QQuickItemPrivate::ImplicitWidth | QQuickItemPrivate::ImplicitHeight);
-    to(m_header ? m_header->words() : nullptr, QQuickItemPrivate::ImplicitWidth);
+    listenTo(m_body, *this, QQuickItemPrivate::ImplicitWidth | QQuickItemPrivate::ImplicitHeight, on);
+    listenTo(m_header ? m_header->words() : nullptr, *this, QQuickItemPrivate::ImplicitWidth, on);
     if (m_footer)
         m_footer->setListener(on ? this : nullptr);
 }
@@ -138,6 +133,9 @@ void DialogFrame::refresh()
     m_border->border()->setWidth(m_unit);
     m_view->setEnabled(!m_dialog->isBusy());
     m_footer->setEnabled(!m_dialog->isBusy());
+    PartComponents::show(m_veil, Part::DialogVeil, *this, m_dialog->isBusy());
+    if (m_veil)
+        m_veil->stackBefore(m_footer);
     m_header->refresh(m_unit);
     m_footer->layOut(m_dialog->maximumWidth(), m_unit);
     measure();
@@ -188,6 +186,10 @@ void DialogFrame::layOut()
 // Nearly all dialogs show what is in them at once.
 void DialogFrame::showScrollBars(bool shown)
 {
+    // As they are made they may lay out the frame again.
+    if (m_isMakingBars)
+        return;
+    const QScopedValueRollback making(m_isMakingBars, true);
     const bool isMade = m_scrollBars != nullptr;
     PartComponents::show(m_scrollBars, Part::DialogScrollBars, *this, shown);
     if (!m_scrollBars)

@@ -77,7 +77,9 @@ private:
     QQuickFlickable *m_view;
     QQuickRectangle *m_border;
     QQuickItem *m_scrollBars = nullptr; // made when there is something to scroll
+    QQuickItem *m_veil = nullptr;       // made when the dialog first waits
     qreal m_unit = 1.0;
+    bool m_isMakingBars = false;
 };
 
 } // namespace tamble::client

@@ -81,6 +81,7 @@ void DialogHeader::showParts()
 
 void DialogHeader::mousePressEvent(QMouseEvent *event)
 {
+    setKeepMouseGrab(false); // until this press has become a drag
     m_pressed = event->scenePosition();
     if (m_dialog)
         m_dialog->beginMove();

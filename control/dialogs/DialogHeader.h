@@ -36,7 +36,6 @@ public:
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseUngrabEvent() override { setKeepMouseGrab(false); }
 
 private:
     void showParts();

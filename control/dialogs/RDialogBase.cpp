@@ -105,8 +105,7 @@ void RDialogBase::tellColors(std::size_t begin, std::size_t end)
 {
     for (std::size_t i = begin; i < end; ++i)
         Q_EMIT(this->*dialogColorSignals[i])();
-    if (m_frame)
-        m_frame->refresh();
+    refresh();
 }
 
 void RDialogBase::componentComplete()
@@ -155,7 +154,6 @@ void RDialogBase::make()
     m_colors.follow(*m_frame, *m_frame->header());
     m_buttons.setStandard(standardButtons());
     m_frame->setBody(*body());
-    refresh();
     for (auto signal : {&RDialogBase::iconKeyChanged, &RDialogBase::busyChanged, &RDialogBase::closableChanged,
                         &RDialogBase::maximumSizeChanged})
         connect(this, signal, this, &RDialogBase::refresh);
@@ -164,10 +162,8 @@ void RDialogBase::make()
 
 void RDialogBase::refresh()
 {
-    if (!m_frame)
-        return;
-    m_frame->refresh();
-    PartComponents::show(m_veil, Part::DialogVeil, *m_frame, m_isBusy);
+    if (m_frame)
+        m_frame->refresh();
 }
 
 void RDialogBase::moveBy(QPointF distance)
@@ -186,6 +182,7 @@ void RDialogBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeo
 void RDialogBase::onVisibleChanged()
 {
     QQuickWindow *window = this->window();
+    refresh();
     if (isVisible()) {
         if (window)
             connect(window, &QQuickWindow::activeFocusItemChanged, this, &RDialogBase::onFocusMoved,

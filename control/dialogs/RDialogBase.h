@@ -136,7 +136,6 @@ private:
     DialogButtons m_buttons;
     QPointer<RDialogBody> m_body;  ///< A child, made when the first thing is put into it.
     QPointer<DialogFrame> m_frame; ///< Made when the dialog first opens.
-    QQuickItem *m_veil = nullptr;  ///< Below the frame, made when it is first shown.
     DialogColors m_colors;
     int m_defaultButton = 0;
     bool m_isBusy = false;

@@ -1,5 +1,7 @@
 #include "dialogs/RDialogBody.h"
 
+#include "base/ItemListening.h"
+
 #include <QtQuick/private/qquickitem_p.h>
 #include <QtQuick/private/qquicktext_p.h>
 
@@ -44,16 +46,12 @@ void RDialogBody::itemChange(ItemChange change, const ItemChangeData &data)
     QQuickItem::itemChange(change, data);
 }
 
-// At a tenth of the memory of connections.
 void RDialogBody::watch(QQuickItem &child, bool watched)
 {
-    constexpr QQuickItemPrivate::ChangeTypes changes = QQuickItemPrivate::Geometry | QQuickItemPrivate::ImplicitWidth |
-                                                       QQuickItemPrivate::ImplicitHeight |
-                                                       QQuickItemPrivate::Visibility;
-    if (watched)
-        QQuickItemPrivate::get(&child)->addItemChangeListener(this, changes);
-    else
-        QQuickItemPrivate::get(&child)->removeItemChangeListener(this, changes);
+    listenTo(&child, *this,
+             QQuickItemPrivate::Geometry | QQuickItemPrivate::ImplicitWidth | QQuickItemPrivate::ImplicitHeight |
+                 QQuickItemPrivate::Visibility,
+             watched);
 }
 
 void RDialogBody::measure()

@@ -3,7 +3,6 @@ import TambleClient.Control 1.0
 
 /*! Title of a dialog, by which it is dragged. */
 RDialogHeaderBase {
-    RStyleSet.typeName: "RDialogHeader"
     RStyleSet.name: "header"
 
     // A bare Text, which costs less than the component.

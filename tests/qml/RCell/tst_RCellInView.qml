@@ -86,6 +86,15 @@ ThemedTestCase {
         verify(page.before.activeFocus)
     }
 
+    function test_cannotHoldWhatItIsIn() {
+        const cell = make("RCellText {}")
+        const own = cell.control
+        for (const other of [cell, cell.parent]) {
+            cell.control = other
+            compare(cell.control, own)
+        }
+    }
+
     function test_scrolledAway() {
         const page = makeView()
         mouseClick(cellAt(page.view, 1))

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Templates as T
 import QtTest
 import TambleClient.Control 1.0
 import "../Support"
@@ -167,14 +168,35 @@ ThemedTestCase {
         verify(button(dialog.contentItem, marked()[0]).activeFocus)
     }
 
-    function test_header() {
+    function test_buttonsStandAtTheMargin() {
+        const page = openedDialog()
+        const ends = ["OK", "Cancel"].map(text => button(page.dialog.contentItem, text)).map(found => found.mapToItem(page.dialog.contentItem, found.width, 0).x)
+        compare(ends, [page.dialog.width - 16 - 96 - 8, page.dialog.width - 16])
+    }
+
+    function test_longBodyHasABar() {
+        const dialog = make("RDialog { Item { implicitHeight: 900 } }")
+        dialog.open()
+        tryVerify(() => dialog.opened)
+        const view = dialog.contentItem.view
+        verify(view.interactive && view.T.ScrollBar.vertical.visible)
+    }
+
+    function test_header_data() {
+        return [{ tag: "mouse" }, { tag: "touch", touch: true }]
+    }
+    function test_header(row) {
         const page = openedDialog()
         const header = button(page.dialog.contentItem, "Close").parent
         const place = Qt.point(page.dialog.x, page.dialog.y)
-        mousePress(header, 40, 20)
-        mouseMove(header, 40, 40)
-        mouseMove(header, 40, 400)
-        mouseRelease(header, 40, 400)
+        if (row.touch) {
+            touchEvent(header).press(0, header, 40, 20).commit().move(0, header, 40, 40).commit().move(0, header, 40, 400).commit().release(0, header, 40, 400).commit()
+        } else {
+            mousePress(header, 40, 20)
+            mouseMove(header, 40, 40)
+            mouseMove(header, 40, 400)
+            mouseRelease(header, 40, 400)
+        }
         compare(page.dialog.y, root.height - page.dialog.height - page.dialog.margins, "within the window")
         page.dialog.moveBy(Qt.point(NaN, Infinity))
         compare(page.dialog.x, place.x)
