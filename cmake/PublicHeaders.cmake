@@ -49,6 +49,8 @@ set(TAMBLE_PUBLIC_HEADERS
     workspace/RWorkspaceSelection.h
     workspace/WorkspaceBase.h
     workspace/WorkspaceItemBase.h
+    workspace/WorkspaceSurface.h
+    workspace/WorkspaceView.h
 )
 
 # The build target all_verify_interface_header_sets compiles each by itself, without precompiled ones that would hide a

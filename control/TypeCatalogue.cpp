@@ -456,7 +456,6 @@ void registerParts()
     name(Part::NavIcon, "RAppBar/RAppBarNavIcon.qml");
     name(Part::ProgressMarks, "RProgressBar/RProgressMarks.qml");
     name(Part::ProgressTravel, "RProgressBar/RProgressTravel.qml");
-    name(Part::ValueBinding, "Shared/RValueBinding.qml");
     name(Part::AccordionIcon, "RAccordion/RAccordionIcon.qml");
     name(Part::AccordionSubtitle, "RAccordion/RAccordionSubtitle.qml");
     name(Part::InsertionLine, "RAccordion/RInsertionLine.qml");

@@ -28,6 +28,10 @@ Flickable {
         view: root
         margin: theme.dp(8)
     }
+    RFocusRectangle {
+        parent: root
+        visible: root.activeFocus
+    }
 
     Keys.onUpPressed: root.contentY = Math.max(0, root.contentY - theme.dp(40))
     Keys.onDownPressed: root.contentY = Math.max(0, Math.min(root.contentHeight - root.height, root.contentY + theme.dp(40)))

@@ -182,7 +182,6 @@ set(unregistered
     Shared/RStyleProbe.qml
     Shared/RStyledButton.qml
     Shared/RToolTip.qml
-    Shared/RValueBinding.qml
 )
 
 foreach(list IN ITEMS registered singletons unregistered)

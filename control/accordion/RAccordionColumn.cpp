@@ -10,8 +10,6 @@
 #include <algorithm>
 #include <utility>
 
-// Sections, captions and focus. Drags are in RAccordionDrag.cpp.
-
 namespace tamble::client {
 
 namespace {
@@ -31,6 +29,7 @@ RAccordionItemBase *openAt(QQmlListProperty<RAccordionItemBase> *property, qsize
 RAccordionColumn::RAccordionColumn(QQuickItem *parent)
     : QQuickColumn(parent)
     , m_view(this)
+    , m_drag(*this, m_view)
 {}
 
 RAccordionColumn::~RAccordionColumn()
@@ -219,8 +218,8 @@ void RAccordionColumn::updatePolish()
     hideByCaptions();
     QQuickColumn::updatePolish();
     keepTabStop();
-    if (m_dragged)
-        showInsertion();
+    if (m_drag.isUnderWay())
+        m_drag.follow();
     if (!m_toReveal)
         return;
     reveal(*m_toReveal);
@@ -313,6 +312,40 @@ void RAccordionColumn::reveal(const QQuickItem &item)
         return;
     m_view.find();
     m_view.reveal(mapRectFromItem(&item, QRectF(QPointF(), item.size())), {});
+}
+
+bool RAccordionColumn::requestMove(RAccordionItemBase &item, int way)
+{
+    const QList<RAccordionItemBase *> all = sections();
+    const int from = int(all.indexOf(&item));
+    const int to = from + way;
+    if (from < 0 || to < 0 || to >= all.size())
+        return false;
+    m_toReveal = &item;
+    Q_EMIT itemMoved(from, to);
+    return true;
+}
+
+void RAccordionColumn::dragTo(RAccordionItemBase &item, const QPointF &scenePoint)
+{
+    m_drag.moveTo(item, scenePoint);
+}
+
+bool RAccordionColumn::drop(const RAccordionItemBase &item)
+{
+    const std::optional<InsertionPlace> place = m_drag.drop();
+    const int from = int(sections().indexOf(&item));
+    if (!place || from < 0)
+        return false;
+    const int to = movedTo(from, place->gap);
+    if (to != from)
+        Q_EMIT itemMoved(from, to);
+    return to != from;
+}
+
+void RAccordionColumn::endDrag()
+{
+    m_drag.end();
 }
 
 } // namespace tamble::client

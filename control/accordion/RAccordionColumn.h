@@ -1,19 +1,17 @@
 #pragma once
 
-#include "accordion/InsertionPlace.h"
+#include "accordion/AccordionDrag.h"
 #include "accordion/RAccordionItemBase.h"
 #include "base/ControlExport.h"
 #include "scrolling/EnclosingView.h"
 #include "scrolling/Positioners.h"
 
-#include <QtCore/QBasicTimer>
 #include <QtCore/QList>
 #include <QtCore/QPointer>
 #include <QtQml/QQmlListProperty>
 #include <QtQml/qqmlregistration.h>
 
 #include <functional>
-#include <optional>
 
 class QQuickWindow;
 
@@ -57,6 +55,8 @@ public:
     int count() const { return int(sections().size()); }
     QQmlListProperty<RAccordionItemBase> expandedItems();
     QList<RAccordionItemBase *> openSections() const;
+    /// All sections, from above.
+    QList<RAccordionItemBase *> sections() const;
 
     /// Opens all sections that can be opened; nothing in an exclusive accordion.
     Q_INVOKABLE void expandAll();
@@ -99,10 +99,8 @@ protected:
     void updatePolish() override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
-    void timerEvent(QTimerEvent *event) override;
 
 private:
-    QList<RAccordionItemBase *> sections() const;
     QList<AccordionHeading *> stops() const;
     void fitWidth(QQuickItem &child);
     void hideByCaptions();
@@ -113,19 +111,11 @@ private:
     void keepTabStop();
     void reveal(const QQuickItem &item);
 
-    std::optional<InsertionPlace> insertionAt(const QPointF &point) const;
-    void showInsertion();
-    void scrollWhileDragging();
-
     EnclosingView m_view;
     QPointer<QQuickWindow> m_window; ///< Whose focus is followed.
     QPointer<AccordionHeading> m_tabStop;
     QPointer<QQuickItem> m_toReveal; ///< Once the sections have their places.
-    QPointer<RAccordionItemBase> m_dragged;
-    QPointF m_pointer; ///< Of the drag, in the scene.
-    std::optional<InsertionPlace> m_insertion;
-    QPointer<QQuickItem> m_insertionLine;
-    QBasicTimer m_scrolling; ///< Runs during a drag.
+    AccordionDrag m_drag;
     bool m_isExclusive = false;
     bool m_isReorderable = false;
     bool m_isAnimated = true;

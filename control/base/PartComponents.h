@@ -20,7 +20,6 @@ enum class Part {
     NavIcon,           ///< The picture of a button that chooses a page.
     ProgressMarks,     ///< What a progress bar says besides its length.
     ProgressTravel,    ///< What moves a progress bar of unknown length.
-    ValueBinding,      ///< Holds back a page's binding while a user's edit is shown.
     AccordionIcon,     ///< The icon in the header of an accordion's section.
     AccordionSubtitle, ///< The second line there.
     InsertionLine,     ///< Where a dragged section would be put in.

@@ -1,10 +1,8 @@
 #include "base/PendingValue.h"
 
-#include "base/PartComponents.h"
+#include "base/PropertyGate.h"
 
 #include <QtCore/QTimerEvent>
-#include <QtQml/QQmlEngine>
-#include <QtQml/qqml.h>
 
 #include <algorithm>
 #include <utility>
@@ -21,12 +19,19 @@ PendingValue::PendingValue(QObject *target, const QString &name)
     , m_name(name)
 {}
 
+// Bindings are left alone here: what they depend on may be going as well.
+PendingValue::~PendingValue()
+{
+    if (m_isActive && m_hasSaid && m_gate && m_target != parent())
+        m_gate->pass(m_said);
+}
+
 void PendingValue::setTarget(QObject *target)
 {
     if (m_target == target || m_isActive)
         return;
     m_target = target;
-    forgetBinding();
+    m_gate.clear();
     Q_EMIT targetChanged();
 }
 
@@ -35,13 +40,8 @@ void PendingValue::setName(const QString &name)
     if (m_name == name || m_isActive)
         return;
     m_name = name;
-    forgetBinding();
+    m_gate.clear();
     Q_EMIT nameChanged();
-}
-
-void PendingValue::forgetBinding()
-{
-    delete std::exchange(m_binding, nullptr);
 }
 
 void PendingValue::setSettleTime(int ms)
@@ -50,21 +50,47 @@ void PendingValue::setSettleTime(int ms)
         Q_EMIT settleTimeChanged();
 }
 
+PropertyGate *PendingValue::gate()
+{
+    if (!m_gate && m_target)
+        m_gate = PropertyGate::of(*m_target, m_name);
+    return m_gate;
+}
+
 void PendingValue::begin()
 {
-    if (m_target && !m_isOpen)
-        show(m_target->property(m_name.toUtf8().constData()));
+    if (!m_isOpen && gate())
+        show(m_gate->value());
 }
 
 void PendingValue::show(const QVariant &value)
 {
-    if (!m_target)
+    if (!gate())
         return;
+    const QPointer<PendingValue> guard(this);
     m_settling.stop();
     if (!std::exchange(m_isOpen, true))
-        m_valueAtBegin = m_target->property(m_name.toUtf8().constData());
-    write(value);
-    setActive(true);
+        m_valueAtBegin = m_gate->value();
+    const bool begins = !std::exchange(m_isActive, true);
+    if (begins) {
+        m_gate->setEdit(this);
+        m_said = m_valueAtBegin;
+        m_hasSaid = false;
+    }
+    m_gate->pass(value);
+    if (guard && begins)
+        Q_EMIT activeChanged();
+}
+
+bool PendingValue::hears(const QVariant &said)
+{
+    if (!m_isActive)
+        return false;
+    const QVariant before = std::exchange(m_said, said);
+    m_hasSaid = true;
+    if (const QVariant shown = m_gate->value(); !m_isOpen && said == shown && before != shown)
+        end();
+    return true;
 }
 
 void PendingValue::commit()
@@ -73,44 +99,32 @@ void PendingValue::commit()
         m_settling.start(std::max(0, m_settleTime), this);
 }
 
-void PendingValue::cancel()
-{
-    if (!std::exchange(m_isOpen, false))
-        return;
-    write(m_valueAtBegin);
-    setActive(false);
-}
-
 void PendingValue::timerEvent(QTimerEvent *event)
 {
-    if (event->timerId() != m_settling.timerId()) {
+    if (event->timerId() == m_settling.timerId())
+        finish();
+    else
         QObject::timerEvent(event);
+}
+
+void PendingValue::finish()
+{
+    if (!m_isActive)
         return;
-    }
+    m_isActive = false; // before the page's binding writes
+    const QPointer<PendingValue> guard(this);
+    if (m_gate && !m_gate->readBinding() && m_hasSaid)
+        m_gate->pass(m_said);
+    if (guard)
+        end();
+}
+
+void PendingValue::end()
+{
     m_settling.stop();
-    setActive(false);
-}
-
-void PendingValue::write(const QVariant &value)
-{
-    QQmlEngine *engine = m_target ? qmlEngine(m_target) : nullptr;
-    if (!m_binding && engine) {
-        const QVariantMap properties{{QStringLiteral("target"), QVariant::fromValue(m_target.data())},
-                                     {QStringLiteral("property"), m_name}};
-        m_binding = PartComponents::of(engine).make(Part::ValueBinding, this, properties);
-    }
-    if (m_binding)
-        m_binding->setProperty("value", value);
-    else if (m_target)
-        m_target->setProperty(m_name.toUtf8().constData(), value);
-}
-
-void PendingValue::setActive(bool active)
-{
-    if (m_binding)
-        m_binding->setProperty("when", active);
-    if (std::exchange(m_isActive, active) != active)
-        Q_EMIT activeChanged();
+    m_isOpen = false;
+    m_isActive = false;
+    Q_EMIT activeChanged();
 }
 
 } // namespace tamble::client

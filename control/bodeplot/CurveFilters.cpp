@@ -64,18 +64,26 @@ void CurveFilters::setAxes(const PlotAxes &axes)
 
 void CurveFilters::refresh(QObject *source)
 {
-    if (m_holds.isEdited(source))
-        return;
     for (std::size_t i = 0; i < m_filters.sources.size(); ++i) {
-        if (m_filters.sources[i] == source)
-            refreshRecord(i);
+        if (m_filters.sources[i] != source)
+            continue;
+        const FilterRecord said = saidRecord(i);
+        if (!m_holds.hears(source, said))
+            refreshRecord(i, said);
     }
 }
 
-void CurveFilters::refreshRecord(std::size_t position)
+// What the source says, in the form that the set keeps.
+FilterRecord CurveFilters::saidRecord(std::size_t position) const
+{
+    const FilterRecord said = convertedAgain(m_filters, position);
+    settleRecord(said);
+    return said;
+}
+
+void CurveFilters::refreshRecord(std::size_t position, const FilterRecord &record)
 {
     const FilterRecord old = m_set.records()[position];
-    const FilterRecord record = convertedAgain(m_filters, position);
     if (const QString problem = m_set.setRecord(int(position), record); !problem.isEmpty())
         qDebug().noquote() << problem;
     checkSlope(position);
@@ -207,7 +215,8 @@ HandleEdit CurveFilters::release(int handle, int settleTimeMs)
     if (!hold)
         return {};
     const std::optional<QPointF> untold = hold->untoldPoint;
-    m_holds.end(*hold, settleTimeMs);
+    const FilterRecord said = hold->source ? saidRecord(std::size_t(m_set.recordOf(handle))) : FilterRecord();
+    m_holds.end(*hold, said, settleTimeMs);
     return untold ? move(handle, *untold) : HandleEdit();
 }
 

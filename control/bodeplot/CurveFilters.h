@@ -65,7 +65,8 @@ Q_SIGNALS:
 private:
     QStringList take(ConvertedFilters filters);
     void refresh(QObject *source);
-    void refreshRecord(std::size_t position);
+    void refreshRecord(std::size_t position, const FilterRecord &record);
+    FilterRecord saidRecord(std::size_t position) const;
     void checkSlope(std::size_t position);
     void followHeader(QObject *source);
     void followSelection(QObject *source);

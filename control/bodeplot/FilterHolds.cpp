@@ -3,6 +3,7 @@
 #include <QtCore/QTimerEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace tamble::client {
 
@@ -18,6 +19,11 @@ bool keepRecord(const QObject *source, const FilterRecord &record, FilterRecords
         return false;
     records[position] = record;
     return true;
+}
+
+bool isSame(const FilterRecord &a, const FilterRecord &b)
+{
+    return a.display() == b.display() && a.hasResponseOf(b);
 }
 
 } // namespace
@@ -48,11 +54,11 @@ FilterRecord FilterHolds::restore(FilterHold &hold)
     return restored;
 }
 
-void FilterHolds::end(const FilterHold &hold, int settleTimeMs)
+void FilterHolds::end(const FilterHold &hold, const FilterRecord &said, int settleTimeMs)
 {
     const auto position = &hold - m_holds.data();
     if (hold.source) { // ready-made records keep what they were given
-        Settling &settling = m_settling.emplace_back(Settling{hold.source, hold.record, {}});
+        Settling &settling = m_settling.emplace_back(Settling{hold.source, hold.record, isSame(said, hold.record), {}});
         settling.timer.start(std::max(0, settleTimeMs), this);
     }
     m_holds.erase(m_holds.begin() + position);
@@ -62,6 +68,17 @@ bool FilterHolds::isEdited(const QObject *source) const
 {
     return std::ranges::find(m_holds, source, &FilterHold::source) != m_holds.end() ||
            std::ranges::find(m_settling, source, &Settling::source) != m_settling.end();
+}
+
+bool FilterHolds::hears(const QObject *source, const FilterRecord &said)
+{
+    std::erase_if(m_settling, [&](Settling &settling) {
+        if (settling.source != source)
+            return false;
+        const bool isSaid = isSame(said, settling.record);
+        return !std::exchange(settling.isSaid, isSaid) && isSaid;
+    });
+    return isEdited(source);
 }
 
 void FilterHolds::keepIn(FilterRecords &records, const std::vector<QObject *> &sources)

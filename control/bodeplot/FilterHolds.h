@@ -38,10 +38,11 @@ public:
     void begin(QObject *source, const FilterRecord &record, HandleRelation relation);
     /// Gives the hold's record, and those of others who hold it too, back what it was; returns the record, a new one.
     FilterRecord restore(FilterHold &hold);
-    /// Ends a hold; its source settles for this time.
-    void end(const FilterHold &hold, int settleTimeMs);
+    /// Ends a hold; its source, which says `said` at present, settles for this time, or until it says the edit.
+    void end(const FilterHold &hold, const FilterRecord &said, int settleTimeMs);
 
-    bool isEdited(const QObject *source) const;
+    /// What a source says now; true while it waits.
+    bool hears(const QObject *source, const FilterRecord &said);
     /// Puts edited records in place of those of their sources in a new list, and forgets what has no place there.
     void keepIn(FilterRecords &records, const std::vector<QObject *> &sources);
 
@@ -53,10 +54,13 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    bool isEdited(const QObject *source) const;
+
     struct Settling
     {
         QObject *source = nullptr;
         FilterRecord record;
+        bool isSaid; ///< Whether the source says the edit, without having answered: it was written there at once.
         QBasicTimer timer;
     };
 

@@ -1,19 +1,21 @@
 #include "cells/RCellBase.h"
 
+#include "base/InputMeaning.h"
 #include "base/PartComponents.h"
+#include "cells/CellEditing.h"
 #include "cells/CellViewFocus.h"
 #include "cells/RCellContainerBase.h"
 #include "controls/RButtonBase.h"
 
-#include <QtCore/QVariantMap>
+#include <QtCore/QCoreApplication>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QStyleHints>
 #include <QtQml/qqml.h>
 #include <QtQuick/QQuickWindow>
-#include <QtQuick/QSGRectangleNode>
 #include <QtQuick/private/qquickaccessibleattached_p.h>
 
 #include <utility>
-
-// What a cell is and shows. Keys and the mouse are in RCellInput.cpp.
 
 namespace tamble::client {
 
@@ -27,10 +29,36 @@ void passByTab(QQuickItem &item)
         passByTab(*child);
 }
 
+/// A character that begins a text. AltGr counts as Ctrl and Alt on some systems.
+bool typesText(const QKeyEvent &event)
+{
+    const Qt::KeyboardModifiers held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const bool isPlain = held == Qt::NoModifier || held == (Qt::ControlModifier | Qt::AltModifier);
+    return isPlain && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
+/// Keys that would lead to another cell; while one is edited they are the editor's.
+bool leadsElsewhere(const QKeyEvent &event)
+{
+    switch (event.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 RCellBase::RCellBase(QQuickItem *parent)
-    : QQuickItem(parent)
+    : PlacedCell(parent)
 {
     setFlag(ItemIsFocusScope);
     setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
@@ -44,52 +72,6 @@ RCellBase::~RCellBase()
     if (m_control)
         m_control->disconnect(this);
     QAccessible::removeActivationObserver(this);
-}
-
-void RCellBase::setRow(int row)
-{
-    place(m_row, row, &RCellBase::rowChanged);
-}
-
-void RCellBase::setColumn(int column)
-{
-    place(m_column, column, &RCellBase::columnChanged);
-}
-
-void RCellBase::setRowSpan(int span)
-{
-    place(m_rowSpan, span, &RCellBase::rowSpanChanged);
-}
-
-void RCellBase::setColumnSpan(int span)
-{
-    place(m_columnSpan, span, &RCellBase::columnSpanChanged);
-}
-
-void RCellBase::place(int &part, int value, void (RCellBase::*changed)())
-{
-    if (std::exchange(part, value) == value)
-        return;
-    followRaster();
-    Q_EMIT(this->*changed)();
-}
-
-RCellGridPropertiesBase *RCellBase::gridProperties() const
-{
-    return m_ownGrid || !m_container ? m_ownGrid.get() : m_container->gridProperties();
-}
-
-void RCellBase::setGridProperties(RCellGridPropertiesBase *properties)
-{
-    if (m_ownGrid == properties)
-        return;
-    if (m_ownGrid)
-        m_ownGrid->disconnect(this);
-    m_ownGrid = properties;
-    if (properties)
-        connect(properties, &RCellGridPropertiesBase::rasterChanged, this, &RCellBase::followRaster);
-    followRaster();
-    Q_EMIT gridPropertiesChanged();
 }
 
 void RCellBase::setLabel(const QString &label)
@@ -107,15 +89,6 @@ void RCellBase::setSelected(bool selected)
         return;
     updateFrames();
     Q_EMIT selectedChanged();
-}
-
-void RCellBase::setSelectable(bool selectable)
-{
-    if (std::exchange(m_selectable, selectable) == selectable)
-        return;
-    if (m_container)
-        m_container->arrange();
-    Q_EMIT selectableChanged();
 }
 
 // The current cell is where the focus is when its table has it.
@@ -138,7 +111,7 @@ void RCellBase::setReadOnly(bool readOnly)
 
 bool RCellBase::isLocked() const
 {
-    return m_readOnly || (m_container && m_container->isReadOnly());
+    return m_readOnly || (container() && container()->isReadOnly());
 }
 
 void RCellBase::setControl(QQuickItem *control)
@@ -153,7 +126,7 @@ void RCellBase::setControl(QQuickItem *control)
         passByTab(*control);
         nameControl();
     }
-    placeControl();
+    contentMove();
     followLock();
     Q_EMIT controlChanged();
 }
@@ -162,16 +135,8 @@ void RCellBase::setControlPadded(bool padded)
 {
     if (std::exchange(m_controlPadded, padded) == padded)
         return;
-    placeControl();
+    contentMove();
     Q_EMIT controlPaddedChanged();
-}
-
-void RCellBase::setUnit(qreal unit)
-{
-    if (std::exchange(m_unit, unit) == unit)
-        return;
-    followRaster();
-    Q_EMIT unitChanged();
 }
 
 void RCellBase::setRefusal(const QString &reason)
@@ -185,32 +150,10 @@ void RCellBase::setRefusal(const QString &reason)
     Q_EMIT refusalChanged();
 }
 
-void RCellBase::setContainer(RCellContainerBase *container)
-{
-    if (m_container == container)
-        return;
-    if (m_container)
-        disconnect(m_container);
-    m_container = container;
-    if (container)
-        connect(this, &RCellBase::activated, container, [this, container] { container->activate(*this); });
-    followRaster();
-    Q_EMIT gridPropertiesChanged();
-    followLock();
-}
-
 void RCellBase::setHighlighted(bool highlighted)
 {
     if (std::exchange(m_highlighted, highlighted) != highlighted)
         updateFrames();
-}
-
-void RCellBase::setGround(const QColor &ground)
-{
-    if (std::exchange(m_ground, ground) == ground)
-        return;
-    setFlag(ItemHasContents, ground.isValid());
-    update();
 }
 
 QString RCellBase::takeText(const QString &)
@@ -241,7 +184,7 @@ QString RCellBase::spokenName() const
 
 QString RCellBase::spokenDescription(const QString &given) const
 {
-    QStringList parts{tr("row %1, column %2").arg(m_row + 1).arg(m_column + 1)};
+    QStringList parts{tr("row %1, column %2").arg(row() + 1).arg(column() + 1)};
     const QString text = m_label.isEmpty() ? QString() : textToCopy();
     for (const QString &part : {text, given, m_consistent ? QString() : tr("mixed"), m_refusal}) {
         if (!part.isEmpty())
@@ -253,7 +196,7 @@ QString RCellBase::spokenDescription(const QString &given) const
 void RCellBase::addSpokenStates(QAccessible::State &state) const
 {
     state.focusable = true;
-    state.selectable = m_selectable;
+    state.selectable = isSelectable();
     state.selected = m_selected || m_highlighted;
     state.readOnly = isLocked();
 }
@@ -274,24 +217,16 @@ void RCellBase::accessibilityActiveChanged(bool active)
 
 void RCellBase::componentComplete()
 {
-    QQuickItem::componentComplete();
-    followRaster();
-    if (QQuickItem *view = tableView())
+    PlacedCell::componentComplete();
+    if (QQuickItem *view = CellViewFocus::viewOf(*this))
         CellViewFocus::follow(*view);
     if (QAccessible::isActive())
         accessibilityActiveChanged(true);
 }
 
-void RCellBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
-{
-    QQuickItem::geometryChange(newGeometry, oldGeometry);
-    if (newGeometry.size() != oldGeometry.size())
-        placeControl();
-}
-
 void RCellBase::itemChange(ItemChange change, const ItemChangeData &data)
 {
-    QQuickItem::itemChange(change, data);
+    PlacedCell::itemChange(change, data);
     switch (change) {
     case ItemActiveFocusHasChanged:
         // Moves between the cell and its control matter while the focus is here only.
@@ -300,54 +235,18 @@ void RCellBase::itemChange(ItemChange change, const ItemChangeData &data)
         else if (m_control)
             disconnect(m_control, &QQuickItem::activeFocusChanged, this, &RCellBase::followFocus);
         followFocus();
-        if (data.boolValue && m_container)
-            m_container->makeCurrent(*this);
+        if (data.boolValue && container())
+            container()->makeCurrent(*this);
         else if (data.boolValue)
-            tellView();
-        break;
-    case ItemParentHasChanged:
-        setContainer(qobject_cast<RCellContainerBase *>(data.item));
+            CellViewFocus::tell(*this);
         break;
     case ItemVisibleHasChanged:
         if (m_current && data.boolValue)
             setFocus(true);
-        [[fallthrough]];
-    case ItemEnabledHasChanged:
-        if (m_container)
-            m_container->arrange();
         break;
     default:
         break;
     }
-}
-
-QSGNode *RCellBase::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
-{
-    auto *node = static_cast<QSGRectangleNode *>(oldNode);
-    if (!m_ground.isValid()) {
-        delete node;
-        return nullptr;
-    }
-    if (!node)
-        node = window()->createRectangleNode();
-    node->setRect(boundingRect());
-    node->setColor(m_ground);
-    return node;
-}
-
-void RCellBase::followRaster()
-{
-    if (!isComponentComplete())
-        return;
-    if (const RCellGridPropertiesBase *grid = gridProperties()) {
-        const CellArea taken = area();
-        setImplicitSize(grid->spanWidth(taken.column, taken.columns), grid->spanHeight(taken.row, taken.rows));
-    } else {
-        setImplicitSize(144.0 * m_unit, 32.0 * m_unit);
-    }
-    placeControl();
-    if (m_container)
-        m_container->arrange();
 }
 
 // The button of a cell has the focus of its cell and looks the same when it must not be pressed.
@@ -360,12 +259,12 @@ void RCellBase::followLock()
     Q_EMIT lockedChanged();
 }
 
-void RCellBase::placeControl()
+void RCellBase::contentMove()
 {
     if (!m_control)
         return;
     const RCellGridPropertiesBase *grid = gridProperties();
-    const double padding = !m_controlPadded ? 0.0 : grid ? grid->padding() : 4.0 * m_unit;
+    const double padding = !m_controlPadded ? 0.0 : grid ? grid->padding() : 4.0 * unit();
     m_control->setX(padding);
     m_control->setSize({std::max(0.0, width() - 2.0 * padding), height()});
 }
@@ -387,6 +286,152 @@ void RCellBase::updateFrames()
     // Without a tint, the current cell is seen among selected ones.
     PartComponents::show(m_selectionFrame, Part::CellSelection, *this,
                          m_selected || (m_highlighted && !hasActiveFocus()));
+}
+
+bool RCellBase::edit()
+{
+    if (!m_control || isLocked() || !m_control->isEnabled() || !CellEditing::takesKeys(*m_control))
+        return false;
+    m_control->forceActiveFocus(Qt::TabFocusReason);
+    return m_control && m_control->hasActiveFocus();
+}
+
+void RCellBase::endEditing()
+{
+    if (isEditing())
+        m_control->setFocus(false, Qt::OtherFocusReason);
+}
+
+void RCellBase::use()
+{
+    const QPointer<RCellBase> guard(this);
+    auto *button = qobject_cast<RButtonBase *>(m_control.get());
+    if (button && !isLocked()) {
+        button->click();
+        return;
+    }
+    edit();
+    if (guard)
+        Q_EMIT activated(-1);
+}
+
+void RCellBase::followFocus()
+{
+    const bool isOpen = m_control && m_control->hasActiveFocus() && CellEditing::takesKeys(*m_control) && !isLocked();
+    if (isOpen && !m_editing)
+        m_editing = std::make_unique<CellEditing>(*this);
+    if (m_editing && m_editing->setEditor(isOpen ? window()->activeFocusItem() : nullptr)) {
+        if (isEditing())
+            setRefusal({});
+        Q_EMIT editingChanged();
+    }
+    updateFrames();
+}
+
+void RCellBase::keyPressEvent(QKeyEvent *event)
+{
+    if (isEditing()) {
+        event->setAccepted(m_editing->leaveBy(*event) || leadsElsewhere(*event));
+    } else if (isEnterKey(*event) || event->key() == Qt::Key_F2) {
+        // Held down, it answers once: what a button does may get loud.
+        if (!event->isAutoRepeat())
+            use();
+    } else if (asksForMenu(*event)) {
+        Q_EMIT contextMenuRequested(boundingRect().center());
+    } else if (typesText(*event) && edit()) {
+        QKeyEvent typed(QEvent::KeyPress, event->key(), event->modifiers(), event->text());
+        QCoreApplication::sendEvent(window()->activeFocusItem(), &typed);
+    } else if (container() || !CellViewFocus::leave(*this, *event)) {
+        event->ignore();
+    }
+}
+
+void RCellBase::mousePressEvent(QMouseEvent *event)
+{
+    m_pressedAt = event->position();
+    if (!isByFinger(*event))
+        takeFocus();
+    if (event->button() == Qt::RightButton)
+        Q_EMIT contextMenuRequested(m_pressedAt);
+    else
+        m_longPress.start(longPressMs, this);
+}
+
+void RCellBase::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPointF way = event->position() - m_pressedAt;
+    if (way.manhattanLength() > QGuiApplication::styleHints()->startDragDistance())
+        m_longPress.stop();
+}
+
+void RCellBase::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_longPress.stop();
+    // A finger may scroll until it is lifted.
+    if (isByFinger(*event))
+        takeFocus();
+}
+
+void RCellBase::takeFocus()
+{
+    if (!container() || container()->isReachable(*this))
+        forceActiveFocus(Qt::MouseFocusReason);
+}
+
+void RCellBase::mouseUngrabEvent()
+{
+    m_longPress.stop();
+}
+
+void RCellBase::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    m_longPress.stop();
+    if (event->button() == Qt::LeftButton)
+        use();
+}
+
+void RCellBase::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_longPress.timerId())
+        return;
+    m_longPress.stop();
+    Q_EMIT contextMenuRequested(m_pressedAt);
+}
+
+bool RCellBase::childMouseEventFilter(QQuickItem *item, QEvent *event)
+{
+    if (isLocked() && qobject_cast<QQuickAbstractButton *>(m_control.get())) {
+        if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin)
+            forceActiveFocus(Qt::MouseFocusReason);
+        return true;
+    }
+    // A field has a menu of its own, which is meant while it is edited.
+    if (event->type() != QEvent::MouseButtonPress || isEditing())
+        return false;
+    const auto *press = static_cast<QMouseEvent *>(event);
+    if (press->button() != Qt::RightButton)
+        return false;
+    takeFocus();
+    Q_EMIT contextMenuRequested(mapFromItem(item, press->position()));
+    return true;
+}
+
+bool RCellBase::isEditing() const
+{
+    return m_editing && m_editing->isUnderWay();
+}
+
+void RCellBase::stepBy(CellMove move)
+{
+    if (container())
+        container()->step(move);
+}
+
+void RCellBase::containerChange()
+{
+    if (container())
+        connect(this, &RCellBase::activated, container(), [this, table = container()] { table->activate(*this); });
+    followLock();
 }
 
 } // namespace tamble::client

@@ -2,18 +2,17 @@
 
 #include "base/ControlExport.h"
 #include "base/SpokenControl.h"
-#include "cells/CellPlan.h"
-#include "cells/RCellGridPropertiesBase.h"
+#include "cells/CellMoves.h"
+#include "cells/PlacedCell.h"
 
 #include <QtCore/QBasicTimer>
 #include <QtCore/QPointer>
-#include <QtGui/QColor>
-#include <QtQml/qqmlregistration.h>
-#include <QtQuick/QQuickItem>
+
+#include <memory>
 
 namespace tamble::client {
 
-class RCellContainerBase;
+class CellEditing;
 
 /// One cell of a table, which holds a control. In an RCellContainer that places it; elsewhere, as the delegate of a
 /// TableView, it has the size that its own `gridProperties` give it.
@@ -23,25 +22,15 @@ class RCellContainerBase;
 ///
 /// Keys: Enter and F2 start editing or press, a typed character starts editing with it. While editing, Esc takes back,
 /// Enter confirms and moves down, Shift+Enter up, Tab confirms and moves right. Menu or Shift+F10: context menu.
-class TAMBLE_CLIENT_CONTROL_EXPORT RCellBase : public QQuickItem,
+class TAMBLE_CLIENT_CONTROL_EXPORT RCellBase : public tamble::client::PlacedCell,
                                                public SpokenControl,
                                                private QAccessible::ActivationObserver
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(RCellBase)
-    /// Place of the cell's upper left corner, `row` and `column`, counted from 0; negative ones count as 0.
-    Q_PROPERTY(int row READ row WRITE setRow NOTIFY rowChanged)
-    Q_PROPERTY(int column READ column WRITE setColumn NOTIFY columnChanged)
-    /// How many rows (`rowSpan`) and columns (`columnSpan`) the cell takes; 1 by default.
-    Q_PROPERTY(int rowSpan READ rowSpan WRITE setRowSpan NOTIFY rowSpanChanged)
-    Q_PROPERTY(int columnSpan READ columnSpan WRITE setColumnSpan NOTIFY columnSpanChanged)
-    Q_PROPERTY(tamble::client::RCellGridPropertiesBase *gridProperties READ gridProperties WRITE setGridProperties
-                   NOTIFY gridPropertiesChanged)
     /// What the cell is about, for people who cannot see it, such as "Gain of channel 3".
     Q_PROPERTY(QString label READ label WRITE setLabel NOTIFY labelChanged)
     Q_PROPERTY(bool selected READ isSelected WRITE setSelected NOTIFY selectedChanged)
-    /// Whether a selection of the container takes the cell in; true by default.
-    Q_PROPERTY(bool selectable READ isSelectable WRITE setSelectable NOTIFY selectableChanged)
     /// False while several devices differ in what the cell shows ("mixed"); true by default.
     Q_PROPERTY(bool consistent MEMBER m_consistent NOTIFY consistentChanged)
     Q_PROPERTY(bool current READ isCurrent WRITE setCurrent NOTIFY currentChanged)
@@ -55,31 +44,16 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RCellBase : public QQuickItem,
     Q_PROPERTY(bool multiLine MEMBER m_multiLine NOTIFY multiLineChanged)
     Q_PROPERTY(bool editing READ isEditing NOTIFY editingChanged)
     Q_PROPERTY(QString refusal READ refusal NOTIFY refusalChanged)
-    /// Pixels per density-independent unit, for the size of a cell without `gridProperties`.
-    Q_PROPERTY(qreal unit READ unit WRITE setUnit NOTIFY unitChanged)
 
 public:
     explicit RCellBase(QQuickItem *parent = nullptr);
     ~RCellBase() override;
 
-    int row() const { return m_row; }
-    void setRow(int row);
-    int column() const { return m_column; }
-    void setColumn(int column);
-    int rowSpan() const { return m_rowSpan; }
-    void setRowSpan(int span);
-    int columnSpan() const { return m_columnSpan; }
-    void setColumnSpan(int span);
-    /// The raster: the container's, unless the cell has one of its own.
-    RCellGridPropertiesBase *gridProperties() const;
-    void setGridProperties(RCellGridPropertiesBase *properties);
     QString label() const { return m_label; }
     void setLabel(const QString &label);
     /// Whether the page has the cell framed and tinted; false by default.
     bool isSelected() const { return m_selected; }
     void setSelected(bool selected);
-    bool isSelectable() const { return m_selectable; }
-    void setSelectable(bool selectable);
     /// Whether this is the current cell. The container says so; in a TableView it is a required property, which the
     /// view sets.
     bool isCurrent() const { return m_current; }
@@ -94,7 +68,8 @@ public:
     bool isControlPadded() const { return m_controlPadded; }
     void setControlPadded(bool padded);
     /// Whether the control is being edited.
-    bool isEditing() const { return m_editor; }
+    bool isEditing() const;
+    bool isMultiLine() const { return m_multiLine; }
     /// Why a pasted text was not taken; empty otherwise. The cell shows it until it is edited or something is pasted.
     QString refusal() const { return m_refusal; }
     void setRefusal(const QString &reason);
@@ -109,10 +84,6 @@ public:
     /// Takes the focus back from the control; what is typed and not entered then depends on that.
     Q_INVOKABLE void endEditing();
 
-    qreal unit() const { return m_unit; }
-    void setUnit(qreal unit);
-
-    CellArea area() const { return CellArea::ofCell(m_row, m_column, m_rowSpan, m_columnSpan); }
     /// The cell's own answers to cellText() and takeText().
     QString textToCopy() const;
     QString pasteText(const QString &text);
@@ -120,10 +91,10 @@ public:
     // What the container says.
     /// The container's part in `locked` has changed.
     void followLock();
+    /// Moves the current cell of the container.
+    void stepBy(CellMove move);
     /// Part of the container's selection.
     void setHighlighted(bool highlighted);
-    /// What is behind the cell, where lines must not cross it; an invalid colour for nothing.
-    void setGround(const QColor &ground);
 
     QAccessible::Role spokenRole() const override { return QAccessible::Cell; }
     QString spokenName() const override;
@@ -132,14 +103,8 @@ public:
     bool pressBySpeech() override;
 
 Q_SIGNALS:
-    void rowChanged();
-    void columnChanged();
-    void rowSpanChanged();
-    void columnSpanChanged();
-    void gridPropertiesChanged();
     void labelChanged();
     void selectedChanged();
-    void selectableChanged();
     void consistentChanged();
     void currentChanged();
     void readOnlyChanged();
@@ -149,7 +114,6 @@ Q_SIGNALS:
     void multiLineChanged();
     void editingChanged();
     void refusalChanged();
-    void unitChanged();
     /// The user wants to use the cell: by Enter, F2, a double click, or a click on the button in it. `index` is that of
     /// the tab that was chosen in a tab bar, elsewhere −1.
     void activated(int index);
@@ -158,7 +122,6 @@ Q_SIGNALS:
     void contextMenuRequested(const QPointF &position);
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
     bool childMouseEventFilter(QQuickItem *item, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -168,48 +131,28 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
     void componentComplete() override;
-    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
-    QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
+    void containerChange() override;
+    void contentMove() override;
 
 private:
-    friend class RCellContainerBase;
-
     void accessibilityActiveChanged(bool active) override;
-    void setContainer(RCellContainerBase *container);
-    void place(int &part, int value, void (RCellBase::*changed)());
-    void followRaster();
     void followFocus();
-    void placeControl();
     void nameControl();
     void updateFrames();
     void takeFocus();
-    /// The TableView around the cell; null outside of one.
-    QQuickItem *tableView() const;
-    void tellView();
-    bool leaveView(const QKeyEvent &event);
     void use();
-    bool leaveBy(QKeyEvent *event);
 
-    int m_row = 0;
-    int m_column = 0;
-    int m_rowSpan = 1;
-    int m_columnSpan = 1;
-    qreal m_unit = 1.0;
-    QPointer<RCellContainerBase> m_container;
-    QPointer<RCellGridPropertiesBase> m_ownGrid;
     QPointer<QQuickItem> m_control;
-    QPointer<QObject> m_editor;         ///< What has the focus in the control while it is edited.
-    QQuickItem *m_focusFrame = nullptr; // these three: children, made when they are first shown
+    std::unique_ptr<CellEditing> m_editing; // made when the control is first edited
+    QQuickItem *m_focusFrame = nullptr;     // these three: children, made when they are first shown
     QQuickItem *m_selectionFrame = nullptr;
     QQuickItem *m_refusalMark = nullptr;
     QString m_label;
     QString m_refusal;
-    QColor m_ground;
     QBasicTimer m_longPress;
     QPointF m_pressedAt;
     bool m_selected = false;
-    bool m_selectable = true;
     bool m_consistent = true;
     bool m_current = false;
     bool m_readOnly = false;

@@ -1,48 +1,56 @@
 #include "cells/RCellContainerBase.h"
 
-#include "base/ControlLog.h"
+#include "cells/CellTexts.h"
 #include "cells/RCellBase.h"
+#include "cells/TabSeparated.h"
+
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
 
 #include <algorithm>
+#include <iterator>
+#include <optional>
 #include <utility>
-
-// How cells are placed. The current cell and the selection are in RCellCursor.cpp, the clipboard in RCellClipboard.cpp.
 
 namespace tamble::client {
 
 namespace {
 
-// Header cells lie above the others, on stripes between the two; those of the corner above them, on one of their own.
-constexpr double headerZ = 2.0;
-constexpr double cornerZ = 4.0;
-
-/// Middles of the gaps between tracks, as fractions of all their length.
-template <typename Start>
-QList<qreal> gaps(int count, double spacing, double length, Start start)
+struct KeyMove
 {
-    QList<qreal> fractions;
-    for (int i = 1; i < count && length > 0.0; ++i)
-        fractions.append((start(i) - spacing / 2.0) / length);
-    return fractions;
-}
+    int key;
+    CellMove plain;
+    CellMove withControl;
+};
 
-void turn(QList<qreal> &fractions)
+constexpr KeyMove keyMoves[] = {
+    {Qt::Key_Left, CellMove::Left, CellMove::LeftEdge},      {Qt::Key_Right, CellMove::Right, CellMove::RightEdge},
+    {Qt::Key_Up, CellMove::Up, CellMove::TopEdge},           {Qt::Key_Down, CellMove::Down, CellMove::BottomEdge},
+    {Qt::Key_Home, CellMove::LeftEdge, CellMove::FirstCell}, {Qt::Key_End, CellMove::RightEdge, CellMove::LastCell},
+};
+
+std::optional<CellMove> moveOf(const QKeyEvent &event, bool mirrored)
 {
-    for (qreal &fraction : fractions)
-        fraction = 1.0 - fraction;
+    if (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier))
+        return std::nullopt;
+    int key = event.key();
+    if (mirrored && (key == Qt::Key_Left || key == Qt::Key_Right))
+        key = key == Qt::Key_Left ? Qt::Key_Right : Qt::Key_Left;
+    const auto *found = std::ranges::find(keyMoves, key, &KeyMove::key);
+    if (found == std::end(keyMoves))
+        return std::nullopt;
+    return event.modifiers() & Qt::ControlModifier ? found->withControl : found->plain;
 }
 
 } // namespace
 
 RCellContainerBase::RCellContainerBase(QQuickItem *parent)
-    : QQuickItem(parent)
-    , m_view(this)
+    : CellArrangement(parent)
 {
     setFlag(ItemIsFocusScope);
     setActiveFocusOnTab(true);
     setFiltersChildMouseEvents(true);
-    connect(&m_view, &EnclosingView::scrolled, this, &RCellContainerBase::placeHeaders);
-    connect(this, &RCellContainerBase::ssBackgroundChanged, this, &RCellContainerBase::arrange);
     QAccessible::installActivationObserver(this);
 }
 
@@ -56,222 +64,198 @@ RCellContainerBase::~RCellContainerBase()
     QAccessible::removeActivationObserver(this);
 }
 
-void RCellContainerBase::setGridProperties(RCellGridPropertiesBase *properties)
-{
-    if (m_grid == properties)
-        return;
-    if (m_grid)
-        m_grid->disconnect(this);
-    m_grid = properties;
-    if (properties)
-        connect(properties, &RCellGridPropertiesBase::rasterChanged, this, &RCellContainerBase::arrange);
-    arrange();
-    Q_EMIT gridPropertiesChanged();
-}
-
 void RCellContainerBase::setReadOnly(bool readOnly)
 {
     if (std::exchange(m_readOnly, readOnly) == readOnly)
         return;
-    for (const auto &cell : std::vector(m_cells)) {
+    for (const auto &cell : std::vector(cells())) {
         if (cell)
             cell->followLock();
     }
     Q_EMIT readOnlyChanged();
 }
 
-void RCellContainerBase::setMirrored(bool mirrored)
-{
-    if (std::exchange(m_mirrored, mirrored) == mirrored)
-        return;
-    arrange();
-    Q_EMIT mirroredChanged();
-}
-
-void RCellContainerBase::arrange()
-{
-    m_isStale = true;
-    polish();
-}
-
-const CellPlan &RCellContainerBase::plan()
-{
-    if (m_isStale)
-        gather();
-    return m_plan;
-}
-
-void RCellContainerBase::gather()
-{
-    m_isStale = false;
-    m_cells.clear();
-    std::vector<CellPlan::Cell> planned;
-    for (QQuickItem *child : childItems()) {
-        auto *cell = qobject_cast<RCellBase *>(child);
-        if (!cell)
-            continue;
-        const CellArea area = cell->area();
-        const bool isOpen = cell->isSelectable() && cell->isVisible() && cell->isEnabled();
-        planned.push_back({area, isOpen && !isHeaderRow(area) && !isHeaderColumn(area)});
-        m_cells.emplace_back(cell);
-    }
-    m_plan = CellPlan(std::move(planned));
-}
-
-void RCellContainerBase::updatePolish()
-{
-    if (!m_grid)
-        return;
-    m_view.find();
-    const CellPlan &plan = this->plan();
-    setImplicitSize(plan.columnCount() > 0 ? m_grid->spanWidth(0, plan.columnCount()) : 0.0,
-                    plan.rowCount() > 0 ? m_grid->spanHeight(0, plan.rowCount()) : 0.0);
-    warnOfOverlap();
-    placeLines();
-    placeCells();
-    const QPointer<RCellContainerBase> guard(this);
-    followCurrent();
-    if (guard)
-        select();
-    if (guard)
-        Q_EMIT arranged();
-    if (guard)
-        Q_EMIT headersMoved();
-}
-
-// Over a copy, since a page may answer a new size with other cells.
-void RCellContainerBase::placeCells()
-{
-    for (const auto &cell : std::vector(m_cells)) {
-        if (!cell)
-            continue;
-        const CellArea area = cell->area();
-        cell->setGround(area.rows > 1 || area.columns > 1 ? m_ssBackground : QColor());
-        if (isHeaderRow(area) || isHeaderColumn(area))
-            cell->setZ(isHeaderRow(area) && isHeaderColumn(area) ? cornerZ : headerZ);
-        const QRectF rect = rectOf(area);
-        cell->setPosition(rect.topLeft());
-        cell->setSize(rect.size());
-    }
-}
-
-void RCellContainerBase::placeHeaders()
-{
-    if (!m_grid || (m_grid->headerRows() <= 0 && m_grid->headerColumns() <= 0))
-        return;
-    for (const auto &cell : std::vector(m_cells)) {
-        if (cell && (isHeaderRow(cell->area()) || isHeaderColumn(cell->area())))
-            cell->setPosition(rectOf(cell->area()).topLeft());
-    }
-    Q_EMIT headersMoved();
-}
-
-void RCellContainerBase::placeLines()
-{
-    m_rowLines.clear();
-    m_columnLines.clear();
-    if (!m_grid->lineVisible())
-        return;
-    m_columnLines = gaps(m_plan.columnCount(), m_grid->spacing(), implicitWidth(),
-                         [this](int column) { return m_grid->columnX(column); });
-    m_rowLines =
-        gaps(m_plan.rowCount(), m_grid->spacing(), implicitHeight(), [this](int row) { return m_grid->rowY(row); });
-    turn(m_rowLines);
-    if (m_mirrored)
-        turn(m_columnLines);
-}
-
-void RCellContainerBase::warnOfOverlap()
-{
-    if (m_hasWarned)
-        return;
-    const auto overlap = m_plan.overlap();
-    m_hasWarned = overlap.has_value();
-    if (overlap)
-        qCWarning(controlLog, "WARN: RCellContainer overlapping cells at %d %d", overlap->row, overlap->column);
-}
-
-bool RCellContainerBase::isHeaderRow(const CellArea &area) const
-{
-    return m_grid && area.row < m_grid->headerRows();
-}
-
-bool RCellContainerBase::isHeaderColumn(const CellArea &area) const
-{
-    return m_grid && area.column < m_grid->headerColumns();
-}
-
-QRectF RCellContainerBase::rectOf(const CellArea &area) const
-{
-    QRectF rect(m_grid->columnX(area.column), m_grid->rowY(area.row), m_grid->spanWidth(area.column, area.columns),
-                m_grid->spanHeight(area.row, area.rows));
-    if (m_mirrored)
-        rect.moveLeft(implicitWidth() - rect.right());
-    const QPointF shift = headerShift();
-    return rect.translated(isHeaderColumn(area) ? shift.x() : 0.0, isHeaderRow(area) ? shift.y() : 0.0);
-}
-
-/// The header rows' height and the header columns' width.
-QSizeF RCellContainerBase::headerSize() const
-{
-    const int rows = m_grid ? m_grid->headerRows() : 0;
-    const int columns = m_grid ? m_grid->headerColumns() : 0;
-    return {columns > 0 ? m_grid->columnX(columns) : 0.0, rows > 0 ? m_grid->rowY(rows) : 0.0};
-}
-
-QPointF RCellContainerBase::headerShift() const
-{
-    const QSizeF header = headerSize();
-    if (header.isNull())
-        return {};
-    const QRectF visible = m_view.visibleRect();
-    const double hiddenAside = m_mirrored ? implicitWidth() - visible.right() : visible.left();
-    const double x = std::clamp(hiddenAside, 0.0, std::max(0.0, implicitWidth() - header.width()));
-    const double y = std::clamp(visible.top(), 0.0, std::max(0.0, implicitHeight() - header.height()));
-    return {m_mirrored ? -x : x, y};
-}
-
-QRectF RCellContainerBase::headerRowsRect() const
-{
-    const QPointF shift = headerShift();
-    return shift.isNull() ? QRectF() : QRectF(0.0, shift.y(), implicitWidth(), headerSize().height());
-}
-
-QRectF RCellContainerBase::headerColumnsRect() const
-{
-    const QPointF shift = headerShift();
-    const double width = headerSize().width();
-    const double home = m_mirrored ? implicitWidth() - width : 0.0;
-    return shift.isNull() ? QRectF() : QRectF(home + shift.x(), 0.0, width, implicitHeight());
-}
-
 void RCellContainerBase::componentComplete()
 {
-    QQuickItem::componentComplete();
-    updatePolish();
+    CellArrangement::componentComplete();
     if (QAccessible::isActive())
         accessibilityActiveChanged(true);
 }
 
-void RCellContainerBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+void RCellContainerBase::cellsPlaced()
 {
-    QQuickItem::geometryChange(newGeometry, oldGeometry);
-    placeHeaders();
+    const QPointer<RCellContainerBase> guard(this);
+    followCurrent();
+    if (guard)
+        select();
 }
 
-void RCellContainerBase::itemChange(ItemChange change, const ItemChangeData &data)
+void RCellContainerBase::setCurrentRow(int row)
 {
-    QQuickItem::itemChange(change, data);
-    switch (change) {
-    case ItemChildAddedChange:
-    case ItemChildRemovedChange:
-    case ItemParentHasChanged:
-    case ItemSceneChange:
-        arrange();
-        break;
-    default:
-        break;
+    setPlace({std::max(row, -1), m_place.column}, Anchor::Moves);
+    revealCurrent();
+}
+
+void RCellContainerBase::setCurrentColumn(int column)
+{
+    setPlace({m_place.row, std::max(column, -1)}, Anchor::Moves);
+    revealCurrent();
+}
+
+void RCellContainerBase::setSelectionMode(SelectionMode mode)
+{
+    if (std::exchange(m_selectionMode, mode) == mode)
+        return;
+    m_anchor = m_place;
+    const QPointer<RCellContainerBase> guard(this);
+    select();
+    if (guard)
+        Q_EMIT selectionModeChanged();
+}
+
+QRectF RCellContainerBase::selection() const
+{
+    return QRectF(m_selected.column, m_selected.row, m_selected.columns, m_selected.rows);
+}
+
+void RCellContainerBase::makeCurrent(const RCellBase &cell)
+{
+    if (m_current != &cell)
+        setPlace(cell.area().place(), Anchor::Moves);
+}
+
+void RCellContainerBase::activate(const RCellBase &cell)
+{
+    const CellPlace place = cell.area().place();
+    Q_EMIT cellActivated(place.row, place.column);
+}
+
+void RCellContainerBase::step(CellMove move, bool extends)
+{
+    const QPointer<RCellContainerBase> guard(this);
+    setPlace(moved(plan(), m_place, move), extends ? Anchor::Stays : Anchor::Moves);
+    if (guard)
+        revealCurrent();
+}
+
+void RCellContainerBase::setPlace(CellPlace place, Anchor anchor)
+{
+    const CellPlace before = std::exchange(m_place, place);
+    if (anchor == Anchor::Moves || m_anchor.isNone())
+        m_anchor = place;
+    const QPointer<RCellContainerBase> guard(this);
+    if (isComponentComplete())
+        followCurrent();
+    if (guard && isComponentComplete())
+        select();
+    if (guard && before.row != place.row)
+        Q_EMIT currentRowChanged();
+    if (guard && before.column != place.column)
+        Q_EMIT currentColumnChanged();
+    if (guard && before != place)
+        Q_EMIT currentChanged(place.row, place.column);
+}
+
+/// The cell at the current place gets the focus when the table has it.
+void RCellContainerBase::followCurrent()
+{
+    const int index = plan().cellAt(m_place);
+    const bool isOpen = index >= 0 && plan().cells()[std::size_t(index)].isReachable;
+    RCellBase *cell = isOpen ? cells()[std::size_t(index)].get() : nullptr;
+    const QPointer<RCellBase> former = std::exchange(m_current, cell);
+    if (former == cell)
+        return;
+    if (cell)
+        cell->setCurrent(true);
+    if (former)
+        former->setCurrent(false);
+}
+
+void RCellContainerBase::revealCurrent()
+{
+    if (m_current && gridProperties())
+        reveal(*m_current);
+}
+
+CellArea RCellContainerBase::selectedArea()
+{
+    if (m_place.isNone())
+        return {};
+    CellArea area = plan().areaAt(m_place);
+    if (m_selectionMode == Rectangle)
+        return plan().wholeCells(area.united(plan().areaAt(m_anchor)));
+    if (m_selectionMode == Row) {
+        area.column = gridProperties() ? std::max(0, gridProperties()->headerColumns()) : 0;
+        area.columns = std::max(0, plan().columnCount() - area.column);
     }
+    return area;
+}
+
+void RCellContainerBase::select()
+{
+    const CellArea area = selectedArea();
+    // One cell is seen well enough by its frame.
+    const bool isShown = m_selectionMode == Row || area != plan().areaAt(m_place);
+    for (std::size_t i = 0; i < cells().size(); ++i) {
+        if (cells()[i])
+            cells()[i]->setHighlighted(isShown && plan().cells()[i].isReachable &&
+                                       plan().cells()[i].area.touches(area));
+    }
+    if (std::exchange(m_selected, area) != area)
+        Q_EMIT cellsSelected(selection());
+}
+
+void RCellContainerBase::keyPressEvent(QKeyEvent *event)
+{
+    if (const auto move = moveOf(*event, isMirrored())) {
+        step(*move, m_selectionMode == Rectangle && event->modifiers() & Qt::ShiftModifier);
+    } else if (event->matches(QKeySequence::Copy)) {
+        copy();
+    } else if (event->matches(QKeySequence::Paste)) {
+        paste();
+    } else if (event->key() == Qt::Key_Escape && m_anchor != m_place) {
+        setPlace(m_place, Anchor::Moves);
+    } else {
+        event->ignore();
+    }
+}
+
+// Before the control in the cell, which would be pressed or edited.
+bool RCellContainerBase::childMouseEventFilter(QQuickItem *item, QEvent *event)
+{
+    if (m_selectionMode != Rectangle || event->type() != QEvent::MouseButtonPress ||
+        static_cast<QMouseEvent *>(event)->modifiers() != Qt::ShiftModifier)
+        return false;
+    while (item && item->parentItem() != this)
+        item = item->parentItem();
+    const auto *cell = qobject_cast<RCellBase *>(item);
+    if (!cell || !isReachable(*cell))
+        return false;
+    setPlace(cell->area().place(), Anchor::Stays);
+    forceActiveFocus(Qt::MouseFocusReason);
+    return true;
+}
+
+void RCellContainerBase::copy()
+{
+    if (const CellArea area = selectedArea(); !area.isEmpty())
+        QGuiApplication::clipboard()->setText(textOf(*this, area));
+}
+
+void RCellContainerBase::paste()
+{
+    const QList<QStringList> rows = fromTabSeparated(QGuiApplication::clipboard()->text());
+    const CellArea area = selectedArea();
+    if (rows.isEmpty() || area.isEmpty())
+        return;
+    for (const auto &cell : std::vector(cells())) {
+        if (cell)
+            cell->setRefusal({});
+    }
+    const QPointer<RCellContainerBase> guard(this);
+    const TakenTexts texts = putTexts(*this, area, rows);
+    if (guard)
+        Q_EMIT pasted(texts.taken, texts.refused);
 }
 
 void RCellContainerBase::accessibilityActiveChanged(bool active)

@@ -361,9 +361,11 @@ void RButtonBase::editSelection(bool selected)
         return;
     if (!m_pendingSelection)
         m_pendingSelection = new PendingValue(this, QStringLiteral("selected"));
+    const QPointer<RButtonBase> guard(this);
     m_pendingSelection->show(selected);
-    m_pendingSelection->commit();
     Q_EMIT selectionEdited(selected);
+    if (guard)
+        m_pendingSelection->commit();
 }
 
 } // namespace tamble::client

@@ -130,9 +130,11 @@ void RPaneBase::toggle()
     if (!m_pendingCollapse)
         m_pendingCollapse = new PendingValue(this, QStringLiteral("collapsed"));
     const bool collapsed = !isCollapsed();
+    const QPointer<RPaneBase> guard(this);
     m_pendingCollapse->show(collapsed);
-    m_pendingCollapse->commit();
     Q_EMIT collapsedEdited(collapsed);
+    if (guard)
+        m_pendingCollapse->commit();
 }
 
 QString RPaneBase::spokenDescription(const QString &given) const

@@ -1,10 +1,13 @@
 #include "dialogs/RDialogBase.h"
 
 #include "base/FocusReason.h"
+#include "base/InputMeaning.h"
 #include "base/PartComponents.h"
+#include "controls/RButtonBase.h"
 #include "dialogs/DialogFields.h"
 #include "fields/FieldEdit.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtQml/QQmlEngine>
 #include <QtQml/qqml.h>
 #include <QtQuick/QQuickWindow>
@@ -20,6 +23,34 @@ namespace {
 constexpr std::array<void (RDialogBase::*)(), 4> dialogColorSignals = {
     &RDialogBase::ssBackgroundChanged, &RDialogBase::ssBorderColorChanged, &RDialogBase::ssHeaderBackgroundChanged,
     &RDialogBase::ssHeaderColorChanged};
+
+/// How far a key scrolls the body, downwards.
+double scrolledLines(int key)
+{
+    constexpr double page = 8.0;
+    switch (key) {
+    case Qt::Key_Up:
+        return -1.0;
+    case Qt::Key_Down:
+        return 1.0;
+    case Qt::Key_PageUp:
+        return -page;
+    case Qt::Key_PageDown:
+        return page;
+    case Qt::Key_Home:
+        return -1e6;
+    case Qt::Key_End:
+        return 1e6;
+    default:
+        return 0.0;
+    }
+}
+
+bool pressesByEnter(const QQuickItem *item)
+{
+    const auto *button = qobject_cast<const RButtonBase *>(item);
+    return button && button->enterClicks();
+}
 
 } // namespace
 
@@ -274,6 +305,36 @@ void RDialogBase::press(QPlatformDialogHelper::ButtonRole role)
     default:
         break;
     }
+}
+
+void RDialogBase::keyPressEvent(QKeyEvent *event)
+{
+    if (const double lines = scrolledLines(event->key()); lines != 0.0) {
+        event->accept();
+        if (m_frame)
+            m_frame->scrollBy(lines);
+        return;
+    }
+    if (!isEnterKey(*event)) {
+        QQuickDialog::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    // With the release, as buttons do: whoever gets the focus back must not hear that of a key that closed the dialog.
+    if (!event->isAutoRepeat())
+        m_isEnterDown = !pressesByEnter(window() ? window()->activeFocusItem() : nullptr);
+}
+
+void RDialogBase::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!isEnterKey(*event) || event->isAutoRepeat()) {
+        QQuickDialog::keyReleaseEvent(event);
+        return;
+    }
+    event->accept();
+    auto *button = qobject_cast<RButtonBase *>(m_buttons.ofEnter(m_defaultButton));
+    if (std::exchange(m_isEnterDown, false) && button && !m_isBusy)
+        button->click();
 }
 
 } // namespace tamble::client

@@ -1,6 +1,7 @@
 #include "fader/FaderItem.h"
 
 #include "base/ControlLog.h"
+#include "base/PropertyGate.h"
 #include "base/StyleTypeName.h"
 #include "fader/FaderMarks.h"
 
@@ -9,8 +10,6 @@
 #include <QtGui/QAccessible>
 #include <QtGui/QCursor>
 #include <QtQml/QQmlProperty>
-#include <QtQml/private/qqmlabstractbinding_p.h>
-#include <QtQml/private/qqmlproperty_p.h>
 
 #include <tambleclient-common/DoubleValueConverter.h>
 
@@ -150,11 +149,7 @@ void FaderItem::followRange()
     followScale();
     if (!isComponentComplete())
         return;
-    QQmlAbstractBinding *binding = QQmlPropertyPrivate::binding(QQmlProperty(this, QStringLiteral("value")));
-    if (binding) {
-        binding->setEnabled(false);
-        binding->setEnabled(true);
-    }
+    readBindingOf(QQmlProperty(this, QStringLiteral("value")));
     followTravel();
 }
 

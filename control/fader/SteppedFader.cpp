@@ -60,25 +60,34 @@ void SteppedFader::finish()
     if (!m_editing)
         return;
     m_editing = false;
-    pending().setSettleTime(m_settleTime);
-    pending().commit();
+    const QPointer<SteppedFader> guard(this);
     const double level = value();
     Q_EMIT editingChanged();
     if (!live())
         Q_EMIT valueEdited(level);
     Q_EMIT valueCommitted(level);
+    if (guard)
+        settle();
 }
 
 void SteppedFader::takeBack()
 {
     m_stepsEnd.stop();
     m_editing = false;
-    const double level = pending().valueAtBegin().toDouble();
-    pending().cancel();
+    const QPointer<SteppedFader> guard(this);
+    pending().show(pending().valueAtBegin());
     Q_EMIT editingChanged();
     if (live())
-        Q_EMIT valueEdited(level);
+        Q_EMIT valueEdited(value());
     Q_EMIT editCanceled();
+    if (guard)
+        settle();
+}
+
+void SteppedFader::settle()
+{
+    pending().setSettleTime(m_settleTime);
+    pending().commit();
 }
 
 void SteppedFader::reset()

@@ -67,6 +67,7 @@ protected:
 private:
     PendingValue &pending();
     void takeBack();
+    void settle();
     void step(double delta);
     double stepFor(Qt::KeyboardModifiers modifiers) const;
     double pageStep() const;

@@ -16,17 +16,19 @@ double wayTo(double partBegin, double partEnd, double visibleBegin, double visib
     return std::max(0.0, std::min(partEnd - visibleEnd, partBegin - visibleBegin));
 }
 
-void scroll(QQuickItem &view, const char *position, const char *length, double way, double room)
+/// In a list the content begins where its first row happens to lie.
+void scroll(QQuickItem &view, const char *position, const char *begin, const char *length, double way, double room)
 {
-    const double farthest = std::max(0.0, view.property(length).toDouble() - room);
+    const double nearest = view.property(begin).toDouble();
+    const double farthest = nearest + std::max(0.0, view.property(length).toDouble() - room);
     if (way != 0.0)
-        view.setProperty(position, std::clamp(view.property(position).toDouble() + way, 0.0, farthest));
+        view.setProperty(position, std::clamp(view.property(position).toDouble() + way, nearest, farthest));
 }
 
 void scrollView(QQuickItem &view, const QPointF &way)
 {
-    scroll(view, "contentX", "contentWidth", way.x(), view.width());
-    scroll(view, "contentY", "contentHeight", way.y(), view.height());
+    scroll(view, "contentX", "originX", "contentWidth", way.x(), view.width());
+    scroll(view, "contentY", "originY", "contentHeight", way.y(), view.height());
 }
 
 } // namespace

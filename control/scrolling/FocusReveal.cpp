@@ -1,26 +1,73 @@
 #include "scrolling/FocusReveal.h"
 
 #include "scrolling/EnclosingView.h"
+#include "scrolling/FrozenHeaders.h"
 
 #include <QtQuick/QQuickWindow>
 #include <QtQuick/private/qquickitemview_p.h>
+
+#include <algorithm>
+#include <utility>
 
 namespace tamble::client {
 
 namespace {
 
+constexpr auto viewChanges = QQuickItemPrivate::Geometry | QQuickItemPrivate::Destroyed;
+
+bool isView(const QQuickItem &item)
+{
+    return item.inherits("QQuickFlickable");
+}
+
+/// Where the keys go to.
+struct FocusPlace
+{
+    QQuickItem *item;
+    QRectF part;
+};
+
+QRectF wholeOf(const QQuickItem &item)
+{
+    return {QPointF(), item.size()};
+}
+
+/// The row, cell or handle within what has the focus as a whole, or where a text is edited.
+FocusPlace placeOf(QQuickItem &item)
+{
+    for (const char *name : {"currentItem", "handle"}) {
+        auto *part = item.property(name).value<QQuickItem *>();
+        if (part && item.isAncestorOf(part))
+            return {part, wholeOf(*part)};
+    }
+    const QVariant cursor = item.property("cursorRectangle");
+    return {&item, cursor.isValid() ? cursor.toRectF() : wholeOf(item)};
+}
+
+/// Whether at least half of a place is seen, or the view is half full of it.
+bool isSeen(const QRectF &place, const QSizeF &room)
+{
+    const QSizeF seen = (place & QRectF({}, room)).size();
+    const QSizeF wanted = place.size().boundedTo(room) / 2.0;
+    return !room.isEmpty() && seen.width() >= wanted.width() && seen.height() >= wanted.height();
+}
+
 /// Scrolls every view around an item so that a part of it is seen. What fills a view is left as it is scrolled.
 void revealEverywhere(const QQuickItem &item, const QRectF &part)
 {
-    for (QQuickItem *view = item.parentItem(); view; view = view->parentItem()) {
-        if (!view->inherits("QQuickFlickable"))
+    QMarginsF covered;
+    for (QQuickItem *around = item.parentItem(); around; around = around->parentItem()) {
+        if (const auto *headers = dynamic_cast<const FrozenHeaders *>(around))
+            covered = headers->coveredFor(item);
+        if (!isView(*around))
             continue;
-        QRectF place = view->mapRectFromItem(&item, part);
-        if (place.left() <= 0.0 && place.right() >= view->width())
-            place = {0.0, place.top(), view->width(), place.height()};
-        if (place.top() <= 0.0 && place.bottom() >= view->height())
-            place = {place.left(), 0.0, place.width(), view->height()};
-        EnclosingView::reveal(*view, place, {});
+        const QRectF room = wholeOf(*around).marginsRemoved(covered);
+        QRectF place = around->mapRectFromItem(&item, part);
+        if (place.left() <= room.left() && place.right() >= room.right())
+            place = {room.left(), place.top(), room.width(), place.height()};
+        if (place.top() <= room.top() && place.bottom() >= room.bottom())
+            place = {place.left(), room.top(), place.width(), room.height()};
+        EnclosingView::reveal(*around, place, std::exchange(covered, {}));
     }
 }
 
@@ -30,31 +77,91 @@ FocusReveal::FocusReveal(QQuickItem *parent)
     : QQuickItem(parent)
 {}
 
+FocusReveal::~FocusReveal()
+{
+    listen(false);
+    if (m_window)
+        m_window->disconnect(this);
+}
+
 void FocusReveal::setSettled(bool settled)
 {
     if (m_isSettled == settled)
         return;
     m_isSettled = settled;
-    // The window polishes last what asked for it first.
     if (!settled)
-        polish();
+        reveal();
     Q_EMIT settledChanged();
+}
+
+// The window polishes last what asked for it first.
+void FocusReveal::reveal()
+{
+    m_isPending = true;
+    polish();
 }
 
 void FocusReveal::updatePolish()
 {
+    m_isPending = false;
     QQuickItem *item = window() ? window()->activeFocusItem() : nullptr;
     if (!item)
         return;
-    revealEverywhere(*item, QRectF(QPointF(), item->size()));
-    // Within what has the focus as a whole: the row or cell that the keys go to, and where a text is edited.
+    revealEverywhere(*item, wholeOf(*item));
     if (auto *list = qobject_cast<QQuickItemView *>(item))
         list->positionViewAtIndex(list->currentIndex(), QQuickItemView::Contain);
-    const auto *current = item->property("currentItem").value<QQuickItem *>();
-    if (current && item->isAncestorOf(current))
-        revealEverywhere(*current, QRectF(QPointF(), current->size()));
-    if (const QVariant cursor = item->property("cursorRectangle"); cursor.isValid())
-        revealEverywhere(*item, cursor.toRectF());
+    const FocusPlace place = placeOf(*item);
+    revealEverywhere(*place.item, place.part);
+}
+
+void FocusReveal::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    QQuickItem::itemChange(change, data);
+    if (change != ItemSceneChange)
+        return;
+    if (m_window)
+        m_window->disconnect(this);
+    m_window = data.window;
+    if (m_window)
+        connect(m_window, &QQuickWindow::activeFocusItemChanged, this, &FocusReveal::followFocus);
+    followFocus();
+}
+
+void FocusReveal::listen(bool on)
+{
+    for (QQuickItem *view : std::as_const(m_views))
+        listenTo(view, *this, viewChanges, on);
+}
+
+void FocusReveal::followFocus()
+{
+    listen(false);
+    m_views.clear();
+    for (QQuickItem *item = m_window ? m_window->activeFocusItem() : nullptr; item; item = item->parentItem()) {
+        if (isView(*item))
+            m_views.append(item);
+    }
+    listen(true);
+}
+
+// What is in the view follows only now, so its place is still the one that was seen.
+void FocusReveal::itemGeometryChanged(QQuickItem *resized, QQuickGeometryChange change, const QRectF &before)
+{
+    QQuickItem *item = m_window ? m_window->activeFocusItem() : nullptr;
+    if (m_isPending || !item || !change.sizeChange())
+        return;
+    const FocusPlace place = placeOf(*item);
+    const bool wasSeen = std::ranges::all_of(std::as_const(m_views), [&](const QQuickItem *view) {
+        return !view->isAncestorOf(place.item) ||
+               isSeen(view->mapRectFromItem(place.item, place.part), view == resized ? before.size() : view->size());
+    });
+    if (wasSeen)
+        reveal();
+}
+
+void FocusReveal::itemDestroyed(QQuickItem *view)
+{
+    m_views.removeOne(view);
 }
 
 } // namespace tamble::client

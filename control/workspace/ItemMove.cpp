@@ -1,6 +1,7 @@
 #include "workspace/ItemMove.h"
 
 #include "workspace/Arrangement.h"
+#include "workspace/MoveTelling.h"
 #include "workspace/WorkspaceBase.h"
 #include "workspace/WorkspaceItemBase.h"
 
@@ -132,7 +133,7 @@ void ItemMove::commit(const QString &cause)
             Q_EMIT entry.item->moved(entry.from.topLeft(), entry.item->planePosition());
     }
     if (workspace)
-        workspace->tellMoved(before, after, cause);
+        tellMoved(*workspace, before, after, cause);
 }
 
 void ItemMove::takeBack()

@@ -1,5 +1,6 @@
 #include "workspace/KeyNudge.h"
 
+#include "workspace/MoveTelling.h"
 #include "workspace/Snapping.h"
 #include "workspace/WorkspaceBase.h"
 
@@ -39,7 +40,7 @@ void KeyNudge::step(const QPointF &way)
         return;
     move->show(offset);
     if (self && m_move == move)
-        m_workspace.tellMoving(*move);
+        tellMoving(m_workspace, *move);
 }
 
 void KeyNudge::finish()

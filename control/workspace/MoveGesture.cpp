@@ -1,7 +1,9 @@
 #include "workspace/MoveGesture.h"
 
+#include "workspace/MoveTelling.h"
 #include "workspace/WorkspaceBase.h"
 #include "workspace/WorkspaceItemBase.h"
+#include "workspace/WorkspaceItems.h"
 
 #include <cmath>
 #include <utility>
@@ -42,7 +44,7 @@ void MoveGesture::follow(const PointerAt &pointer)
     m_offset = move.offset;
     m_move.show(m_offset);
     if (m_workspace && !m_isOver)
-        m_workspace->tellMoving(m_move);
+        tellMoving(*m_workspace, m_move);
 }
 
 // As long as the view stays, those in it are taken to stay as well.
@@ -50,7 +52,7 @@ const SnapLines &MoveGesture::linesInView()
 {
     if (!std::exchange(m_hasLines, true) || m_viewOfLines != m_workspace->view()) {
         m_viewOfLines = m_workspace->view();
-        m_lines = SnapLines(m_workspace->restingRectsIn(m_viewOfLines.seen()));
+        m_lines = SnapLines(m_workspace->placed().restingRectsIn(m_viewOfLines.seen()));
     }
     return m_lines;
 }

@@ -10,6 +10,7 @@
 #include <QtQuick/QQuickWindow>
 #include <QtQuick/QSGRectangleNode>
 
+#include <initializer_list>
 #include <utility>
 
 namespace tamble::client {
@@ -45,10 +46,10 @@ RWorkspaceCanvas::RWorkspaceCanvas(QQuickItem *parent)
     , m_colors(*this, colorSources, [this](std::size_t begin, std::size_t end) { onColorsChanged(begin, end); })
 {
     setFlag(ItemHasContents);
-    for (const auto changed :
-         {&WorkspaceBase::zoomChanged, &WorkspaceBase::viewXChanged, &WorkspaceBase::viewYChanged,
-          &WorkspaceBase::planeRectChanged, &WorkspaceBase::unitChanged, &WorkspaceBase::gridSizeChanged,
-          &WorkspaceBase::gridVisibleChanged, &WorkspaceBase::guidesChanged, &WorkspaceBase::currentItemChanged})
+    for (const auto changed : std::initializer_list<void (WorkspaceBase::*)()>{
+             &WorkspaceBase::zoomChanged, &WorkspaceBase::viewXChanged, &WorkspaceBase::viewYChanged,
+             &WorkspaceBase::planeRectChanged, &WorkspaceBase::unitChanged, &WorkspaceBase::gridSizeChanged,
+             &WorkspaceBase::gridVisibleChanged, &WorkspaceBase::guidesChanged, &WorkspaceBase::currentItemChanged})
         connect(this, changed, this, [this] { polish(); });
     for (const auto changed : {&WorkspaceBase::rubberBandActiveChanged, &WorkspaceBase::rubberBandRectChanged})
         connect(this, changed, this, &RWorkspaceCanvas::showRubberBand);

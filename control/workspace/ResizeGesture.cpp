@@ -1,5 +1,6 @@
 #include "workspace/ResizeGesture.h"
 
+#include "workspace/MoveTelling.h"
 #include "workspace/Snapping.h"
 #include "workspace/WorkspaceBase.h"
 #include "workspace/WorkspaceItemBase.h"
@@ -38,7 +39,7 @@ void ResizeGesture::finish()
     const QUuid id = m_item->itemId();
     Q_EMIT m_item->resized(m_from, now);
     if (m_workspace)
-        m_workspace->tellResized({{id, m_from}}, {{id, now}});
+        tellResized(*m_workspace, {{id, m_from}}, {{id, now}});
 }
 
 void ResizeGesture::cancel()

@@ -3,6 +3,7 @@
 #include "workspace/RWorkspaceSelection.h"
 #include "workspace/WorkspaceBase.h"
 #include "workspace/WorkspaceItemBase.h"
+#include "workspace/WorkspaceItems.h"
 
 #include <QtCore/QSet>
 
@@ -40,7 +41,7 @@ void RubberBandGesture::follow(const PointerAt &pointer)
         return;
     const bool adds = pointer.modifiers & Qt::ShiftModifier;
     const bool toggles = pointer.modifiers & Qt::ControlModifier;
-    const auto met = m_workspace->selectableIn(band, pointer.modifiers & Qt::AltModifier);
+    const auto met = m_workspace->placed().selectableIn(band, pointer.modifiers & Qt::AltModifier);
     QList<WorkspaceItemBase *> target;
     if (adds || toggles) {
         const QSet<WorkspaceItemBase *> isMet(met.begin(), met.end());

@@ -1,74 +1,53 @@
 #include "workspace/WorkspaceBase.h"
 
-#include "pointer/RMouseDetection.h"
+#include "base/Ancestor.h"
+#include "workspace/Arrangement.h"
+#include "workspace/HeardSignal.h"
 #include "workspace/ItemMove.h"
 #include "workspace/Snapping.h"
+#include "workspace/WorksheetBase.h"
+#include "workspace/WorkspaceEdits.h"
+#include "workspace/WorkspaceFocus.h"
 #include "workspace/WorkspaceInput.h"
 #include "workspace/WorkspaceItemBase.h"
 #include "workspace/WorkspaceItems.h"
+#include "workspace/WorkspaceKeys.h"
 
-#include <QtCore/QMetaMethod>
-#include <QtCore/private/qmetaobject_p.h>
 #include <QtGui/QAccessible>
+#include <QtGui/QKeyEvent>
 #include <QtQuick/private/qquickitem_p.h>
 
 #include <cmath>
 #include <utility>
 
-// The items of a workspace, its selection, and what gestures make of them.
-
 namespace tamble::client {
 
 namespace {
 
-template <typename Value>
-QVariantMap textMap(const QHash<QUuid, Value> &values)
-{
-    QVariantMap map;
-    for (auto value = values.begin(); value != values.end(); ++value)
-        map.insert(value.key().toString(QUuid::WithoutBraces), value.value());
-    return map;
-}
-
-// QObject's public question for listeners looks the signal up anew each time, which counts with thousands of items.
-template <typename Signal>
-uint signalIndexOf(Signal signal)
-{
-    return uint(QMetaObjectPrivate::signalIndex(QMetaMethod::fromSignal(signal)));
-}
+// Pixels around the viewport within which items are drawn, for their frames and marks.
+constexpr double viewMargin = 16.0;
+constexpr double leastDetailedZoom = 0.4;
 
 } // namespace
 
 WorkspaceBase::WorkspaceBase(QQuickItem *parent)
-    : QQuickItem(parent)
-    , m_detection(new RMouseDetection(this))
-    , m_plane(new QQuickItem(this))
+    : WorkspaceSurface(parent)
     , m_ownSelection(new RWorkspaceSelection(this))
     , m_items(std::make_unique<WorkspaceItems>(*this))
     , m_input(std::make_unique<WorkspaceInput>(*this))
+    , m_focus(std::make_unique<WorkspaceFocus>(*this))
+    , m_keys(std::make_unique<WorkspaceKeys>(*this, *m_input, *m_focus))
 {
     QAccessible::installActivationObserver(this);
     setClip(true);
     setActiveFocusOnTab(true);
-    m_plane->setTransformOrigin(TopLeft);
-    // The canvas is one stop of the Tab key, whatever lies on it; see followFocus(). (Qt would pass over an item all of
-    // whose children are such fences; the detection is none.)
-    QQuickItemPrivate::get(m_plane)->isTabFence = true;
     m_ownSelection->m_workspaces.append(this);
-    connect(m_detection, &RMouseDetection::containsMouseChanged, this, &WorkspaceBase::updatePointerInside);
-    const auto follow = [this] { setPointer(QPointF(m_detection->mouseX(), m_detection->mouseY())); };
-    connect(m_detection, &RMouseDetection::mouseXChanged, this, follow);
-    connect(m_detection, &RMouseDetection::mouseYChanged, this, follow);
-    updateInput();
-    placePlane();
     tellSheet();
 }
 
 WorkspaceBase::~WorkspaceBase()
 {
     blockSignals(true);
-    disconnect(m_focusWatch);
-    m_detection->disconnect(this);
     QAccessible::removeActivationObserver(this);
     m_input.reset();
     leaveSelection();
@@ -78,7 +57,7 @@ WorkspaceBase::~WorkspaceBase()
 
 QQmlListProperty<QObject> WorkspaceBase::content()
 {
-    return QQuickItemPrivate::get(m_plane)->data();
+    return QQuickItemPrivate::get(plane())->data();
 }
 
 void WorkspaceBase::setReadOnly(bool readOnly)
@@ -92,20 +71,6 @@ void WorkspaceBase::setReadOnly(bool readOnly)
         Q_EMIT readOnlyChanged();
 }
 
-void WorkspaceBase::setInteractive(bool interactive)
-{
-    if (std::exchange(m_interactive, interactive) == interactive)
-        return;
-    const QPointer<WorkspaceBase> self(this);
-    cancelGesture();
-    if (!self)
-        return;
-    updateInput();
-    setHovered(false);
-    if (self)
-        Q_EMIT interactiveChanged();
-}
-
 // Items.
 
 void WorkspaceBase::addItem(WorkspaceItemBase &item)
@@ -113,12 +78,11 @@ void WorkspaceBase::addItem(WorkspaceItemBase &item)
     if (!m_items->add(item))
         return;
     item.m_workspace = this;
-    item.setUnit(m_view.unit());
+    item.setUnit(unit());
     m_items->place(item);
     polish();
     tellItemsLater();
-    static const uint added = signalIndexOf(&WorkspaceBase::itemAdded);
-    const QPointer<WorkspaceBase> heard = QQuickItemPrivate::get(this)->isSignalConnected(added) ? this : nullptr;
+    const QPointer<WorkspaceBase> heard = isHeard<&WorkspaceBase::itemAdded>(*this) ? this : nullptr;
     const QUuid id = heard ? item.itemId() : QUuid();
     Q_EMIT item.workspaceChanged();
     if (heard)
@@ -129,16 +93,13 @@ void WorkspaceBase::removeItem(WorkspaceItemBase &item)
 {
     const QPointer<WorkspaceBase> self(this);
     const QPointer<WorkspaceItemBase> going(&item);
-    static const uint removed = signalIndexOf(&WorkspaceBase::itemRemoved);
-    const bool isHeard = QQuickItemPrivate::get(this)->isSignalConnected(removed);
-    const QUuid id = isHeard ? item.itemId() : QUuid();
+    const bool isTold = isHeard<&WorkspaceBase::itemRemoved>(*this);
+    const QUuid id = isTold ? item.itemId() : QUuid();
     if (m_move)
         m_move->itemGoes(item);
     if (m_hoveredItem == &item)
         m_hoveredItem = nullptr;
-    const bool wasCurrent = m_currentItem == &item;
-    if (wasCurrent)
-        m_currentItem = nullptr;
+    const bool wasCurrent = m_focus->forget(item);
     m_items->remove(item);
     item.m_workspace = nullptr;
     tellItemsLater();
@@ -149,7 +110,7 @@ void WorkspaceBase::removeItem(WorkspaceItemBase &item)
         item.leaveWorkspace();
     if (self && wasCurrent)
         Q_EMIT currentItemChanged();
-    if (self && isHeard)
+    if (self && isTold)
         Q_EMIT itemRemoved(id.toString(QUuid::WithoutBraces));
 }
 
@@ -214,37 +175,14 @@ QList<QObject *> WorkspaceBase::itemsIn(const QRectF &rect, bool contained) cons
     return QList<QObject *>(items.begin(), items.end());
 }
 
-QList<WorkspaceItemBase *> WorkspaceBase::selectableIn(const QRectF &area, bool contained) const
-{
-    auto items = m_items->stacked(contained ? m_items->containedIn(area) : m_items->touching(area));
-    items.removeIf([](const WorkspaceItemBase *item) { return !item->isSelectable(); });
-    return items;
-}
-
-std::vector<QRectF> WorkspaceBase::restingRectsIn(const QRectF &area) const
-{
-    std::vector<QRectF> rects;
-    for (const WorkspaceItemBase *item : m_items->touching(area)) {
-        if (!item->moving())
-            rects.push_back(item->planeRect());
-    }
-    return rects;
-}
-
 QHash<QUuid, QPointF> WorkspaceBase::positions() const
 {
-    QHash<QUuid, QPointF> positions;
-    for (const WorkspaceItemBase *item : m_items->all())
-        positions.insert(item->itemId(), item->planePosition());
-    return positions;
+    return m_items->positions();
 }
 
 QHash<QUuid, QRectF> WorkspaceBase::geometries() const
 {
-    QHash<QUuid, QRectF> geometries;
-    for (const WorkspaceItemBase *item : m_items->all())
-        geometries.insert(item->itemId(), item->planeRect());
-    return geometries;
+    return m_items->geometries();
 }
 
 // The selection.
@@ -302,7 +240,7 @@ WorkspaceItemBase *WorkspaceBase::itemWithGripAt(const QPointF &point, double pi
 {
     if (m_readOnly)
         return nullptr;
-    const double reach = pixels / m_view.scale();
+    const double reach = pixels / view().scale();
     const QRectF around(point - QPointF(reach, reach) / 2.0, QSizeF(reach, reach));
     for (WorkspaceItemBase *item : m_items->touching(around)) {
         if (item->selected() && item->canBeResized() && around.contains(item->planeRect().bottomRight()))
@@ -313,9 +251,68 @@ WorkspaceItemBase *WorkspaceBase::itemWithGripAt(const QPointF &point, double pi
 
 // Gestures.
 
-void WorkspaceBase::cancelGesture()
+void WorkspaceBase::zoomToFit()
 {
-    m_input->cancel();
+    const auto items = m_items->toRead();
+    if (items.isEmpty())
+        fit(planeRect(), maximumZoom());
+    else
+        fitItems(items);
+}
+
+void WorkspaceBase::zoomToSelection()
+{
+    const auto items = selectedHere();
+    if (!items.isEmpty())
+        fitItems(items);
+}
+
+void WorkspaceBase::fitItems(const QList<WorkspaceItemBase *> &items)
+{
+    std::vector<QRectF> rects;
+    for (const WorkspaceItemBase *item : items)
+        rects.push_back(item->planeRect());
+    fit(boundsOf(rects), items.size() == 1 ? 1.0 : maximumZoom());
+}
+
+void WorkspaceBase::moveItems(const QVariantMap &positions)
+{
+    putItems(*this, positions);
+}
+
+void WorkspaceBase::resizeItems(const QVariantMap &geometries)
+{
+    tamble::client::resizeItems(*this, geometries);
+}
+
+void WorkspaceBase::align(int edge)
+{
+    alignItems(*this, Qt::Alignment(edge));
+}
+
+void WorkspaceBase::distribute(int orientation)
+{
+    distributeItems(*this, Qt::Orientation(orientation));
+}
+
+void WorkspaceBase::nudge(qreal dx, qreal dy)
+{
+    if (qIsFinite(dx) && qIsFinite(dy) && (!m_move || m_input->nudge().isUnderWay()))
+        m_input->nudge().step(QPointF(dx, dy));
+}
+
+void WorkspaceBase::finishNudge()
+{
+    m_input->nudge().finish();
+}
+
+bool WorkspaceBase::endGestures()
+{
+    const QPointer<WorkspaceBase> self(this);
+    finishNudge();
+    if (self)
+        cancelGesture();
+    return self;
 }
 
 void WorkspaceBase::setMove(ItemMove *move)
@@ -357,28 +354,149 @@ void WorkspaceBase::showRubberBand(const std::optional<QRectF> &band)
         Q_EMIT rubberBandActiveChanged();
 }
 
-void WorkspaceBase::tellMoving(const ItemMove &move)
+// What Qt tells.
+
+void WorkspaceBase::componentComplete()
 {
-    static const QMetaMethod moving = QMetaMethod::fromSignal(&WorkspaceBase::itemsMoving);
-    if (isSignalConnected(moving))
-        Q_EMIT itemsMoving(move.positions());
+    WorkspaceSurface::componentComplete();
+    if (QAccessible::isActive())
+        speak();
 }
 
-void WorkspaceBase::tellMoved(const QHash<QUuid, QPointF> &before, const QHash<QUuid, QPointF> &after,
-                              const QString &cause)
+void WorkspaceBase::itemChange(ItemChange change, const ItemChangeData &data)
 {
+    WorkspaceSurface::itemChange(change, data);
+    const bool isGone = change == ItemSceneChange ||
+                        ((change == ItemVisibleHasChanged || change == ItemEnabledHasChanged) && !data.boolValue);
     const QPointer<WorkspaceBase> self(this);
-    Q_EMIT positionsCommitted(before, after);
-    if (self)
-        Q_EMIT itemsMoved(textMap(before), textMap(after), cause);
+    if (change == ItemSceneChange)
+        m_focus->setWindow(data.window);
+    if (isGone)
+        cancelGesture();
+    if (!self)
+        return;
+    if (change == ItemVisibleHasChanged && data.boolValue)
+        placeAllItems();
+    if (change == ItemParentHasChanged || change == ItemSceneChange) {
+        tellSheet();
+        polish();
+    }
 }
 
-void WorkspaceBase::tellResized(const QHash<QUuid, QRectF> &before, const QHash<QUuid, QRectF> &after)
+// Children of its own a page notices by itself, but not what is put into them.
+void WorkspaceBase::tellSheet()
+{
+    for (auto *sheet = nearestAncestor<WorksheetBase>(*this); sheet; sheet = nearestAncestor<WorksheetBase>(*sheet))
+        sheet->seekWorkspace();
+}
+
+void WorkspaceBase::unitChange()
+{
+    m_items->setUnit(unit());
+}
+
+void WorkspaceBase::updatePolish()
+{
+    const double margin = viewMargin / view().scale();
+    const QPointer<WorkspaceBase> self(this);
+    m_items->showIn(view().seen().adjusted(-margin, -margin, margin, margin), zoom() >= leastDetailedZoom);
+    if (self)
+        hoverChange();
+}
+
+void WorkspaceBase::hoverChange()
+{
+    if (m_move)
+        return;
+    WorkspaceItemBase *hovered = isHovered() ? m_items->at(pointerPosition()) : nullptr;
+    WorkspaceItemBase *before = std::exchange(m_hoveredItem, hovered);
+    if (before == hovered)
+        return;
+    const QPointer<WorkspaceItemBase> entered = hovered;
+    if (before)
+        before->setState(&WorkspaceItemBase::m_hovered, false, &WorkspaceItemBase::hoveredChanged);
+    if (entered)
+        entered->setState(&WorkspaceItemBase::m_hovered, true, &WorkspaceItemBase::hoveredChanged);
+}
+
+bool WorkspaceBase::event(QEvent *event)
+{
+    if (event->type() != QEvent::ShortcutOverride || !m_keys->overridesShortcut(static_cast<const QKeyEvent &>(*event)))
+        return WorkspaceSurface::event(event);
+    event->accept();
+    return true;
+}
+
+void WorkspaceBase::keyPressEvent(QKeyEvent *event)
+{
+    event->setAccepted(m_keys->press(*event));
+}
+
+void WorkspaceBase::keyReleaseEvent(QKeyEvent *event)
+{
+    event->setAccepted(m_keys->release(*event));
+}
+
+void WorkspaceBase::focusInEvent(QFocusEvent *event)
+{
+    WorkspaceSurface::focusInEvent(event);
+    m_focus->update();
+}
+
+void WorkspaceBase::focusOutEvent(QFocusEvent *event)
 {
     const QPointer<WorkspaceBase> self(this);
-    Q_EMIT geometriesCommitted(before, after);
+    WorkspaceSurface::focusOutEvent(event);
+    holdSpace(false);
+    finishNudge();
     if (self)
-        Q_EMIT itemsResized(textMap(before), textMap(after));
+        m_focus->update();
+}
+
+QObject *WorkspaceBase::currentItem() const
+{
+    return m_focus->current();
+}
+
+void WorkspaceBase::setCurrentItem(WorkspaceItemBase *item)
+{
+    m_focus->setCurrent(item);
+}
+
+// Assistive tools.
+
+QString WorkspaceBase::spokenName() const
+{
+    return tr("Workspace");
+}
+
+QList<QQuickItem *> WorkspaceBase::spokenOrder(const QList<QQuickItem *> &children) const
+{
+    QList<QQuickItem *> ordered;
+    for (WorkspaceItemBase *item : m_items->toRead()) {
+        if (item->inView() && children.contains(item))
+            ordered.append(item);
+    }
+    for (QQuickItem *child : children) {
+        if (!qobject_cast<WorkspaceItemBase *>(child))
+            ordered.append(child);
+    }
+    return ordered;
+}
+
+void WorkspaceBase::accessibilityActiveChanged(bool active)
+{
+    if (active)
+        speak();
+}
+
+void WorkspaceBase::speak()
+{
+    beginToSpeak(*this);
+    for (WorkspaceItemBase *item : m_items->all()) {
+        if (item->inView())
+            item->speak();
+    }
 }
 
 } // namespace tamble::client

@@ -1,12 +1,13 @@
+#include "workspace/WorkspaceEdits.h"
+
 #include "workspace/Arrangement.h"
 #include "workspace/ItemMove.h"
-#include "workspace/Snapping.h"
 #include "workspace/WorkspaceBase.h"
-#include "workspace/WorkspaceInput.h"
 #include "workspace/WorkspaceItemBase.h"
-#include "workspace/WorkspaceItems.h"
 
-// What pages and tool bars do to the items of a workspace.
+#include <QtCore/QPointer>
+
+#include <utility>
 
 namespace tamble::client {
 
@@ -32,68 +33,37 @@ bool isUsable(const QRectF &rect)
     return qIsFinite(rect.left()) && qIsFinite(rect.top()) && qIsFinite(rect.right()) && qIsFinite(rect.bottom());
 }
 
-} // namespace
-
-void WorkspaceBase::zoomToFit()
+WorkspaceItemBase *itemOf(const WorkspaceBase &workspace, const QString &id)
 {
-    const auto items = m_items->toRead();
-    if (items.isEmpty())
-        fit(m_view.plane(), m_view.maximumZoom());
-    else
-        fit(items);
+    return qobject_cast<WorkspaceItemBase *>(workspace.itemById(id));
 }
 
-void WorkspaceBase::zoomToSelection()
+void arrange(WorkspaceBase &workspace, const QList<WorkspaceItemBase *> &items, const std::vector<QPointF> &corners,
+             const QString &cause)
 {
-    const auto items = selectedHere();
-    if (!items.isEmpty())
-        fit(items);
+    ItemMove move(workspace, items, ItemMove::AtOnce);
+    move.show(keptInside(workspace.planeRect(), movedTo(rectsOf(items), corners)));
+    move.commit(cause);
 }
 
-void WorkspaceBase::fit(const QList<WorkspaceItemBase *> &items)
+void placeItems(WorkspaceBase &workspace, const QVariantMap &geometries, bool resizes)
 {
-    fit(boundsOf(rectsOf(items)), items.size() == 1 ? 1.0 : m_view.maximumZoom());
-}
-
-QPointF WorkspaceBase::snapped(const QPointF &point) const
-{
-    const double grid = m_snapToGrid ? m_gridSize : 0.0;
-    return QPointF(snappedToGrid(point.x(), grid), snappedToGrid(point.y(), grid));
-}
-
-void WorkspaceBase::moveItems(const QVariantMap &positions)
-{
-    QVariantMap geometries;
-    for (auto entry = positions.begin(); entry != positions.end(); ++entry) {
-        if (const WorkspaceItemBase *item = m_items->byId(QUuid(entry.key())))
-            geometries.insert(entry.key(), QRectF(entry.value().toPointF(), item->planeSize()));
-    }
-    placeItems(geometries, false);
-}
-
-void WorkspaceBase::resizeItems(const QVariantMap &geometries)
-{
-    placeItems(geometries, true);
-}
-
-void WorkspaceBase::placeItems(const QVariantMap &geometries, bool resizes)
-{
-    const QPointer<WorkspaceBase> self(this);
-    m_input->nudge().finish();
+    const QPointer<WorkspaceBase> self(&workspace);
+    workspace.finishNudge();
     if (!self)
         return;
     QList<WorkspaceItemBase *> items;
     std::vector<QRectF> rects;
     for (auto entry = geometries.begin(); entry != geometries.end(); ++entry) {
-        WorkspaceItemBase *item = m_items->byId(QUuid(entry.key()));
+        WorkspaceItemBase *item = itemOf(workspace, entry.key());
         const QRectF rect = entry.value().toRectF();
         if (item && isUsable(rect)) {
             items.append(item);
             rects.push_back(rect);
         }
     }
-    const auto corners = keptInside(m_view.plane(), rects);
-    ItemMove move(*this, items, ItemMove::AtOnce);
+    const auto corners = keptInside(workspace.planeRect(), rects);
+    ItemMove move(workspace, items, ItemMove::AtOnce);
     if (resizes) {
         QList<QPointer<WorkspaceItemBase>> held;
         for (WorkspaceItemBase *item : std::as_const(items))
@@ -107,50 +77,40 @@ void WorkspaceBase::placeItems(const QVariantMap &geometries, bool resizes)
         move.show(corners);
 }
 
-void WorkspaceBase::nudge(qreal dx, qreal dy)
+} // namespace
+
+void putItems(WorkspaceBase &workspace, const QVariantMap &positions)
 {
-    if (qIsFinite(dx) && qIsFinite(dy) && (!m_move || m_input->nudge().isUnderWay()))
-        m_input->nudge().step(QPointF(dx, dy));
+    QVariantMap geometries;
+    for (auto entry = positions.begin(); entry != positions.end(); ++entry) {
+        if (const WorkspaceItemBase *item = itemOf(workspace, entry.key()))
+            geometries.insert(entry.key(), QRectF(entry.value().toPointF(), item->planeSize()));
+    }
+    placeItems(workspace, geometries, false);
 }
 
-// What the keys have moved so far counts; what the pointer still holds does not.
-void WorkspaceBase::endGestures()
+void resizeItems(WorkspaceBase &workspace, const QVariantMap &geometries)
 {
-    const QPointer<WorkspaceBase> self(this);
-    m_input->nudge().finish();
-    if (self)
-        cancelGesture();
+    placeItems(workspace, geometries, true);
 }
 
-void WorkspaceBase::arrange(const QList<WorkspaceItemBase *> &items, const std::vector<QPointF> &corners,
-                            const QString &cause)
+void alignItems(WorkspaceBase &workspace, Qt::Alignment edge)
 {
-    ItemMove move(*this, items, ItemMove::AtOnce);
-    move.show(keptInside(m_view.plane(), movedTo(rectsOf(items), corners)));
-    move.commit(cause);
-}
-
-void WorkspaceBase::align(int edge)
-{
-    const QPointer<WorkspaceBase> self(this);
-    endGestures();
-    if (!self)
+    if (!workspace.endGestures())
         return;
-    const auto items = selectedToMove();
+    const auto items = workspace.selectedToMove();
     if (!items.isEmpty())
-        arrange(items, aligned(rectsOf(items), boundsOf(rectsOf(selectedHere())), Qt::Alignment(edge)),
+        arrange(workspace, items, aligned(rectsOf(items), boundsOf(rectsOf(workspace.selectedHere())), edge),
                 QStringLiteral("align"));
 }
 
-void WorkspaceBase::distribute(int orientation)
+void distributeItems(WorkspaceBase &workspace, Qt::Orientation orientation)
 {
-    const QPointer<WorkspaceBase> self(this);
-    endGestures();
-    if (!self)
+    if (!workspace.endGestures())
         return;
-    const auto items = selectedToMove();
+    const auto items = workspace.selectedToMove();
     if (items.size() >= 3)
-        arrange(items, distributed(rectsOf(items), Qt::Orientation(orientation)), QStringLiteral("distribute"));
+        arrange(workspace, items, distributed(rectsOf(items), orientation), QStringLiteral("distribute"));
 }
 
 } // namespace tamble::client

@@ -233,7 +233,7 @@ void WorkspaceItemBase::leaveWorkspace()
     if (self)
         setState(&WorkspaceItemBase::m_hovered, false, &WorkspaceItemBase::hoveredChanged);
     if (self)
-        setState(&WorkspaceItemBase::m_keyFocus, false, &WorkspaceItemBase::keyFocusChanged);
+        setKeyFocus(false);
     if (self)
         setInView(false, true);
     if (self)

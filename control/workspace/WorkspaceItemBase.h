@@ -146,10 +146,16 @@ private:
     friend class ItemMove;
     friend class RWorkspaceSelection;
     friend class WorkspaceBase;
+    friend class WorkspaceFocus;
     friend class WorkspaceItems;
 
     using Change = void (WorkspaceItemBase::*)();
 
+    /// Whether that is new.
+    bool setKeyFocus(bool has)
+    {
+        return setState(&WorkspaceItemBase::m_keyFocus, has, &WorkspaceItemBase::keyFocusChanged);
+    }
     bool setState(bool WorkspaceItemBase::*state, bool on, Change changed);
     void findWorkspace();
     void leaveWorkspace();

@@ -193,6 +193,39 @@ int WorkspaceItems::rankOf(WorkspaceItemBase &item) const
     return item.m_rank;
 }
 
+WorkspaceItems::Items WorkspaceItems::selectableIn(const QRectF &area, bool contained) const
+{
+    auto items = stacked(contained ? containedIn(area) : touching(area));
+    items.removeIf([](const WorkspaceItemBase *item) { return !item->isSelectable(); });
+    return items;
+}
+
+std::vector<QRectF> WorkspaceItems::restingRectsIn(const QRectF &area) const
+{
+    std::vector<QRectF> rects;
+    for (const WorkspaceItemBase *item : touching(area)) {
+        if (!item->moving())
+            rects.push_back(item->planeRect());
+    }
+    return rects;
+}
+
+QHash<QUuid, QPointF> WorkspaceItems::positions() const
+{
+    QHash<QUuid, QPointF> positions;
+    for (const WorkspaceItemBase *item : all())
+        positions.insert(item->itemId(), item->planePosition());
+    return positions;
+}
+
+QHash<QUuid, QRectF> WorkspaceItems::geometries() const
+{
+    QHash<QUuid, QRectF> geometries;
+    for (const WorkspaceItemBase *item : all())
+        geometries.insert(item->itemId(), item->planeRect());
+    return geometries;
+}
+
 void WorkspaceItems::showIn(const QRectF &region, bool isDetailed)
 {
     RectIndex::Keys seen = index().touching(region);

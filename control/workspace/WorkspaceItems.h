@@ -50,6 +50,14 @@ public:
     /// From the back to the front.
     Items stacked(Items items) const;
 
+    /// Those that the user can select and that an area touches or, `contained`, holds in full; from the back to the
+    /// front.
+    Items selectableIn(const QRectF &area, bool contained) const;
+    /// Those in an area that are not being moved.
+    std::vector<QRectF> restingRectsIn(const QRectF &area) const;
+    QHash<QUuid, QPointF> positions() const;
+    QHash<QUuid, QRectF> geometries() const;
+
     /// Tells items whether they are in view, and how much of them is shown there.
     void showIn(const QRectF &region, bool isDetailed);
 

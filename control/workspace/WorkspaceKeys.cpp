@@ -1,13 +1,15 @@
+#include "workspace/WorkspaceKeys.h"
+
 #include "base/InputMeaning.h"
 #include "workspace/WorkspaceBase.h"
+#include "workspace/WorkspaceFocus.h"
 #include "workspace/WorkspaceInput.h"
 #include "workspace/WorkspaceItemBase.h"
 #include "workspace/WorkspaceItems.h"
 #include "workspace/ZoomTravel.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
-
-// What keys do to a workspace.
 
 namespace tamble::client {
 
@@ -42,43 +44,30 @@ bool isZoomKey(int key)
 
 } // namespace
 
-void WorkspaceBase::keyPressEvent(QKeyEvent *event)
-{
-    event->setAccepted(handleKey(*event));
-}
-
-void WorkspaceBase::keyReleaseEvent(QKeyEvent *event)
-{
-    const bool isSpace = event->key() == Qt::Key_Space && m_input->isSpaceHeld();
-    event->setAccepted(isSpace);
-    if (!isSpace || event->isAutoRepeat())
-        return;
-    const bool hasPanned = m_input->hasPanned();
-    m_input->holdSpace(false);
-    setFiltersChildMouseEvents(false);
-    if (!hasPanned)
-        selectCurrent(event->modifiers() & Qt::ControlModifier);
-}
+WorkspaceKeys::WorkspaceKeys(WorkspaceBase &workspace, WorkspaceInput &input, WorkspaceFocus &focus)
+    : m_workspace(workspace)
+    , m_input(input)
+    , m_focus(focus)
+{}
 
 // During a gesture Esc takes it back, and with the focus the keys of the zoom are those of the canvas, whatever
 // shortcuts the window has for them.
-bool WorkspaceBase::overridesShortcut(const QKeyEvent &event) const
+bool WorkspaceKeys::overridesShortcut(const QKeyEvent &event) const
 {
     if (event.key() == Qt::Key_Escape)
-        return m_input->isUnderWay();
+        return m_input.isUnderWay();
     return (event.modifiers() & keyModifiers & ~Qt::ShiftModifier) == Qt::ControlModifier && isZoomKey(event.key());
 }
 
-bool WorkspaceBase::handleKey(const QKeyEvent &event)
+bool WorkspaceKeys::press(const QKeyEvent &event)
 {
-    const Qt::KeyboardModifiers modifiers = event.modifiers() & keyModifiers;
     if (!wayOf(event.key()).isNull())
         return moveByArrow(event);
     if (event.key() == Qt::Key_Escape) {
-        if (m_input->isUnderWay())
-            cancelGesture();
-        else if (!selection()->empty())
-            selection()->clear();
+        if (m_input.isUnderWay())
+            m_workspace.cancelGesture();
+        else if (!m_workspace.selection()->empty())
+            m_workspace.selection()->clear();
         else
             return false;
         return true;
@@ -86,10 +75,14 @@ bool WorkspaceBase::handleKey(const QKeyEvent &event)
     const bool isModifier = event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_ScrollLock;
     if (isModifier)
         return false;
-    const QPointer<WorkspaceBase> self(this);
-    m_input->nudge().finish();
-    if (!self)
-        return true;
+    const QPointer<WorkspaceBase> self(&m_workspace);
+    m_input.nudge().finish();
+    return !self || pressCommand(event);
+}
+
+bool WorkspaceKeys::pressCommand(const QKeyEvent &event)
+{
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & keyModifiers;
     if (asksForMenu(event)) {
         askForMenu();
         return true;
@@ -101,109 +94,121 @@ bool WorkspaceBase::handleKey(const QKeyEvent &event)
                moveCurrent(event.key() == Qt::Key_Tab && modifiers == Qt::NoModifier);
     if (event.key() == Qt::Key_Space) {
         if (!event.isAutoRepeat())
-            m_input->holdSpace(true);
-        setFiltersChildMouseEvents(true);
+            m_workspace.holdSpace(true);
         return true;
     }
     if (modifiers & Qt::ControlModifier)
-        return handleControlKey(event.key());
-    if (isEnterKey(event) && m_currentItem) {
-        Q_EMIT itemActivated(m_currentItem->itemId().toString(QUuid::WithoutBraces));
+        return pressWithControl(event.key());
+    if (const WorkspaceItemBase *current = m_focus.current(); current && isEnterKey(event)) {
+        Q_EMIT m_workspace.itemActivated(current->itemId().toString(QUuid::WithoutBraces));
         return true;
     }
-    if ((event.key() == Qt::Key_Delete || event.key() == Qt::Key_Backspace) && !m_readOnly) {
+    if ((event.key() == Qt::Key_Delete || event.key() == Qt::Key_Backspace) && !m_workspace.readOnly()) {
         QStringList ids;
-        for (const WorkspaceItemBase *item : selectedHere())
+        for (const WorkspaceItemBase *item : m_workspace.selectedHere())
             ids << item->itemId().toString(QUuid::WithoutBraces);
         if (!ids.isEmpty())
-            Q_EMIT deleteRequested(ids);
+            Q_EMIT m_workspace.deleteRequested(ids);
         return !ids.isEmpty();
     }
     return false;
 }
 
-bool WorkspaceBase::handleControlKey(int key)
+bool WorkspaceKeys::release(const QKeyEvent &event)
 {
-    const QPointF middle(width() / 2.0, height() / 2.0);
+    if (event.key() != Qt::Key_Space || !m_input.isSpaceHeld())
+        return false;
+    if (event.isAutoRepeat())
+        return true;
+    const bool hasPanned = m_input.hasPanned();
+    m_workspace.holdSpace(false);
+    if (!hasPanned)
+        selectCurrent(event.modifiers() & Qt::ControlModifier);
+    return true;
+}
+
+bool WorkspaceKeys::pressWithControl(int key)
+{
+    const QPointF middle(m_workspace.width() / 2.0, m_workspace.height() / 2.0);
     switch (key) {
     case Qt::Key_A: {
-        auto items = m_items->toRead();
+        auto items = m_workspace.placed().toRead();
         items.removeIf([](const WorkspaceItemBase *item) { return !item->isSelectable(); });
-        selection()->apply(items, RWorkspaceSelection::Replace);
+        m_workspace.selection()->apply(items, RWorkspaceSelection::Replace);
         return true;
     }
     case Qt::Key_Plus:
     case Qt::Key_Equal:
-        zoomTo(zoom() * zoomKeyFactor, middle);
+        m_workspace.zoomTo(m_workspace.zoom() * zoomKeyFactor, middle);
         return true;
     case Qt::Key_Minus:
     case Qt::Key_Underscore:
-        zoomTo(zoom() / zoomKeyFactor, middle);
+        m_workspace.zoomTo(m_workspace.zoom() / zoomKeyFactor, middle);
         return true;
     case Qt::Key_0:
-        zoomTo(1.0, middle);
+        m_workspace.zoomTo(1.0, middle);
         return true;
     case Qt::Key_1:
-        zoomToFit();
+        m_workspace.zoomToFit();
         return true;
     case Qt::Key_2:
-        zoomToSelection();
+        m_workspace.zoomToSelection();
         return true;
     default:
         return false;
     }
 }
 
-bool WorkspaceBase::moveByArrow(const QKeyEvent &event)
+bool WorkspaceKeys::moveByArrow(const QKeyEvent &event)
 {
     const Qt::KeyboardModifiers modifiers = event.modifiers() & keyModifiers;
     if (modifiers & (Qt::AltModifier | Qt::MetaModifier))
         return false;
     const QPointF way = wayOf(event.key());
-    if (selectedHere().isEmpty()) {
-        pan(way * arrowPanPixels);
+    if (m_workspace.selectedHere().isEmpty()) {
+        m_workspace.pan(way * arrowPanPixels);
         return true;
     }
-    double step = m_snapToGrid && m_gridSize > 0.0 ? m_gridSize : 1.0;
+    double step = m_workspace.snapsToGrid() && m_workspace.gridSize() > 0.0 ? m_workspace.gridSize() : 1.0;
     if (modifiers & Qt::ShiftModifier)
         step = 1.0;
     else if (modifiers & Qt::ControlModifier)
-        step = 5.0 * m_gridSize;
-    nudge(way.x() * step, way.y() * step);
+        step = 5.0 * m_workspace.gridSize();
+    m_workspace.nudge(way.x() * step, way.y() * step);
     return true;
 }
 
-bool WorkspaceBase::moveCurrent(bool isForward)
+bool WorkspaceKeys::moveCurrent(bool isForward)
 {
-    const auto items = m_items->toRead();
-    const qsizetype current = items.indexOf(m_currentItem);
+    const auto items = m_workspace.placed().toRead();
+    const qsizetype current = items.indexOf(m_focus.current());
     qsizetype next = current + (isForward ? 1 : -1);
     if (current < 0)
         next = isForward ? 0 : items.size() - 1;
     if (next < 0 || next >= items.size())
         return false;
-    const QPointer<WorkspaceBase> self(this);
-    const double margin = focusMargin / m_view.scale();
+    const QPointer<WorkspaceBase> self(&m_workspace);
+    const double margin = focusMargin / m_workspace.view().scale();
     const QRectF rect = items[next]->planeRect().adjusted(-margin, -margin, margin, margin);
-    setCurrentItem(items[next]);
+    m_focus.setCurrent(items[next]);
     if (self)
-        ensureVisible(rect);
+        m_workspace.ensureVisible(rect);
     return true;
 }
 
-void WorkspaceBase::selectCurrent(bool toggles)
+void WorkspaceKeys::selectCurrent(bool toggles)
 {
-    if (m_currentItem && m_currentItem->isSelectable())
-        selection()->select(m_currentItem, toggles ? RWorkspaceSelection::Toggle : RWorkspaceSelection::Replace);
+    WorkspaceItemBase *current = m_focus.current();
+    if (current && current->isSelectable())
+        m_workspace.selection()->select(current, toggles ? RWorkspaceSelection::Toggle : RWorkspaceSelection::Replace);
 }
 
-void WorkspaceBase::askForMenu()
+void WorkspaceKeys::askForMenu()
 {
-    if (m_currentItem)
-        Q_EMIT contextMenuRequested(m_currentItem->planeRect().center(),
-                                    m_currentItem->itemId().toString(QUuid::WithoutBraces));
-    else
-        Q_EMIT contextMenuRequested(m_view.seen().center(), QString());
+    const WorkspaceItemBase *current = m_focus.current();
+    const QPointF place = current ? current->planeRect().center() : m_workspace.view().seen().center();
+    Q_EMIT m_workspace.contextMenuRequested(place,
+                                            current ? current->itemId().toString(QUuid::WithoutBraces) : QString());
 }
 
 } // namespace tamble::client

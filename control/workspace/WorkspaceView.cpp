@@ -1,26 +1,35 @@
+#include "workspace/WorkspaceView.h"
+
 #include "pointer/RMouseDetection.h"
 #include "workspace/Snapping.h"
-#include "workspace/WorkspaceBase.h"
-#include "workspace/WorkspaceInput.h"
-#include "workspace/WorkspaceItems.h"
+
+#include <QtCore/QPointer>
 
 #include <cmath>
 #include <utility>
 
-// How a workspace is seen, and the grid on which its items are put.
-
 namespace tamble::client {
 
-namespace {
+WorkspaceView::WorkspaceView(QQuickItem *parent)
+    : QQuickItem(parent)
+    , m_detection(new RMouseDetection(this))
+    , m_plane(new QQuickItem(this))
+{
+    m_plane->setTransformOrigin(TopLeft);
+    connect(m_detection, &RMouseDetection::containsMouseChanged, this, &WorkspaceView::updatePointerInside);
+    const auto follow = [this] { setPointer(QPointF(m_detection->mouseX(), m_detection->mouseY())); };
+    connect(m_detection, &RMouseDetection::mouseXChanged, this, follow);
+    connect(m_detection, &RMouseDetection::mouseYChanged, this, follow);
+    placePlane();
+}
 
-// Pixels around the viewport within which items are drawn, for their frames and marks.
-constexpr double viewMargin = 16.0;
-constexpr double leastDetailedZoom = 0.4;
-
-} // namespace
+WorkspaceView::~WorkspaceView()
+{
+    m_detection->disconnect(this);
+}
 
 template <typename Change>
-void WorkspaceBase::changeView(Change change)
+void WorkspaceView::changeView(Change change)
 {
     const PlaneView before = m_view;
     change(m_view);
@@ -29,29 +38,29 @@ void WorkspaceBase::changeView(Change change)
     if (before == m_view)
         return;
     placePlane();
-    const QPointer<WorkspaceBase> self(this);
+    const QPointer<WorkspaceView> self(this);
     const PlaneView now = m_view;
     if (before.unit() != now.unit())
-        m_items->setUnit(now.unit());
-    const auto tellIf = [&self](bool hasChanged, void (WorkspaceBase::*signal)()) {
+        unitChange();
+    const auto tellIf = [&self](bool hasChanged, void (WorkspaceView::*signal)()) {
         if (hasChanged && self)
             Q_EMIT(self->*signal)();
     };
-    tellIf(before.plane() != now.plane(), &WorkspaceBase::planeRectChanged);
-    tellIf(before.unit() != now.unit(), &WorkspaceBase::unitChanged);
-    tellIf(before.minimumZoom() != now.minimumZoom(), &WorkspaceBase::minimumZoomChanged);
-    tellIf(before.maximumZoom() != now.maximumZoom(), &WorkspaceBase::maximumZoomChanged);
-    tellIf(before.zoom() != now.zoom(), &WorkspaceBase::zoomChanged);
-    tellIf(before.view().x() != now.view().x(), &WorkspaceBase::viewXChanged);
-    tellIf(before.view().y() != now.view().y(), &WorkspaceBase::viewYChanged);
-    tellIf(self && self->m_pointerInside, &WorkspaceBase::pointerPositionChanged);
+    tellIf(before.plane() != now.plane(), &WorkspaceView::planeRectChanged);
+    tellIf(before.unit() != now.unit(), &WorkspaceView::unitChanged);
+    tellIf(before.minimumZoom() != now.minimumZoom(), &WorkspaceView::minimumZoomChanged);
+    tellIf(before.maximumZoom() != now.maximumZoom(), &WorkspaceView::maximumZoomChanged);
+    tellIf(before.zoom() != now.zoom(), &WorkspaceView::zoomChanged);
+    tellIf(before.view().x() != now.view().x(), &WorkspaceView::viewXChanged);
+    tellIf(before.view().y() != now.view().y(), &WorkspaceView::viewYChanged);
+    tellIf(self && self->m_pointerInside, &WorkspaceView::pointerPositionChanged);
     if (!self)
         return;
     polish();
-    m_input->viewChange();
+    viewChange();
 }
 
-void WorkspaceBase::placePlane()
+void WorkspaceView::placePlane()
 {
     m_plane->setPosition(-m_view.view() * m_view.scale());
     m_plane->setScale(m_view.zoom());
@@ -59,99 +68,94 @@ void WorkspaceBase::placePlane()
     m_plane->setSize(QSizeF(corner.x(), corner.y()));
 }
 
-void WorkspaceBase::setPlaneRect(const QRectF &rect)
+void WorkspaceView::setPlaneRect(const QRectF &rect)
 {
     changeView([&rect](PlaneView &view) { view.setPlane(rect); });
 }
 
-void WorkspaceBase::setUnit(qreal unit)
+void WorkspaceView::setUnit(qreal unit)
 {
     changeView([unit](PlaneView &view) { view.setUnit(unit); });
 }
 
-void WorkspaceBase::setZoom(qreal zoom)
+void WorkspaceView::setZoom(qreal zoom)
 {
     changeView([zoom](PlaneView &view) { view.setZoom(zoom); });
 }
 
-void WorkspaceBase::setMinimumZoom(qreal zoom)
+void WorkspaceView::setMinimumZoom(qreal zoom)
 {
     changeView([zoom](PlaneView &view) { view.setMinimumZoom(zoom); });
 }
 
-void WorkspaceBase::setMaximumZoom(qreal zoom)
+void WorkspaceView::setMaximumZoom(qreal zoom)
 {
     changeView([zoom](PlaneView &view) { view.setMaximumZoom(zoom); });
 }
 
-void WorkspaceBase::setViewX(qreal x)
+void WorkspaceView::setViewX(qreal x)
 {
     changeView([x](PlaneView &view) { view.setView(QPointF(x, view.view().y())); });
 }
 
-void WorkspaceBase::setViewY(qreal y)
+void WorkspaceView::setViewY(qreal y)
 {
     changeView([y](PlaneView &view) { view.setView(QPointF(view.view().x(), y)); });
 }
 
-void WorkspaceBase::pan(const QPointF &pixels)
+void WorkspaceView::pan(const QPointF &pixels)
 {
     changeView([&pixels](PlaneView &view) { view.pan(pixels); });
 }
 
-void WorkspaceBase::zoomTo(qreal factor, const QPointF &anchor)
+void WorkspaceView::zoomTo(qreal factor, const QPointF &anchor)
 {
     changeView([factor, &anchor](PlaneView &view) { view.zoomAbout(factor, anchor); });
 }
 
-void WorkspaceBase::ensureVisible(const QRectF &rect)
+void WorkspaceView::ensureVisible(const QRectF &rect)
 {
     changeView([&rect](PlaneView &view) { view.ensureVisible(rect); });
 }
 
-void WorkspaceBase::fit(const QRectF &rect, double mostZoom)
+void WorkspaceView::fit(const QRectF &rect, double mostZoom)
 {
     changeView([&rect, mostZoom](PlaneView &view) { view.fit(rect, mostZoom); });
 }
 
-void WorkspaceBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+void WorkspaceView::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
     QQuickItem::geometryChange(newGeometry, oldGeometry);
     m_detection->setSize(newGeometry.size());
     changeView([&newGeometry](PlaneView &view) { view.setViewport(newGeometry.size()); });
 }
 
-void WorkspaceBase::componentComplete()
+void WorkspaceView::componentComplete()
 {
     QQuickItem::componentComplete();
     changeView([](PlaneView &) {});
     polish();
-    if (QAccessible::isActive())
-        speak();
 }
 
-void WorkspaceBase::updatePolish()
-{
-    const double margin = viewMargin / m_view.scale();
-    const QPointer<WorkspaceBase> self(this);
-    m_items->showIn(m_view.seen().adjusted(-margin, -margin, margin, margin), m_view.zoom() >= leastDetailedZoom);
-    if (self)
-        updateHovered();
-}
-
-void WorkspaceBase::setGridSize(qreal size)
+void WorkspaceView::setGridSize(qreal size)
 {
     if (std::isfinite(size) && size >= 0.0 && std::exchange(m_gridSize, size) != size)
         Q_EMIT gridSizeChanged();
 }
 
-void WorkspaceBase::setSnapDistance(qreal pixels)
+void WorkspaceView::setSnapDistance(qreal pixels)
 {
     if (std::isfinite(pixels) && std::exchange(m_snapDistance, pixels) != pixels)
         Q_EMIT snapDistanceChanged();
 }
 
-SnapRules WorkspaceBase::snapRules(bool isSuspended) const
+QPointF WorkspaceView::snapped(const QPointF &point) const
+{
+    const double grid = m_snapToGrid ? m_gridSize : 0.0;
+    return QPointF(snappedToGrid(point.x(), grid), snappedToGrid(point.y(), grid));
+}
+
+SnapRules WorkspaceView::snapRules(bool isSuspended) const
 {
     SnapRules rules{m_view.plane()};
     if (m_snapToItems && !isSuspended)
@@ -159,6 +163,19 @@ SnapRules WorkspaceBase::snapRules(bool isSuspended) const
     if (m_snapToGrid && !isSuspended)
         rules.grid = m_gridSize;
     return rules;
+}
+
+void WorkspaceView::setPointer(const QPointF &pixel)
+{
+    if (std::exchange(m_pointer, pixel) != pixel)
+        Q_EMIT pointerPositionChanged();
+}
+
+void WorkspaceView::updatePointerInside()
+{
+    const bool isInside = m_detection->containsMouse();
+    if (std::exchange(m_pointerInside, isInside) != isInside)
+        Q_EMIT pointerInsideChanged();
 }
 
 } // namespace tamble::client

@@ -23,24 +23,24 @@ Column {
             }
             RButton {
                 RStyleSet.name: row.modelData
-                width: theme.dp(72)
+                width: theme.dp(64)
                 text: qsTr("Input")
             }
             RButton {
                 RStyleSet.name: row.modelData
-                width: theme.dp(72)
+                width: theme.dp(64)
                 text: qsTr("Matrix")
                 selected: true
             }
             RButton {
                 RStyleSet.name: row.modelData
-                width: theme.dp(72)
+                width: theme.dp(64)
                 text: qsTr("Output")
                 consistent: false
             }
             RButton {
                 RStyleSet.name: row.modelData
-                width: theme.dp(72)
+                width: theme.dp(64)
                 text: qsTr("Record")
                 enabled: false
             }

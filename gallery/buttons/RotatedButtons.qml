@@ -2,9 +2,10 @@ import QtQuick
 import TambleClient.Control 1.0
 
 /*! The same button at several angles. One that stands on its side keeps its line, one at any other angle has none. */
-Row {
+Flow {
     id: root
 
+    width: parent?.width ?? 0
     spacing: theme.dp(8)
 
     Repeater {

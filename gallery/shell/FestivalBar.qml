@@ -34,7 +34,7 @@ RAppBar {
         RAppBarStateButton {
             RStyleSet.name: root.alarms > 0 ? "red" : "green"
             text: root.alarms > 0 ? qsTr("ALARM") : qsTr("ONLINE")
-            subText: root.alarms > 0 ? qsTr("%n devices", "", root.alarms) : qsTr("all devices")
+            subText: root.alarms === 1 ? qsTr("1 device") : root.alarms > 0 ? qsTr("%1 devices").arg(root.alarms) : qsTr("all devices")
             selected: true
             flashing: root.alarms > 0
             onClicked: root.alarmsAsked()

@@ -25,19 +25,28 @@ void FocusScroller::itemChange(ItemChange change, const ItemChangeData &data)
     if (change == ItemSceneChange) {
         disconnect(m_connection);
         if (data.window)
-            m_connection = connect(data.window, &QQuickWindow::activeFocusItemChanged, this, &FocusScroller::reveal);
+            m_connection = connect(data.window, &QQuickWindow::activeFocusItemChanged, this, &FocusScroller::polish);
     }
     QQuickItem::itemChange(change, data);
 }
 
-void FocusScroller::reveal()
+// A table gives the focus to a cell that it has not placed yet.
+void FocusScroller::updatePolish()
 {
-    QQuickItem *item = window() ? window()->activeFocusItem() : nullptr;
-    auto *content = m_view ? m_view->property("contentItem").value<QQuickItem *>() : nullptr;
+    const QQuickItem *item = window() ? window()->activeFocusItem() : nullptr;
+    const auto *content = m_view ? m_view->property("contentItem").value<QQuickItem *>() : nullptr;
     // A press of the pointer has its item in view already, and must not move it away from under the finger.
     if (!item || !content || !content->isAncestorOf(item) || m_view->property("moving").toBool())
         return;
-    const QRectF place = item->mapRectToItem(content, {0.0, 0.0, item->width(), item->height()})
+    reveal(*item, *content);
+    // Of a fader that is longer than the view, where its level is.
+    if (const auto *handle = item->property("handle").value<QQuickItem *>())
+        reveal(*handle, *content);
+}
+
+void FocusScroller::reveal(const QQuickItem &item, const QQuickItem &content)
+{
+    const QRectF place = item.mapRectToItem(&content, {0.0, 0.0, item.width(), item.height()})
                              .adjusted(-m_margin, -m_margin, m_margin, m_margin);
     m_view->setProperty("contentX", positionFor(m_view->property("contentX").toReal(), m_view->width(), place.left(),
                                                 place.right(), m_view->property("contentWidth").toReal()));

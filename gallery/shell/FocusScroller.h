@@ -22,9 +22,10 @@ Q_SIGNALS:
 
 protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;
+    void updatePolish() override;
 
 private:
-    void reveal();
+    void reveal(const QQuickItem &item, const QQuickItem &content);
 
     QPointer<QQuickItem> m_view;
     qreal m_margin = 8.0;

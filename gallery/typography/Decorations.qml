@@ -3,9 +3,10 @@ import Gallery
 import TambleClient.Control 1.0
 
 /*! Shadows of growing reach, and the frame of the keyboard focus. */
-Row {
+Flow {
     id: root
 
+    width: parent?.width ?? 0
     spacing: theme.dp(32)
     topPadding: theme.dp(8)
     bottomPadding: theme.dp(16)

@@ -1,10 +1,13 @@
 import QtQuick
 import TambleClient.Control 1.0
 
-/*! Four icons in each size class. */
+/*! Six icons in each size class, closer together where there is little room. */
 Column {
     id: root
 
+    readonly property real gap: Math.max(0, Math.min(theme.dp(24), (root.width - theme.dp(32 + 6 * 48)) / 6))
+
+    width: parent?.width ?? 0
     spacing: theme.dp(16)
 
     // qmllint disable unqualified
@@ -16,7 +19,7 @@ Column {
 
             required property string modelData
 
-            spacing: theme.dp(24)
+            spacing: root.gap
 
             RText {
                 width: theme.dp(32)

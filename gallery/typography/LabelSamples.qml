@@ -5,7 +5,8 @@ import TambleClient.Control 1.0
 Grid {
     id: root
 
-    columns: 3
+    // As many as have room.
+    columns: Math.max(1, Math.min(3, Math.floor(((root.parent?.width ?? 0) + root.spacing) / theme.dp(152))))
     spacing: theme.dp(16)
     verticalItemAlignment: Grid.AlignBottom
 

@@ -47,15 +47,15 @@ RLimiterCurveTemplate {
 
     /*! Ends the gesture under way. */
     function commit() {
-        edit.commit()
         if (!isNaN(root.threshold) && root.threshold !== edit.valueAtBegin)
             root.userCommittedThreshold(root.threshold)
+        edit.commit()
     }
 
     /*! Ends it with the threshold of before. */
     function cancel() {
         root.moveTo(edit.valueAtBegin)
-        edit.cancel()
+        edit.commit()
     }
 
     anchors.fill: parent

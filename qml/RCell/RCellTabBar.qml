@@ -55,8 +55,8 @@ RCell {
                     if (tab.selected)
                         return
                     choice.show(tab.index)
-                    choice.commit()
                     root.activated(tab.index)
+                    choice.commit()
                 }
             }
         }

@@ -31,7 +31,7 @@ RFlyoutToolbarItemBase {
         RText {
             id: words
             anchors.horizontalCenter: parent.horizontalCenter
-            y: root.iconKey.length > 0 ? root.height - height - 4 * RThemeValues.unit : (root.height - height) / 2
+            y: root.iconKey.length > 0 ? root.height - height - 5 * RThemeValues.unit : (root.height - height) / 2
             visible: words.text.length > 0
             text: root.plainText
             color: root.ssColor

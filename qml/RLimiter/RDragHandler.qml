@@ -37,6 +37,12 @@ RLevelHandle {
         root.dragged(x, y)
     }
 
+    /*! Ends the edit: the page's point counts again when it has answered. */
+    function commit() {
+        xEdit.commit()
+        yEdit.commit()
+    }
+
     /*! A change that is complete in itself. */
     function moveAtOnce(x: real, y: real) {
         root.open()
@@ -64,16 +70,14 @@ RLevelHandle {
         root.moveTo(root.steppedValue(root.xValue, x, fine, root.xFrom, root.xTo), root.steppedValue(root.yValue, y, fine, root.yFrom, root.yTo))
     }
     onEnded: {
-        xEdit.commit()
-        yEdit.commit()
         if (root.xValue !== xEdit.valueAtBegin || root.yValue !== yEdit.valueAtBegin)
             root.dragFinished(root.xValue, root.yValue)
+        root.commit()
     }
     onCanceled: {
         root.edit(xEdit.valueAtBegin, yEdit.valueAtBegin)
-        xEdit.cancel()
-        yEdit.cancel()
         root.dragCanceled()
+        root.commit()
     }
     onResetRequested: {
         if (root.defaultX === undefined && root.defaultY === undefined)

@@ -70,14 +70,14 @@ RLevelHandle {
         root.edit(RPlotRules.steppedValue(root.value, (right + up) * size, root.minimum, root.maximum, Math.abs(fine ? root.fineStep : root.step)))
     }
     onEnded: {
-        valueEdit.commit()
         if (root.value !== valueEdit.valueAtBegin)
             root.committed(root.value)
+        valueEdit.commit()
     }
     onCanceled: {
         root.edit(valueEdit.valueAtBegin)
-        valueEdit.cancel()
         root.plot.editCanceled()
+        valueEdit.commit()
     }
     onResetRequested: {
         if (root.defaultValue !== undefined)

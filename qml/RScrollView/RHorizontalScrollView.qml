@@ -61,6 +61,7 @@ T.ScrollView {
     }
 
     RButtonIcon {
+        RStyleSet.name: "ghost"
         parent: root
         width: root.arrowWidth
         height: root.height
@@ -72,6 +73,7 @@ T.ScrollView {
         onClicked: row.step(root.mirrored ? 1 : -1)
     }
     RButtonIcon {
+        RStyleSet.name: "ghost"
         parent: root
         x: root.width - width
         width: root.arrowWidth

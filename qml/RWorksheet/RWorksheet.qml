@@ -110,8 +110,8 @@ RWorksheetBase {
             value: root.title
             onValueCommitted: value => {
                 pendingTitle.show(value)
-                pendingTitle.commit()
                 root.titleEdited(value)
+                pendingTitle.commit()
                 root.endEdit()
             }
             onEditCanceled: root.endEdit()

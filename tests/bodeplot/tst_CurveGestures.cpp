@@ -90,6 +90,28 @@ private Q_SLOTS:
         QCOMPARE(curve->filterPointModels().size(), 0);
     }
 
+    void answersEndTheWait()
+    {
+        const Page page("settleTime: 60000; calculationItems: RBodeplotEqFilter { gain: 3 }");
+        Curve *curve = page.curve;
+        curve->holdFilterPoint(0);
+        curve->onUserMoveFilterPoint(0, {0.5, 0.25});
+        curve->releaseFilterPoint();
+        page.filter(0)->setProperty("freq", curve->handle(0)->frequency());
+        QCOMPARE(curve->handle(0)->gain(), 10.0);
+        page.filter(0)->setProperty("gain", 10.0);
+        page.filter(0)->setProperty("gain", 4.0);
+        QCOMPARE(curve->handle(0)->gain(), 4.0);
+
+        // A page that has written the edit at once has not answered.
+        curve->holdFilterPoint(0);
+        curve->onUserMoveFilterPoint(0, {0.5, 0.25});
+        page.filter(0)->setProperty("gain", curve->handle(0)->gain());
+        curve->releaseFilterPoint();
+        page.filter(0)->setProperty("gain", 4.0);
+        QCOMPARE(curve->handle(0)->gain(), 10.0);
+    }
+
     void refusedEdits_data()
     {
         // gesture: of a handle at 200 Hz to 2000 Hz

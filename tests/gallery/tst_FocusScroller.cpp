@@ -23,6 +23,11 @@ constexpr auto page = R"(
         Rectangle { objectName: "far"; x: 220; y: 500; width: 50; height: 20; activeFocusOnTab: true }
         Rectangle { objectName: "last"; y: 980; width: 50; height: 20; activeFocusOnTab: true }
         Rectangle { objectName: "tall"; y: 300; width: 50; height: 200; activeFocusOnTab: true }
+        Rectangle {
+            objectName: "fader"
+            property Item handle: Item { parent: view.contentItem; y: 450; width: 50; height: 20 }
+            y: 300; width: 50; height: 200
+        }
     })";
 
 } // namespace
@@ -52,6 +57,7 @@ private Q_SLOTS:
         QTest::newRow("last") << QPointF(0.0, 900.0);
         // From the beginning, since the whole has no room.
         QTest::newRow("tall") << QPointF(0.0, 295.0);
+        QTest::newRow("fader") << QPointF(0.0, 375.0);
     }
     void itemWithTheFocusIsSeen()
     {
@@ -60,8 +66,8 @@ private Q_SLOTS:
         m_flickable->setProperty("contentY", position.y() > 400.0 ? 0.0 : 600.0);
         m_view.contentItem()->forceActiveFocus();
         m_flickable->findChild<QQuickItem *>(QString::fromLatin1(QTest::currentDataTag()))->forceActiveFocus();
-        QCOMPARE(QPointF(m_flickable->property("contentX").toReal(), m_flickable->property("contentY").toReal()),
-                 position);
+        QTRY_COMPARE(QPointF(m_flickable->property("contentX").toReal(), m_flickable->property("contentY").toReal()),
+                     position);
     }
 
 private:

@@ -208,6 +208,7 @@ ThemedTestCase {
         compare([cell.activeFocus, cell.control.activeFocus, cell.control.popup.visible], [true, false, false])
 
         cell.value = "line"
+        tryCompare(cell, "value", "line")
         mouseClick(cell)
         compare([cell.control.popup.visible, cell.current], [true, true])
         mouseClick(cell)

@@ -18,7 +18,7 @@ ThemedTestCase {
             focus: true
             ${type} {
                 id: inner
-                value: parent.device
+                value: parent ? parent.device : 0
                 settleTime: 20
                 onValueEdited: (value) => { if (parent.takes) parent.device = value }
                 ${body}
