@@ -34,7 +34,7 @@ QtObject {
     signal catalogueAsked(int page)
 
     /*! The filters of the main mix, an `EqualizerStore`, made for the first page that shows them. */
-    function equalizer(): QtObject {
+    function equalizer(): var {
         if (!root.late.equalizer) {
             const store = Qt.createComponent("../equalizer/EqualizerStore.qml")
             const names = [qsTr("Main L"), qsTr("Main R")]
