@@ -206,7 +206,12 @@ void RDialogBase::moveBy(QPointF distance)
 void RDialogBase::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
     QQuickDialog::geometryChange(newGeometry, oldGeometry);
-    if (newGeometry.size() != oldGeometry.size())
+    // Qt looks for the place of an endless popup without end.
+    if (!qIsFinite(newGeometry.width()))
+        resetWidth();
+    else if (!qIsFinite(newGeometry.height()))
+        resetHeight();
+    else if (newGeometry.size() != oldGeometry.size())
         m_place.update();
 }
 
