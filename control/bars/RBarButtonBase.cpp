@@ -4,9 +4,6 @@
 #include "base/PartComponents.h"
 #include "style/StyleSetProps.h"
 
-#include <QtQml/QQmlEngine>
-#include <QtQml/qqml.h>
-
 #include <utility>
 
 namespace tamble::client {
@@ -140,15 +137,12 @@ void RBarButtonBase::updateToolTip()
     const QString name = spokenName();
     const bool isFocused = hasActiveFocus() && focusReason() != Qt::MouseFocusReason;
     const bool isShown = m_isShortened && !name.isEmpty() && (isHovered() || isFocused || isPressed());
-    if (isShown && !m_toolTip) {
-        QQmlEngine *engine = qmlEngine(this);
-        const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue<QQuickItem *>(this)}};
-        m_toolTip = engine ? PartComponents::of(engine).make(Part::ToolTip, this, properties) : nullptr;
-    }
-    if (!m_toolTip)
-        return;
-    m_toolTip->setProperty("text", name);
-    m_toolTip->setProperty("visible", isShown);
+    if (isShown && !m_toolTip)
+        m_toolTip = new LateToolTip(*this);
+    if (isShown)
+        m_toolTip->show(name);
+    else if (m_toolTip)
+        m_toolTip->hide();
 }
 
 } // namespace tamble::client

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ControlExport.h"
+#include "base/LateToolTip.h"
 #include "controls/RButtonBase.h"
 
 #include <QtCore/QString>
@@ -79,7 +80,7 @@ private:
     QColor m_borderColor; // what the page has set; invalid for what the sheets say
     std::optional<bool> m_borderVisible;
     QQuickItem *m_badgeFrame = nullptr; // a child, made for the first badge
-    QObject *m_toolTip = nullptr;       // likewise, when it is first needed
+    LateToolTip *m_toolTip = nullptr;   // likewise, when it is first needed
     bool m_isShortened = false;
 };
 

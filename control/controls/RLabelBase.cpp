@@ -124,18 +124,15 @@ void RLabelBase::hoverEnterEvent(QHoverEvent *event)
 {
     QQuickLabel::hoverEnterEvent(event);
     if (!m_toolTip)
-        m_toolTip = makePart(Part::ToolTip);
-    if (m_toolTip) {
-        m_toolTip->setProperty("text", plainCaption());
-        m_toolTip->setProperty("visible", true);
-    }
+        m_toolTip = new LateToolTip(*this);
+    m_toolTip->show(plainCaption());
 }
 
 void RLabelBase::hoverLeaveEvent(QHoverEvent *event)
 {
     QQuickLabel::hoverLeaveEvent(event);
     if (m_toolTip)
-        m_toolTip->setProperty("visible", false);
+        m_toolTip->hide();
 }
 
 void RLabelBase::showCaption()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ControlExport.h"
+#include "base/LateToolTip.h"
 #include "base/PartComponents.h"
 
 #include <QtCore/QPointer>
@@ -81,7 +82,7 @@ private:
     QColor m_lineColor;
     QQuickShortcut *m_shortcut = nullptr; // a child, made for the first mnemonic
     QObject *m_line = nullptr;            // likewise, when first shown
-    QObject *m_toolTip = nullptr;         // likewise, when an elided caption is first pointed at
+    LateToolTip *m_toolTip = nullptr;     // likewise, when an elided caption is first pointed at
     bool m_required = false;
     bool m_lineVisible = false;
 };

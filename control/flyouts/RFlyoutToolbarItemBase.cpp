@@ -1,14 +1,12 @@
 #include "flyouts/RFlyoutToolbarItemBase.h"
 
 #include "base/Ancestor.h"
-#include "base/PartComponents.h"
 #include "flyouts/FlyoutPlace.h"
 #include "flyouts/RFlyoutToolbarBase.h"
 #include "flyouts/RFlyoutWindowBase.h"
 #include "menus/RMenuBase.h"
 
 #include <QtGui/QKeyEvent>
-#include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickWindow>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
@@ -116,23 +114,18 @@ void RFlyoutToolbarItemBase::keyPressEvent(QKeyEvent *event)
 void RFlyoutToolbarItemBase::hoverEnterEvent(QHoverEvent *event)
 {
     RButtonBase::hoverEnterEvent(event);
-    QQmlEngine *engine = qmlEngine(this);
-    if (m_label.isEmpty() || !engine)
+    if (m_label.isEmpty())
         return;
-    const QVariantMap properties{{QStringLiteral("parent"), QVariant::fromValue<QQuickItem *>(this)}};
     if (!m_toolTip)
-        m_toolTip = PartComponents::of(engine).make(Part::ToolTip, this, properties);
-    if (m_toolTip) {
-        m_toolTip->setProperty("text", m_label);
-        m_toolTip->setProperty("visible", true);
-    }
+        m_toolTip = new LateToolTip(*this);
+    m_toolTip->show(m_label);
 }
 
 void RFlyoutToolbarItemBase::hoverLeaveEvent(QHoverEvent *event)
 {
     RButtonBase::hoverLeaveEvent(event);
     if (m_toolTip)
-        m_toolTip->setProperty("visible", false);
+        m_toolTip->hide();
 }
 
 void RFlyoutToolbarItemBase::itemChange(ItemChange change, const ItemChangeData &data)

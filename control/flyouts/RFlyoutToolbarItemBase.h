@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/LateToolTip.h"
 #include "controls/RButtonBase.h"
 
 #include <QtCore/QPointer>
@@ -55,7 +56,7 @@ private:
     QString m_iconKey;
     QString m_label;
     QPointer<QObject> m_flyout;
-    QObject *m_toolTip = nullptr; // a child, made when first pointed at
+    LateToolTip *m_toolTip = nullptr; // a child, made when first pointed at
 };
 
 } // namespace tamble::client
