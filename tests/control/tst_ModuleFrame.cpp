@@ -147,7 +147,7 @@ private Q_SLOTS:
     void interfaceFontIsSubstituted()
     {
         QFont font(QStringLiteral("Brack Office Sans"));
-        QCOMPARE(QFontInfo(font).family(), QStringLiteral("Tamble Sans"));
+        QCOMPARE(QFontInfo(font).family(), QStringLiteral("Lato"));
         font.setBold(true);
         QVERIFY(QFontInfo(font).bold());
     }
