@@ -153,11 +153,17 @@ public:
         qmlRegisterUncreatableType<T>(m_uri, majorVersion, minorVersion, name, QString::fromLatin1(reason));
     }
 
+    /// A class without a name of its own that has enumerations: compiled QML looks it up by its pointer type.
+    template <typename T>
+    void enumHolder() const
+    {
+        qRegisterMetaType<T *>();
+    }
+
     template <typename T>
     void enumNamespace(const char *name) const
     {
-        // Compiled QML looks the holder up by its pointer type, which that registration leaves out.
-        qRegisterMetaType<T *>();
+        enumHolder<T>(); // which the registration leaves out
         qmlRegisterUncreatableMetaObject(T::staticMetaObject, m_uri, majorVersion, minorVersion, name, QString());
     }
 
@@ -392,6 +398,7 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<RFlyoutWindowBase>("RFlyoutWindowBase");
     registrar.creatable<RHandleBase>("RHandleBase");
     registrar.creatable<RListRowBase>("RListRowBase");
+    registrar.enumHolder<SelectableListView>();
     registrar.creatable<RListViewBase>("RListViewBase");
     registrar.creatable<RMenuBase>("RMenuBase");
     registrar.creatable<RMeterBar>("RMeterBar");
