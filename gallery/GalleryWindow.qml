@@ -83,6 +83,16 @@ RApplicationWindow {
                 root.currentPage = index
         }
     }
+    EqualizerStore {
+        id: mainEqualizer
+        history: GalleryInstallation.history
+        names: [qsTr("Main L"), qsTr("Main R")]
+    }
+    Binding {
+        target: Festival
+        property: "equalizer"
+        value: mainEqualizer
+    }
     Binding {
         target: Festival
         property: "cataloguePages"

@@ -1,9 +1,9 @@
 #include "SoundFile.h"
 
-#include "SoundFileLibrary.h"
-
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+
+#include <sndfile.h>
 
 #include <algorithm>
 
@@ -11,7 +11,7 @@ namespace {
 
 struct CloseFile
 {
-    void operator()(SNDFILE *file) const { soundFileLibrary()->close(file); }
+    void operator()(SNDFILE *file) const { sf_close(file); }
 };
 
 class SoundFile : public AudioSource
@@ -29,7 +29,7 @@ public:
     int sampleRate() const override { return m_info.samplerate; }
     QStringList channelNames() const override;
     void read(std::span<float> samples) override;
-    void rewind() override { soundFileLibrary()->seek(m_file.get(), 0, SEEK_SET); }
+    void rewind() override { sf_seek(m_file.get(), 0, SEEK_SET); }
 
 private:
     Handle m_file;
@@ -51,8 +51,7 @@ void SoundFile::read(std::span<float> samples)
     // A second empty read in a row comes from a file that has become unreadable; it is silent then.
     for (int emptyReads = 0; !samples.empty() && emptyReads < 2;) {
         const auto wanted = sf_count_t(samples.size() / channels);
-        const sf_count_t read = soundFileLibrary()->readFrames(m_file.get(), samples.data(), wanted);
-        const sf_count_t frames = std::max<sf_count_t>(read, 0);
+        const sf_count_t frames = std::max<sf_count_t>(sf_readf_float(m_file.get(), samples.data(), wanted), 0);
         samples = samples.subspan(std::size_t(frames) * channels);
         emptyReads = frames == 0 ? emptyReads + 1 : 0;
         if (!samples.empty())
@@ -88,13 +87,10 @@ OpenedAudio openSoundFile(const QString &fileName)
         return refused(fileName, QStringLiteral("there is no such file"));
     if (!file.isFile())
         return refused(fileName, QStringLiteral("it is not a file"));
-    const SoundFileLibrary *library = soundFileLibrary();
-    if (!library)
-        return refused(fileName, QStringLiteral("libsndfile is not installed"));
     SF_INFO info = {};
-    SoundFile::Handle handle(library->open(QFile::encodeName(fileName).constData(), SFM_READ, &info));
+    SoundFile::Handle handle(sf_open(QFile::encodeName(fileName).constData(), SFM_READ, &info));
     if (!handle)
-        return refused(fileName, QString::fromLocal8Bit(library->errorText(nullptr)));
+        return refused(fileName, QString::fromLocal8Bit(sf_strerror(nullptr)));
     if (const QString reason = reasonAgainst(info); !reason.isEmpty())
         return refused(fileName, reason);
     return {std::make_unique<SoundFile>(std::move(handle), info, file.fileName()), {}};

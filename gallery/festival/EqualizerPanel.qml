@@ -15,17 +15,17 @@ Column {
 
     EqualizerBar {
         width: root.width
-        store: Festival.equalizer()
+        store: Festival.equalizer
         plot: response
     }
     ResponsePlot {
         id: response
         width: root.width
         height: theme.dp(320)
-        store: Festival.equalizer()
+        store: Festival.equalizer
     }
     BandEditor {
         width: root.width
-        store: Festival.equalizer()
+        store: Festival.equalizer
     }
 }

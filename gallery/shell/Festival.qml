@@ -14,8 +14,9 @@ QtObject {
     property bool alarmsOnly: false
     /*! Whether the audience is there, so that nothing on the plan may be moved by accident. */
     property bool showRuns: false
-    /*! What is made when it is first asked for; nothing is bound to it. */
-    readonly property var late: ({})
+    /*! The filters of the main mix, an `EqualizerStore`. A file that is used here cannot use this one, so the window
+        makes it. */
+    property var equalizer: null
     readonly property FirmwareUpdate firmware: FirmwareUpdate {}
     /*! Pages of the catalogue, as maps with title and source, and the place of the one that is shown. */
     property var cataloguePages: []
@@ -32,16 +33,6 @@ QtObject {
     signal devicesAsked()
     /*! A page of the catalogue is to be shown. */
     signal catalogueAsked(int page)
-
-    /*! The filters of the main mix, an `EqualizerStore`, made for the first page that shows them. */
-    function equalizer(): var {
-        if (!root.late.equalizer) {
-            const store = Qt.createComponent("../equalizer/EqualizerStore.qml")
-            const names = [qsTr("Main L"), qsTr("Main R")]
-            root.late.equalizer = store.createObject(root, { history: GalleryInstallation.history, names: names })
-        }
-        return root.late.equalizer
-    }
 
     /*! Shows a device in detail; nothing for −1. */
     function openDevice(device: int) {

@@ -26,11 +26,11 @@ FestivalPage {
             Layout.preferredHeight: theme.dp(160)
             xMinimum: panel.xMinimum
             xMaximum: panel.xMaximum
-            store: Festival.equalizer()
+            store: Festival.equalizer
         }
         BandList {
             Layout.fillWidth: true
-            store: Festival.equalizer()
+            store: Festival.equalizer
             count: 11
         }
     }
