@@ -88,7 +88,9 @@ bool PendingValue::hears(const QVariant &said)
         return false;
     const QVariant before = std::exchange(m_said, said);
     m_hasSaid = true;
-    if (const QVariant shown = m_gate->value(); !m_isOpen && said == shown && before != shown)
+    if (m_isOpen)
+        return true;
+    if (const QVariant shown = m_gate->value(); said == shown && before != shown)
         end();
     return true;
 }

@@ -64,6 +64,8 @@ void CurveFilters::setAxes(const PlotAxes &axes)
 
 void CurveFilters::refresh(QObject *source)
 {
+    if (m_holds.isHeld(source))
+        return;
     for (std::size_t i = 0; i < m_filters.sources.size(); ++i) {
         if (m_filters.sources[i] != source)
             continue;

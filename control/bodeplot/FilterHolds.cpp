@@ -64,10 +64,9 @@ void FilterHolds::end(const FilterHold &hold, const FilterRecord &said, int sett
     m_holds.erase(m_holds.begin() + position);
 }
 
-bool FilterHolds::isEdited(const QObject *source) const
+bool FilterHolds::isHeld(const QObject *source) const
 {
-    return std::ranges::find(m_holds, source, &FilterHold::source) != m_holds.end() ||
-           std::ranges::find(m_settling, source, &Settling::source) != m_settling.end();
+    return std::ranges::find(m_holds, source, &FilterHold::source) != m_holds.end();
 }
 
 bool FilterHolds::hears(const QObject *source, const FilterRecord &said)
@@ -78,7 +77,7 @@ bool FilterHolds::hears(const QObject *source, const FilterRecord &said)
         const bool isSaid = isSame(said, settling.record);
         return !std::exchange(settling.isSaid, isSaid) && isSaid;
     });
-    return isEdited(source);
+    return std::ranges::find(m_settling, source, &Settling::source) != m_settling.end();
 }
 
 void FilterHolds::keepIn(FilterRecords &records, const std::vector<QObject *> &sources)

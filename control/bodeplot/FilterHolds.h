@@ -41,7 +41,9 @@ public:
     /// Ends a hold; its source, which says `said` at present, settles for this time, or until it says the edit.
     void end(const FilterHold &hold, const FilterRecord &said, int settleTimeMs);
 
-    /// What a source says now; true while it waits.
+    /// Whether a handle of a source's record is held: what the source says waits then.
+    bool isHeld(const QObject *source) const;
+    /// What a source says that is not held; true while it waits all the same.
     bool hears(const QObject *source, const FilterRecord &said);
     /// Puts edited records in place of those of their sources in a new list, and forgets what has no place there.
     void keepIn(FilterRecords &records, const std::vector<QObject *> &sources);
@@ -54,8 +56,6 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
-    bool isEdited(const QObject *source) const;
-
     struct Settling
     {
         QObject *source = nullptr;

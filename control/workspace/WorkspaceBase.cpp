@@ -17,7 +17,6 @@
 #include <QtGui/QKeyEvent>
 #include <QtQuick/private/qquickitem_p.h>
 
-#include <cmath>
 #include <utility>
 
 namespace tamble::client {
@@ -282,7 +281,7 @@ void WorkspaceBase::moveItems(const QVariantMap &positions)
 
 void WorkspaceBase::resizeItems(const QVariantMap &geometries)
 {
-    tamble::client::resizeItems(*this, geometries);
+    putRects(*this, geometries);
 }
 
 void WorkspaceBase::align(int edge)

@@ -89,7 +89,7 @@ void putItems(WorkspaceBase &workspace, const QVariantMap &positions)
     placeItems(workspace, geometries, false);
 }
 
-void resizeItems(WorkspaceBase &workspace, const QVariantMap &geometries)
+void putRects(WorkspaceBase &workspace, const QVariantMap &geometries)
 {
     placeItems(workspace, geometries, true);
 }

@@ -11,7 +11,7 @@ class WorkspaceBase;
 
 /// Puts items to places, from id text to point, or gives them rectangles; within the plane, as one set.
 void putItems(WorkspaceBase &workspace, const QVariantMap &positions);
-void resizeItems(WorkspaceBase &workspace, const QVariantMap &geometries);
+void putRects(WorkspaceBase &workspace, const QVariantMap &geometries);
 /// Moves the selected items to an edge or the centre of the rectangle around them.
 void alignItems(WorkspaceBase &workspace, Qt::Alignment edge);
 /// Gives three or more selected items equal gaps.

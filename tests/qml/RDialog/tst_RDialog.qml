@@ -204,6 +204,8 @@ ThemedTestCase {
         compare(page.log, ["rejected"])
         page.dialog.open()
         compare(page.dialog.y, place.y, "in the middle again")
+        page.dialog.width = Infinity
+        verify(isFinite(page.dialog.width))
     }
 
     function test_themes() {
