@@ -1,50 +1,34 @@
 #include "Device.h"
 
-#include "DeviceRecord.h"
-#include "InstallationClient.h"
-
 #include <QtCore/QStringList>
 
 #include <algorithm>
 
 namespace {
 
-QString kindName(DeviceKind kind)
-{
-    switch (kind) {
-    case DeviceKind::Mixer:
-        return QStringLiteral("mixer");
-    case DeviceKind::Matrix:
-        return QStringLiteral("matrix");
-    default:
-        return QStringLiteral("amplifier");
-    }
-}
+constexpr double hot = 40.0; // °C
 
 } // namespace
 
-Device::Device(const DeviceRecord &record, bool online, QObject *parent)
+Device::Device(const InstalledDevice &installed, QObject *parent)
     : QObject(parent)
-    , m_kind(kindName(record.kind()))
-    , m_isOnline(online)
-{
-    const auto read = [&](QStringView field) { return record.read(fieldIndex(field, record.kind())); };
-    m_name = read(u"name").toString();
-    m_location = read(u"location").toString();
-    m_dhcp = read(u"dhcp").toBool();
-    m_ipAddress = read(u"ipAddress").toString();
-    m_subnetMask = read(u"subnetMask").toString();
-    m_gateway = read(u"gateway").toString();
-    m_pin = read(u"pin").toString();
-    m_notes = read(u"notes").toString();
-    m_temperature = read(u"temperature").toDouble();
-}
+    , m_kind(installed.kind)
+    , m_name(installed.name)
+    , m_location(installed.location)
+    , m_ipAddress(QStringLiteral("192.168.10.%1").arg(installed.lastByte))
+    , m_subnetMask(QStringLiteral("255.255.255.0"))
+    , m_gateway(QStringLiteral("192.168.10.1"))
+    , m_pin(installed.pin)
+    , m_notes(installed.notes)
+    , m_temperature(installed.temperature)
+    , m_isOnline(installed.isOnline)
+{}
 
 QString Device::alarm() const
 {
     if (!m_isOnline)
         return tr("Offline");
-    return m_temperature < InstallationClient::hot ? QString() : temperatureText();
+    return m_temperature < hot ? QString() : temperatureText();
 }
 
 QString Device::condition() const

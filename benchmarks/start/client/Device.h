@@ -3,7 +3,18 @@
 #include <QtCore/QObject>
 #include <QtQml/qqmlregistration.h>
 
-class DeviceRecord;
+/// A device as the gallery's installer leaves it.
+struct InstalledDevice
+{
+    QString kind; ///< "amplifier", "mixer" or "matrix"
+    QString name;
+    QString location;
+    int lastByte; ///< of its address
+    QString pin;
+    double temperature; ///< °C
+    QString notes;
+    bool isOnline = true;
+};
 
 /// A device of the installation, with what the page shows of it.
 class Device : public QObject
@@ -11,7 +22,6 @@ class Device : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by Installation")
-    /// "amplifier", "mixer" or "matrix".
     Q_PROPERTY(QString kind READ kind CONSTANT)
     Q_PROPERTY(bool online READ isOnline CONSTANT)
     /// What is wrong; empty while nothing is.
@@ -28,7 +38,7 @@ class Device : public QObject
     Q_PROPERTY(QString notes MEMBER m_notes NOTIFY edited)
 
 public:
-    Device(const DeviceRecord &record, bool online, QObject *parent);
+    Device(const InstalledDevice &installed, QObject *parent);
 
     QString kind() const { return m_kind; }
     bool isOnline() const { return m_isOnline; }
@@ -51,7 +61,7 @@ private:
     QString m_gateway;
     QString m_pin;
     QString m_notes;
-    double m_temperature = 0.0; ///< °C
+    double m_temperature; ///< °C
+    bool m_isOnline;
     bool m_dhcp = false;
-    bool m_isOnline = true;
 };

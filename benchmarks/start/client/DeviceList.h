@@ -28,6 +28,8 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
 private:
+    void add(const InstalledDevice &installed);
+
     QList<Device *> m_devices;
 };
 

@@ -3,7 +3,8 @@
 // written as such a client would be, in a few files that are compiled ahead of time.
 //
 // It leaves out
-// - the simulated network: fields edit the records, so that nothing waits, fails or is told beside a field;
+// - the simulated network: fields edit the records, so that nothing waits, fails or is told beside a field. The records
+//   have no channels;
 // - setting up several devices at once: the list chooses one;
 // - themes, style sheets, zoom and an interface font of its own: colours, most sizes and the font are those of Basic;
 // - underlined letters in the captions of the form, and moving to fields by them;
