@@ -6,7 +6,8 @@
 // - the simulated network: fields edit the records, so that nothing waits, fails or is told beside a field. The records
 //   have no channels;
 // - setting up several devices at once: the list chooses one;
-// - themes, style sheets, zoom and an interface font of its own: colours, most sizes and the font are those of Basic;
+// - themes, style sheets, zoom and an interface font of its own: colours and most sizes are those of Basic, the font is
+//   the system's;
 // - underlined letters in the captions of the form, and moving to fields by them;
 // - a bar that scrolls sideways in a narrow window;
 // - the other pages, and the forms of the sections that are closed at first, which the gallery loads when they open.
