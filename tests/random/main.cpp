@@ -1,7 +1,8 @@
 // Writes values that no page should write to the properties of all types of the module, in random order, and draws.
 //
-// Nothing may crash, hang, take much memory or leave objects behind. TAMBLE_RANDOM_SECONDS sets how long this goes on (4), TAMBLE_RANDOM_SEED
-// with which round it begins (1). A round depends on its number alone; the one that failed is printed.
+// Nothing may crash, hang, take much memory or leave objects behind. TAMBLE_RANDOM_SECONDS sets how long this goes on
+// (4), TAMBLE_RANDOM_SEED with which round it begins (1). A round depends on its number alone; the one that failed is
+// printed.
 
 #include "LiveObjects.h"
 #include "RandomPage.h"
@@ -18,7 +19,8 @@ namespace {
 
 constexpr std::size_t memoryPerRound = std::size_t(512) << 20;
 constexpr std::chrono::seconds timePerStep(5);
-// What is made once, and pictures and values of styles that are kept for a while: 60 to 90, after 200 rounds as after 1,600.
+// What is made once, and pictures and values of styles that are kept for a while: 60 to 90, after 200 rounds as after
+// 1,600.
 constexpr int keptObjects = 150;
 
 int environmentNumber(const char *name, int otherwise)

@@ -56,7 +56,7 @@ ThemedTestCase {
     }
 
     function test_takesNoPlace_data() {
-        return ["Row", "Column", "Grid", "Flow", "RowLayout", "ColumnLayout", "GridLayout"].map(tag => ({ tag }))
+        return Array.from(["Row", "Column", "Grid", "Flow", "RowLayout", "ColumnLayout", "GridLayout"], tag => ({ tag }))
     }
     function test_takesNoPlace(row) {
         const positioner = make("import QtQuick.Layouts\n" + row.tag + " { readonly property Item shadow: boxShadow; RBoxShadow { id: boxShadow; target: box; offsetY: 0 } Item { id: box; implicitWidth: 60; implicitHeight: 40 } }")
