@@ -38,10 +38,10 @@ install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/NOTICE
     DESTINATION ${CMAKE_INSTALL_DOCDIR}
     COMPONENT runtime
 )
-install(FILES /usr/share/doc/fonts-lato/copyright
+install(FILES /usr/share/common-licenses/Apache-2.0
     DESTINATION ${CMAKE_INSTALL_DOCDIR}
     COMPONENT runtime
-    RENAME OFL-Lato.txt
+    RENAME Apache-2.0.txt
 )
 
 foreach(library IN ITEMS tambleclient-common tamblecommon-common tamblecommon-math)

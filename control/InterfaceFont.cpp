@@ -16,9 +16,9 @@ void registerInterfaceFont()
         return;
     served = QCoreApplication::instance();
     // As data, which are used where the library has them; of a file, the font database would keep two copies.
-    for (const char *file : {":/asset/fonts/Lato-Regular.ttf", ":/asset/fonts/Lato-Bold.ttf"})
+    for (const char *file : {":/asset/fonts/Roboto-Regular.ttf", ":/asset/fonts/Roboto-Bold.ttf"})
         QFontDatabase::addApplicationFontFromData(QResource(QString::fromLatin1(file)).uncompressedData());
-    QFont::insertSubstitution(QStringLiteral("Brack Office Sans"), QStringLiteral("Lato"));
+    QFont::insertSubstitution(QStringLiteral("Brack Office Sans"), QStringLiteral("Roboto"));
 }
 
 } // namespace tamble::client

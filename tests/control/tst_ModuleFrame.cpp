@@ -147,7 +147,7 @@ private Q_SLOTS:
     void interfaceFontIsSubstituted()
     {
         QFont font(QStringLiteral("Brack Office Sans"));
-        QCOMPARE(QFontInfo(font).family(), QStringLiteral("Lato"));
+        QCOMPARE(QFontInfo(font).family(), QStringLiteral("Roboto"));
         font.setBold(true);
         QVERIFY(QFontInfo(font).bold());
     }
