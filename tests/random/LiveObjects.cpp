@@ -58,8 +58,8 @@ int moreThan(const ClassCounts &before, std::string &text)
 {
     int total = 0;
     for (const auto &[name, count] : liveObjects()) {
-        const auto known = before.find(name);
-        const int more = count - (known == before.end() ? 0 : known->second);
+        const auto earlier = before.find(name);
+        const int more = count - (earlier == before.end() ? 0 : earlier->second);
         if (more <= 0)
             continue;
         total += more;
