@@ -61,7 +61,7 @@ public:
 
     void run(int seed)
     {
-        // Anew, since Qt keeps pools of what rounds before have taken: a hundred megabytes after twenty thousand items.
+        // Each round's own: Qt keeps pools of what earlier ones took, a hundred megabytes after twenty thousand items.
         limitFurtherMemory(memoryPerRound);
         m_trace.clear();
         m_trace.add("TAMBLE_RANDOM_SEED=" + std::to_string(seed));
