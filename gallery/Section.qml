@@ -46,7 +46,6 @@ Item {
                 visible: root.note.length > 0
                 text: root.note
                 wrapMode: Text.Wrap
-                lineHeight: 1.2
             }
         }
     }
