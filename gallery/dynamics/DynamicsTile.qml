@@ -83,6 +83,7 @@ Section {
 
             RButtonRow {
                 id: states
+                anchors.verticalCenter: parent.verticalCenter
 
                 RButton {
                     width: theme.dp(88)
