@@ -17,8 +17,8 @@ Item {
         anchors.bottomMargin: theme.dp(8)
         implicitHeight: theme.dp(33) * 12
         clip: true
-        columnSpacing: theme.dp(1)
-        rowSpacing: theme.dp(1)
+        columnSpacing: raster.spacing
+        rowSpacing: raster.spacing
         boundsBehavior: Flickable.StopAtBounds
         activeFocusOnTab: true
         Accessible.role: Accessible.Table
