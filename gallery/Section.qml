@@ -36,7 +36,7 @@ Item {
             RText {
                 width: parent.width
                 text: root.title
-                elide: Text.ElideRight
+                wrapMode: Text.Wrap
                 font.pixelSize: theme.fontSizeXL
                 Accessible.role: Accessible.Heading
                 Accessible.name: root.title
