@@ -35,7 +35,8 @@ void ListLook::forVisibleRows(Action action)
 {
     QQmlInstanceModel *model = instanceModelOf(m_list);
     for (QQuickItem *item : m_list.contentItem()->childItems()) {
-        const int row = model ? model->indexOf(item, nullptr) : -1; // a place would not tell rows without a width
+        // Not by its place: a row may have no width yet.
+        const int row = model ? model->indexOf(item, nullptr) : -1;
         if (row >= 0 && m_list.itemAtIndex(row) == item) // not one that waits for its next use
             action(row, *item);
     }
