@@ -371,6 +371,29 @@ ThemedTestCase {
         verify(!text.visible)
     }
 
+    function test_laidOutLate_data() {
+        return [
+            { tag: "no width", width: 0, height: 160 },
+            { tag: "neither", width: 0, height: 0 },
+            { tag: "less than nothing", width: -2, height: -2 }
+        ]
+    }
+    /*! Rows that were made before the list had a size, as within the margins of an item that gets its own later. */
+    function test_laidOutLate(row) {
+        const list = makeList(root.words)
+        const frame = make(`Item { RListView { anchors.fill: parent; label: 'Devices'; ${root.words} } }`)
+        frame.width = row.width
+        frame.height = row.height
+        const late = frame.children[0]
+        late.forceLayout()
+        wait(20)
+        frame.width = 200
+        frame.height = 160
+        waitForRendering(late)
+        for (let i = 0; i < 5; ++i)
+            compare([late.itemAtIndex(i).text, late.itemAtIndex(i).width], [list.itemAtIndex(i).text, 200])
+    }
+
     function test_mirrored() {
         const list = makeList("LayoutMirroring.enabled: true; LayoutMirroring.childrenInherit: true; selectedIndexes: [0]; " + root.words)
         compare(list.itemAtIndex(0).effectiveHorizontalAlignment, Text.AlignRight)
