@@ -62,8 +62,8 @@ public:
     explicit RButtonBase(QQuickItem *parent = nullptr);
     ~RButtonBase() override;
 
-    /// Whether a click turns `selected` over, showing the edit for `settleTime` before a bound value counts again; false
-    /// by default.
+    /// Whether a click turns `selected` over, showing the edit for `settleTime` before a bound value counts again;
+    /// false by default.
     bool isSelectable() const { return m_selectable; }
     void setSelectable(bool selectable);
     bool isSelected() const { return m_selected; }

@@ -56,8 +56,8 @@ public:
     /// Whether a row is selected.
     Q_INVOKABLE bool isSelected(int index) const { return m_selection.rows().contains(index); }
 
-    /// Like currentIndex, which the view brings up to date later; but of a current row that nobody has gone to, and that
-    /// is not the first any more, the first row.
+    /// Like currentIndex, which the view brings up to date later; but of a current row that nobody has gone to, and
+    /// that is not the first any more, the first row.
     int currentRow() const { return m_isCurrentChosen ? m_currentRow : std::min(m_currentRow, 0); }
     /// Where the current row was that has left the model; -1 while there is another.
     int formerRow() const { return m_formerRow; }
