@@ -194,17 +194,33 @@ void SelectableListView::onSorted()
             selected.append(index.row());
         changeSelection([&selected](ListSelection &selection) { selection.replaceRows(RowRanges(selected)); });
     }
-    if (guard && current >= 0 && m_isCurrentChosen)
-        setCurrentIndex(current);
+    if (guard && current >= 0)
+        followSorting(current);
     if (guard)
         polish();
 }
 
+/// The current row has come to stand in the place `row`.
+void SelectableListView::followSorting(int row)
+{
+    if (m_isCurrentChosen) {
+        setCurrentIndex(row);
+        return;
+    }
+    // The view would go with it, and show the end of the list where that is now.
+    const QPointer<SelectableListView> guard(this);
+    forceLayout();
+    if (!guard)
+        return;
+    setCurrentIndex(0);
+    m_isCurrentChosen = false;
+}
+
 void SelectableListView::onCurrentIndexChanged()
 {
-    // The view makes the first row current that there is, and moves with it: no choice.
+    // The view itself makes the first row current that there is, and follows it when it is laid out: no choice.
     const int before = std::exchange(m_currentRow, currentIndex());
-    if (m_currentRow != before && (m_currentRow > 0 || before >= 0))
+    if (m_currentRow != before && (m_currentRow > 0 || before >= 0) && !isInLayout(*this))
         m_isCurrentChosen = true;
     m_formerRow = -1;
 }

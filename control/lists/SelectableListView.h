@@ -101,6 +101,7 @@ private:
     void onRowsReplaced();
     void onAboutToBeSorted();
     void onSorted();
+    void followSorting(int row);
     void onCurrentIndexChanged();
     bool changeSelection(const SelectionChange &change);
 

@@ -286,6 +286,13 @@ ThemedTestCase {
         return [
             { tag: "rows come in front", change: comeInFront, state: [1, "1"] },
             { tag: "the first one goes then", change: list => { comeInFront(list); waitForRendering(list); rows.remove(3) }, state: [0, "0"] },
+            { tag: "sorted the other way", change: list => {
+                const sorter = make("RSortFilterProxyModel { sortRoleName: 'name' }")
+                sorter.sourceModel = rows
+                list.model = sorter
+                waitForRendering(list)
+                sorter.sortOrder = Qt.DescendingOrder
+            }, state: [1, "1"] },
             { tag: "after a choice", before: list => keyClick(Qt.Key_Home), change: comeInFront, state: [4, "4"] },
             { tag: "chosen by the page", before: list => list.currentIndex = 1, change: comeInFront, state: [5, "5"] },
         ]
