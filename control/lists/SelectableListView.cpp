@@ -210,10 +210,10 @@ void SelectableListView::followSorting(int row)
     // The view would go with it, and show the end of the list where that is now.
     const QPointer<SelectableListView> guard(this);
     forceLayout();
-    if (!guard)
-        return;
-    setCurrentIndex(0);
-    m_isCurrentChosen = false;
+    if (guard)
+        setCurrentIndex(0);
+    if (guard)
+        m_isCurrentChosen = false;
 }
 
 void SelectableListView::onCurrentIndexChanged()
