@@ -26,6 +26,11 @@ bool types(const QKeyEvent &key)
     return (!key.text().isEmpty() && key.text()[0].isPrint()) || key.matches(QKeySequence::Paste);
 }
 
+bool undoes(const QKeyEvent &key)
+{
+    return key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+}
+
 /// Leaving for another window or a popup is no end of typing.
 bool staysWithTheUser(Qt::FocusReason reason)
 {
@@ -47,8 +52,13 @@ bool FieldGestures::handle(EditedText &text, QEvent &event)
 {
     switch (event.type()) {
     case QEvent::ShortcutOverride: {
-        // Before whatever Esc or Enter do around the field.
         const auto &key = static_cast<QKeyEvent &>(event);
+        // Of an unedited field they mean what the client has done last. Its editor would claim them all the same.
+        if (undoes(key) && !m_edit.isEdited()) {
+            event.ignore();
+            return true;
+        }
+        // Before whatever Esc or Enter do around the field.
         const bool isMine = m_edit.isEdited() && (key.key() == Qt::Key_Escape || enters(text, key));
         if (isMine)
             event.accept();

@@ -173,6 +173,24 @@ ThemedTestCase {
         compare(passed, 1)
     }
 
+    function test_undoOfAnUneditedFieldIsTheClients_data() {
+        return [
+            { tag: "unedited", keys: [], undone: 1, text: "one" },
+            { tag: "typed", keys: [Qt.Key_X], undone: 0, text: "one" },
+            { tag: "entered", keys: [Qt.Key_X, Qt.Key_Return], undone: 1, text: "x" },
+        ]
+    }
+    function test_undoOfAnUneditedFieldIsTheClients(data) {
+        const page = make(`Item { id: page; property int undone: 0; property alias field: field
+            Shortcut { sequence: "Ctrl+Z"; onActivated: ++page.undone }
+            RTextField { id: field; text: "one" } }`)
+        page.field.forceActiveFocus(Qt.TabFocusReason)
+        for (const key of data.keys)
+            keyClick(key)
+        keyClick(Qt.Key_Z, Qt.ControlModifier)
+        compare([page.undone, page.field.text], [data.undone, data.text])
+    }
+
     function test_plainField() {
         const field = make("RTextField { text: 'one' }")
         field.forceActiveFocus(Qt.TabFocusReason)
