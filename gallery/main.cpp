@@ -6,6 +6,7 @@
 #include "Screenshots.h"
 
 #include <QtCore/QTextStream>
+#include <QtGui/QFont>
 #include <QtGui/QGuiApplication>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
@@ -80,6 +81,10 @@ int main(int argc, char **argv)
 
     const QGuiApplication application(argc, argv);
     QQuickStyle::setStyle(QStringLiteral("Basic"));
+    // Qt lays out each new text area with the font of the application, which is loaded for nothing when it is another.
+    QFont font = QGuiApplication::font();
+    font.setFamily(QStringLiteral("Brack Office Sans"));
+    QGuiApplication::setFont(font);
 
     GalleryAudio audio(nullptr);
     audio.setStepped(!options.screenshotDir.isEmpty());

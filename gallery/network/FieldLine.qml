@@ -17,6 +17,8 @@ GridLayout {
     readonly property alias source: source
 
     readonly property bool failed: source.errorText.length > 0
+    /*! What became of the last request; empty when there is nothing to tell. */
+    readonly property string answer: source.errorText || (!source.confirmed ? qsTr("waits for the answer") : root.target.online ? "" : qsTr("offline, as it was"))
     /*! Whether the answers stand below the control, as they have no room beside it. */
     readonly property bool narrow: root.width < theme.dp(400)
 
@@ -51,7 +53,8 @@ GridLayout {
         Layout.preferredWidth: theme.dp(168)
         implicitHeight: root.editor.height
     }
-    ColumnLayout {
+    // qmllint disable unqualified
+    Loader {
         Layout.row: root.narrow ? 1 : 0
         Layout.column: root.narrow ? 1 : 2
         Layout.columnSpan: root.narrow ? 2 : 1
@@ -59,29 +62,31 @@ GridLayout {
         Layout.preferredWidth: 1
         // The form does not jump with each request.
         Layout.minimumHeight: root.narrow ? (root.target.observed ? 2 : 1) * theme.dp(14) : 0
-        spacing: 0
+        active: root.answer.length > 0 || root.target.observed
+        sourceComponent: ColumnLayout {
+            spacing: 0
 
-        RText {
-            Layout.fillWidth: true
-            visible: text.length > 0
-            text: source.errorText || (!source.confirmed ? qsTr("waits for the answer") : root.target.online ? "" : qsTr("offline, as it was"))
-            elide: Text.ElideRight
-            font.pixelSize: theme.fontSizeS
-            font.bold: root.failed
-            Accessible.role: Accessible.AlertMessage
-            Accessible.name: text
-        }
-        RText {
-            Layout.fillWidth: true
-            visible: root.target.observed
-            text: root.target.observed ? qsTr("has %1").arg(source.actualText) : ""
-            elide: Text.ElideRight
-            font.pixelSize: theme.fontSizeS
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
+            RText {
+                Layout.fillWidth: true
+                visible: root.answer.length > 0
+                text: root.answer
+                elide: Text.ElideRight
+                font.pixelSize: theme.fontSizeS
+                font.bold: root.failed
+                Accessible.role: Accessible.AlertMessage
+                Accessible.name: text
+            }
+            RText {
+                Layout.fillWidth: true
+                visible: root.target.observed
+                text: root.target.observed ? qsTr("has %1").arg(source.actualText) : ""
+                elide: Text.ElideRight
+                font.pixelSize: theme.fontSizeS
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
         }
     }
-    // qmllint disable unqualified
     Loader {
         Layout.row: 0
         Layout.column: root.narrow ? 2 : 3
