@@ -88,12 +88,12 @@ void DeviceField::editElsewhere()
         m_installation->editElsewhere(m_places.constFirst().device, m_name);
 }
 
-void DeviceField::componentComplete()
+// So that what is bound has its values before anything is complete.
+void DeviceField::classBegin()
 {
     m_installation = GalleryInstallation::create(qmlEngine(this), nullptr);
     connect(&m_installation->client(), &InstallationClient::fieldChanged, this, &DeviceField::updateIfOurs);
     connect(m_installation, &GalleryInstallation::deviceChanged, this, &DeviceField::tellActualText);
-    findPlaces();
 }
 
 void DeviceField::findPlaces()

@@ -56,8 +56,8 @@ public:
     /// Lets another client edit the field of the first device.
     Q_INVOKABLE void editElsewhere();
 
-    void classBegin() override {}
-    void componentComplete() override;
+    void classBegin() override;
+    void componentComplete() override {}
 
 Q_SIGNALS:
     void targetChanged();
@@ -89,6 +89,6 @@ private:
     QPointer<GalleryInstallation> m_installation;
     QPointer<DeviceSelection> m_target;
     QString m_name;
-    QList<FieldPlace> m_places; ///< none before the installation is known
+    QList<FieldPlace> m_places; ///< none outside of QML
     State m_state;
 };

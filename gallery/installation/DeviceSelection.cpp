@@ -41,13 +41,11 @@ QList<FieldPlace> DeviceSelection::places(const QString &field) const
     return places;
 }
 
-void DeviceSelection::componentComplete()
+// So that what is bound has its values before anything is complete.
+void DeviceSelection::classBegin()
 {
     m_installation = GalleryInstallation::create(qmlEngine(this), nullptr);
     connect(&m_installation->client(), &InstallationClient::onlineChanged, this, &DeviceSelection::updateOnline);
-    findKnown();
-    Q_EMIT devicesChanged();
-    updateOnline();
 }
 
 void DeviceSelection::findKnown()

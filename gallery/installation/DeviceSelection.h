@@ -35,10 +35,10 @@ public:
     /// Asks every device that has a field of that name to take a value in it.
     Q_INVOKABLE void request(const QString &field, const QVariant &value);
 
-    void classBegin() override {}
-    void componentComplete() override;
+    void classBegin() override;
+    void componentComplete() override {}
 
-    /// Null until complete.
+    /// Null outside of QML.
     GalleryInstallation *installation() const { return m_installation; }
     /// Where the field of that name is in the devices that are there, each once.
     QList<FieldPlace> places(const QString &field) const;

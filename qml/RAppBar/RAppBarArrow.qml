@@ -7,8 +7,7 @@ import TambleClient.Control 1.0
 T.AbstractButton {
     id: root
 
-    required property Flickable view
-    required property color ground
+    required property RAppBarView view
     property bool atRight: false
 
     x: root.atRight ? root.view.width - root.width : 0
@@ -18,9 +17,10 @@ T.AbstractButton {
     focusPolicy: Qt.NoFocus
     autoRepeat: true
     text: qsTr("More")
+    onClicked: root.view.moveBy((root.atRight ? root.view.width : -root.view.width) / 2)
 
     background: Rectangle {
-        color: root.ground
+        color: root.view.ground
     }
     contentItem: Item {
         RIcon {

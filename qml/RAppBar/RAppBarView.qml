@@ -22,18 +22,15 @@ Flickable {
     onWidthChanged: root.returnToBounds()
     onContentWidthChanged: root.returnToBounds()
 
-    RAppBarArrow {
+    Loader {
         parent: root
-        view: root
-        ground: root.ground
-        onClicked: root.moveBy(-root.width / 2)
+        active: root.interactive
+        Component.onCompleted: setSource("RAppBarArrow.qml", { view: root })
     }
-    RAppBarArrow {
+    Loader {
         parent: root
-        view: root
-        ground: root.ground
-        atRight: true
-        onClicked: root.moveBy(root.width / 2)
+        active: root.interactive
+        Component.onCompleted: setSource("RAppBarArrow.qml", { view: root, atRight: true })
     }
     WheelHandler {
         enabled: root.interactive
