@@ -32,6 +32,11 @@ bool staysWithTheUser(Qt::FocusReason reason)
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
 }
 
+bool undoes(const QKeyEvent &key)
+{
+    return key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+}
+
 bool comesByKey(Qt::FocusReason reason)
 {
     return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
@@ -47,8 +52,12 @@ bool FieldGestures::handle(EditedText &text, QEvent &event)
 {
     switch (event.type()) {
     case QEvent::ShortcutOverride: {
-        // Before whatever Esc or Enter do around the field.
         const auto &key = static_cast<QKeyEvent &>(event);
+        if (isOfThePage(key)) {
+            event.ignore();
+            return true;
+        }
+        // Before whatever Esc or Enter do around the field.
         const bool isMine = m_edit.isEdited() && (key.key() == Qt::Key_Escape || enters(text, key));
         if (isMine)
             event.accept();
@@ -81,8 +90,19 @@ bool FieldGestures::handle(EditedText &text, QEvent &event)
     }
 }
 
+/// What was entered is the page's to undo. Qt's editor would take back the typing, for the next loss of the focus to
+/// enter what is left: nothing at all in a field that was mixed.
+bool FieldGestures::isOfThePage(const QKeyEvent &key) const
+{
+    return undoes(key) && !m_edit.isEdited();
+}
+
 bool FieldGestures::onKey(EditedText &text, QKeyEvent &key)
 {
+    if (isOfThePage(key)) {
+        key.ignore();
+        return true;
+    }
     if (key.key() == Qt::Key_Menu || (key.key() == Qt::Key_F10 && (key.modifiers() & Qt::ShiftModifier))) {
         openFieldMenu(&text.item());
         return true;

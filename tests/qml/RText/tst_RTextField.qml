@@ -173,6 +173,21 @@ ThemedTestCase {
         compare(passed, 1)
     }
 
+    function test_undoOfWhatWasEntered_data() {
+        return [
+            { tag: "untouched", type: () => {}, undone: 1, text: "Hall" },
+            { tag: "typed", type: () => type("Bar"), undone: 0, text: "Hall" },
+            { tag: "entered", type: () => { type("Bar"); keyClick(Qt.Key_Return) }, undone: 1, text: "Bar" },
+            { tag: "entered into a mixed one", body: "consistent: false", type: () => { type("Bar"); keyClick(Qt.Key_Return) }, undone: 1, text: "Bar" },
+        ]
+    }
+    function test_undoOfWhatWasEntered(data) {
+        const page = makePage((data.body ?? "") + "\nproperty int undone: 0\nShortcut { sequence: \"Ctrl+Z\"; onActivated: inner.undone += 1 }")
+        data.type()
+        keyClick(Qt.Key_Z, Qt.ControlModifier)
+        compare([page.field.undone, page.field.text, page.field.edited], [data.undone, data.text, false])
+    }
+
     function test_plainField() {
         const field = make("RTextField { text: 'one' }")
         field.forceActiveFocus(Qt.TabFocusReason)
