@@ -31,6 +31,8 @@ QtObject {
     signal themeChosen(string word)
     /*! The page of devices is to be shown. */
     signal devicesAsked()
+    /*! The devices with an alarm are to be shown, on the page of devices. */
+    signal alarmsAsked()
     /*! A page of the catalogue is to be shown. */
     signal catalogueAsked(int page)
 
@@ -42,5 +44,12 @@ QtObject {
         root.chosenDevices = [device]
         root.showsDetails = true
         root.devicesAsked()
+    }
+
+    /*! Lists the devices with an alarm, whatever the page of devices shows. */
+    function openAlarms() {
+        root.alarmsOnly = true
+        root.showsDetails = false
+        root.alarmsAsked()
     }
 }
