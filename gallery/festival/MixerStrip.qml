@@ -61,7 +61,7 @@ Item {
         y: name.height
         width: theme.dp(8)
         height: root.height - y - theme.dp(80)
-        value: root.silenced || root.muted || !root.level ? -120 : Math.max(-120, root.level.peak + root.gain)
+        value: root.silenced || root.muted || !root.level || !root.target.online ? -120 : Math.max(-120, root.level.peak + root.gain)
         // The same scale as the fader's beside it.
         valueMin: fader.from
         valueMax: fader.to
