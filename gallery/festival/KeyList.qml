@@ -27,19 +27,21 @@ Column {
             required property var modelData
 
             width: root.width
-            height: theme.dp(24)
+            height: Math.max(keys.implicitHeight, effect.implicitHeight) + theme.dp(8)
 
             RText {
-                width: entry.width / 2 - theme.dp(8)
+                id: keys
+                width: effect.x - theme.dp(8)
                 text: entry.modelData.keys
-                elide: Text.ElideRight
+                wrapMode: Text.Wrap
                 font.bold: true
             }
             RText {
-                x: entry.width / 2
+                id: effect
+                x: Math.round(entry.width * 0.4)
                 width: entry.width - x
                 text: entry.modelData.text
-                elide: Text.ElideRight
+                wrapMode: Text.Wrap
             }
         }
     }
