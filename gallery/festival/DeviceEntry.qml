@@ -48,6 +48,7 @@ Item {
             text: root.name
             color: root.color
             elide: Text.ElideRight
+            horizontalAlignment: Text.AlignLeft
             font.bold: true
         }
         RText {
@@ -55,6 +56,7 @@ Item {
             text: qsTr("%1  ·  %2").arg(root.location).arg(root.ipAddress)
             color: root.color
             elide: Text.ElideRight
+            horizontalAlignment: Text.AlignLeft
             font.pixelSize: theme.fontSizeS
         }
     }

@@ -21,27 +21,27 @@ Column {
     Repeater {
         model: root.keys
 
-        Item {
+        Row {
             id: entry
 
             required property var modelData
 
-            width: root.width
-            height: Math.max(keys.implicitHeight, effect.implicitHeight) + theme.dp(8)
+            bottomPadding: theme.dp(8)
+            spacing: theme.dp(8)
 
             RText {
                 id: keys
-                width: effect.x - theme.dp(8)
+                width: Math.round(root.width * 0.4)
                 text: entry.modelData.keys
                 wrapMode: Text.Wrap
+                horizontalAlignment: Text.AlignLeft
                 font.bold: true
             }
             RText {
-                id: effect
-                x: Math.round(entry.width * 0.4)
-                width: entry.width - x
+                width: root.width - keys.width - entry.spacing
                 text: entry.modelData.text
                 wrapMode: Text.Wrap
+                horizontalAlignment: Text.AlignLeft
             }
         }
     }

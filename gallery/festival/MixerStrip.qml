@@ -72,7 +72,7 @@ Item {
     }
     RFader {
         id: fader
-        anchors.right: parent.right
+        x: root.width - width
         y: meter.y
         height: meter.height
         label: name.text
