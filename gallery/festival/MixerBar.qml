@@ -52,7 +52,10 @@ Flow {
             width: theme.dp(80)
             enabled: preset.currentIndex >= 0 && device.online
             text: qsTr("Recall")
-            onClicked: GalleryInstallation.presets.recall(preset.currentIndex)
+            onClicked: question.recall(preset.currentIndex)
+        }
+        RecallQuestion {
+            id: question
         }
     }
     RButton {

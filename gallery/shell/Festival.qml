@@ -12,7 +12,7 @@ QtObject {
     property bool showsDetails: false
     /*! Whether that page lists only devices with an alarm. */
     property bool alarmsOnly: false
-    /*! Whether the audience is there, so that nothing on the plan may be moved by accident. */
+    /*! Whether the audience is there, so that nothing on the plan may be moved and no preset recalled by accident. */
     property bool showRuns: false
     /*! The filters of the main mix, an `EqualizerStore`. A file that is used here cannot use this one, so the window
         makes it. */
