@@ -215,6 +215,12 @@ private Q_SLOTS:
         show.installation.request(
             {{{GalleryInstallation::matrix(), fieldIndex(u"output16Name", DeviceKind::Matrix)}, "Stream"}});
         QCOMPARE(model.outputs().last(), QStringLiteral("Stream"));
+        // What has failed is not shown as if it were so.
+        show.installation.dropOut(GalleryInstallation::matrix(), 1000);
+        show.installation.advance(100);
+        model.route(3, 15, true);
+        QVERIFY(!model.index(3, 15).data(RoutingModel::RoutedRole).toBool());
+        QVERIFY(!model.index(3, 15).data(RoutingModel::RefusalRole).toString().isEmpty());
     }
 
     void firmware()
