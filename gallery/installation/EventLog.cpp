@@ -85,7 +85,8 @@ void EventLog::noteChange(int device, int field)
     if (spec.kind != ValueKind::Reading) {
         // One of the two that hold the same time is enough.
         if (spec.storedAs < 0)
-            add(device, QStringLiteral("network"), tr("%1 changed by another client").arg(m_client.title(device, field)));
+            add(device, QStringLiteral("network"),
+                tr("%1 changed by another client").arg(m_client.title(device, field)));
         return;
     }
     const QString alarm = m_client.alarm(device);

@@ -167,10 +167,9 @@ private Q_SLOTS:
         show.installation.advance(1000);
         show.installation.dropOut(2, 1000);
         show.installation.advance(2000);
-        QCOMPARE(show.logged(),
-                 QStringList({"Amplifier 3 is back on the network", "Amplifier 3 has left the network",
-                              "FOH mixer Kick delay samples changed by another client",
-                              " Undone: Amplifier 5: Way 2 delay ms", " Amplifier 5: Way 2 delay ms"}));
+        QCOMPARE(show.logged(), QStringList({"Amplifier 3 is back on the network", "Amplifier 3 has left the network",
+                                             "FOH mixer Kick delay samples changed by another client",
+                                             " Undone: Amplifier 5: Way 2 delay ms", " Amplifier 5: Way 2 delay ms"}));
     }
 
     void presets()
