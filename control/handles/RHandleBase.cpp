@@ -1,5 +1,7 @@
 #include "handles/RHandleBase.h"
 
+#include "scrolling/EnclosingView.h"
+
 #include <QtCore/QTimerEvent>
 #include <QtGui/QCursor>
 #include <QtGui/QGuiApplication>
@@ -126,15 +128,15 @@ void RHandleBase::cancelChange()
 void RHandleBase::stepBy(qreal right, qreal up, bool fine)
 {
     open();
-    Q_EMIT stepped(right, up, fine);
     m_keysEnd.start(keyPause, this);
+    Q_EMIT stepped(right, up, fine);
 }
 
 void RHandleBase::page(qreal up)
 {
     open();
-    Q_EMIT paged(up);
     m_keysEnd.start(keyPause, this);
+    Q_EMIT paged(up);
 }
 
 void RHandleBase::reset()
@@ -380,6 +382,14 @@ void RHandleBase::timerEvent(QTimerEvent *event)
     } else {
         QQuickItem::timerEvent(event);
     }
+}
+
+// A pointer takes the handle no farther than it sees; keys may take it out of a page that scrolls.
+void RHandleBase::geometryChange(const QRectF &now, const QRectF &before)
+{
+    QQuickItem::geometryChange(now, before);
+    if (m_keysEnd.isActive() && hasActiveFocus() && now.topLeft() != before.topLeft())
+        EnclosingView::revealEverywhere(*this, boundingRect());
 }
 
 void RHandleBase::setHovered(bool hovered)

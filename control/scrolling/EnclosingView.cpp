@@ -1,8 +1,11 @@
 #include "scrolling/EnclosingView.h"
 
+#include "scrolling/FrozenHeaders.h"
+
 #include <QtQuick/QQuickItem>
 
 #include <algorithm>
+#include <utility>
 
 namespace tamble::client {
 
@@ -41,7 +44,7 @@ EnclosingView::EnclosingView(QQuickItem *item)
 void EnclosingView::find()
 {
     QQuickItem *view = m_item->parentItem();
-    while (view && !view->inherits("QQuickFlickable"))
+    while (view && !isView(*view))
         view = view->parentItem();
     if (view == m_view)
         return;
@@ -73,6 +76,29 @@ void EnclosingView::reveal(QQuickItem &view, const QRectF &part, const QMarginsF
     const QRectF visible = QRectF({}, view.size()).marginsRemoved(covered);
     scrollView(view, {wayTo(part.left(), part.right(), visible.left(), visible.right()),
                       wayTo(part.top(), part.bottom(), visible.top(), visible.bottom())});
+}
+
+void EnclosingView::revealEverywhere(const QQuickItem &item, const QRectF &part)
+{
+    QMarginsF covered;
+    for (QQuickItem *around = item.parentItem(); around; around = around->parentItem()) {
+        if (const auto *headers = dynamic_cast<const FrozenHeaders *>(around))
+            covered = headers->coveredFor(item);
+        if (!isView(*around))
+            continue;
+        const QRectF room = QRectF({}, around->size()).marginsRemoved(covered);
+        QRectF place = around->mapRectFromItem(&item, part);
+        if (place.left() <= room.left() && place.right() >= room.right())
+            place = {room.left(), place.top(), room.width(), place.height()};
+        if (place.top() <= room.top() && place.bottom() >= room.bottom())
+            place = {place.left(), room.top(), place.width(), room.height()};
+        reveal(*around, place, std::exchange(covered, {}));
+    }
+}
+
+bool EnclosingView::isView(const QQuickItem &item)
+{
+    return item.inherits("QQuickFlickable");
 }
 
 void EnclosingView::scrollBy(const QPointF &way)

@@ -25,6 +25,9 @@ public:
     void reveal(const QRectF &part, const QMarginsF &covered);
     /// Likewise for any Flickable and a part in its own coordinates.
     static void reveal(QQuickItem &view, const QRectF &part, const QMarginsF &covered);
+    /// Scrolls every view around an item so that a part of it is seen. What fills a view is left as it is scrolled.
+    static void revealEverywhere(const QQuickItem &item, const QRectF &part);
+    static bool isView(const QQuickItem &item);
     /// Scrolls on by so many pixels, as far as there is something.
     void scrollBy(const QPointF &way);
 

@@ -1,24 +1,17 @@
 #include "scrolling/FocusReveal.h"
 
 #include "scrolling/EnclosingView.h"
-#include "scrolling/FrozenHeaders.h"
 
 #include <QtQuick/QQuickWindow>
 #include <QtQuick/private/qquickitemview_p.h>
 
 #include <algorithm>
-#include <utility>
 
 namespace tamble::client {
 
 namespace {
 
 constexpr auto viewChanges = QQuickItemPrivate::Geometry | QQuickItemPrivate::Destroyed;
-
-bool isView(const QQuickItem &item)
-{
-    return item.inherits("QQuickFlickable");
-}
 
 /// Where the keys go to.
 struct FocusPlace
@@ -50,25 +43,6 @@ bool isSeen(const QRectF &place, const QSizeF &room)
     const QSizeF seen = (place & QRectF({}, room)).size();
     const QSizeF wanted = place.size().boundedTo(room) / 2.0;
     return !room.isEmpty() && seen.width() >= wanted.width() && seen.height() >= wanted.height();
-}
-
-/// Scrolls every view around an item so that a part of it is seen. What fills a view is left as it is scrolled.
-void revealEverywhere(const QQuickItem &item, const QRectF &part)
-{
-    QMarginsF covered;
-    for (QQuickItem *around = item.parentItem(); around; around = around->parentItem()) {
-        if (const auto *headers = dynamic_cast<const FrozenHeaders *>(around))
-            covered = headers->coveredFor(item);
-        if (!isView(*around))
-            continue;
-        const QRectF room = wholeOf(*around).marginsRemoved(covered);
-        QRectF place = around->mapRectFromItem(&item, part);
-        if (place.left() <= room.left() && place.right() >= room.right())
-            place = {room.left(), place.top(), room.width(), place.height()};
-        if (place.top() <= room.top() && place.bottom() >= room.bottom())
-            place = {place.left(), room.top(), place.width(), room.height()};
-        EnclosingView::reveal(*around, place, std::exchange(covered, {}));
-    }
 }
 
 } // namespace
@@ -107,11 +81,11 @@ void FocusReveal::updatePolish()
     QQuickItem *item = window() ? window()->activeFocusItem() : nullptr;
     if (!item)
         return;
-    revealEverywhere(*item, wholeOf(*item));
+    EnclosingView::revealEverywhere(*item, wholeOf(*item));
     if (auto *list = qobject_cast<QQuickItemView *>(item))
         list->positionViewAtIndex(list->currentIndex(), QQuickItemView::Contain);
     const FocusPlace place = placeOf(*item);
-    revealEverywhere(*place.item, place.part);
+    EnclosingView::revealEverywhere(*place.item, place.part);
 }
 
 void FocusReveal::itemChange(ItemChange change, const ItemChangeData &data)
@@ -138,7 +112,7 @@ void FocusReveal::followFocus()
     listen(false);
     m_views.clear();
     for (QQuickItem *item = m_window ? m_window->activeFocusItem() : nullptr; item; item = item->parentItem()) {
-        if (isView(*item))
+        if (EnclosingView::isView(*item))
             m_views.append(item);
     }
     listen(true);

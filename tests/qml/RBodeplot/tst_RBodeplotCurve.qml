@@ -239,6 +239,21 @@ ThemedTestCase {
         tryCompare(curve, "editing", false)
     }
 
+    function test_keysKeepTheHandleInSight() {
+        const view = createTemporaryQmlObject("import QtQuick; Flickable { width: 300; height: 100; contentHeight: 400; contentY: 150 }", root)
+        const curve = createTemporaryObject(pageComponent, view.contentItem).curve
+        const band = handles(curve)[0]
+        band.forceActiveFocus()
+        for (const { key, times } of [{ key: Qt.Key_Up, times: 25 }, { key: Qt.Key_Down, times: 50 }]) {
+            for (let i = 0; i < times; ++i)
+                keyClick(key)
+            const top = band.mapToItem(view, 0, 0).y
+            verify(top >= 0 && top + band.height <= view.height, "at " + top)
+        }
+        mouseDrag(band, band.width / 2, band.height / 2, 0, -90)
+        verify(band.mapToItem(view, 0, 0).y < 0, "the pointer scrolls nothing")
+    }
+
     function test_asymmetricBandFollowsEveryKey() {
         const curve = make()
         curve.calculationItems = [curve.asymmetric]
