@@ -199,8 +199,9 @@ private Q_SLOTS:
                              QRegularExpression(QStringLiteral("^WARN: Could not find font file .* at line 1")));
         QTest::ignoreMessage(QtWarningMsg,
                              QRegularExpression(QStringLiteral("^WARN: Font url could not be resolved.")));
-        fixture.load("@font-face { src: url(none.ttf) }\n@font-face { src: url(http://example.org/a.ttf); }\n"
-                     "@font-face { src: url(qrc:/asset/fonts/Roboto-Regular.ttf) }\nBox { face: \"Roboto bold 14px\" }");
+        fixture.load(
+            "@font-face { src: url(none.ttf) }\n@font-face { src: url(http://example.org/a.ttf); }\n"
+            "@font-face { src: url(qrc:/asset/fonts/Roboto-Regular.ttf) }\nBox { face: \"Roboto bold 14px\" }");
         QCOMPARE(fixture.types, QStringList(2, "fontWasNotLoaded"));
         QCOMPARE(fixture.messages, QStringList({"Could not find font file", "Font url could not be resolved."}));
         StyledBox box;
