@@ -3,21 +3,23 @@ import QtQuick.Layouts
 import TambleClient.Control 1.0
 import "BandRules.js" as Rules
 
-/*! A filter in the list: select it by its name, bypass it, read its values. */
-RowLayout {
+/*! A filter in the list: select it by its name, bypass it, read its values, above its type where there is no room. */
+GridLayout {
     id: root
 
     required property EqualizerStore store
     required property int index
 
     readonly property var band: root.store.bands[root.index]
+    readonly property bool narrow: root.width < theme.dp(448)
     readonly property bool isEqualizer: root.band.kind === "eq" || root.band.kind === "asym"
 
     function valueText(key: string): string {
         return Rules.has(root.band, key) ? Rules.text(root.band, key) : ""
     }
 
-    spacing: theme.dp(8)
+    columnSpacing: theme.dp(8)
+    rowSpacing: 0
 
     RButton {
         Layout.preferredWidth: theme.dp(40)
@@ -27,6 +29,8 @@ RowLayout {
         onClicked: root.store.selected = root.index
     }
     RText {
+        Layout.row: root.narrow ? 1 : 0
+        Layout.column: 1
         Layout.fillWidth: true
         text: Rules.typeName(root.band)
         elide: Text.ElideRight
@@ -34,6 +38,9 @@ RowLayout {
     }
     Row {
         id: values
+        Layout.row: 0
+        Layout.column: root.narrow ? 1 : 2
+        Layout.alignment: Qt.AlignRight | Qt.AlignVCenter
         opacity: root.band.bypass ? 0.65 : 1
 
         ValueText {
@@ -53,6 +60,8 @@ RowLayout {
     }
     RButton {
         RStyleSet.name: root.band.bypass ? "red" : ""
+        Layout.row: 0
+        Layout.column: root.narrow ? 2 : 3
         Layout.preferredWidth: theme.dp(64)
         Layout.leftMargin: theme.dp(8)
         text: qsTr("Bypass")
