@@ -6,6 +6,7 @@
 #include <QtCore/QScopedValueRollback>
 #include <QtQuick/QQuickWindow>
 #include <QtQuick/QSGRectangleNode>
+#include <QtQuick/private/qquickitem_p.h>
 
 #include <array>
 #include <utility>
@@ -41,6 +42,7 @@ RBoxShadowBase::RBoxShadowBase(QQuickItem *parent)
     : QQuickItem(parent)
 {
     setFlag(ItemHasContents);
+    QQuickItemPrivate::get(this)->setTransparentForPositioner(true); // whose size it would follow and add to
 }
 
 // Its own parent changes when nothing of this is left, and it may be its own target.

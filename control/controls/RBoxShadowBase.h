@@ -14,7 +14,7 @@ namespace tamble::client {
 /// Paints a soft shadow and follows what casts it, its target.
 ///
 /// Below a sibling of the same z it is stacked directly below that one, whichever was declared first: a lower z would
-/// put it below what their parent paints as well.
+/// put it below what their parent paints as well. It takes no place in a row, a column or another positioner.
 class TAMBLE_CLIENT_CONTROL_EXPORT RBoxShadowBase : public QQuickItem
 {
     Q_OBJECT

@@ -272,7 +272,7 @@ QQuickItem *WorkspaceItemBase::contentItem() const
 
 void WorkspaceItemBase::setContentItem(QQuickItem *item)
 {
-    if (contentItem() == item)
+    if (contentItem() == item || item == this)
         return;
     content().setItem(item);
     updateContent();

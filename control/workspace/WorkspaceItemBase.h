@@ -78,7 +78,7 @@ public:
     QSizeF minimumSize() const { return m_minimumSize; }
     void setMinimumSize(const QSizeF &size);
     /// Where a page's content is: a child that is hidden while the item is out of view or not `detailed`, without a
-    /// change of the item's own `visible`; null by default.
+    /// change of the item's own `visible`; null by default. An item is not its own content.
     QQuickItem *contentItem() const;
     void setContentItem(QQuickItem *item);
     /// Content that is made below `contentItem`, or else below the item, when it is first to be seen; null by default.

@@ -61,6 +61,7 @@ RListViewBase {
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         wrapMode: Text.Wrap
+        maximumLineCount: 100 // a word without end takes seconds to wrap
         elide: Text.ElideRight
     }
     Shared.RStyleProbe {

@@ -62,6 +62,8 @@ RLoadingAnimationBase {
             font.pixelSize: RThemeValues.fontSizeS
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
+            maximumLineCount: 100 // a word without end takes seconds to wrap
+            elide: Text.ElideRight
         }
     }
 }

@@ -89,9 +89,10 @@ void limitFurtherMemory(std::size_t bytes)
     mallopt(M_ARENA_MAX, 1); // an arena for each thread would reserve much more than it uses
     std::size_t pages = 0;
     std::ifstream("/proc/self/statm") >> pages;
-    const rlim_t limit = pages * std::size_t(sysconf(_SC_PAGESIZE)) + bytes;
-    const rlimit both{limit, limit};
-    setrlimit(RLIMIT_AS, &both);
+    rlimit limits{};
+    getrlimit(RLIMIT_AS, &limits);
+    limits.rlim_cur = pages * std::size_t(sysconf(_SC_PAGESIZE)) + bytes;
+    setrlimit(RLIMIT_AS, &limits);
 }
 
 void limitTime(std::chrono::seconds time)

@@ -28,8 +28,8 @@ private:
 /// To be called before there are threads.
 int supervised(const std::function<int()> &work);
 
-/// From here on the process may take so much more memory. Without effect under the address sanitizer, which reserves
-/// all that there is.
+/// From here on, until the next call, the process may take so much more memory. Without effect under the address
+/// sanitizer, which reserves all that there is.
 void limitFurtherMemory(std::size_t bytes);
 
 /// Ends the process when it uses so much processor time, or stands still for twenty times as long, before the next

@@ -1,8 +1,10 @@
 // Writes values that no page should write to the properties of all types of the module, in random order, and draws.
 //
-// Nothing may crash, hang or take much memory. TAMBLE_RANDOM_SECONDS sets how long this goes on (4), TAMBLE_RANDOM_SEED
-// with which round it begins (1). A round depends on its number alone; the one that failed is printed.
+// Nothing may crash, hang, take much memory or leave objects behind. TAMBLE_RANDOM_SECONDS sets how long this goes on
+// (4), TAMBLE_RANDOM_SEED with which round it begins (1). A round depends on its number alone; the one that failed is
+// printed.
 
+#include "LiveObjects.h"
 #include "RandomPage.h"
 #include "Supervision.h"
 #include "TambleClientControlModule.h"
@@ -17,6 +19,9 @@ namespace {
 
 constexpr std::size_t memoryPerRound = std::size_t(512) << 20;
 constexpr std::chrono::seconds timePerStep(5);
+// What is made once, and pictures and values of styles that are kept for a while: 60 to 90, after 200 rounds as after
+// 1,600.
+constexpr int keptObjects = 150;
 
 int environmentNumber(const char *name, int otherwise)
 {
@@ -56,6 +61,8 @@ public:
 
     void run(int seed)
     {
+        // Each round's own: Qt keeps pools of what earlier ones took, a hundred megabytes after twenty thousand items.
+        limitFurtherMemory(memoryPerRound);
         m_trace.clear();
         m_trace.add("TAMBLE_RANDOM_SEED=" + std::to_string(seed));
         // Anew, since types of the module can change it.
@@ -76,7 +83,15 @@ public:
                 page.remove();
         }
         page.draw();
+        m_window.releaseResources();
         m_trace.add("end of the round");
+    }
+
+    /// To be called between rounds.
+    void collect()
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        m_engine.collectGarbage();
     }
 
 private:
@@ -87,6 +102,15 @@ private:
     QQuickWindow m_window;
 };
 
+bool hasLeftObjects(const ClassCounts &before)
+{
+    std::string text;
+    if (moreThan(before, text) <= keptObjects)
+        return false;
+    std::fprintf(stderr, "objects are left:\n%s", text.c_str());
+    return true;
+}
+
 int runRounds(Trace &trace, int firstSeed, int seconds, int argc, char **argv)
 {
     qputenv("QT_QUICK_BACKEND", "rhi"); // instead of the software renderer, which leaves out what it does not know
@@ -94,17 +118,20 @@ int runRounds(Trace &trace, int firstSeed, int seconds, int argc, char **argv)
     qputenv("QSG_RENDER_LOOP", "basic");
     const QGuiApplication application(argc, argv);
     qInstallMessageHandler(keepSilent);
+    watchObjects();
     Rounds rounds(trace);
-    limitFurtherMemory(memoryPerRound);
 
     QElapsedTimer timer;
     timer.start();
     int seed = firstSeed;
-    do {
+    rounds.run(seed++);
+    rounds.collect();
+    const ClassCounts afterTheFirst = liveObjects();
+    while (timer.elapsed() < seconds * 1000)
         rounds.run(seed++);
-    } while (timer.elapsed() < seconds * 1000);
+    rounds.collect();
     std::printf("rounds %d to %d\n", firstSeed, seed - 1);
-    return 0;
+    return hasLeftObjects(afterTheFirst) ? 1 : 0;
 }
 
 } // namespace

@@ -9,7 +9,10 @@ extern "C" std::size_t __sanitizer_get_current_allocated_bytes() __attribute__((
 
 std::size_t allocatedBytes()
 {
-    return __sanitizer_get_current_allocated_bytes ? __sanitizer_get_current_allocated_bytes() : mallinfo2().uordblks;
+    if (__sanitizer_get_current_allocated_bytes)
+        return __sanitizer_get_current_allocated_bytes();
+    const struct mallinfo2 heap = mallinfo2();
+    return heap.uordblks + heap.hblkhd; // large blocks are mapped one by one
 }
 
 #if !defined(__SANITIZE_ADDRESS__)

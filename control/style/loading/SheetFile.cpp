@@ -35,8 +35,11 @@ bool isSheetFile(const QString &path)
 std::optional<QByteArray> readSheetFile(const QString &path, QString *error)
 {
     QFile file(path);
-    if (isSheetFile(path) && file.open(QFile::ReadOnly | QFile::Unbuffered))
-        return file.read(maximumSheetBytes + 1);
+    if (isSheetFile(path) && file.open(QFile::ReadOnly | QFile::Unbuffered)) {
+        QByteArray text = file.read(maximumSheetBytes + 1);
+        text.squeeze(); // what is read keeps the room of what was asked for, and texts are kept
+        return text;
+    }
     if (error)
         *error = file.errorString();
     return std::nullopt;

@@ -7,6 +7,12 @@
 
 namespace tamble::client {
 
+namespace {
+
+constexpr const char *installedTheme = "_tamble_installedTheme"; // of an engine
+
+} // namespace
+
 ThemeSelector::ThemeSelector(QObject *parent)
     : QObject(parent)
 {}
@@ -42,10 +48,11 @@ void ThemeSelector::installTheme()
     QQmlEngine::setObjectOwnership(theme, QQmlEngine::CppOwnership);
     engine->rootContext()->setContextProperty(QStringLiteral("theme"), theme);
 
+    const auto previous = engine->property(installedTheme).value<QPointer<QObject>>();
+    engine->setProperty(installedTheme, QVariant::fromValue(QPointer<QObject>(theme)));
     // Bindings have moved on to the new theme by now, but may be in the middle of reading the old one.
-    if (m_theme)
-        m_theme->deleteLater();
-    m_theme = theme;
+    if (previous)
+        previous->deleteLater();
 }
 
 } // namespace tamble::client

@@ -12,6 +12,7 @@ namespace tamble::client {
 /// Creates the theme object and puts it into the engine's root context as `theme`.
 ///
 /// The theme belongs to the engine: controls read it until the last of them is gone, whatever becomes of the selector.
+/// It goes when any selector of the engine installs another.
 class TAMBLE_CLIENT_CONTROL_EXPORT ThemeSelector : public QObject
 {
     Q_OBJECT
@@ -33,7 +34,6 @@ private:
     void installTheme();
 
     QPointer<QQmlComponent> m_themeComponent;
-    QPointer<QObject> m_theme;
 };
 
 } // namespace tamble::client

@@ -55,6 +55,16 @@ ThemedTestCase {
         compare([shadow.width, shadow.shown], [0, false])
     }
 
+    function test_takesNoPlace_data() {
+        return Array.from(["Row", "Column", "Grid", "Flow", "RowLayout", "ColumnLayout", "GridLayout"], tag => ({ tag }))
+    }
+    function test_takesNoPlace(row) {
+        const positioner = make("import QtQuick.Layouts\n" + row.tag + " { readonly property Item shadow: boxShadow; RBoxShadow { id: boxShadow; target: box; offsetY: 0 } Item { id: box; implicitWidth: 60; implicitHeight: 40 } }")
+        waitForRendering(positioner)
+        compare([positioner.width, positioner.height], [60, 40])
+        compare([positioner.shadow.x, positioner.shadow.y, positioner.shadow.width], [0, 0, 60])
+    }
+
     function test_siblingIsBetweenParentAndTarget() {
         const image = grabImage(makeSibling())
         verify(image.red(80, 50) < 255, "above what the parent paints")

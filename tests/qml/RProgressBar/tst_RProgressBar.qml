@@ -64,6 +64,12 @@ ThemedTestCase {
         compare(shown.count, 2)
     }
 
+    function test_wordWithoutEnd() {
+        const dots = make("RLoadingAnimation { width: 12; text: 'a'.repeat(10000) }")
+        const words = Array.from(dots.contentItem.children).find(child => child.text === dots.text)
+        compare(words.lineCount, 100)
+    }
+
     function test_sectionHeader() {
         const header = make("RSectionHeader { width: 300; text: 'Inputs'; RButton { width: 50 } }")
         waitForRendering(header)

@@ -41,6 +41,13 @@ ThemedTestCase {
             compare([item.valueBarItem.width, item.valueBarItem.mapToItem(item, 0, 6).y], [item.width, item.height])
     }
 
+    function test_isNotItsOwnContent() {
+        const item = itemOf("")
+        item.contentItem = item
+        item.width = 200
+        compare(item.contentItem, null)
+    }
+
     function test_partsAreMadeInView() {
         const workspace = workspaceOf("RWorkspaceItem { title: 'Amp'; iconKey: 'mute'; position: Qt.point(1000, 0); valueBar: RWorkspaceItemValueBar { value: 1 } Item { id: own } property Item own: own }")
         const item = workspace.items[0]

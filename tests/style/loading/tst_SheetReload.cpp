@@ -1,5 +1,6 @@
 #include "style/StyleEngineSetup.h"
 #include "style/StyleFixture.h"
+#include "support/AllocationCount.h"
 #include "support/Rows.h"
 #include "support/TestProgram.h"
 
@@ -191,6 +192,16 @@ private Q_SLOTS:
         QCOMPARE(box.props().number("a"), 1.0);
         fixture.write("user.style", sheet(3).leftJustified(longest));
         QTRY_COMPARE(box.props().number("a"), 3.0);
+    }
+
+    void keptSheetsTakeLittleRoom()
+    {
+        const StyleFixture fixture;
+        fixture.load(sheet(0));
+        const std::size_t before = allocatedBytes();
+        for (int value = 1; value <= 8; ++value)
+            fixture.load(sheet(value));
+        QVERIFY(allocatedBytes() < before + (std::size_t(1) << 20));
     }
 
     void busyNeighboursHoldNothingBack()

@@ -56,6 +56,33 @@ private Q_SLOTS:
         QVERIFY(installedTheme(engine));
     }
 
+    // As windows do that are opened and closed.
+    void oneThemePerEngine_data()
+    {
+        QTest::addColumn<bool>("firstIsGone");
+        QTest::newRow("a second window") << false;
+        QTest::newRow("a window after the first") << true;
+    }
+    void oneThemePerEngine()
+    {
+        QFETCH(bool, firstIsGone);
+        QQmlEngine engine;
+        QQmlComponent component(&engine);
+        component.setData(themeWith(8), QUrl());
+        auto first = std::make_unique<ThemeSelector>();
+        first->setThemeComponent(&component);
+        const QPointer<QObject> old = installedTheme(engine);
+        if (firstIsGone)
+            first.reset();
+
+        ThemeSelector second;
+        second.setThemeComponent(&component);
+        first.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!old);
+        QVERIFY(installedTheme(engine));
+    }
+
     void brokenThemeChangesNothing()
     {
         QQmlEngine engine;
