@@ -46,9 +46,9 @@ QtObject {
         root.devicesAsked()
     }
 
-    /*! Lists the devices with an alarm, whatever the page of devices shows. */
+    /*! Lists the devices with an alarm, or all when none has one, whatever the page of devices shows. */
     function openAlarms() {
-        root.alarmsOnly = true
+        root.alarmsOnly = GalleryInstallation.allDevices.alarms > 0
         root.showsDetails = false
         root.alarmsAsked()
     }

@@ -45,7 +45,9 @@ RBodeplotCurveTemplate {
         return handle !== null
     }
 
-    // Qt would go on from the nearest ancestor that is a stop itself, such as a page that scrolls, and never get out.
+    /*! Gives the keyboard focus to the next handle by frequency, or behind the last to what follows the curve. */
+    // From a handle, which is no stop itself, Qt would go on from the nearest ancestor that is one, such as a page that
+    // scrolls, and never get out.
     function walkPoints(handle: RBodeplotFilterPoint, forwards: bool) {
         if (root.focusPoint(root.nextFilterPoint(handle.index, forwards)))
             return
