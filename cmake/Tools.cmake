@@ -13,6 +13,7 @@ file(GLOB_RECURSE cpp_files CONFIGURE_DEPENDS
 )
 file(GLOB_RECURSE qml_files CONFIGURE_DEPENDS
     ${PROJECT_SOURCE_DIR}/qml/*.qml
+    ${PROJECT_SOURCE_DIR}/benchmarks/start/*.qml
     ${PROJECT_SOURCE_DIR}/docs/*.qml
     ${PROJECT_SOURCE_DIR}/gallery/*.qml
     ${PROJECT_SOURCE_DIR}/tests/*.qml
@@ -37,13 +38,17 @@ find_program(TAMBLE_QMLFORMAT qmlformat PATHS /usr/lib/qt6/bin)
 add_custom_target(qml-format COMMAND ${TAMBLE_QMLFORMAT} -i ${qml_files} COMMENT "Formatting QML" VERBATIM)
 
 # Against the built modules, as a user's own tools see them; the gallery's files where their qmldir is, which names its
-# singletons.
+# singletons. The client of a benchmark uses types of its own, which are there where it is built.
 set(lint_files)
 foreach(file IN LISTS qml_files)
     cmake_path(RELATIVE_PATH file BASE_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_VARIABLE path)
     if(path MATCHES "^gallery/(.*)")
         if(TARGET tamble-gallery)
             list(APPEND lint_files ${PROJECT_BINARY_DIR}/gallery/Gallery/${CMAKE_MATCH_1})
+        endif()
+    elseif(path MATCHES "^benchmarks/start/(.*)")
+        if(TARGET basic-client)
+            list(APPEND lint_files ${PROJECT_BINARY_DIR}/benchmarks/start/BasicClient/${CMAKE_MATCH_1})
         endif()
     else()
         list(APPEND lint_files ${file})
@@ -52,12 +57,15 @@ endforeach()
 find_program(TAMBLE_QMLLINT qmllint PATHS /usr/lib/qt6/bin)
 add_custom_target(qml-lint
     COMMAND ${CMAKE_COMMAND} -D QMLLINT=${TAMBLE_QMLLINT}
-            "-DARGUMENTS=-I;${PROJECT_BINARY_DIR}/qml;-I;${PROJECT_BINARY_DIR}/gallery" "-DFILES=${lint_files}"
+            "-DARGUMENTS=-I;${PROJECT_BINARY_DIR}/qml;-I;${PROJECT_BINARY_DIR}/gallery;-I;${PROJECT_BINARY_DIR}/benchmarks/start"
+            "-DFILES=${lint_files}"
             -P ${PROJECT_SOURCE_DIR}/cmake/QmlLint.cmake
     COMMENT "Checking QML files"
     VERBATIM
 )
 add_dependencies(qml-lint tambleclient-control)
-if(TARGET tamble-gallery)
-    add_dependencies(qml-lint tamble-gallery)
-endif()
+foreach(target IN ITEMS tamble-gallery basic-client)
+    if(TARGET ${target})
+        add_dependencies(qml-lint ${target})
+    endif()
+endforeach()

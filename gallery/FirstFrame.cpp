@@ -2,6 +2,7 @@
 
 #include <QtCore/QEventLoop>
 #include <QtCore/QTextStream>
+#include <QtGui/QAccessible>
 #include <QtQml/QQmlIncubationController>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
@@ -16,15 +17,28 @@ struct ShownItems
     int texts = 0;
 };
 
-void count(const QQuickItem &item, ShownItems &shown)
+bool isRow(QQuickItem &item)
+{
+    const QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(&item);
+    return spoken && spoken->role() == QAccessible::ListItem;
+}
+
+bool isControl(QQuickItem &item)
+{
+    return item.inherits("QQuickControl") || item.inherits("QQuickTextInput") || item.inherits("QQuickTextEdit") ||
+           isRow(item);
+}
+
+void count(QQuickItem &item, const QRectF &view, ShownItems &shown)
 {
     if (!item.isVisible())
         return;
-    const bool isField = item.inherits("QQuickTextInput") || item.inherits("QQuickTextEdit");
-    shown.controls += item.inherits("QQuickControl") || isField ? 1 : 0;
-    shown.texts += item.inherits("QQuickText") ? 1 : 0;
-    for (const QQuickItem *child : item.childItems())
-        count(*child, shown);
+    if (item.mapRectToScene(item.boundingRect()).intersects(view)) {
+        shown.controls += isControl(item) ? 1 : 0;
+        shown.texts += item.inherits("QQuickText") && !item.property("text").toString().isEmpty() ? 1 : 0;
+    }
+    for (QQuickItem *child : item.childItems())
+        count(*child, view, shown);
 }
 
 } // namespace
@@ -34,7 +48,8 @@ void printFirstFrame(QQuickWindow &window)
     QEventLoop loop;
     // Nothing may be exposed before its page is there.
     QObject::connect(&window, &QQuickWindow::frameSwapped, &loop, [&] {
-        if (window.property("ready").toBool())
+        const QVariant ready = window.property("ready");
+        if (!ready.isValid() || ready.toBool())
             loop.quit();
         else
             window.update();
@@ -42,11 +57,11 @@ void printFirstFrame(QQuickWindow &window)
     window.update();
     loop.exec();
     const auto ms = std::clock() * 1000 / CLOCKS_PER_SEC;
+    ShownItems shown;
+    count(*window.contentItem(), QRectF(QPointF(), window.size()), shown);
     // Rows that are being made when their list goes would say so.
     QQmlIncubationController *making = window.incubationController();
     while (making && making->incubatingObjectCount() > 0)
         making->incubateFor(5);
-    ShownItems shown;
-    count(*window.contentItem(), shown);
     QTextStream(stdout) << "controls " << shown.controls << " texts " << shown.texts << " ms " << ms << '\n';
 }

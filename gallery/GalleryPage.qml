@@ -50,7 +50,6 @@ Flickable {
             text: root.description
             font.pixelSize: theme.fontSizeL
             wrapMode: Text.Wrap
-            lineHeight: 1.2
         }
     }
 }

@@ -40,7 +40,6 @@ RButton {
                     width: parent.width
                     text: root.reports.length > 0 ? root.reports.join("\n\n") : qsTr("Every key that a control has read so far is set.")
                     wrapMode: Text.Wrap
-                    lineHeight: 1.2
                 }
             }
         }

@@ -14,6 +14,8 @@
 namespace {
 
 constexpr int frameTimeout = 5000; // ms; a frame of the longest page takes less than one second
+/// In pixels. Renderers draw no more at once: a page that is taller at this zoom is shown as far as it fits.
+constexpr int tallestPicture = 16384;
 /// Just after a beat three seconds into the signal: the meters are up and the averages have settled.
 constexpr int blocksBeforePicture = 62;
 
@@ -39,7 +41,8 @@ QString writeScreenshot(QQuickWindow &window, int shortest, const QString &file)
     settle();
     while (!window.property("ready").toBool())
         waitForFrame(window);
-    const int height = qMax(shortest, qCeil(window.property("wholePageHeight").toReal()));
+    const int height = qBound(shortest, qCeil(window.property("wholePageHeight").toReal()),
+                              qMax(shortest, int(tallestPicture / window.effectiveDevicePixelRatio())));
     if (window.height() != height) {
         window.setHeight(height);
         waitForFrame(window);

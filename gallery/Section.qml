@@ -36,7 +36,7 @@ Item {
             RText {
                 width: parent.width
                 text: root.title
-                elide: Text.ElideRight
+                wrapMode: Text.Wrap
                 font.pixelSize: theme.fontSizeXL
                 Accessible.role: Accessible.Heading
                 Accessible.name: root.title
@@ -46,7 +46,6 @@ Item {
                 visible: root.note.length > 0
                 text: root.note
                 wrapMode: Text.Wrap
-                lineHeight: 1.2
             }
         }
     }

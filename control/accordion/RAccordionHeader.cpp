@@ -10,6 +10,7 @@
 #include <QtQml/QQmlEngine>
 #include <QtQuickTemplates2/private/qquickabstractbutton_p_p.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tamble::client {
@@ -103,8 +104,13 @@ void RAccordionHeader::updateSubtitle()
     if (!isComponentComplete())
         return;
     const bool visible = !item()->subtitle().isEmpty();
-    if (visible && !m_subtitle)
+    if (visible && !m_subtitle) {
         m_subtitle = makePart(Part::AccordionSubtitle);
+        for (QQuickItem *line : {titleItem(), m_subtitle}) {
+            if (line)
+                connect(line, &QQuickItem::implicitHeightChanged, this, [this] { placeAll(); });
+        }
+    }
     if (m_subtitle)
         m_subtitle->setVisible(visible);
     placeAll();
@@ -162,11 +168,14 @@ void RAccordionHeader::placeParts(qreal begin, qreal end)
     QQuickItem *title = titleItem();
     if (!title || !m_subtitle || section->subtitle().isEmpty())
         return;
-    const qreal upper = std::ceil(height() * 0.6);
+    // As close as the lines of one text, in the middle.
+    const qreal upper = title->implicitHeight();
+    const qreal lower = m_subtitle->implicitHeight();
+    const qreal top = std::max(0.0, std::floor((height() - upper - lower) / 2.0));
     title->setHeight(upper);
-    title->setY(0.0);
-    m_subtitle->setSize({title->width(), height() - upper});
-    m_subtitle->setPosition({title->x(), upper});
+    title->setY(top);
+    m_subtitle->setSize({title->width(), lower});
+    m_subtitle->setPosition({title->x(), top + upper});
 }
 
 void RAccordionHeader::componentComplete()

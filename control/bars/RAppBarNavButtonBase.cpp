@@ -21,6 +21,7 @@ constexpr qreal mostWidth = 240.0;
 constexpr qreal margin = 12.0; // at both sides of the text
 constexpr qreal compactSize = 48.0;
 constexpr qreal subHeight = 32.0;
+constexpr qreal roundingError = 1e-6; // pixels, of sums with broken units
 
 } // namespace
 
@@ -127,7 +128,7 @@ void RAppBarNavButtonBase::updateSize()
 void RAppBarNavButtonBase::updateFit()
 {
     // Without a width there is none to fit into yet, and each change lays the text out anew.
-    const bool isCramped = width() > 0.0 && !isTextHidden() && m_wordsWidth > availableWidth();
+    const bool isCramped = width() > 0.0 && !isTextHidden() && m_wordsWidth > availableWidth() + roundingError;
     setShortened(isCramped || isTextHidden());
     if (std::exchange(m_isCramped, isCramped) != isCramped)
         Q_EMIT crampedChanged();

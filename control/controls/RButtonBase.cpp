@@ -361,6 +361,7 @@ void RButtonBase::editSelection(bool selected)
         return;
     if (!m_pendingSelection)
         m_pendingSelection = new PendingValue(this, QStringLiteral("selected"));
+    m_pendingSelection->setSettleTime(m_settleTime);
     const QPointer<RButtonBase> guard(this);
     m_pendingSelection->show(selected);
     Q_EMIT selectionEdited(selected);

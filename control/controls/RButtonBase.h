@@ -30,6 +30,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RButtonBase : public QQuickAbstractButton,
     Q_OBJECT
     QML_NAMED_ELEMENT(RButtonBase)
     Q_PROPERTY(bool selectable READ isSelectable WRITE setSelectable NOTIFY selectableChanged FINAL)
+    /// How long, in ms, an edited selection is shown before the bound one counts again; 300 by default.
+    Q_PROPERTY(int settleTime MEMBER m_settleTime NOTIFY settleTimeChanged FINAL)
     /// Whether the button is in the selected state.
     Q_PROPERTY(bool selected READ isSelected WRITE setSelected NOTIFY selectedChanged FINAL)
     Q_PROPERTY(bool consistent READ isConsistent WRITE setConsistent NOTIFY consistentChanged FINAL)
@@ -60,8 +62,8 @@ public:
     explicit RButtonBase(QQuickItem *parent = nullptr);
     ~RButtonBase() override;
 
-    /// Whether a click turns `selected` over, showing the edit for 300 ms before a bound value counts again; false by
-    /// default.
+    /// Whether a click turns `selected` over, showing the edit for `settleTime` before a bound value counts again;
+    /// false by default.
     bool isSelectable() const { return m_selectable; }
     void setSelectable(bool selectable);
     bool isSelected() const { return m_selected; }
@@ -97,6 +99,7 @@ public:
 
 Q_SIGNALS:
     void selectableChanged();
+    void settleTimeChanged();
     void selectedChanged();
     void consistentChanged();
     void useCustomEventChanged();
@@ -160,6 +163,7 @@ private:
     QColor m_ssBackground;
     QColor m_ssColor;
     QColor m_ssLineColor;
+    int m_settleTime = 300;
     bool m_ssLineVisible = false;
     bool m_selectable = false;
     bool m_selected = false;

@@ -22,8 +22,8 @@ namespace tamble::client {
 /// Dialog whose parts are made when it first opens, in the middle of its window. It accepts when no field in it holds
 /// an unacceptable text, and gives the keyboard focus back.
 ///
-/// Keys: Enter presses the default button, after what was typed is entered; Esc rejects, Tab stays inside; arrows,
-/// PageUp, PageDown, Home and End scroll where nothing else needs them.
+/// Keys: Enter presses the default button, but where something is typed and not entered it enters that first; Esc
+/// rejects, Tab stays inside; arrows, PageUp, PageDown, Home and End scroll where nothing else needs them.
 class TAMBLE_CLIENT_CONTROL_EXPORT RDialogBase : public QQuickDialog
 {
     Q_OBJECT

@@ -26,15 +26,15 @@ bool types(const QKeyEvent &key)
     return (!key.text().isEmpty() && key.text()[0].isPrint()) || key.matches(QKeySequence::Paste);
 }
 
+bool undoes(const QKeyEvent &key)
+{
+    return key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+}
+
 /// Leaving for another window or a popup is no end of typing.
 bool staysWithTheUser(Qt::FocusReason reason)
 {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
-}
-
-bool undoes(const QKeyEvent &key)
-{
-    return key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
 }
 
 bool comesByKey(Qt::FocusReason reason)

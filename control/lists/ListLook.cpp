@@ -1,6 +1,7 @@
 #include "lists/ListLook.h"
 
 #include "base/PartComponents.h"
+#include "lists/ListRows.h"
 #include "lists/RListRowBase.h"
 #include "lists/RListViewBase.h"
 
@@ -32,9 +33,10 @@ ListLook::ListLook(RListViewBase &list)
 template <typename Action>
 void ListLook::forVisibleRows(Action action)
 {
+    QQmlInstanceModel *model = instanceModelOf(m_list);
     for (QQuickItem *item : m_list.contentItem()->childItems()) {
-        const QPointF centre = item->position() + QPointF(item->width(), item->height()) / 2.0;
-        const int row = m_list.indexAt(centre.x(), centre.y());
+        // Not by its place: a row may have no width yet.
+        const int row = model ? model->indexOf(item, nullptr) : -1;
         if (row >= 0 && m_list.itemAtIndex(row) == item) // not one that waits for its next use
             action(row, *item);
     }

@@ -25,7 +25,7 @@ def summary(text):
     return " ".join(sentences[:2 if sentences[0].startswith("Declared") else 1])
 
 
-def index_of(pages):
+def index_of(pages, icons):
     lines = ["# TambleClient.Control 1.0", "All types that QML can name: `import TambleClient.Control 1.0`.",
              "Pictures show the themes dark, light, contrast-dark and contrast-light, in this order."]
     for family in [*FAMILIES, OTHERS, INTERNAL]:
@@ -33,6 +33,7 @@ def index_of(pages):
                    for found, its_family in sorted(pages, key=lambda page: page[0].name) if its_family == family]
         if entries:
             lines += [f"## {family}", "\n".join(entries)]
+    lines += ["## Icons", "Names that an `iconKey` and the `key` of an RIcon take:", ", ".join(f"`{icon}`" for icon in icons)]
     return "\n\n".join(lines) + "\n"
 
 
@@ -47,7 +48,8 @@ def main(sources, module_directory, output):
              for found in module.documented()]
     for found, family in pages:
         (output / f"{found.name}.md").write_text(writer.page(found, family), encoding="utf-8")
-    (output / "index.md").write_text(index_of(pages), encoding="utf-8")
+    icons = sorted(drawing.stem for drawing in (sources / "asset/icons/svg").glob("*.svg"))
+    (output / "index.md").write_text(index_of(pages, icons), encoding="utf-8")
     print(f"{len(pages)} pages in {output}")
 
 

@@ -7,7 +7,7 @@ from comments import Declaration, PendingComment
 
 CLASS = re.compile(r"^(?:class|struct) (?:\w+_EXPORT )?(\w+)(?: final)?(?: : .*)?$")
 PROPERTY = re.compile(r"Q_PROPERTY\(.*?[ *&](\w+) (?:READ|MEMBER) (\w+)")
-ENUM_VALUE = re.compile(r"^(\w+)(?: = (-?\w+))?,?\s*(?:///<\s*(.*))?$")
+ENUM_VALUE = re.compile(r"^(\w+)(?: = (?:\w+::\w+|(-?\w+)))?,?\s*(?:///<\s*(.*))?$")
 MEMBER = re.compile(r"^(?:mutable )?([\w:<>, *]+?)[ *&]+(\w+)(?: = (.+?)|\{(.*)\})?;")
 
 

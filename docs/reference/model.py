@@ -102,7 +102,8 @@ class Module:
             return  # a class of Qt under a name of the module: Qt documents its members
         base = component.get("prototype", "")
         found.base = self._names.get(base, base) if "::" in base else base
-        found.enums = header.enums if component.all("Enum") else {}
+        known = {block.get("name") for block in component.all("Enum")}
+        found.enums = {name: values for name, values in header.enums.items() if name in known}
         silent = set()
         for block in component.all("Property"):
             member = self._native_property(block, header)

@@ -24,7 +24,7 @@ class PageWriter:
             parts += [f"![{found.name} in the four themes](pictures/{found.name}.png)"]
         parts += self._properties(found)
         parts += self._callables(found, "signal", "Signals") + self._callables(found, "function", "Functions")
-        parts += self._enums(found) + self._keys(found, keys) + self._style(found) + self._inherited(found)
+        parts += self._enums(found, family) + self._keys(found, keys) + self._style(found) + self._inherited(found)
         return "\n\n".join(parts) + "\n"
 
     def link(self, name):
@@ -63,10 +63,15 @@ class PageWriter:
             lines.append(f"- {anchor(member.name, True, member.parameters)} — {text}")
         return [f"## {title}", "\n".join(lines)] if lines else []
 
-    def _enums(self, found):
+    def _enums(self, found, family):
+        # Pages write the name of what is built on a type that is not for them.
+        is_hidden = found.kind == "base" or family == INTERNAL
+        users = [other.name for other in self.module.types.values()
+                 if is_hidden and other.place.partition(":")[0].endswith(".qml") and found in self.module.bases(other.name)]
+        owner = users[0] if users else found.name
         parts = []
         for name, values in found.enums.items():
-            rows = [f"| `{found.name}.{value}` | {number or ''} | {cell(text)} |" for value, number, text in values]
+            rows = [f"| `{owner}.{value}` | {number or ''} | {cell(text)} |" for value, number, text in values]
             parts += [f"## Enumeration {name}", "\n".join(["| Value | Number | Meaning |", "|---|---|---|"] + rows)]
         return parts
 

@@ -16,7 +16,8 @@ Item {
     readonly property int activeRow: root.currentShown ? Math.floor(root.current / root.size) : -1
     readonly property int activeColumn: root.currentShown ? root.current % root.size : -1
 
-    readonly property real pitch: theme.dp(33)
+    readonly property real gap: Math.max(1, Math.round(theme.dp(1)))
+    readonly property real pitch: theme.dp(32) + root.gap
     readonly property real labelWidth: theme.dp(40)
     readonly property real labelHeight: theme.dp(24)
 
@@ -78,9 +79,9 @@ Item {
     // qmllint enable unqualified
     // Shows between the crosspoints.
     Surface {
-        x: root.labelWidth - theme.dp(1)
-        y: root.labelHeight - theme.dp(1)
-        width: root.size * root.pitch + theme.dp(1)
+        x: root.labelWidth - root.gap
+        y: root.labelHeight - root.gap
+        width: root.size * root.pitch + root.gap
         height: width
         RStyleSet.typeName: "RBodeplotGrid"
     }

@@ -16,9 +16,15 @@ Column {
         text: root.title
     }
     Surface {
-        id: area
+        id: frame
         width: parent.width
-        height: theme.dp(192)
+        height: theme.dp(192) + 2 * frame.border.width
         RStyleSet.typeName: "RFlyoutWindow"
+
+        Item {
+            id: area
+            anchors.fill: parent
+            anchors.margins: frame.border.width
+        }
     }
 }

@@ -81,8 +81,15 @@ Section {
                 split: true
             }
         },
-        Row {
+        Grid {
+            id: foot
+
+            // Room for two parameters side by side.
+            readonly property bool wide: root.contentWidth >= states.width + foot.spacing + theme.dp(240)
+
+            columns: foot.wide ? 2 : 1
             spacing: theme.dp(16)
+            verticalItemAlignment: Grid.AlignVCenter
 
             RButtonRow {
                 id: states
@@ -103,8 +110,7 @@ Section {
                 }
             }
             ParameterList {
-                anchors.verticalCenter: parent.verticalCenter
-                width: root.contentWidth - states.width - theme.dp(16)
+                width: root.contentWidth - (foot.wide ? states.width + foot.spacing : 0)
                 parameters: root.parameters
             }
         }

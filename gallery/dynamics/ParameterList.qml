@@ -8,7 +8,7 @@ Grid {
     /*! Pairs of a name and a text. */
     required property var parameters
 
-    columns: root.width < theme.dp(280) ? 1 : 2
+    columns: root.width < theme.dp(240) ? 1 : 2
     columnSpacing: theme.dp(16)
     rowSpacing: theme.dp(4)
 

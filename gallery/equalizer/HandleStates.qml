@@ -27,7 +27,7 @@ Flow {
             required property var modelData
 
             width: theme.dp(68)
-            height: theme.dp(64)
+            height: theme.dp(84) // the title stands below the value of Q
 
             RBodeplotFilterPoint {
                 id: handle

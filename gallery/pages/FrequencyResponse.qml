@@ -16,6 +16,7 @@ GalleryPage {
         history: pageHistory
     }
     HistoryShortcuts {
+        parent: root // takes no room in the column
         enabled: root.visible
         history: pageHistory
     }

@@ -5,57 +5,74 @@ import Gallery
 import TambleClient.Control 1.0
 
 /*! A matrix of 64 inputs and outputs. The view makes the crosspoints that are seen and uses them again. */
-TableView {
+Item {
     id: root
 
-    implicitHeight: theme.dp(33) * 12
-    clip: true
-    columnSpacing: theme.dp(1)
-    rowSpacing: theme.dp(1)
-    boundsBehavior: Flickable.StopAtBounds
-    activeFocusOnTab: true
-    Accessible.role: Accessible.Table
-    Accessible.name: qsTr("Large matrix")
+    implicitHeight: view.implicitHeight + theme.dp(8)
 
-    T.ScrollBar.vertical: ScrollHandle {}
-    T.ScrollBar.horizontal: ScrollHandle {}
+    TableView {
+        id: view
+        anchors.fill: parent
+        anchors.rightMargin: theme.dp(8)
+        anchors.bottomMargin: theme.dp(8)
+        implicitHeight: theme.dp(33) * 12
+        clip: true
+        columnSpacing: raster.spacing
+        rowSpacing: raster.spacing
+        boundsBehavior: Flickable.StopAtBounds
+        activeFocusOnTab: true
+        Accessible.role: Accessible.Table
+        Accessible.name: qsTr("Large matrix")
 
-    model: CrosspointModel {
-        size: 64
-    }
-    selectionModel: ItemSelectionModel {
-        model: root.model
-    }
-    // qmllint disable unqualified
-    delegate: RCellButton {
-        id: crosspoint
+        // Beside the cells, not over them.
+        T.ScrollBar.vertical: ScrollHandle {
+            parent: root
+            anchors.right: parent.right
+            height: view.height
+        }
+        T.ScrollBar.horizontal: ScrollHandle {
+            parent: root
+            anchors.bottom: parent.bottom
+            width: view.width
+        }
 
-        required property bool routed
-        required property bool hasSignal
+        model: CrosspointModel {
+            size: 64
+        }
+        selectionModel: ItemSelectionModel {
+            model: view.model
+        }
+        // qmllint disable unqualified
+        delegate: RCellButton {
+            id: crosspoint
 
-        required row
-        required column
-        required current
-        gridProperties: raster
-        label: qsTr("Input %1 to output %2").arg(crosspoint.row + 1).arg(crosspoint.column + 1)
-        styleName: "crossPoint"
-        selectable: true
-        selected: crosspoint.routed
-        active: crosspoint.hasSignal
-        iconKey: crosspoint.routed && crosspoint.hasSignal ? "loudspeaker" : ""
-        onSelectionEdited: selected => root.model.route(crosspoint.row, crosspoint.column, selected)
-    }
-    // qmllint enable unqualified
+            required property bool routed
+            required property bool hasSignal
 
-    // Shows between the crosspoints.
-    Surface {
-        z: -1
-        width: root.contentWidth
-        height: root.contentHeight
-        RStyleSet.typeName: "RBodeplotGrid"
-    }
-    RCellGridProperties {
-        id: raster
-        columnWidth: theme.dp(32)
+            required row
+            required column
+            required current
+            gridProperties: raster
+            label: qsTr("Input %1 to output %2").arg(crosspoint.row + 1).arg(crosspoint.column + 1)
+            styleName: "crossPoint"
+            selectable: true
+            selected: crosspoint.routed
+            active: crosspoint.hasSignal
+            iconKey: crosspoint.routed && crosspoint.hasSignal ? "loudspeaker" : ""
+            onSelectionEdited: selected => view.model.route(crosspoint.row, crosspoint.column, selected)
+        }
+        // qmllint enable unqualified
+
+        // Shows between the crosspoints.
+        Surface {
+            z: -1
+            width: view.contentWidth
+            height: view.contentHeight
+            RStyleSet.typeName: "RBodeplotGrid"
+        }
+        RCellGridProperties {
+            id: raster
+            columnWidth: theme.dp(32)
+        }
     }
 }

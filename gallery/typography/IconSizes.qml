@@ -34,6 +34,7 @@ Column {
 
                     required property string modelData
 
+                    anchors.verticalCenter: parent.verticalCenter
                     width: theme.dp(48)
                     height: icon.height
 

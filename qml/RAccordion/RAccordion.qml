@@ -47,7 +47,7 @@ Shared.RScrollView {
     implicitWidth: 288 * RThemeValues.unit
     implicitHeight: 480 * RThemeValues.unit
     contentHeight: column.implicitHeight
-    spacing: RThemeValues.unit
+    spacing: RThemeValues.gap
     clip: true
 
     background: Rectangle { // qmllint disable deferred-property-id

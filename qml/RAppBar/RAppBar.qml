@@ -59,7 +59,7 @@ RAppBarBase {
                     id: leadingItems
                     anchors.left: parent.left
                     height: parent.height
-                    spacing: RThemeValues.unit
+                    spacing: RThemeValues.gap
                 }
                 RAppBarView {
                     id: navigationView
@@ -72,7 +72,7 @@ RAppBarBase {
                     Row {
                         id: navigationItems
                         height: root.rowHeight
-                        spacing: RThemeValues.unit
+                        spacing: RThemeValues.gap
                     }
                 }
                 RLabel {
@@ -96,7 +96,7 @@ RAppBarBase {
             parent: root.trailingStays ? rows : flicked
             anchors.right: parent.right
             height: root.rowHeight
-            spacing: RThemeValues.unit
+            spacing: RThemeValues.gap
         }
         Rectangle {
             id: subGround
@@ -119,7 +119,7 @@ RAppBarBase {
                     id: subItems
                     anchors.left: parent.left
                     height: parent.height
-                    spacing: RThemeValues.unit
+                    spacing: RThemeValues.gap
                 }
             }
         }

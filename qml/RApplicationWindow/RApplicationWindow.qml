@@ -30,7 +30,7 @@ T.ApplicationWindow {
 
     /*! Whether Ctrl with Plus, Minus and 0 changes the size of everything. */
     property bool zoomShortcuts: true
-    /*! Refuses to close: the page decides when closeRequested is emitted. */
+    /*! Refuses to close: the page decides when closeRequested is emitted; false by default. */
     property bool confirmClose: false
     /*! Covers the window with a veil that takes mouse, touch and keys. */
     property bool busy: false
@@ -44,7 +44,7 @@ T.ApplicationWindow {
 
     /*! The style engine reports a problem: its kind and a text for the user. */
     signal styleException(string type, string message)
-    /*! The user closes the window. */
+    /*! The user closes the window, whether or not `confirmClose` refuses that. */
     signal closeRequested()
 
     /*! Shows the theme `word`: "light", "dark", "contrast-light" or "contrast-dark". */

@@ -6,8 +6,9 @@ import "../Shared" as Shared
 Shared.RStyledButton {
     id: root
 
-    /*! The icon, whose `key` names the picture. */
+    /*! The icon, `iconItem`, and the name of its picture, `iconKey`. */
     property alias iconItem: icon
+    property alias iconKey: icon.key
 
     contentItem: Item { // qmllint disable deferred-property-id
         RIcon {

@@ -9,8 +9,9 @@ Shared.RStyledButton {
     /*! Whether the icon is shown in place of the text. */
     property bool showIcon: false
 
-    /*! The icon, whose `key` names the picture. */
+    /*! The icon, `iconItem`, and the name of its picture, `iconKey`. */
     property alias iconItem: icon
+    property alias iconKey: icon.key
     /*! Of the text: `textColor`, `horizontalAlignment`, `elide`, `fontSize` (pixels), `fontSizeMode`,
         `minimumPixelSize`, `wrapMode`. */
     property alias textColor: textItem.color

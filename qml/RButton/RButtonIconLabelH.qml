@@ -6,8 +6,9 @@ import "../Shared" as Shared
 Shared.RStyledButton {
     id: root
 
-    /*! The icon, `iconItem`, whose `key` names the picture, and the item that shows the text, `txt`. */
+    /*! The icon, `iconItem`, the name of its picture, `iconKey`, and the item that shows the text, `txt`. */
     property alias iconItem: icon
+    property alias iconKey: icon.key
     property alias txt: textItem
     /*! Of the text: `textColor`, `horizontalAlignment`, `elide` and `fontSize` (pixels). */
     property alias textColor: textItem.color

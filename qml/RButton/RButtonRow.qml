@@ -3,5 +3,5 @@ import TambleClient.Control 1.0
 
 /*! Buttons side by side. */
 Row {
-    spacing: RThemeValues.unit
+    spacing: RThemeValues.gap
 }

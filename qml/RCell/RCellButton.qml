@@ -6,10 +6,11 @@ import TambleClient.Control 1.0
 RCell {
     id: root
 
-    /*! Of the button: `text`, `selectable`, `selected`, `consistent`, `active`, `converter`. */
+    /*! Of the button: `text`, `selectable`, `selected`, `settleTime`, `consistent`, `active`, `converter`. */
     property alias text: button.text
     property alias selectable: button.selectable
     property alias selected: button.selected
+    property alias settleTime: button.settleTime
     property alias consistent: button.consistent
     property alias active: button.active
     property alias converter: button.converter

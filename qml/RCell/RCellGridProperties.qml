@@ -5,6 +5,6 @@ import TambleClient.Control 1.0
 RCellGridPropertiesBase {
     columnWidth: 144 * RThemeValues.unit
     rowHeight: 32 * RThemeValues.unit
-    spacing: RThemeValues.unit
+    spacing: RThemeValues.gap
     padding: 4 * RThemeValues.unit
 }

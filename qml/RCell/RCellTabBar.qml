@@ -27,7 +27,7 @@ RCell {
             focus: true
             model: root.model
             orientation: ListView.Horizontal
-            spacing: RThemeValues.unit
+            spacing: RThemeValues.gap
             boundsBehavior: Flickable.StopAtBounds
             keyNavigationEnabled: false
             // A key finds all of them.

@@ -54,7 +54,7 @@ RFlyoutHandle {
         anchors.right: buttons.left
         anchors.rightMargin: root.gap / 2
         anchors.verticalCenter: parent.verticalCenter
-        spacing: RThemeValues.unit
+        spacing: RThemeValues.gap
     }
     Row {
         id: buttons

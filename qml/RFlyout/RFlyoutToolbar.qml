@@ -46,7 +46,7 @@ RFlyoutToolbarBase {
             x: root.row && !root.mirrored ? root.gripSize : 0
             y: root.row ? 0 : root.gripSize
             columns: root.row ? Math.max(1, grid.children.length) : 1
-            spacing: RThemeValues.unit
+            spacing: RThemeValues.gap
         }
     }
 

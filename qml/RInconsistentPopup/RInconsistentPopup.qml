@@ -35,7 +35,7 @@ RPopupBase {
     y: root.openAbove || !root.roomBelow ? -root.height : root.openLeft || !root.parent ? 0 : root.parent.height
     width: root.parent ? root.parent.width : implicitWidth
     implicitWidth: 144 * RThemeValues.unit
-    implicitHeight: (root.horizontalText ? 1 : 2) * 33 * RThemeValues.unit + RThemeValues.unit
+    implicitHeight: (root.horizontalText ? 1 : 2) * (32 * RThemeValues.unit + RThemeValues.gap) + RThemeValues.gap
     padding: 0
     margins: 8 * RThemeValues.unit
     focus: true
@@ -75,7 +75,7 @@ RPopupBase {
             x: choices.spacing
             y: choices.spacing
             columns: root.horizontalText ? 2 : 1
-            spacing: RThemeValues.unit
+            spacing: RThemeValues.gap
             layoutDirection: root.parentMirrored ? Qt.RightToLeft : Qt.LeftToRight
 
             RButton {

@@ -58,6 +58,6 @@ Item {
         anchors.rightMargin: root.gap / 2
         anchors.verticalCenter: parent.verticalCenter
         z: 1
-        spacing: RThemeValues.unit
+        spacing: RThemeValues.gap
     }
 }

@@ -34,7 +34,7 @@ T.ScrollView {
 
     implicitWidth: 480 * RThemeValues.unit
     implicitHeight: row.implicitHeight + root.topPadding + root.bottomPadding
-    spacing: RThemeValues.unit
+    spacing: RThemeValues.gap
     leftPadding: root.arrowRoom
     rightPadding: root.arrowRoom
 

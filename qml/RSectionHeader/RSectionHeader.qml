@@ -62,7 +62,7 @@ Item {
             id: items
             anchors.right: parent.right
             height: parent.height
-            spacing: RThemeValues.unit
+            spacing: RThemeValues.gap
         }
     }
 }

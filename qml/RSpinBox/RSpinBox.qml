@@ -20,6 +20,7 @@ RSpinBoxBase {
         wheelEnabled: root.wheelEnabled
     }
 
+    /*! What the device or model says; 0 by default. */
     property alias value: edit.value
     /*! The range: `from` is 0 and `to` 100 by default. */
     property alias from: steps.from

@@ -14,6 +14,7 @@ RTextField {
     property alias fineStepSize: steps.fineStepSize
     property alias pageStepSize: steps.pageStepSize
     property alias defaultValue: steps.defaultValue
+    /*! Decimals that are shown, and that steps are rounded to; 2 by default, -1 for those that the steps need. */
     property alias decimals: steps.decimals
     property alias minimumText: steps.minimumText
     property alias snapToStep: steps.snapToStep

@@ -17,6 +17,8 @@ QtObject {
 
     /*! Pixels per density-independent unit. */
     readonly property real unit: typeof root.source.dp === "function" ? root.source.dp(1) : root.defaults.dp(1)
+    /*! Room between neighbours in a row in pixels: one density-independent unit, rounded so that none gets lost. */
+    readonly property real gap: Math.max(1, Math.round(root.unit))
     /*! Whether controls have a hover look. */
     readonly property bool hoverEnabled: root.source.hoverEnabled ?? root.defaults.hoverEnabled
     /*! How texts are rendered. */

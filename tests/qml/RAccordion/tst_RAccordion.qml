@@ -358,6 +358,20 @@ ThemedTestCase {
         compare(button.mapToItem(panel, 32, 0).x, 272)
     }
 
+    /*! The lines of a header stand close together in its middle, in whatever size they are. */
+    function test_twoLines() {
+        const panel = make(`RAccordion { width: 280; height: 200; animated: false
+            RAccordionItem { title: 'a'; subtitle: 'b' } }`)
+        settle(panel)
+        const header = sections(panel)[0].header
+        const [title, subtitle] = ["a", "b"].map(text => Array.from(header.children).find(child => child.text === text))
+        for (const size of [title.font.pixelSize, 16]) {
+            title.font.pixelSize = size
+            compare([title.height, subtitle.height, subtitle.y], [title.implicitHeight, subtitle.implicitHeight, title.y + title.height])
+            fuzzyCompare(title.y + subtitle.y + subtitle.height, header.height, 2)
+        }
+    }
+
     function test_goneInAHandler_data() {
         return [
             { tag: "itself", act: (panel, index) => panel.model.remove(index) },

@@ -71,6 +71,19 @@ ThemedTestCase {
         compare([leftOf(bar, "menu"), leftOf(bar, "a"), leftOf(bar, "mute"), leftOf(bar, "d")], [752, 656, 0, 680])
     }
 
+    /*! Sums of broken units are not exact; the room that a text gets is still enough for it. */
+    function test_textsAreWholeAtAnySize() {
+        const button = word => `RAppBarNavButton { objectName: '${word}'; text: '${word}'; iconKey: 'eq' }`
+        const bar = make(`RAppBar { width: 2000; ${button("Devices")} ${button("Amplifier")} ${button("Sections")} }`)
+        for (let tenths = 5; tenths <= 30; ++tenths) {
+            theme.setDpZoomFactor(tenths / 10)
+            waitForRendering(bar)
+            for (const word of ["Devices", "Amplifier", "Sections"])
+                verify(!findChild(bar, word).textControl.truncated, `${word} at ${tenths / 10}`)
+        }
+        theme.setDpZoomFactor(0)
+    }
+
     function test_textsThatChange() {
         const bar = makeBar("")
         bar.width = 550

@@ -127,6 +127,10 @@ ThemedTestCase {
         tryCompare(button, "selected", false, 1000, "the device did not take it")
         device.muted = true
         compare(button.selected, true, "the page's binding is alive")
+        button.settleTime = 2000
+        mouseClick(button)
+        wait(400)
+        compare(button.selected, false, "a slow device has its time")
     }
 
     function test_onlyClicksEdit_data() {
