@@ -127,8 +127,8 @@ RApplicationWindow {
         currentIndex: Math.min(root.currentPage, root.festivalPages.length)
         onChosen: index => root.show(index)
         onAlarmsAsked: {
-            Festival.alarmsOnly = true
             root.currentPage = 0
+            Festival.openAlarms()
         }
     }
     RViewContainer {

@@ -172,7 +172,10 @@ void RLabelBase::takeShortcut(QChar key)
         QQmlParserStatus *status = m_shortcut;
         status->classBegin();
         status->componentComplete();
-        connect(m_shortcut, &QQuickShortcut::activated, this, [this] { focusBuddy(Qt::ShortcutFocusReason); });
+        const auto focus = [this] { focusBuddy(Qt::ShortcutFocusReason); };
+        connect(m_shortcut, &QQuickShortcut::activated, this, focus);
+        // Labels with the same letter take turns.
+        connect(m_shortcut, &QQuickShortcut::activatedAmbiguously, this, focus);
     }
     m_shortcut->setSequence(key.isNull() ? QString() : QStringLiteral("Alt+") + key.toUpper());
 }

@@ -53,8 +53,7 @@ bool FieldGestures::handle(EditedText &text, QEvent &event)
     switch (event.type()) {
     case QEvent::ShortcutOverride: {
         const auto &key = static_cast<QKeyEvent &>(event);
-        // Of an unedited field they mean what the client has done last. Its editor would claim them all the same.
-        if (undoes(key) && !m_edit.isEdited()) {
+        if (isOfThePage(key)) {
             event.ignore();
             return true;
         }
@@ -91,8 +90,19 @@ bool FieldGestures::handle(EditedText &text, QEvent &event)
     }
 }
 
+/// What was entered is the page's to undo. Qt's editor would take back the typing, for the next loss of the focus to
+/// enter what is left: nothing at all in a field that was mixed.
+bool FieldGestures::isOfThePage(const QKeyEvent &key) const
+{
+    return undoes(key) && !m_edit.isEdited();
+}
+
 bool FieldGestures::onKey(EditedText &text, QKeyEvent &key)
 {
+    if (isOfThePage(key)) {
+        key.ignore();
+        return true;
+    }
     if (key.key() == Qt::Key_Menu || (key.key() == Qt::Key_F10 && (key.modifiers() & Qt::ShiftModifier))) {
         openFieldMenu(&text.item());
         return true;

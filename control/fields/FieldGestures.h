@@ -28,6 +28,7 @@ public:
     void onTimer(EditedText &text, const QTimerEvent &event);
 
 private:
+    bool isOfThePage(const QKeyEvent &key) const;
     bool onKey(EditedText &text, QKeyEvent &key);
     bool onTypingKey(EditedText &text, QKeyEvent &key);
     bool onDrag(EditedText &text, QDropEvent &drag);

@@ -211,6 +211,20 @@ void RFlyoutWindowBase::mousePressEvent(QMouseEvent *event)
     FloatingPane::mousePressEvent(event);
 }
 
+/// From what is no stop itself, such as the flyout that was just opened, Qt would go to the first stop of the window.
+bool RFlyoutWindowBase::walkOn(const QKeyEvent &event) const
+{
+    const bool isBack = event.key() == Qt::Key_Backtab;
+    QQuickItem *focused = window() ? window()->activeFocusItem() : nullptr;
+    if (!focused || (!isBack && (event.key() != Qt::Key_Tab || event.modifiers() != Qt::NoModifier)))
+        return false;
+    QQuickItem *next = focused->nextItemInFocusChain(!isBack);
+    if (!next || next == focused)
+        return false;
+    next->forceActiveFocus(isBack ? Qt::BacktabFocusReason : Qt::TabFocusReason);
+    return true;
+}
+
 void RFlyoutWindowBase::keyPressEvent(QKeyEvent *event)
 {
     const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
@@ -224,7 +238,7 @@ void RFlyoutWindowBase::keyPressEvent(QKeyEvent *event)
     } else if ((event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) && modifiers == Qt::AltModifier) {
         event->accept();
         setCollapsed(event->key() == Qt::Key_Up);
-    } else if (moveByKey(*event)) {
+    } else if (moveByKey(*event) || walkOn(*event)) {
         event->accept();
     } else {
         FloatingPane::keyPressEvent(event);

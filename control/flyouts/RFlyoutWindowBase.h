@@ -80,6 +80,7 @@ private:
     void makeContent();
     void takeFocus(Qt::FocusReason reason);
     void giveFocusBack();
+    bool walkOn(const QKeyEvent &event) const;
 
     QString m_group;
     QPointer<QQuickItem> m_formerFocus; ///< Gets the focus back.

@@ -25,6 +25,7 @@ DynamicsTile {
     RAGC {
         id: panel
         anchors.fill: parent
+        settleTime: root.settleTime
         calculatorActive: root.active
         agcBypassed: root.bypassed
         levelVisible: true

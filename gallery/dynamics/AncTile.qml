@@ -27,6 +27,7 @@ DynamicsTile {
     RANC {
         id: panel
         anchors.fill: parent
+        settleTime: root.settleTime
         calculatorActive: root.active
         ancBypassed: root.bypassed
         levelVisible: true

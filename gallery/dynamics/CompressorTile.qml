@@ -22,6 +22,7 @@ DynamicsTile {
     RCompressor {
         id: panel
         anchors.fill: parent
+        settleTime: root.settleTime
         calculatorActive: root.active
         compressorBypassed: root.bypassed
         levelVisible: true

@@ -22,6 +22,7 @@ DynamicsTile {
     RDucker {
         id: panel
         anchors.fill: parent
+        settleTime: root.settleTime
         calculatorActive: root.active
         duckerBypassed: root.bypassed
         levelVisible: true

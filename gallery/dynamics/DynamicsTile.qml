@@ -15,6 +15,9 @@ Section {
     property real gainRange: 20
     property alias attack: tap.attack
     property alias release: tap.release
+    /*! How long, in ms, an edit is shown whatever the tile says: no device answers late here, but an undone edit is to
+        be seen soon. */
+    readonly property int settleTime: 50
     property string inputTitle: qsTr("In")
     property var parameters: []
     /*! Where edits can be undone; null when they cannot. */

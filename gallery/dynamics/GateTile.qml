@@ -22,6 +22,7 @@ DynamicsTile {
     RGate {
         id: panel
         anchors.fill: parent
+        settleTime: root.settleTime
         calculatorActive: root.active
         gateBypassed: root.bypassed
         levelVisible: true

@@ -18,6 +18,7 @@ DynamicsTile {
     RLimiter {
         id: panel
         anchors.fill: parent
+        settleTime: root.settleTime
         calculatorActive: root.active
         limiterBypassed: root.bypassed
         levelVisible: true

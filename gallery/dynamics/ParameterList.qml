@@ -1,14 +1,14 @@
 import QtQuick
 import TambleClient.Control 1.0
 
-/*! Names of parameters with their values, two pairs a line. */
+/*! Names of parameters with their values, two pairs a line where there is room. */
 Grid {
     id: root
 
     /*! Pairs of a name and a text. */
     required property var parameters
 
-    columns: 2
+    columns: root.width < theme.dp(240) ? 1 : 2
     columnSpacing: theme.dp(16)
     rowSpacing: theme.dp(4)
 
@@ -19,9 +19,9 @@ Grid {
         RText {
             required property var modelData
 
-            width: (root.width - root.columnSpacing) / 2
+            width: (root.width - (root.columns - 1) * root.columnSpacing) / root.columns
             text: qsTr("%1 %2").arg(modelData[0]).arg(modelData[1])
-            elide: Text.ElideRight
+            wrapMode: Text.Wrap
         }
     }
     // qmllint enable unqualified

@@ -21,60 +21,59 @@ Item {
     readonly property RListView list: ListView.view as RListView
     readonly property color color: !root.list ? "transparent" : root.selected ? root.list.ssForegroundItemSelected : root.hovered ? root.list.ssForegroundItemHover : root.list.ssColor
 
-    readonly property real stateWidth: theme.dp(104)
-    readonly property real textWidth: Math.max(0, root.width - theme.dp(96) - root.stateWidth)
-
     width: root.list ? root.list.width : 0
     height: theme.dp(48)
     Accessible.role: Accessible.ListItem
     Accessible.name: qsTr("%1, %2, %3").arg(root.name).arg(root.location).arg(state.text)
     Accessible.selected: root.selected
 
-    // Places that nothing has to be measured for: each text is laid out once.
     RIcon {
-        id: picture
-        x: theme.dp(16)
-        y: (root.height - picture.height) / 2
+        anchors.left: parent.left
+        anchors.leftMargin: theme.dp(16)
+        anchors.verticalCenter: parent.verticalCenter
         key: root.kind
         ssIconForeground: root.color
         opacity: root.online ? 1 : 0.5
     }
-    RText {
-        x: theme.dp(56)
-        width: root.textWidth
-        height: root.height / 2
-        verticalAlignment: Text.AlignBottom
-        text: root.name
-        color: root.color
-        elide: Text.ElideRight
-        font.bold: true
-    }
-    RText {
-        x: theme.dp(56)
-        y: root.height / 2
-        width: root.textWidth
-        height: root.height / 2
-        text: qsTr("%1  ·  %2").arg(root.location).arg(root.ipAddress)
-        color: root.color
-        elide: Text.ElideRight
-        font.pixelSize: theme.fontSizeS
+    Column {
+        anchors.left: parent.left
+        anchors.leftMargin: theme.dp(56)
+        anchors.right: state.left
+        anchors.rightMargin: theme.dp(8)
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: theme.dp(2)
+
+        RText {
+            width: parent.width
+            text: root.name
+            color: root.color
+            elide: Text.ElideRight
+            horizontalAlignment: Text.AlignLeft
+            font.bold: true
+        }
+        RText {
+            width: parent.width
+            text: qsTr("%1  ·  %2").arg(root.location).arg(root.ipAddress)
+            color: root.color
+            elide: Text.ElideRight
+            horizontalAlignment: Text.AlignLeft
+            font.pixelSize: theme.fontSizeS
+        }
     }
     RText {
         id: state
-        x: theme.dp(56) + root.textWidth
-        width: root.stateWidth
-        height: root.height
-        horizontalAlignment: Text.AlignRight
-        verticalAlignment: Text.AlignVCenter
+        anchors.right: mark.left
+        anchors.rightMargin: theme.dp(8)
+        anchors.verticalCenter: parent.verticalCenter
         text: root.alarm || qsTr("%1 °C").arg(root.temperature.toFixed(1))
         color: root.color
-        elide: Text.ElideRight
         font.bold: root.alarm.length > 0
     }
     RIcon {
         id: mark
-        x: root.width - theme.dp(16) - mark.width
-        y: (root.height - mark.height) / 2
+        anchors.right: parent.right
+        anchors.rightMargin: theme.dp(16)
+        anchors.verticalCenter: parent.verticalCenter
         sizeClass: "XS"
         key: root.alarm.length === 0 ? "check" : root.online ? "temperature" : "offline"
         ssIconForeground: root.color

@@ -20,12 +20,24 @@ FocusScope {
             devices.currentIndex = chosen[0]
     }
 
+    /*! Shows a device with an alarm in detail, unless one is shown already. */
+    function showAlarm() {
+        const isShown = Festival.chosenDevices.some(device => rows.indexOf("device", device) >= 0)
+        if (!isShown && rows.count > 0)
+            root.chosen([rows.get(0).device])
+        root.showChosen()
+    }
+
     Connections {
         target: Festival
 
         function onDevicesAsked() {
             search.clear()
             root.showChosen()
+        }
+        function onAlarmsAsked() {
+            search.clear()
+            root.showAlarm()
         }
     }
     RSortFilterProxyModel {

@@ -24,6 +24,7 @@ Item {
         width: theme.dp(72)
         height: root.height
         text: root.time
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
     }
     RIcon {
@@ -43,6 +44,7 @@ Item {
         text: root.device
         font.bold: true
         elide: Text.ElideRight
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
     }
     RText {
@@ -52,6 +54,7 @@ Item {
         height: root.height
         text: root.narrow ? qsTr("%1 %2").arg(root.device).arg(root.text) : root.text
         elide: Text.ElideRight
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
     }
 }

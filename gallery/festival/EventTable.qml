@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Templates as T
 import Gallery
 import TambleClient.Control 1.0
 
@@ -60,9 +61,9 @@ FocusScope {
         }
         RButton {
             width: theme.dp(80)
-            text: qsTr("Clear")
+            text: qsTr("Clear …")
             enabled: rows.count > 0
-            onClicked: GalleryInstallation.log.clear()
+            onClicked: question.open()
         }
     }
     RListView {
@@ -78,5 +79,13 @@ FocusScope {
         selectionMode: RListView.None
 
         delegate: EventRow {}
+    }
+    RMessageBox {
+        id: question
+        title: qsTr("Clear the log?")
+        text: qsTr("All events are removed, also those that are not shown. This cannot be undone.")
+        icon: RMessageBox.Warning
+        standardButtons: T.Dialog.Yes | T.Dialog.Cancel
+        onAccepted: GalleryInstallation.log.clear()
     }
 }

@@ -21,25 +21,27 @@ Column {
     Repeater {
         model: root.keys
 
-        Item {
+        Row {
             id: entry
 
             required property var modelData
 
-            width: root.width
-            height: theme.dp(24)
+            bottomPadding: theme.dp(8)
+            spacing: theme.dp(8)
 
             RText {
-                width: entry.width / 2 - theme.dp(8)
+                id: keys
+                width: Math.round(root.width * 0.4)
                 text: entry.modelData.keys
-                elide: Text.ElideRight
+                wrapMode: Text.Wrap
+                horizontalAlignment: Text.AlignLeft
                 font.bold: true
             }
             RText {
-                x: entry.width / 2
-                width: entry.width - x
+                width: root.width - keys.width - entry.spacing
                 text: entry.modelData.text
-                elide: Text.ElideRight
+                wrapMode: Text.Wrap
+                horizontalAlignment: Text.AlignLeft
             }
         }
     }

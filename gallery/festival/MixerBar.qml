@@ -14,6 +14,11 @@ Flow {
 
     spacing: theme.dp(16)
 
+    DeviceSelection {
+        id: device
+        devices: [root.mixer]
+        observed: false
+    }
     RButtonRow {
         // qmllint disable unqualified
         Repeater {
@@ -45,9 +50,12 @@ Flow {
         }
         RButton {
             width: theme.dp(80)
-            enabled: preset.currentIndex >= 0
+            enabled: preset.currentIndex >= 0 && device.online
             text: qsTr("Recall")
-            onClicked: GalleryInstallation.presets.recall(preset.currentIndex)
+            onClicked: question.recall(preset.currentIndex)
+        }
+        RecallQuestion {
+            id: question
         }
     }
     RButton {
@@ -55,5 +63,12 @@ Flow {
         visible: root.isFirst
         text: qsTr("Main equaliser")
         onClicked: root.equalizerAsked()
+    }
+    RText {
+        height: theme.dp(32)
+        visible: !device.online
+        verticalAlignment: Text.AlignVCenter
+        text: qsTr("offline, as it was last")
+        font.bold: true
     }
 }

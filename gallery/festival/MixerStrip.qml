@@ -16,8 +16,14 @@ Item {
 
     readonly property int countedSource: root.source % GalleryAudio.channels
     readonly property ChannelLevel level: GalleryAudio.levels[root.countedSource]
-    readonly property real gain: gainField.shown ?? -80
-    readonly property bool muted: Boolean(muteField.shown)
+    readonly property real gain: root.standing(gainField) ?? -80
+    readonly property bool muted: Boolean(root.standing(muteField))
+    readonly property bool failed: gainField.errorText.length > 0 || muteField.errorText.length > 0
+
+    /*! What is asked for while that waits, and what the mixer really has once the request has failed. */
+    function standing(field: DeviceField): var {
+        return field.errorText.length > 0 ? field.value : field.shown
+    }
 
     implicitWidth: theme.dp(66)
     Accessible.role: Accessible.Grouping
@@ -37,6 +43,15 @@ Item {
         id: muteField
         target: root.target
         field: root.channel + "Mute"
+    }
+    // Long enough to be read; the log keeps the reason.
+    Timer {
+        interval: 4000
+        running: root.failed
+        onTriggered: {
+            gainField.dismiss()
+            muteField.dismiss()
+        }
     }
     Surface {
         anchors.fill: parent
@@ -61,7 +76,7 @@ Item {
         y: name.height
         width: theme.dp(8)
         height: root.height - y - theme.dp(80)
-        value: root.silenced || root.muted || !root.level ? -120 : Math.max(-120, root.level.peak + root.gain)
+        value: root.silenced || root.muted || !root.level || !root.target.online ? -120 : Math.max(-120, root.level.peak + root.gain)
         // The same scale as the fader's beside it.
         valueMin: fader.from
         valueMax: fader.to
@@ -72,7 +87,7 @@ Item {
     }
     RFader {
         id: fader
-        anchors.right: parent.right
+        x: root.width - width
         y: meter.y
         height: meter.height
         label: name.text
@@ -91,8 +106,8 @@ Item {
         y: meter.y + meter.height
         width: root.width
         height: theme.dp(32)
-        text: gainField.errorText.length > 0 ? qsTr("refused") : fader.converter.toText(root.gain)
-        font.bold: gainField.errorText.length > 0
+        text: root.failed ? qsTr("failed") : fader.converter.toText(root.gain)
+        font.bold: root.failed
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter

@@ -20,7 +20,7 @@ Column {
         textRole: "name"
         label: qsTr("Presets")
         placeholderText: qsTr("No preset is stored")
-        onActivated: index => root.presets.recall(index)
+        onActivated: index => recallQuestion.recall(index)
     }
     Flow {
         width: root.width
@@ -30,7 +30,7 @@ Column {
             width: theme.dp(96)
             enabled: root.chosen >= 0
             text: qsTr("Recall")
-            onClicked: root.presets.recall(root.chosen)
+            onClicked: recallQuestion.recall(root.chosen)
         }
         RButton {
             width: theme.dp(96)
@@ -70,6 +70,9 @@ Column {
                 }
             }
         }
+    }
+    RecallQuestion {
+        id: recallQuestion
     }
     RMessageBox {
         id: question

@@ -12,6 +12,10 @@ FocusScope {
     /*! All outputs fit in where there is room. */
     readonly property real cellSize: Math.max(theme.dp(56), Math.floor((root.width - root.nameWidth) / 16) - theme.dp(1))
 
+    // Like the plan and the plots: Qt's table keeps its columns where they are, and only their names would change sides.
+    LayoutMirroring.enabled: false
+    LayoutMirroring.childrenInherit: true
+
     RoutingModel {
         id: routes
     }

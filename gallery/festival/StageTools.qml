@@ -96,7 +96,7 @@ Flow {
     RButton {
         RStyleSet.name: Festival.showRuns ? "red" : ""
         width: theme.dp(112)
-        text: Festival.showRuns ? qsTr("SHOW RUNS") : qsTr("Show")
+        text: Festival.showRuns ? qsTr("SHOW RUNS") : qsTr("Show mode")
         selected: Festival.showRuns
         onClicked: Festival.showRuns = !Festival.showRuns
     }

@@ -76,8 +76,7 @@ void EventLog::notePresence(int device)
 
 void EventLog::noteRefusal(int device, int field, const QString &reason)
 {
-    const QString title = fieldTitle(deviceFields(m_client.kind(device)).at(field).name);
-    add(device, QStringLiteral("refusal"), QStringLiteral("%1: %2").arg(title, reason));
+    add(device, QStringLiteral("refusal"), QStringLiteral("%1: %2").arg(m_client.title(device, field), reason));
 }
 
 void EventLog::noteChange(int device, int field)
@@ -86,7 +85,8 @@ void EventLog::noteChange(int device, int field)
     if (spec.kind != ValueKind::Reading) {
         // One of the two that hold the same time is enough.
         if (spec.storedAs < 0)
-            add(device, QStringLiteral("network"), tr("%1 changed by another client").arg(fieldTitle(spec.name)));
+            add(device, QStringLiteral("network"),
+                tr("%1 changed by another client").arg(m_client.title(device, field)));
         return;
     }
     const QString alarm = m_client.alarm(device);

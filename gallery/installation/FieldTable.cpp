@@ -117,5 +117,7 @@ QString fieldTitle(const QString &name)
                                                              "(?=[0-9])"));
     QString title = name.split(wordStart).join(u' ').toLower();
     title[0] = title[0].toUpper();
-    return title;
+    static const QRegularExpression initials(QStringLiteral("^(Ip|Dhcp|Pin)\\b"));
+    const QString abbreviation = initials.match(title).captured();
+    return title.replace(0, abbreviation.size(), abbreviation.toUpper());
 }

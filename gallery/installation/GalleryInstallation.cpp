@@ -134,7 +134,9 @@ void GalleryInstallation::timerEvent(QTimerEvent *event)
 QString GalleryInstallation::titleOf(const QList<FieldRequest> &requests) const
 {
     const auto [device, field] = requests.constFirst().place;
-    const QString title = fieldTitle(deviceFields(m_client.kind(device)).at(field).name);
+    // Several devices have names of their own for a channel.
+    const QString title = requests.size() == 1 ? m_client.title(device, field)
+                                               : fieldTitle(deviceFields(m_client.kind(device)).at(field).name);
     const QString devices =
         requests.size() == 1 ? m_client.name(device) : tr("%n devices", nullptr, int(requests.size()));
     return QStringLiteral("%1: %2").arg(devices, title);

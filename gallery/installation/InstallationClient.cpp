@@ -2,6 +2,8 @@
 
 #include "InstalledDevices.h"
 
+#include <QtCore/QRegularExpression>
+
 #include <algorithm>
 #include <utility>
 
@@ -31,6 +33,17 @@ QString InstallationClient::alarm(int device) const
         return tr("Offline");
     const double temperature = said(device, fieldIndex(u"temperature")).toDouble();
     return temperature < hot ? QString() : tr("%1 °C").arg(temperature, 0, 'f', 1);
+}
+
+QString InstallationClient::title(int device, int field) const
+{
+    static const QRegularExpression ofChannel(QStringLiteral("^((?:in|out)put[0-9]+)(?!Name)([A-Z].*)"));
+    const QString &name = deviceFields(kind(device)).at(field).name;
+    const auto parts = ofChannel.match(name);
+    const int nameField = parts.hasMatch() ? fieldIndex(parts.captured(1) + QStringLiteral("Name"), kind(device)) : -1;
+    const QString channel = nameField < 0 ? QString() : said(device, nameField).toString();
+    return channel.isEmpty() ? fieldTitle(name)
+                             : QStringLiteral("%1 %2").arg(channel, fieldTitle(parts.captured(2)).toLower());
 }
 
 void InstallationClient::request(int device, int field, const QVariant &value)

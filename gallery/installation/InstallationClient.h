@@ -23,6 +23,8 @@ public:
     /// What is wrong with a device, for people: that it is off, or too hot. Empty when nothing is.
     QString alarm(int device) const;
     QString name(int device) const { return said(device, fieldIndex(u"name")).toString(); }
+    /// A field for people, a channel's by the name of the channel: "Kick gain".
+    QString title(int device, int field) const;
     /// What the device said last.
     const QVariant &said(int device, int field) const { return state(device, field).said; }
     /// What a field is to show: the value asked for while that waits or has failed, else what the device said last.

@@ -27,7 +27,11 @@ PresetListModel::PresetListModel(GalleryInstallation &installation, QObject *par
 {
     for (const QString &name : {tr("Sound check"), tr("Opening act"), tr("Main act"), tr("Interval")})
         store(name);
-    // In the interval nothing but the playback is heard.
+    // The opening act is quieter; in the interval nothing but the playback is heard.
+    for (FieldRequest &request : m_presets[1].values) {
+        if (deviceFields(DeviceKind::Mixer).at(request.place.field).kind == ValueKind::Gain)
+            request.value = request.value.toDouble() - 6.0;
+    }
     for (FieldRequest &request : m_presets.last().values) {
         const QString &field = deviceFields(DeviceKind::Mixer).at(request.place.field).name;
         if (field.endsWith(u"Mute"))

@@ -48,7 +48,7 @@ QVariant RoutingModel::data(const QModelIndex &index, int role) const
     const FieldPlace place = crosspoint(index.row(), index.column());
     switch (role) {
     case RoutedRole:
-        return client.shown(place);
+        return client.error(place).isEmpty() ? client.shown(place) : client.said(place);
     case ConfirmedRole:
         return client.isConfirmed(place);
     case RefusalRole:

@@ -7,8 +7,9 @@
 
 class GalleryInstallation;
 
-/// The crosspoints of the matrix, inputs in rows and outputs in columns: roles "routed" (as shown), "confirmed" and
-/// "refusal" (why the last request failed). The names of inputs and outputs are the headers.
+/// The crosspoints of the matrix, inputs in rows and outputs in columns: roles "routed" (as asked for while that waits,
+/// else as it is), "confirmed" and "refusal" (why the last request failed). The names of inputs and outputs are the
+/// headers.
 class RoutingModel : public QAbstractTableModel, public QQmlParserStatus
 {
     Q_OBJECT

@@ -55,6 +55,13 @@ void SimulatedNetwork::arrive(int request, int device, int field, const QVariant
 {
     if (!m_devices.isOnline(device))
         return;
+    // Of what is asked of a field, the last counts, in whatever order it arrives.
+    int &newest = m_newestRequest[{device, field}];
+    if (request < newest) {
+        answer(request, device, field, {});
+        return;
+    }
+    newest = request;
     if (m_random.chance(m_behaviour.refusals)) {
         answer(request, device, field, QCoreApplication::translate("SimulatedNetwork", "The device is busy"));
         return;

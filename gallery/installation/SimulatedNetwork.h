@@ -8,6 +8,8 @@
 #include <QtCore/QString>
 
 #include <functional>
+#include <map>
+#include <utility>
 #include <variant>
 
 class InstalledDevices;
@@ -76,5 +78,6 @@ private:
     NetworkBehaviour m_behaviour;
     std::function<void(const NetworkMessage &)> m_receiver;
     std::function<void(int)> m_deviceWatcher;
+    std::map<std::pair<int, int>, int> m_newestRequest; ///< of a device and its field
     int m_revision = 0;
 };

@@ -47,7 +47,7 @@ ColumnLayout {
         Layout.fillWidth: true
         target: root.target
         field: root.channel + "Name"
-        title: qsTr("&Name")
+        title: qsTr("Na&me")
     }
     SourceLine {
         Layout.fillWidth: true
@@ -59,7 +59,7 @@ ColumnLayout {
         Layout.fillWidth: true
         target: root.target
         field: root.channel + "Gain"
-        title: qsTr("&Gain")
+        title: qsTr("G&ain")
         suffix: qsTr("dB")
         minimumText: "\u2212\u221e"
         stepSize: 0.5
@@ -69,7 +69,7 @@ ColumnLayout {
         Layout.fillWidth: true
         target: root.target
         field: root.channel + "DelayMs"
-        title: qsTr("&Delay")
+        title: qsTr("Dela&y")
         unit: qsTr("ms")
         stepSize: 0.1
     }
@@ -77,7 +77,7 @@ ColumnLayout {
         Layout.fillWidth: true
         target: root.target
         field: root.channel + "DelaySamples"
-        title: qsTr("&Samples")
+        title: qsTr("Sampl&es")
         stepSize: 1
         pageStepSize: 48
     }
@@ -85,6 +85,6 @@ ColumnLayout {
         Layout.fillWidth: true
         target: root.target
         field: root.channel + "Mute"
-        title: qsTr("&Mute")
+        title: qsTr("Mu&te")
     }
 }

@@ -12,7 +12,7 @@ QtObject {
     property bool showsDetails: false
     /*! Whether that page lists only devices with an alarm. */
     property bool alarmsOnly: false
-    /*! Whether the audience is there, so that nothing on the plan may be moved by accident. */
+    /*! Whether the audience is there, so that nothing on the plan may be moved and no preset recalled by accident. */
     property bool showRuns: false
     /*! The filters of the main mix, an `EqualizerStore`. A file that is used here cannot use this one, so the window
         makes it. */
@@ -31,6 +31,8 @@ QtObject {
     signal themeChosen(string word)
     /*! The page of devices is to be shown. */
     signal devicesAsked()
+    /*! The devices with an alarm are to be shown, on the page of devices. */
+    signal alarmsAsked()
     /*! A page of the catalogue is to be shown. */
     signal catalogueAsked(int page)
 
@@ -42,5 +44,12 @@ QtObject {
         root.chosenDevices = [device]
         root.showsDetails = true
         root.devicesAsked()
+    }
+
+    /*! Lists the devices with an alarm, or all when none has one, whatever the page of devices shows. */
+    function openAlarms() {
+        root.alarmsOnly = GalleryInstallation.allDevices.alarms > 0
+        root.showsDetails = false
+        root.alarmsAsked()
     }
 }

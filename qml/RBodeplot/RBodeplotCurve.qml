@@ -45,6 +45,16 @@ RBodeplotCurveTemplate {
         return handle !== null
     }
 
+    /*! Gives the keyboard focus to the next handle by frequency, or behind the last to what follows the curve. */
+    // From a handle, which is no stop itself, Qt would go on from the nearest ancestor that is one, such as a page that
+    // scrolls, and never get out.
+    function walkPoints(handle: RBodeplotFilterPoint, forwards: bool) {
+        if (root.focusPoint(root.nextFilterPoint(handle.index, forwards)))
+            return
+        const next = handle.nextItemInFocusChain(forwards)
+        next.forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
+    }
+
     anchors.fill: parent
     xMinimum: root.fromFrame("xMinimum", 20)
     xMaximum: root.fromFrame("xMaximum", 20000)
@@ -165,8 +175,8 @@ RBodeplotCurveTemplate {
                 handle.close()
             }
 
-            Keys.onTabPressed: event => event.accepted = root.focusPoint(root.nextFilterPoint(handle.index, true))
-            Keys.onBacktabPressed: event => event.accepted = root.focusPoint(root.nextFilterPoint(handle.index, false))
+            Keys.onTabPressed: root.walkPoints(handle, true)
+            Keys.onBacktabPressed: root.walkPoints(handle, false)
         }
         // qmllint enable unqualified
     }

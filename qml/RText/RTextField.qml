@@ -1,7 +1,10 @@
 import QtQuick
 import TambleClient.Control 1.0
 
-/*! One line of text that a device stores. What is typed is marked until it is entered. */
+/*! One line of text that a device stores. What is typed is marked until it is entered.
+
+    Keys: Enter enters the text, Esc takes back what was typed. Undo and Redo are the field's while something is typed,
+    else the page's. */
 RTextFieldBase {
     id: root
 

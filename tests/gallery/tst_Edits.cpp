@@ -60,6 +60,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("title");
         QTest::newRow("input12DelayMs") << QStringLiteral("Input 12 delay ms");
         QTest::newRow("route1x16") << QStringLiteral("Route 1 x 16");
+        QTest::newRow("ipAddress") << QStringLiteral("IP address");
         QTest::newRow("mute") << QStringLiteral("Mute");
     }
     void fieldTitles()
@@ -117,7 +118,7 @@ private Q_SLOTS:
         show.request({{mixerGain, -1.0}});
         show.undo();
         QCOMPARE(show.really(mixerGain), before);
-        QVERIFY(show.logged().contains(QStringLiteral("FOH mixer Input 3 gain: The value must be from -80 to 18")));
+        QVERIFY(show.logged().contains(QStringLiteral("FOH mixer Hats gain: The value must be from -80 to 18")));
     }
 
     void objectsKeepTheirOwnStates()
@@ -166,10 +167,9 @@ private Q_SLOTS:
         show.installation.advance(1000);
         show.installation.dropOut(2, 1000);
         show.installation.advance(2000);
-        QCOMPARE(show.logged(),
-                 QStringList({"Amplifier 3 is back on the network", "Amplifier 3 has left the network",
-                              "FOH mixer Input 1 delay samples changed by another client",
-                              " Undone: Amplifier 5: Output 2 delay ms", " Amplifier 5: Output 2 delay ms"}));
+        QCOMPARE(show.logged(), QStringList({"Amplifier 3 is back on the network", "Amplifier 3 has left the network",
+                                             "FOH mixer Kick delay samples changed by another client",
+                                             " Undone: Amplifier 5: Way 2 delay ms", " Amplifier 5: Way 2 delay ms"}));
     }
 
     void presets()
@@ -214,6 +214,12 @@ private Q_SLOTS:
         show.installation.request(
             {{{GalleryInstallation::matrix(), fieldIndex(u"output16Name", DeviceKind::Matrix)}, "Stream"}});
         QCOMPARE(model.outputs().last(), QStringLiteral("Stream"));
+        // What has failed is not shown as if it were so.
+        show.installation.dropOut(GalleryInstallation::matrix(), 1000);
+        show.installation.advance(100);
+        model.route(3, 15, true);
+        QVERIFY(!model.index(3, 15).data(RoutingModel::RoutedRole).toBool());
+        QVERIFY(!model.index(3, 15).data(RoutingModel::RefusalRole).toString().isEmpty());
     }
 
     void firmware()

@@ -178,6 +178,19 @@ private Q_SLOTS:
         QVERIFY(installation.client.error(2, nameField).isEmpty());
     }
 
+    // A fader that is dragged sends faster than messages take to overtake each other.
+    void lastRequestCounts()
+    {
+        for (unsigned seed = 0; seed < 20; ++seed) {
+            Installation installation({}, seed);
+            for (const double gain : {-4.0, -3.0, -2.0, -1.0})
+                installation.client.request(0, gainField, gain);
+            installation.queue.advance(200);
+            QCOMPARE(installation.devices.record(0).read(gainField), QVariant(-1.0));
+            QVERIFY(installation.client.isConfirmed(0, gainField));
+        }
+    }
+
     void refusedValueStaysWithItsReason()
     {
         Installation installation;

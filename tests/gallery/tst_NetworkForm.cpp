@@ -189,9 +189,9 @@ private Q_SLOTS:
             QString typed;
         } entries[]{
             {"So&urce", QStringLiteral("input1Source"), source.id, source.name},
-            {"&Gain", QStringLiteral("input1Gain"), -12.5, QStringLiteral("-12,5")},
-            {"&Delay", QStringLiteral("input1DelayMs"), 10.0, QStringLiteral("10")},
-            {"&Samples", QStringLiteral("input1DelaySamples"), 96, QStringLiteral("96")},
+            {"G&ain", QStringLiteral("input1Gain"), -12.5, QStringLiteral("-12,5")},
+            {"Dela&y", QStringLiteral("input1DelayMs"), 10.0, QStringLiteral("10")},
+            {"Sampl&es", QStringLiteral("input1DelaySamples"), 96, QStringLiteral("96")},
         };
         QFETCH(unsigned, seed);
         FormWindow window("ChannelForm", seed);
@@ -252,7 +252,7 @@ private Q_SLOTS:
         for (const int device : {2, 7})
             window.installation.request({{{device, gain}, -std::numeric_limits<double>::infinity()}});
         window.installation.advance(100);
-        window.focus(QStringLiteral("&Gain"));
+        window.focus(QStringLiteral("G&ain"));
         window.press(Qt::Key_Up);
         window.installation.advance(100);
         QCOMPARE(window.really(7, u"input1Gain"), QVariant(-79.5));
@@ -268,7 +268,7 @@ private Q_SLOTS:
         window.page->setProperty("devices", QVariantList{0, 1});
         window.installation.request({{{1, fieldIndex(u"input1Gain")}, 6.0}});
         window.installation.advance(100);
-        window.focus(QStringLiteral("&Gain"));
+        window.focus(QStringLiteral("G&ain"));
         window.press(Qt::Key_Up);
         window.press(Qt::Key_PageDown);
         window.installation.advance(100);
@@ -280,11 +280,11 @@ private Q_SLOTS:
     {
         FormWindow window("ChannelForm");
         QVERIFY(window.isReady());
-        window.focus(QStringLiteral("&Delay"));
+        window.focus(QStringLiteral("Dela&y"));
         enter(window, QStringLiteral("10,01"));
         window.installation.advance(100);
         QCOMPARE(window.really(0, u"input1DelaySamples"), QVariant(480));
-        window.focus(QStringLiteral("&Samples"));
+        window.focus(QStringLiteral("Sampl&es"));
         window.press(Qt::Key_PageUp);
         window.installation.advance(100);
         QCOMPARE(window.really(0, u"input1DelayMs"), QVariant(11.0));

@@ -264,6 +264,10 @@ ThemedTestCase {
         const page = makePage("RFlyoutWindow { objectName: 'flyout'; Column { Repeater { model: 20; RButton { objectName: 'button' + index } } } }")
         const flyout = findChild(page, "flyout")
         flyout.open()
+        keyClick(Qt.Key_Tab)
+        verify(findChild(page, "button0").activeFocus, "not the page's first")
+        keyClick(Qt.Key_Backtab)
+        verify(findChild(page, "opener").activeFocus)
         const last = findChild(page, "button19")
         last.forceActiveFocus(Qt.TabFocusReason)
         const bottom = last.mapToItem(flyout.contentItem, 0, last.height).y

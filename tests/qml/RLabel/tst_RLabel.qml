@@ -95,6 +95,17 @@ ThemedTestCase {
         verify(form.other.activeFocus, "a hidden caption has no key")
     }
 
+    function test_sameKeyTakesTurns() {
+        const row = make("Column { id: row; property var fields: [first, second]\n" +
+            "RLabel { text: '&Gain'; buddy: first } TextInput { id: first }\n" +
+            "RLabel { text: '&Gateway'; buddy: second } TextInput { id: second } }")
+        const met = [0, 1, 2].map(() => {
+            keyClick(Qt.Key_G, Qt.AltModifier)
+            return row.fields.findIndex(field => field.activeFocus)
+        })
+        compare(met, met[0] === 0 ? [0, 1, 0] : [1, 0, 1])
+    }
+
     function test_ownTextIsTheName() {
         const row = make("Column { id: row; property Item buddy: button\n" +
             "RLabel { text: 'Channel 1'; buddy: row.buddy } RButton { id: button; text: 'Mute' } }")

@@ -173,22 +173,19 @@ ThemedTestCase {
         compare(passed, 1)
     }
 
-    function test_undoOfAnUneditedFieldIsTheClients_data() {
+    function test_undoOfWhatWasEntered_data() {
         return [
-            { tag: "unedited", keys: [], undone: 1, text: "one" },
-            { tag: "typed", keys: [Qt.Key_X], undone: 0, text: "one" },
-            { tag: "entered", keys: [Qt.Key_X, Qt.Key_Return], undone: 1, text: "x" },
+            { tag: "untouched", type: () => {}, undone: 1, text: "Hall" },
+            { tag: "typed", type: () => type("Bar"), undone: 0, text: "Hall" },
+            { tag: "entered", type: () => { type("Bar"); keyClick(Qt.Key_Return) }, undone: 1, text: "Bar" },
+            { tag: "entered into a mixed one", body: "consistent: false", type: () => { type("Bar"); keyClick(Qt.Key_Return) }, undone: 1, text: "Bar" },
         ]
     }
-    function test_undoOfAnUneditedFieldIsTheClients(data) {
-        const page = make(`Item { id: page; property int undone: 0; property alias field: field
-            Shortcut { sequence: "Ctrl+Z"; onActivated: ++page.undone }
-            RTextField { id: field; text: "one" } }`)
-        page.field.forceActiveFocus(Qt.TabFocusReason)
-        for (const key of data.keys)
-            keyClick(key)
+    function test_undoOfWhatWasEntered(data) {
+        const page = makePage((data.body ?? "") + "\nproperty int undone: 0\nShortcut { sequence: \"Ctrl+Z\"; onActivated: inner.undone += 1 }")
+        data.type()
         keyClick(Qt.Key_Z, Qt.ControlModifier)
-        compare([page.undone, page.field.text], [data.undone, data.text])
+        compare([page.field.undone, page.field.text, page.field.edited], [data.undone, data.text, false])
     }
 
     function test_plainField() {
