@@ -16,11 +16,11 @@ struct FieldPage
         NetworkBehaviour orderly;
         orderly.jitter = 0;
         installation.setBehaviour(orderly);
+        selection.classBegin();
+        field.classBegin();
         selection.setDevices(devices);
         field.setTarget(&selection);
         field.setField(name);
-        selection.componentComplete();
-        field.componentComplete();
     }
 
     GalleryInstallation installation;
