@@ -25,7 +25,7 @@ ThemedTestCase {
         return page
     }
 
-    function editTo(edit: RPendingValue, value: var) {
+    function editTo(edit: var, value: var) {
         edit.show(value)
         edit.commit()
     }
