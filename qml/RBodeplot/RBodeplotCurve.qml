@@ -142,7 +142,7 @@ RBodeplotCurveTemplate {
                     root.focusedPoint = handle.index
                     if (!handle.dragging && !handle.selected)
                         root.onUserSelectFilterPoint(handle.index)
-                } else if (root.focusedPoint === handle.index) {
+                } else if (root?.focusedPoint === handle.index) { // null while the curve goes
                     root.focusedPoint = -1
                 }
             }

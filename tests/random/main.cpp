@@ -83,7 +83,6 @@ public:
                 page.remove();
         }
         page.draw();
-        m_window.releaseResources();
         m_trace.add("end of the round");
     }
 
