@@ -142,5 +142,15 @@ RApplicationWindow {
         asynchronous: false
         views: [...root.festivalPages, { key: "catalogue", title: qsTr("Catalogue"), source: Qt.resolvedUrl("shell/CatalogueView.qml") }]
         currentKey: root.inCatalogue ? "catalogue" : root.festivalPages[root.currentPage].key
+        onViewFailed: (key, error) => {
+            failure.detailedText = error
+            failure.open()
+        }
+    }
+    RMessageBox {
+        id: failure
+        title: root.title
+        text: qsTr("This page cannot be shown.")
+        icon: RMessageBox.Critical
     }
 }
