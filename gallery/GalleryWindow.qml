@@ -25,8 +25,8 @@ RApplicationWindow {
     readonly property bool listening: root.page !== null && root.page.listening
     /*! Height of the window in which the whole page is seen without scrolling; 0 where it fits itself in. */
     readonly property real wholePageHeight: root.page && root.page.wholePageHeight > 0 ? views.y + root.page.wholePageHeight : 0
-    /*! Whether the page is there, which may take a moment after it was chosen. */
-    readonly property bool ready: !views.busy && views.currentItem !== null
+    /*! Whether the page is there, or cannot be shown; either may take a moment after it was chosen. */
+    readonly property bool ready: !views.busy && (views.currentItem !== null || failure.opened)
 
     function turn(pages: int) {
         root.currentPage = (root.currentPage + pages + root.pageCount) % root.pageCount
@@ -143,13 +143,16 @@ RApplicationWindow {
         views: [...root.festivalPages, { key: "catalogue", title: qsTr("Catalogue"), source: Qt.resolvedUrl("shell/CatalogueView.qml") }]
         currentKey: root.inCatalogue ? "catalogue" : root.festivalPages[root.currentPage].key
         onViewFailed: (key, error) => {
+            failure.title = root.title
             failure.detailedText = error
             failure.open()
+            const shown = root.festivalPages.findIndex(page => page.key === views.currentKey)
+            if (views.currentItem)
+                root.show(shown >= 0 ? shown : root.festivalPages.length)
         }
     }
     RMessageBox {
         id: failure
-        title: root.title
         text: qsTr("This page cannot be shown.")
         icon: RMessageBox.Critical
     }

@@ -8,7 +8,7 @@ Flow {
 
     readonly property var titles: ({ light: qsTr("Light"), dark: qsTr("Dark"), "contrast-light": qsTr("Contrast light"), "contrast-dark": qsTr("Contrast dark") })
 
-    spacing: Math.max(1, theme.dp(1))
+    spacing: Math.max(1, Math.round(theme.dp(1)))
     Accessible.role: Accessible.Grouping
     Accessible.name: qsTr("Theme")
 

@@ -81,7 +81,7 @@ int main(int argc, char **argv)
 
     const QGuiApplication application(argc, argv);
     QQuickStyle::setStyle(QStringLiteral("Basic"));
-    // Qt lays out each new text area with the font of the application, which is loaded for nothing when it is another.
+    // The controls' own, or Qt would load another font for the first text area, which it lays out before it has its own.
     QFont font = QGuiApplication::font();
     font.setFamily(QStringLiteral("Brack Office Sans"));
     QGuiApplication::setFont(font);

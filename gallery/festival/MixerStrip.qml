@@ -44,10 +44,10 @@ Item {
         target: root.target
         field: root.channel + "Mute"
     }
-    // Long enough to be read; the log keeps the reason.
+    // Long enough to be read, once the page is seen; the log keeps the reason.
     Timer {
         interval: 4000
-        running: root.failed
+        running: root.failed && root.visible
         onTriggered: {
             gainField.dismiss()
             muteField.dismiss()

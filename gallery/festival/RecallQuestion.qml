@@ -10,15 +10,16 @@ RMessageBox {
     property int row: -1
 
     function recall(row: int) {
-        root.row = row
-        if (Festival.showRuns)
-            root.open()
-        else
+        if (!Festival.showRuns) {
             GalleryInstallation.presets.recall(row)
+            return
+        }
+        root.row = row
+        root.text = qsTr("The show runs. The preset \"%1\" changes all channels of the FOH mixer at once.").arg(GalleryInstallation.presets.nameAt(row))
+        root.open()
     }
 
     title: qsTr("Recall the preset?")
-    text: qsTr("The show runs. The preset \"%1\" changes all channels of the FOH mixer at once.").arg(GalleryInstallation.presets.nameAt(root.row))
     icon: RMessageBox.Warning
     standardButtons: T.Dialog.Yes | T.Dialog.Cancel
     onAccepted: GalleryInstallation.presets.recall(root.row)

@@ -56,7 +56,8 @@ void SimulatedNetwork::arrive(int request, int device, int field, const QVariant
     if (!m_devices.isOnline(device))
         return;
     // Of what is asked of a field, the last counts, in whatever order it arrives.
-    int &newest = m_newestRequest[{device, field}];
+    const int stored = deviceFields(m_devices.kind(device)).at(field).storedAs;
+    int &newest = m_newestRequest[{device, stored < 0 ? field : stored}];
     if (request < newest) {
         answer(request, device, field, {});
         return;

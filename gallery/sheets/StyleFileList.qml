@@ -12,7 +12,7 @@ Column {
 
     signal chosen(string key)
 
-    spacing: Math.max(1, theme.dp(1))
+    spacing: Math.max(1, Math.round(theme.dp(1)))
 
     RStylesDirWatcher {
         id: watcher

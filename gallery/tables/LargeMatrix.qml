@@ -33,6 +33,7 @@ Item {
         T.ScrollBar.horizontal: ScrollHandle {
             parent: root
             anchors.bottom: parent.bottom
+            x: view.x
             width: view.width
         }
 

@@ -185,8 +185,11 @@ private Q_SLOTS:
             Installation installation({}, seed);
             for (const double gain : {-4.0, -3.0, -2.0, -1.0})
                 installation.client.request(0, gainField, gain);
+            installation.client.request(0, delayMsField, 5.0);
+            installation.client.request(0, delaySamplesField, 480);
             installation.queue.advance(200);
             QCOMPARE(installation.devices.record(0).read(gainField), QVariant(-1.0));
+            QCOMPARE(installation.devices.record(0).read(delaySamplesField), QVariant(480));
             QVERIFY(installation.client.isConfirmed(0, gainField));
         }
     }

@@ -67,6 +67,7 @@ FocusScope {
             }
 
             Label {
+                parent: list
                 anchors.centerIn: parent
                 visible: list.count === 0
                 text: qsTr("No device is like this")

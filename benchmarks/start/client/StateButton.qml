@@ -11,6 +11,7 @@ Button {
     property bool dark: false
 
     implicitWidth: 96
+    onFlashingChanged: root.dark = false
     contentItem: Item {
         Column {
             anchors.verticalCenter: parent.verticalCenter

@@ -5,7 +5,7 @@
 // It leaves out
 // - the simulated network: fields edit the records, so that nothing waits, fails or is told beside a field. The records
 //   have no channels;
-// - setting up several devices at once: the list chooses one;
+// - setting up several devices at once: the list chooses one, its current row, also while rows are searched for;
 // - themes, style sheets, zoom and an interface font of its own: colours and most sizes are those of Basic, the font is
 //   the system's;
 // - underlined letters in the captions of the form, and moving to fields by them;
