@@ -38,6 +38,13 @@ RApplicationWindow {
         root.currentPage = index < root.festivalPages.length ? index : index + root.lastCataloguePage
     }
 
+    /*! To the page that is still there after another could not be shown. */
+    function backToView() {
+        const shown = root.festivalPages.findIndex(page => page.key === views.currentKey)
+        if (views.currentItem)
+            root.show(shown >= 0 ? shown : root.festivalPages.length)
+    }
+
     visible: true
     title: qsTr("%1 - Festival").arg(root.inCatalogue ? root.cataloguePages[root.cataloguePage].title : root.festivalPages[root.currentPage].title)
     appStyleSheetDirectory: GalleryFiles.styleDirectory + "/"
@@ -143,12 +150,10 @@ RApplicationWindow {
         views: [...root.festivalPages, { key: "catalogue", title: qsTr("Catalogue"), source: Qt.resolvedUrl("shell/CatalogueView.qml") }]
         currentKey: root.inCatalogue ? "catalogue" : root.festivalPages[root.currentPage].key
         onViewFailed: (key, error) => {
-            failure.title = root.title
+            failure.title = views.views.find(view => view.key === key).title
             failure.detailedText = error
             failure.open()
-            const shown = root.festivalPages.findIndex(page => page.key === views.currentKey)
-            if (views.currentItem)
-                root.show(shown >= 0 ? shown : root.festivalPages.length)
+            Qt.callLater(root.backToView)
         }
     }
     RMessageBox {

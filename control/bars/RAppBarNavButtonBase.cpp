@@ -21,7 +21,7 @@ constexpr qreal mostWidth = 240.0;
 constexpr qreal margin = 12.0; // at both sides of the text
 constexpr qreal compactSize = 48.0;
 constexpr qreal subHeight = 32.0;
-constexpr qreal roundingError = 1e-6; // pixels, of sums with broken units
+constexpr qreal roundingError = 1e-6; // pixels, of sums of fractional units
 
 } // namespace
 

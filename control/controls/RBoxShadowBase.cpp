@@ -42,7 +42,7 @@ RBoxShadowBase::RBoxShadowBase(QQuickItem *parent)
     : QQuickItem(parent)
 {
     setFlag(ItemHasContents);
-    QQuickItemPrivate::get(this)->setTransparentForPositioner(true); // whose size it would follow and add to
+    QQuickItemPrivate::get(this)->setTransparentForPositioner(true); // or it would make the row larger that it fills
 }
 
 // Its own parent changes when nothing of this is left, and it may be its own target.

@@ -27,8 +27,8 @@ class PendingValue;
 /// Without a `value` the text itself counts, as in a plain field.
 ///
 /// Keys: Enter enters the text (Ctrl+Enter where there are lines), and goes on to the dialog when nothing was typed.
-/// Esc takes back what was typed. The Menu key and Shift+F10 open the context menu, as the right mouse button and a
-/// finger that rests for 500 ms do.
+/// Esc takes back what was typed. The keys of Undo and Redo are the page's while nothing is typed. The Menu key and
+/// Shift+F10 open the context menu, as the right mouse button and a finger that rests for 500 ms do.
 class TAMBLE_CLIENT_CONTROL_EXPORT FieldEdit : public tamble::client::FieldSettings, public QQmlParserStatus
 {
     Q_OBJECT

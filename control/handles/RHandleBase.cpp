@@ -2,6 +2,7 @@
 
 #include "scrolling/EnclosingView.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QTimerEvent>
 #include <QtGui/QCursor>
 #include <QtGui/QGuiApplication>
@@ -127,14 +128,23 @@ void RHandleBase::cancelChange()
 
 void RHandleBase::stepBy(qreal right, qreal up, bool fine)
 {
+    const QPointer<RHandleBase> self(this);
     open();
+    if (!self)
+        return;
     m_keysEnd.start(keyPause, this);
     Q_EMIT stepped(right, up, fine);
+    // Keys may take it out of a page that scrolls.
+    if (self && hasActiveFocus())
+        EnclosingView::revealEverywhere(*this, boundingRect());
 }
 
 void RHandleBase::page(qreal up)
 {
+    const QPointer<RHandleBase> self(this);
     open();
+    if (!self)
+        return;
     m_keysEnd.start(keyPause, this);
     Q_EMIT paged(up);
 }
@@ -382,14 +392,6 @@ void RHandleBase::timerEvent(QTimerEvent *event)
     } else {
         QQuickItem::timerEvent(event);
     }
-}
-
-// A pointer takes the handle no farther than it sees; keys may take it out of a page that scrolls.
-void RHandleBase::geometryChange(const QRectF &now, const QRectF &before)
-{
-    QQuickItem::geometryChange(now, before);
-    if (m_keysEnd.isActive() && hasActiveFocus() && now.topLeft() != before.topLeft())
-        EnclosingView::revealEverywhere(*this, boundingRect());
 }
 
 void RHandleBase::setHovered(bool hovered)

@@ -120,7 +120,6 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
-    void geometryChange(const QRectF &now, const QRectF &before) override;
 
 private:
     enum class Hold { None, Move, Turn };

@@ -40,11 +40,6 @@ QVariant memberOf(const QVariant &row, const QString &name)
     return static_cast<QQuickItemViewPrivate *>(QQuickItemPrivate::get(&view))->model;
 }
 
-[[gnu::no_sanitize("vptr")]] bool isInLayout(QQuickItemView &view)
-{
-    return static_cast<QQuickItemViewPrivate *>(QQuickItemPrivate::get(&view))->inLayout;
-}
-
 void ListRows::setModel(QQmlInstanceModel *model)
 {
     if (m_model == model)

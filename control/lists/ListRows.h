@@ -16,8 +16,6 @@ namespace tamble::client {
 
 /// The model that a view has made of the page's, or the page's own; null for none.
 QQmlInstanceModel *instanceModelOf(QQuickItemView &view);
-/// Whether a view is just bringing itself up to date with its model.
-bool isInLayout(QQuickItemView &view);
 
 /// The rows of whatever a page gives a list as its model: their texts, and what becomes of them when it changes.
 class ListRows : public QObject

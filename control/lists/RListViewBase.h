@@ -56,8 +56,8 @@ public:
     explicit RListViewBase(QQuickItem *parent = nullptr);
     ~RListViewBase() override;
 
-    /// The role of the model that rows without a delegate show, and that letters are looked for in; "display" by
-    /// default. Of maps and objects it is a member, and simple values are shown as they are.
+    /// The role of the model that rows without a delegate show; "display" by default. Of maps and objects it is a
+    /// member, and simple values are shown as they are.
     QString textRole() const { return m_textRole; }
     void setTextRole(const QString &role);
     /// Whether the row below the pointer is highlighted.

@@ -118,10 +118,8 @@ void SelectableListView::editSelection(int current, const SelectionChange &chang
         showRows();
     if (isChanged && guard)
         Q_EMIT selectionEdited(QVariant::fromValue(selectedIndexes()));
-    if (!guard || current >= m_rows.count())
-        return;
-    m_isCurrentChosen = true;
-    setCurrentIndex(current);
+    if (guard && current < m_rows.count())
+        setCurrentIndex(current);
 }
 
 void SelectableListView::takeModel()
@@ -155,7 +153,7 @@ void SelectableListView::onRowsChanged(const std::vector<RowChange> &leaving, co
     forceLayout();
     setCurrentIndex(-1);
     if (guard)
-        m_formerRow = m_isCurrentChosen ? formerPlace(current, leaving) : 0;
+        m_formerRow = formerPlace(current, leaving);
 }
 
 void SelectableListView::onRowsReplaced()
@@ -163,7 +161,6 @@ void SelectableListView::onRowsReplaced()
     if (isTakingModel())
         return;
     rowsReplacement();
-    m_isCurrentChosen = false;
     const QPointer<SelectableListView> guard(this);
     clearSelection();
     if (guard)
@@ -195,33 +192,14 @@ void SelectableListView::onSorted()
         changeSelection([&selected](ListSelection &selection) { selection.replaceRows(RowRanges(selected)); });
     }
     if (guard && current >= 0)
-        followSorting(current);
+        setCurrentIndex(current);
     if (guard)
         polish();
 }
 
-/// The current row has come to stand in the place `row`.
-void SelectableListView::followSorting(int row)
-{
-    if (m_isCurrentChosen) {
-        setCurrentIndex(row);
-        return;
-    }
-    // The view would go with it, and show the end of the list where that is now.
-    const QPointer<SelectableListView> guard(this);
-    forceLayout();
-    if (guard)
-        setCurrentIndex(0);
-    if (guard)
-        m_isCurrentChosen = false;
-}
-
 void SelectableListView::onCurrentIndexChanged()
 {
-    // The view itself makes the first row current that there is, and follows it when it is laid out: no choice.
-    const int before = std::exchange(m_currentRow, currentIndex());
-    if (m_currentRow != before && (m_currentRow > 0 || before >= 0) && !isInLayout(*this))
-        m_isCurrentChosen = true;
+    m_currentRow = currentIndex();
     m_formerRow = -1;
 }
 

@@ -10,7 +10,6 @@
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/private/qquicklistview_p.h>
 
-#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -56,9 +55,8 @@ public:
     /// Whether a row is selected.
     Q_INVOKABLE bool isSelected(int index) const { return m_selection.rows().contains(index); }
 
-    /// Like currentIndex, which the view brings up to date later; but of a current row that nobody has gone to, and
-    /// that is not the first any more, the first row.
-    int currentRow() const { return m_isCurrentChosen ? m_currentRow : std::min(m_currentRow, 0); }
+    /// Like currentIndex, which the view brings up to date later.
+    int currentRow() const { return m_currentRow; }
     /// Where the current row was that has left the model; -1 while there is another.
     int formerRow() const { return m_formerRow; }
     bool hasSelection() const { return !m_selection.rows().isEmpty(); }
@@ -101,7 +99,6 @@ private:
     void onRowsReplaced();
     void onAboutToBeSorted();
     void onSorted();
-    void followSorting(int row);
     void onCurrentIndexChanged();
     bool changeSelection(const SelectionChange &change);
 
@@ -111,7 +108,6 @@ private:
     std::unique_ptr<BeforeSorting> m_beforeSorting; ///< While the model sorts.
     int m_currentRow = -1;
     int m_formerRow = -1;
-    bool m_isCurrentChosen = false; ///< By the user or the page; false while it is the first row that there was.
 };
 
 } // namespace tamble::client

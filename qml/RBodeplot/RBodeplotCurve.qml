@@ -52,7 +52,7 @@ RBodeplotCurveTemplate {
         if (root.focusPoint(root.nextFilterPoint(handle.index, forwards)))
             return
         const next = handle.nextItemInFocusChain(forwards)
-        next.forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
+        next?.forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
     }
 
     anchors.fill: parent

@@ -13,13 +13,16 @@ RPopupMenu {
     /*! A password is copied nowhere. */
     readonly property bool readable: (root.editor.echoMode ?? TextInput.Normal) === TextInput.Normal
 
+    /*! What was entered is the page's to undo. */
+    readonly property bool entered: root.editor.edit?.edited === false
+
     // qmllint disable unqualified
     readonly property var copyEntry: ({ text: qsTr("Copy"), iconKey: "copy", shortcut: StandardKey.Copy, enabled: root.hasSelection && root.readable, action: "copy" })
     readonly property var selectEntry: ({ text: qsTr("Select all"), shortcut: StandardKey.SelectAll, enabled: root.editor.length > 0, action: "selectAll" })
 
     model: root.editor.readOnly ? [root.copyEntry, root.selectEntry] : [
-        { text: qsTr("Undo"), iconKey: "undo", shortcut: StandardKey.Undo, enabled: root.editor.canUndo, action: "undo" },
-        { text: qsTr("Redo"), iconKey: "redo", shortcut: StandardKey.Redo, enabled: root.editor.canRedo, action: "redo" },
+        { text: qsTr("Undo"), iconKey: "undo", shortcut: StandardKey.Undo, enabled: root.editor.canUndo && !root.entered, action: "undo" },
+        { text: qsTr("Redo"), iconKey: "redo", shortcut: StandardKey.Redo, enabled: root.editor.canRedo && !root.entered, action: "redo" },
         { separator: true },
         { text: qsTr("Cut"), shortcut: StandardKey.Cut, enabled: root.hasSelection && root.readable, action: "cut" },
         root.copyEntry,

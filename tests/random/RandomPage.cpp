@@ -50,7 +50,7 @@ bool canTakeASecond(const QMetaProperty &property)
     return QByteArray(property.name()).contains("tyleSheet");
 }
 
-// A popup of the framework whose parent is infinitely far away is placed without end.
+// A popup of the framework whose parent is infinitely far away is placed endlessly.
 bool isFarAway(const QMetaProperty &property, const QString &value)
 {
     const QByteArray name(property.name());

@@ -280,33 +280,6 @@ ThemedTestCase {
         compare([names(), list.currentIndex], ["A", -1])
     }
 
-    /*! Rows that come before the first one take it along; keys start at the row that is first now. */
-    function test_firstKeyAfterChanges_data() {
-        const comeInFront = list => rows.insert(0, [{ name: "A" }, { name: "B" }, { name: "C" }])
-        return [
-            { tag: "rows come in front", change: comeInFront, state: [1, "1"] },
-            { tag: "the first one goes then", change: list => { comeInFront(list); waitForRendering(list); rows.remove(3) }, state: [0, "0"] },
-            { tag: "sorted the other way", change: list => {
-                const sorter = make("RSortFilterProxyModel { sortRoleName: 'name' }")
-                sorter.sourceModel = rows
-                list.model = sorter
-                waitForRendering(list)
-                sorter.sortOrder = Qt.DescendingOrder
-            }, state: [1, "1"] },
-            { tag: "after a choice", before: list => keyClick(Qt.Key_Home), change: comeInFront, state: [4, "4"] },
-            { tag: "chosen by the page", before: list => list.currentIndex = 1, change: comeInFront, state: [5, "5"] },
-        ]
-    }
-    function test_firstKeyAfterChanges(data) {
-        const list = listOfRows(6, "")
-        if (data.before)
-            data.before(list)
-        data.change(list)
-        waitForRendering(list)
-        keyClick(Qt.Key_Down)
-        compare(state(list), data.state)
-    }
-
     function test_manyRows() {
         const list = makeList("selectionMode: RListView.Multiple; model: 100000")
         const start = Date.now()
