@@ -81,7 +81,7 @@ int main(int argc, char **argv)
 
     const QGuiApplication application(argc, argv);
     QQuickStyle::setStyle(QStringLiteral("Basic"));
-    // The controls' own, or Qt would load another font for the first text area, which it lays out before it has its own.
+    // The controls' own, or Qt would load another font for the first text area: it lays that out before it has its own.
     QFont font = QGuiApplication::font();
     font.setFamily(QStringLiteral("Brack Office Sans"));
     QGuiApplication::setFont(font);
