@@ -6,7 +6,6 @@
 #include "Screenshots.h"
 
 #include <QtCore/QTextStream>
-#include <QtGui/QFont>
 #include <QtGui/QGuiApplication>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
@@ -81,10 +80,6 @@ int main(int argc, char **argv)
 
     const QGuiApplication application(argc, argv);
     QQuickStyle::setStyle(QStringLiteral("Basic"));
-    // The controls' own, or Qt would load another font for the first text area: it lays that out before it has its own.
-    QFont font = QGuiApplication::font();
-    font.setFamily(QStringLiteral("Brack Office Sans"));
-    QGuiApplication::setFont(font);
 
     GalleryAudio audio(nullptr);
     audio.setStepped(!options.screenshotDir.isEmpty());

@@ -7,7 +7,8 @@ import TambleClient.Control 1.0
 T.AbstractButton {
     id: root
 
-    required property RAppBarView view
+    required property Flickable view
+    required property color ground
     property bool atRight: false
 
     x: root.atRight ? root.view.width - root.width : 0
@@ -17,10 +18,9 @@ T.AbstractButton {
     focusPolicy: Qt.NoFocus
     autoRepeat: true
     text: qsTr("More")
-    onClicked: root.view.moveBy((root.atRight ? root.view.width : -root.view.width) / 2)
 
     background: Rectangle {
-        color: root.view.ground
+        color: root.ground
     }
     contentItem: Item {
         RIcon {

@@ -22,15 +22,18 @@ Flickable {
     onWidthChanged: root.returnToBounds()
     onContentWidthChanged: root.returnToBounds()
 
-    Loader {
+    RAppBarArrow {
         parent: root
-        active: root.interactive
-        Component.onCompleted: setSource("RAppBarArrow.qml", { view: root })
+        view: root
+        ground: root.ground
+        onClicked: root.moveBy(-root.width / 2)
     }
-    Loader {
+    RAppBarArrow {
         parent: root
-        active: root.interactive
-        Component.onCompleted: setSource("RAppBarArrow.qml", { view: root, atRight: true })
+        view: root
+        ground: root.ground
+        atRight: true
+        onClicked: root.moveBy(root.width / 2)
     }
     WheelHandler {
         enabled: root.interactive
