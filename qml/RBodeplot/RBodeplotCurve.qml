@@ -46,11 +46,11 @@ RBodeplotCurveTemplate {
     }
 
     /*! Gives the keyboard focus to the next handle by frequency, or behind the last to what follows the curve. */
-    // From a handle, which is no stop itself, Qt would go on from the nearest ancestor that is one, such as a page that
-    // scrolls, and never get out.
     function walkPoints(handle: RBodeplotFilterPoint, forwards: bool) {
         if (root.focusPoint(root.nextFilterPoint(handle.index, forwards)))
             return
+        // From a handle, which is no stop itself, Qt would go on from the nearest ancestor that is one, such as a page
+        // that scrolls, and never get out.
         const next = handle.nextItemInFocusChain(forwards)
         next?.forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
     }
