@@ -50,12 +50,12 @@ QList<FieldSpec> createFields(DeviceKind kind)
     const auto ofChannel = kind == DeviceKind::Matrix ? channelNameField : channelFields;
     QList<FieldSpec> fields = commonFields();
     for (int i = 1; i <= inputs; ++i)
-        fields.append(ofChannel(QStringLiteral("input%1").arg(i), int(fields.size())));
+        fields.append(ofChannel("input" + QString::number(i), int(fields.size())));
     for (int i = 1; i <= outputs; ++i)
-        fields.append(ofChannel(QStringLiteral("output%1").arg(i), int(fields.size())));
+        fields.append(ofChannel("output" + QString::number(i), int(fields.size())));
     for (int i = 1; kind == DeviceKind::Matrix && i <= inputs; ++i) {
         for (int j = 1; j <= outputs; ++j)
-            fields.append({QStringLiteral("route%1x%2").arg(i).arg(j), ValueKind::Flag});
+            fields.append({"route" + QString::number(i) + u'x' + QString::number(j), ValueKind::Flag});
     }
     fields.append({QStringLiteral("mute"), ValueKind::Flag});
     return fields;

@@ -13,8 +13,10 @@ InstallationClient::InstallationClient(EventQueue &queue, const InstalledDevices
 {
     for (int device = 0; device < devices.count(); ++device) {
         DeviceState known{devices.kind(device), {}, devices.isOnline(device)};
-        for (const FieldChange &value : devices.record(device).all())
-            known.fields.append({value.value});
+        const int fields = int(deviceFields(known.kind).size());
+        known.fields.reserve(fields);
+        for (int field = 0; field < fields; ++field)
+            known.fields.append({devices.record(device).read(field)});
         m_devices.append(known);
     }
     network.setReceiver(

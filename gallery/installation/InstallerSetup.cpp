@@ -50,15 +50,13 @@ public:
         : m_record(kind)
     {}
 
-    void write(const QString &field, const QVariant &value)
-    {
-        m_record.write(fieldIndex(field, m_record.kind()), value);
-    }
+    void write(int field, const QVariant &value) { m_record.write(field, value); }
+    void write(QStringView field, const QVariant &value) { write(fieldIndex(field, m_record.kind()), value); }
     void writeNetwork(int lastByte)
     {
-        write(QStringLiteral("ipAddress"), QStringLiteral("192.168.10.%1").arg(lastByte));
-        write(QStringLiteral("subnetMask"), QStringLiteral("255.255.255.0"));
-        write(QStringLiteral("gateway"), QStringLiteral("192.168.10.1"));
+        write(u"ipAddress", "192.168.10." + QString::number(lastByte));
+        write(u"subnetMask", QStringLiteral("255.255.255.0"));
+        write(u"gateway", QStringLiteral("192.168.10.1"));
     }
     const DeviceRecord &record() const { return m_record; }
 
@@ -66,30 +64,55 @@ private:
     DeviceRecord m_record;
 };
 
-} // namespace
-
-DeviceRecord installedAmplifier(int number)
+/// What all amplifiers have in common, and where the rest of each channel goes.
+struct TypicalAmplifier
 {
-    const int place = number % int(places.size());
-    Setup amplifier(DeviceKind::Amplifier);
-    amplifier.write(QStringLiteral("name"), QStringLiteral("Amplifier %1").arg(number + 1));
-    amplifier.write(QStringLiteral("location"), QString::fromLatin1(places[std::size_t(place)]));
-    amplifier.writeNetwork(11 + number);
-    amplifier.write(QStringLiteral("pin"), QStringLiteral("%1").arg(4711 + 13 * number));
-    amplifier.write(QStringLiteral("temperature"), number == 17 ? 41.5 : 31.5 + 0.5 * (number % 9));
-    amplifier.write(QStringLiteral("notes"), QStringLiteral("Rack %1\nChecked by the night crew").arg(place + 1));
+    struct ChannelFields
+    {
+        int source;
+        int delay;
+    };
+
+    Setup setup{DeviceKind::Amplifier};
+    QList<ChannelFields> channels;
+
+    TypicalAmplifier();
+};
+
+TypicalAmplifier::TypicalAmplifier()
+{
     const auto [inputs, outputs] = channelCount(DeviceKind::Amplifier);
     for (int i = 0; i < inputs + outputs; ++i) {
         const bool isInput = i < inputs;
         const int ofKind = isInput ? i + 1 : i - inputs + 1;
-        const QString channel = (isInput ? QStringLiteral("input%1") : QStringLiteral("output%1")).arg(ofKind);
+        const QString number = QString::number(ofKind);
+        const QString channel = (isInput ? "input" : "output") + number;
+        setup.write(channel + "Name", (isInput ? "In " : "Way ") + number);
+        setup.write(channel + "Gain", ofKind == 4 ? gainOff : -3.0 * i);
+        channels.append({fieldIndex(channel + "Source"), fieldIndex(channel + "DelaySamples")});
+    }
+}
+
+} // namespace
+
+DeviceRecord installedAmplifier(int number)
+{
+    static const TypicalAmplifier typical;
+    const int place = number % int(places.size());
+    Setup amplifier = typical.setup;
+    amplifier.write(u"name", "Amplifier " + QString::number(number + 1));
+    amplifier.write(u"location", QString::fromLatin1(places[std::size_t(place)]));
+    amplifier.writeNetwork(11 + number);
+    amplifier.write(u"pin", QString::number(4711 + 13 * number));
+    amplifier.write(u"temperature", number == 17 ? 41.5 : 31.5 + 0.5 * (number % 9));
+    amplifier.write(u"notes", "Rack " + QString::number(place + 1) + "\nChecked by the night crew");
+    const int channels = int(typical.channels.size());
+    const int inputs = channelCount(DeviceKind::Amplifier).inputs;
+    for (int i = 0; i < channels; ++i) {
         const int source = (number * inputs + i) % int(networkSources().size());
-        amplifier.write(channel + QStringLiteral("Name"),
-                        (isInput ? QStringLiteral("In %1") : QStringLiteral("Way %1")).arg(ofKind));
-        amplifier.write(channel + QStringLiteral("Source"),
-                        number % 5 == 4 && ofKind == 4 ? 9000 + number : networkSources()[source].id);
-        amplifier.write(channel + QStringLiteral("Gain"), ofKind == 4 ? gainOff : -3.0 * i);
-        amplifier.write(channel + QStringLiteral("DelaySamples"), 48 * place + 12 * i);
+        const bool isUnknown = number % 5 == 4 && i % inputs == 3;
+        amplifier.write(typical.channels[i].source, isUnknown ? 9000 + number : networkSources()[source].id);
+        amplifier.write(typical.channels[i].delay, 48 * place + 12 * i);
     }
     return amplifier.record();
 }
@@ -97,22 +120,21 @@ DeviceRecord installedAmplifier(int number)
 DeviceRecord installedMixer(int number)
 {
     Setup mixer(DeviceKind::Mixer);
-    mixer.write(QStringLiteral("name"), number == 0 ? QStringLiteral("FOH mixer") : QStringLiteral("Monitor mixer"));
-    mixer.write(QStringLiteral("location"),
-                number == 0 ? QStringLiteral("Control room") : QStringLiteral("Stage left"));
+    mixer.write(u"name", number == 0 ? QStringLiteral("FOH mixer") : QStringLiteral("Monitor mixer"));
+    mixer.write(u"location", number == 0 ? QStringLiteral("Control room") : QStringLiteral("Stage left"));
     mixer.writeNetwork(41 + number);
-    mixer.write(QStringLiteral("pin"), QStringLiteral("%1").arg(2601 + number));
-    mixer.write(QStringLiteral("temperature"), 34.0 + number);
+    mixer.write(u"pin", QString::number(2601 + number));
+    mixer.write(u"temperature", 34.0 + number);
     for (int i = 0; i < int(band.size()); ++i) {
-        const QString channel = QStringLiteral("input%1").arg(i + 1);
-        mixer.write(channel + QStringLiteral("Name"), QString::fromLatin1(band[std::size_t(i)].name));
-        mixer.write(channel + QStringLiteral("Source"), networkSources()[i + 48 * number].id);
-        mixer.write(channel + QStringLiteral("Gain"), band[std::size_t(i)].gain);
+        const QString channel = "input" + QString::number(i + 1);
+        mixer.write(channel + "Name", QString::fromLatin1(band[std::size_t(i)].name));
+        mixer.write(channel + "Source", networkSources()[i + 48 * number].id);
+        mixer.write(channel + "Gain", band[std::size_t(i)].gain);
     }
     for (int i = 0; i < 2; ++i) {
-        const QString channel = QStringLiteral("output%1").arg(i + 1);
-        mixer.write(channel + QStringLiteral("Name"), i == 0 ? QStringLiteral("Main L") : QStringLiteral("Main R"));
-        mixer.write(channel + QStringLiteral("Gain"), -2.0);
+        const QString channel = "output" + QString::number(i + 1);
+        mixer.write(channel + "Name", i == 0 ? QStringLiteral("Main L") : QStringLiteral("Main R"));
+        mixer.write(channel + "Gain", -2.0);
     }
     return mixer.record();
 }
@@ -120,16 +142,16 @@ DeviceRecord installedMixer(int number)
 DeviceRecord installedMatrix()
 {
     Setup matrix(DeviceKind::Matrix);
-    matrix.write(QStringLiteral("name"), QStringLiteral("Stage matrix"));
-    matrix.write(QStringLiteral("location"), QStringLiteral("Stage right"));
+    matrix.write(u"name", QStringLiteral("Stage matrix"));
+    matrix.write(u"location", QStringLiteral("Stage right"));
     matrix.writeNetwork(51);
-    matrix.write(QStringLiteral("pin"), QStringLiteral("1630"));
-    matrix.write(QStringLiteral("temperature"), 33.0);
+    matrix.write(u"pin", QStringLiteral("1630"));
+    matrix.write(u"temperature", 33.0);
     for (int i = 0; i < int(matrixInputs.size()); ++i)
-        matrix.write(QStringLiteral("input%1Name").arg(i + 1), QString::fromLatin1(matrixInputs[std::size_t(i)]));
+        matrix.write("input" + QString::number(i + 1) + "Name", QString::fromLatin1(matrixInputs[std::size_t(i)]));
     for (int j = 0; j < int(matrixOutputs.size()); ++j) {
-        matrix.write(QStringLiteral("output%1Name").arg(j + 1), QString::fromLatin1(matrixOutputs[std::size_t(j)]));
-        matrix.write(QStringLiteral("route%1x%2").arg(firstRoutes[std::size_t(j)] + 1).arg(j + 1), true);
+        matrix.write("output" + QString::number(j + 1) + "Name", QString::fromLatin1(matrixOutputs[std::size_t(j)]));
+        matrix.write("route" + QString::number(firstRoutes[std::size_t(j)] + 1) + u'x' + QString::number(j + 1), true);
     }
     return matrix.record();
 }

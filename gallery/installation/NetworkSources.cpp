@@ -4,14 +4,14 @@ namespace {
 
 struct Group
 {
-    const char *name;
+    const char *name; // before the number
     int firstId;
     int count;
 };
 
 constexpr Group groups[]{
-    {"Stage box A, mic %1", 101, 48},  {"Stage box B, mic %1", 201, 48}, {"Console, bus %1", 301, 64},
-    {"Wireless receiver %1", 401, 24}, {"Player %1", 501, 12},           {"Paging station %1", 601, 4},
+    {"Stage box A, mic ", 101, 48},  {"Stage box B, mic ", 201, 48}, {"Console, bus ", 301, 64},
+    {"Wireless receiver ", 401, 24}, {"Player ", 501, 12},           {"Paging station ", 601, 4},
 };
 
 QList<NetworkSource> createSources()
@@ -19,7 +19,7 @@ QList<NetworkSource> createSources()
     QList<NetworkSource> sources;
     for (const Group &group : groups) {
         for (int i = 0; i < group.count; ++i)
-            sources.append({group.firstId + i, QString::fromLatin1(group.name).arg(i + 1)});
+            sources.append({group.firstId + i, group.name + QString::number(i + 1)});
     }
     return sources;
 }

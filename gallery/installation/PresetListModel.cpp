@@ -11,10 +11,9 @@ QList<FieldPlace> storedFields()
     const int mixer = GalleryInstallation::firstMixer();
     QList<FieldPlace> places;
     for (int channel = 1; channel <= channelCount(DeviceKind::Mixer).inputs; ++channel) {
-        for (const auto &suffix : {QStringLiteral("Gain"), QStringLiteral("Mute")}) {
-            const QString name = QStringLiteral("input%1%2").arg(channel).arg(suffix);
-            places.append({mixer, fieldIndex(name, DeviceKind::Mixer)});
-        }
+        const QString input = "input" + QString::number(channel);
+        places.append({mixer, fieldIndex(input + "Gain", DeviceKind::Mixer)});
+        places.append({mixer, fieldIndex(input + "Mute", DeviceKind::Mixer)});
     }
     return places;
 }
