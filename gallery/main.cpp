@@ -10,7 +10,6 @@
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickWindow>
-#include <QtQuickControls2/QQuickStyle>
 
 #include <memory>
 #include <utility>
@@ -37,12 +36,15 @@ void begin(GalleryInstallation &installation)
     installation.advance(behaviour.latency);
 }
 
-/// Icons take a small part of the textures that Qt would make by the size of the window: 8 MB for a common one.
-void limitTextureAtlas()
+/// What Qt is to do unless the user's environment says something else.
+void setDefaults()
 {
-    for (const auto &[name, pixels] : {std::pair("QSG_ATLAS_WIDTH", "1024"), std::pair("QSG_ATLAS_HEIGHT", "512")}) {
+    // Icons take a small part of the textures that Qt would make by the size of the window: 8 MB for a common one. The
+    // style is that of the few controls of Qt's own; to be told by a function, their library would have to be there.
+    for (const auto &[name, value] : {std::pair("QSG_ATLAS_WIDTH", "1024"), std::pair("QSG_ATLAS_HEIGHT", "512"),
+                                      std::pair("QT_QUICK_CONTROLS_STYLE", "Basic")}) {
         if (!qEnvironmentVariableIsSet(name))
-            qputenv(name, pixels);
+            qputenv(name, value);
     }
 }
 
@@ -68,7 +70,7 @@ int main(int argc, char **argv)
     if (!options.scale.isEmpty())
         qputenv("QT_SCALE_FACTOR", options.scale.toLatin1());
 
-    limitTextureAtlas();
+    setDefaults();
 
     const PageList pages(QStringLiteral(":/Gallery"));
     const int firstPage = options.page.isEmpty() ? 0 : int(pages.indexOf(options.page));
@@ -79,7 +81,6 @@ int main(int argc, char **argv)
     }
 
     const QGuiApplication application(argc, argv);
-    QQuickStyle::setStyle(QStringLiteral("Basic"));
 
     GalleryAudio audio(nullptr);
     audio.setStepped(!options.screenshotDir.isEmpty());
