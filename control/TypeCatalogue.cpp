@@ -9,6 +9,7 @@
 #include "bars/RAppBarStateButtonBase.h"
 #include "base/PartComponents.h"
 #include "base/PendingValue.h"
+#include "base/QuickTemplates.h"
 #include "base/RPopupBase.h"
 #include "bodeplot/RBodeplotCurve.h"
 #include "bodeplot/RLimiterCurve.h"
@@ -424,24 +425,6 @@ void registerInternals(const Registrar &registrar)
     registrar.creatable<FieldFrame>("RFieldFrame");
     registrar.creatable<NumberSteps>("RNumberSteps");
     registrar.creatable<PendingValue>("RPendingValue");
-    registrar.withLaterProperties<QQuickItem>();
-    registrar.withLaterProperties<QQuickFlickable>();
-    registrar.withLaterProperties<QQuickItemView>();
-    registrar.withLaterProperties<QQuickListView>();
-    registrar.withLaterProperties<QQuickControl>();
-    registrar.withLaterProperties<QQuickAbstractButton>();
-    registrar.withLaterProperties<QQuickPane>();
-    registrar.withLaterProperties<QQuickToolBar>();
-    registrar.withLaterProperties<QQuickPopup>();
-    registrar.withLaterProperties<QQuickMenu>();
-    registrar.withLaterProperties<QQuickDialog>();
-    registrar.withLaterProperties<QQuickComboBox>();
-    registrar.withLaterProperties<QQuickText>();
-    registrar.withLaterProperties<QQuickLabel>();
-    registrar.withLaterProperties<QQuickTextInput>();
-    registrar.withLaterProperties<QQuickTextField>();
-    registrar.withLaterProperties<QQuickTextEdit>();
-    registrar.withLaterProperties<QQuickTextArea>();
     registrar.creatable<RBoxShadowBase>("RBoxShadowBase");
     registrar.creatable<FocusReveal>("RFocusReveal");
     registrar.singleton<RPlotRules>("RPlotRules");
@@ -450,6 +433,51 @@ void registerInternals(const Registrar &registrar)
     registrar.singleton<RTransferTable>("RTransferTable");
     registrar.creatable<WindowPalette>("RWindowPalette");
     registrar.singletons("Shared", {"RThemeValues"});
+}
+
+void registerTemplates(const Registrar &registrar)
+{
+    registrar.withLaterProperties<QWindow>();
+    registrar.withLaterProperties<QQuickWindow>();
+    registrar.withLaterProperties<QQuickWindowQmlImpl>();
+    registrar.withLaterProperties<QQuickApplicationWindow>();
+    registrar.withLaterProperties<QQuickItem>();
+    registrar.withLaterProperties<QQuickFlickable>();
+    registrar.withLaterProperties<QQuickItemView>();
+    registrar.withLaterProperties<QQuickListView>();
+    registrar.withLaterProperties<QQuickText>();
+    registrar.withLaterProperties<QQuickLabel>();
+    registrar.withLaterProperties<QQuickTextInput>();
+    registrar.withLaterProperties<QQuickTextField>();
+    registrar.withLaterProperties<QQuickTextEdit>();
+    registrar.withLaterProperties<QQuickTextArea>();
+    registrar.withLaterProperties<QQuickControl>();
+    registrar.withLaterProperties<QQuickAbstractButton>();
+    registrar.withLaterProperties<QQuickMenuItem>();
+    registrar.withLaterProperties<QQuickPane>();
+    registrar.withLaterProperties<QQuickScrollView>();
+    registrar.withLaterProperties<QQuickToolBar>();
+    registrar.withLaterProperties<QQuickContainer>();
+    registrar.withLaterProperties<QQuickDialogButtonBox>();
+    registrar.withLaterProperties<QQuickTabBar>();
+    registrar.withLaterProperties<QQuickScrollBar>();
+    registrar.withLaterProperties<QQuickComboBox>();
+    registrar.withLaterProperties<QQuickPopup>();
+    registrar.withLaterProperties<QQuickMenu>();
+    registrar.withLaterProperties<QQuickDialog>();
+    registrar.withLaterProperties<QQuickToolTip>();
+    registrar.creatable<RAbstractButtonTemplate>("RAbstractButtonTemplate");
+    registrar.creatable<RApplicationWindowTemplate>("RApplicationWindowTemplate");
+    registrar.creatable<RDialogButtonBoxTemplate>("RDialogButtonBoxTemplate");
+    registrar.creatable<RMenuItemTemplate>("RMenuItemTemplate");
+    registrar.creatable<ROverlayTemplate>("ROverlayTemplate");
+    registrar.creatable<RPaneTemplate>("RPaneTemplate");
+    registrar.creatable<RPopupTemplate>("RPopupTemplate");
+    registrar.creatable<RScrollBarTemplate>("RScrollBarTemplate");
+    registrar.creatable<RScrollViewTemplate>("RScrollViewTemplate");
+    registrar.creatable<RTabBarTemplate>("RTabBarTemplate");
+    registrar.creatable<RToolBarTemplate>("RToolBarTemplate");
+    registrar.creatable<RToolTipTemplate>("RToolTipTemplate");
 }
 
 // Where native items find their parts.
@@ -526,6 +554,7 @@ void registerCatalogue(const char *uri)
     registerWorkspace(registrar);
     registerInputHelpers(registrar);
     registerInternals(registrar);
+    registerTemplates(registrar);
 }
 
 } // namespace tamble::client

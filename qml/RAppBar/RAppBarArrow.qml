@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
 /*! Arrow at an end of a row that goes on beyond it; a click moves the row on. Keys need none: the row follows the
     focus. */
-T.AbstractButton {
+RAbstractButtonTemplate {
     id: root
 
     required property Flickable view

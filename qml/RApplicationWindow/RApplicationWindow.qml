@@ -1,12 +1,11 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
 /*! Main window with the theme object and the style sheets that the theme word names.
 
     Keys: Ctrl with Plus and Minus changes the size of everything in steps of 0.1 from 0.5 to 3, Ctrl+0 goes back to the
     automatic size, unless `zoomShortcuts` is false. */
-T.ApplicationWindow {
+RApplicationWindowTemplate {
     id: root
 
     /*! Name of the module's sheet, directory + key + "." + theme + ".style": `tambleStyleSheetDirectory`, "qrc:/style/"

@@ -1,15 +1,14 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
 /*! Covers a window and takes its mouse, touch and keys while it is open. It blocks at once, but shows only after a
     while, so that short waits do not flicker. */
-T.Popup {
+RPopupTemplate {
     id: root
 
     required property bool busy
 
-    parent: T.Overlay.overlay
+    parent: ROverlayTemplate.overlay
     width: parent ? parent.width : 0
     height: parent ? parent.height : 0
     // Above whatever a page opens meanwhile.
@@ -18,7 +17,7 @@ T.Popup {
     padding: 0
     modal: true
     focus: true
-    closePolicy: T.Popup.NoAutoClose
+    closePolicy: RPopupTemplate.NoAutoClose
     visible: root.busy
 
     enter: Transition {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
 /*! Cell with a row of tabs of equal widths, which scrolls when they get narrow. A chosen tab is told by `activated`. */
@@ -15,7 +14,7 @@ RCell {
 
     control: bar
 
-    T.TabBar {
+    RTabBarTemplate {
         id: bar
 
         // qmllint disable unqualified

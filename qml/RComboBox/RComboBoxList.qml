@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 import "../Shared" as Shared
 
@@ -26,7 +25,7 @@ Rectangle {
         clip: true
         reuseItems: true
         boundsBehavior: Flickable.StopAtBounds
-        T.ScrollBar.vertical: Shared.RScrollBar {}
+        RScrollBarTemplate.vertical: Shared.RScrollBar {}
 
         Connections {
             target: root.comboBox

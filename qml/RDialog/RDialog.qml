@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
 /*! Modal question or form: a header, what the page puts into it, and `standardButtons`. It is as large as its content
@@ -13,7 +12,7 @@ RDialogBase {
     margins: 8 * RThemeValues.unit
     modal: true
     focus: true
-    closePolicy: root.closable && !root.busy ? T.Popup.CloseOnEscape : T.Popup.NoAutoClose
+    closePolicy: root.closable && !root.busy ? RPopupTemplate.CloseOnEscape : RPopupTemplate.NoAutoClose
 
-    T.Overlay.modal: RDialogDim {}
+    ROverlayTemplate.modal: RDialogDim {}
 }

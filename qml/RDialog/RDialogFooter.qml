@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
 /*! Buttons of a dialog. */
 RDialogFooterBase {
-    standardBox: T.DialogButtonBox {
+    standardBox: RDialogButtonBoxTemplate {
         padding: 0
         alignment: Qt.AlignRight
         delegate: RDialogButton {}

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import "../Shared" as Shared
 
 /*! What moves the body of a dialog that has no room for all of it. */

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 import "../Shared" as Shared
 
@@ -50,10 +49,10 @@ RFlyoutWindowBase {
         boundsBehavior: Flickable.StopAtBounds
         clip: true
 
-        T.ScrollBar.vertical: Shared.RScrollBar {}
-        T.ScrollBar.horizontal: Shared.RScrollBar {}
+        RScrollBarTemplate.vertical: Shared.RScrollBar {}
+        RScrollBarTemplate.horizontal: Shared.RScrollBar {}
 
-        T.Pane {
+        RPaneTemplate {
             id: body
             width: Math.max(view.width, body.implicitWidth)
             height: Math.max(view.height, body.implicitHeight)

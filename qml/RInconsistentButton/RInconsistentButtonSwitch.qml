@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
 /*! Switch that, while several devices differ, asks whether to set all on or off. It sets nothing
@@ -19,7 +18,7 @@ RButtonSwitch {
     property bool horizontalText: false
 
     /*! Made when the question is first asked. */
-    property T.Popup popup: null
+    property RPopupBase popup: null
 
     /*! The user wants the devices on (`clickedOn`) or off (`clickedOff`). */
     signal clickedOn()
@@ -29,7 +28,7 @@ RButtonSwitch {
     onClicked: {
         if (!root.consistent) {
             if (!root.popup)
-                root.popup = popupComponent.createObject(root) as T.Popup
+                root.popup = popupComponent.createObject(root) as RPopupBase
             root.popup.visible = !root.popup.visible
         } else if (root.selected === root.selectable) { // a selectable button has been turned over by the click
             root.clickedOn()

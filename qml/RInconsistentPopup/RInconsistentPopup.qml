@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import "../Shared"
 import TambleClient.Control 1.0
 
@@ -40,7 +39,7 @@ RPopupBase {
     margins: 8 * RThemeValues.unit
     focus: true
     // A press on the parent is the parent's to answer.
-    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+    closePolicy: RPopupTemplate.CloseOnEscape | RPopupTemplate.CloseOnPressOutsideParent
 
     onAskingChanged: {
         if (!root.asking)

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 import "../Shared" as Shared
 
@@ -32,8 +31,8 @@ RListViewBase {
     delegate: root.textRow
     reuseItems: root.delegate === root.textRow
 
-    T.ScrollBar.vertical: Shared.RScrollBar {}
-    T.ScrollBar.horizontal: Shared.RScrollBar {}
+    RScrollBarTemplate.vertical: Shared.RScrollBar {}
+    RScrollBarTemplate.horizontal: Shared.RScrollBar {}
 
     // qmllint disable unqualified
     highlight: Item {

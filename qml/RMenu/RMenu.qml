@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 import "../Shared" as Shared
 
@@ -20,12 +19,12 @@ RMenuBase {
     margins: 8 * RThemeValues.unit
     cascade: true
     // A press on the parent is the parent's to answer.
-    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+    closePolicy: RPopupTemplate.CloseOnEscape | RPopupTemplate.CloseOnPressOutsideParent
 
     // Not a binding: the row that becomes current takes the focus, which may change the index once more.
     onCurrentIndexChanged: rows.currentIndex = root.currentIndex
 
-    delegate: T.MenuItem {
+    delegate: RMenuItemTemplate {
         hoverEnabled: RThemeValues.hoverEnabled
     }
 
@@ -44,7 +43,7 @@ RMenuBase {
             boundsBehavior: Flickable.StopAtBounds
             clip: true
 
-            T.ScrollBar.vertical: Shared.RScrollBar {}
+            RScrollBarTemplate.vertical: Shared.RScrollBar {}
         }
         // Without a border, since a shadow does not show on black.
         Rectangle {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
 /*! What an entry of a menu looks like: check mark, icon, text, shortcut, and a chevron where it opens a sub-menu. */
@@ -7,7 +6,8 @@ Rectangle {
     id: root
 
     required property RMenuBase menu
-    required property T.MenuItem entry
+    // An item of the menu, or of Qt's own.
+    required property var entry
     property string shortcutText: root.entry.action ? root.menu.shownShortcut(root.entry.action.shortcut) : ""
 
     readonly property bool selected: root.menu.selectedEntry === root.entry

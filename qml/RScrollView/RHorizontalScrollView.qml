@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 import "../Shared" as Shared
 
@@ -7,7 +6,7 @@ import "../Shared" as Shared
     parent's.
 
     Keys: what gets the focus is scrolled into view. */
-T.ScrollView {
+RScrollViewTemplate {
     id: root
 
     /*! The items of the row. */
@@ -46,7 +45,7 @@ T.ScrollView {
         clip: true
         onMovementEnded: row.snap()
 
-        T.ScrollBar.horizontal: Shared.RScrollBar {
+        RScrollBarTemplate.horizontal: Shared.RScrollBar {
             parent: root
             x: root.leftPadding
             y: root.height - height

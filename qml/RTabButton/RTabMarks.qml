@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
 /*! What stands at the end of a tab: a dash while several devices differ, the badge, and the button that closes it. */
@@ -44,7 +43,7 @@ Row {
             font.pixelSize: RThemeValues.fontSizeXS
         }
     }
-    T.AbstractButton {
+    RAbstractButtonTemplate {
         id: close
         width: 32 * RThemeValues.unit
         height: root.height

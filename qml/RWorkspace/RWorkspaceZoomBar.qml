@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
 /*! Shows and sets the zoom of a workspace: smaller, a slider, larger, the percentage with a menu, and all of it. One
     stop of the Tab key, where the arrows zoom, and Space or Enter opens the menu, which has all that the buttons do. */
-T.ToolBar {
+RToolBarTemplate {
     id: root
 
     RStyleSet.typeName: "RFlyoutToolbar"

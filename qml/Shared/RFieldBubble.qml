@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
 /*! What a field tells whoever types into it: below it, or above where the window ends. */
-T.Popup {
+RPopupTemplate {
     id: root
 
     required property Item field
@@ -21,7 +20,7 @@ T.Popup {
     implicitHeight: words.implicitHeight
     margins: 8 * RThemeValues.unit
     padding: 0
-    closePolicy: T.Popup.NoAutoClose
+    closePolicy: RPopupTemplate.NoAutoClose
     visible: root.edit.bubbleText !== "" && root.field.visible
 
     contentItem: RPopupFrame { // qmllint disable deferred-property-id

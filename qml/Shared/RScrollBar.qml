@@ -1,15 +1,14 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
 /*! Bar beside what is scrolled, shown while there is more than fits. */
-T.ScrollBar {
+RScrollBarTemplate {
     id: root
 
     implicitWidth: root.vertical ? 8 * RThemeValues.unit : 0
     implicitHeight: root.vertical ? 0 : 8 * RThemeValues.unit
     minimumSize: 0.05
-    visible: root.policy === T.ScrollBar.AlwaysOn || (root.policy === T.ScrollBar.AsNeeded && root.size < 1)
+    visible: root.policy === RScrollBarTemplate.AlwaysOn || (root.policy === RScrollBarTemplate.AsNeeded && root.size < 1)
 
     contentItem: Rectangle { // qmllint disable deferred-property-id
         id: handle

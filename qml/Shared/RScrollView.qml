@@ -1,10 +1,10 @@
 import QtQuick
-import QtQuick.Templates as T
+import TambleClient.Control 1.0
 
 /*! Scrolls its content up and down.
 
     A component of its own, since Qt knows the bar only where it is there before the content. */
-T.ScrollView {
+RScrollViewTemplate {
     id: root
 
     // The focus is meant for what is scrolled. Said here, where Qt finds the number as it compiles the file: in a file
@@ -12,7 +12,7 @@ T.ScrollView {
     focusPolicy: Qt.NoFocus
     contentWidth: root.availableWidth
 
-    T.ScrollBar.vertical: RScrollBar {
+    RScrollBarTemplate.vertical: RScrollBar {
         parent: root
         x: root.mirrored ? 0 : root.width - width
         height: root.height

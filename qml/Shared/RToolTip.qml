@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import TambleClient.Control 1.0
 
 /*! Explains its parent while `visible` is set. */
-T.ToolTip {
+RToolTipTemplate {
     id: root
 
     readonly property real widest: Math.min(320 * RThemeValues.unit, root.roomInWindow)
@@ -15,7 +14,7 @@ T.ToolTip {
     implicitHeight: root.contentItem.implicitHeight
     margins: 8 * RThemeValues.unit
     delay: 700
-    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    closePolicy: RPopupTemplate.CloseOnEscape | RPopupTemplate.CloseOnPressOutside
 
     contentItem: RPopupFrame { // qmllint disable deferred-property-id
         id: frame
