@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int runs = 7;
+constexpr int runs = 15;
 constexpr double tolerance = 0.1; // of the numbers of controls and of texts
 
 using Command = std::vector<std::string>;

@@ -12,6 +12,11 @@ Column {
 
     spacing: theme.dp(8)
 
+    DeviceSelection {
+        id: mixer
+        devices: [GalleryInstallation.firstMixer]
+        observed: false
+    }
     RListView {
         id: list
         width: root.width
@@ -20,7 +25,10 @@ Column {
         textRole: "name"
         label: qsTr("Presets")
         placeholderText: qsTr("No preset is stored")
-        onActivated: index => recallQuestion.recall(index)
+        onActivated: index => {
+            if (mixer.online)
+                recallQuestion.recall(index)
+        }
     }
     Flow {
         width: root.width
@@ -28,7 +36,7 @@ Column {
 
         RButton {
             width: theme.dp(96)
-            enabled: root.chosen >= 0
+            enabled: root.chosen >= 0 && mixer.online
             text: qsTr("Recall")
             onClicked: recallQuestion.recall(root.chosen)
         }
@@ -43,6 +51,11 @@ Column {
             text: qsTr("Store …")
             onClicked: storing.open()
         }
+    }
+    RText {
+        visible: !mixer.online
+        text: qsTr("The FOH mixer is offline; nothing can be recalled.")
+        font.bold: true
     }
     RDialog {
         id: storing

@@ -107,6 +107,23 @@ private Q_SLOTS:
     }
     void actions() { checkRow(); }
 
+    void enteredTextIsThePagesToUndo()
+    {
+        const auto field = m_page.make(QStringLiteral("RTextField {}"));
+        field->forceActiveFocus();
+        const auto undoIsOffered = [&] {
+            openFieldMenu(field.get());
+            const QPointer<RMenuBase> menu = field->findChild<RMenuBase *>();
+            const bool isOffered = enabledEntries(*menu).contains(u"Undo");
+            menu->close();
+            return QTest::qWaitFor([&] { return !menu; }) && isOffered;
+        };
+        QTest::keyClick(&m_page.window, Qt::Key_A);
+        QVERIFY(undoIsOffered());
+        QTest::keyClick(&m_page.window, Qt::Key_Return);
+        QVERIFY(!undoIsOffered());
+    }
+
     void deletingIsAnEdit()
     {
         const auto editor =

@@ -35,10 +35,8 @@ struct Client
         if (!window)
             return;
         window->resize(windowSize);
-        QQmlExpression(qmlContext(window), window->contentItem(),
-                       QStringLiteral("LayoutMirroring.enabled = %1; LayoutMirroring.childrenInherit = true")
-                           .arg(mirrored ? u"true" : u"false"))
-            .evaluate();
+        evaluate(QStringLiteral("LayoutMirroring.enabled = %1; LayoutMirroring.childrenInherit = true")
+                     .arg(mirrored ? u"true" : u"false"));
     }
 
     bool isReady() const
@@ -59,10 +57,14 @@ struct Client
         window->update();
         frame.wait(1000);
     }
+    /// Runs JavaScript in the file of the window.
+    void evaluate(const QString &script) const
+    {
+        QQmlExpression(qmlContext(window), window->contentItem(), script).evaluate();
+    }
     void zoom(int percent) const
     {
-        QQmlExpression(qmlContext(window), window, QStringLiteral("theme.setDpZoomFactor(%1 / 100)").arg(percent))
-            .evaluate();
+        evaluate(QStringLiteral("theme.setDpZoomFactor(%1 / 100)").arg(percent));
         nextFrame();
     }
     QQuickItem *focused() const { return window->activeFocusItem(); }
@@ -76,6 +78,15 @@ struct Client
         return found == items.end() ? nullptr : *found;
     }
     int page() const { return window->property("currentPage").toInt(); }
+    /// The message box on show; null for none.
+    QObject *question() const
+    {
+        const QList<QObject *> objects = window->findChildren<QObject *>();
+        const auto found = std::find_if(objects.begin(), objects.end(), [](const QObject *object) {
+            return object->inherits("tamble::client::RMessageBox") && object->property("opened").toBool();
+        });
+        return found == objects.end() ? nullptr : *found;
+    }
 
     GalleryAudio audio{nullptr};
     GalleryInstallation installation{1, nullptr};
@@ -241,6 +252,54 @@ private Q_SLOTS:
         client.press(Qt::Key_R);
         QCOMPARE(titleAfter(Qt::Key_Enter), QStringLiteral("Amplifier 20"));
         QCOMPARE(titleAfter(Qt::Key_Return), QStringLiteral("Amplifier 21"));
+    }
+
+    // The page that was shown stays, and the bar with it.
+    void pageThatCannotBeShown()
+    {
+        const Client client(100, false);
+        QVERIFY(client.isReady());
+        QVariantList pages = client.pages.festival();
+        pages.append(QVariantMap({{QStringLiteral("key"), QStringLiteral("lost")},
+                                  {QStringLiteral("title"), QStringLiteral("Lost")},
+                                  {QStringLiteral("icon"), QString()},
+                                  {QStringLiteral("source"), QUrl(QStringLiteral("qrc:/Gallery/Lost.qml"))}}));
+        client.window->setProperty("festivalPages", pages);
+        QTRY_VERIFY(client.window->property("ready").toBool());
+        client.window->setProperty("currentPage", pages.size() - 1);
+        QTRY_COMPARE(client.page(), 0);
+        QObject *box = client.question();
+        QVERIFY(box);
+        QCOMPARE(box->property("title").toString(), QStringLiteral("Lost"));
+        client.press(Qt::Key_Escape);
+        QTRY_VERIFY(!client.question());
+        QCOMPARE(faultOf(client), QString());
+    }
+
+    // Not by accident, while the audience is there.
+    void presetIsRecalledAfterAQuestion()
+    {
+        Client client(100, false);
+        QVERIFY(client.isReady());
+        client.window->setProperty("currentPage", int(client.pages.indexOf(QStringLiteral("festival-levels"))));
+        QTRY_VERIFY(client.window->property("ready").toBool());
+        client.evaluate(QStringLiteral("Festival.showRuns = true"));
+        EditHistory &history = *client.installation.history();
+        const QList<QObject *> objects = client.window->findChildren<QObject *>();
+        const auto recall = std::find_if(objects.begin(), objects.end(), [](const QObject *object) {
+            return object->metaObject()->indexOfMethod("recall(int)") >= 0;
+        });
+        QVERIFY(recall != objects.end());
+        for (const bool yes : {false, true}) {
+            QVERIFY(QMetaObject::invokeMethod(*recall, "recall", Q_ARG(int, 1)));
+            QTRY_VERIFY(client.question());
+            // Cancel has the focus.
+            if (yes)
+                client.press(Qt::Key_Tab);
+            client.press(Qt::Key_Return);
+            QTRY_VERIFY(!client.question());
+            QCOMPARE(history.canUndo(), yes);
+        }
     }
 
     // From a block on the plan to its device, and for a loudspeaker to its amplifier.
