@@ -1,6 +1,7 @@
-# cmake -D CONTROL=DIR -P CheckIncludes.cmake
+# cmake -D CONTROL=DIR -D QML=DIR -P CheckIncludes.cmake
 #
-# Fails on a file in control/ that includes one of a folder which stands after its own in the list of folders.
+# Fails on a file in control/ that includes one of a folder which stands after its own in the list of folders, and on
+# one in qml/ that imports what is slow to load: see control/base/QuickTemplates.h.
 
 cmake_minimum_required(VERSION 3.25)
 include(${CMAKE_CURRENT_LIST_DIR}/ControlFolders.cmake)
@@ -34,6 +35,14 @@ foreach(file IN LISTS files)
         endif()
     endforeach()
 endforeach()
+file(GLOB_RECURSE files RELATIVE ${QML} ${QML}/*.qml)
+foreach(file IN LISTS files)
+    file(STRINGS ${QML}/${file} imports REGEX "^import QtQuick\\.(Controls|Templates)")
+    foreach(line IN LISTS imports)
+        message("qml/${file}: ${line}")
+        math(EXPR findings "${findings} + 1")
+    endforeach()
+endforeach()
 if(findings)
-    message(FATAL_ERROR "${findings} includes against the order of the folders")
+    message(FATAL_ERROR "${findings} includes and imports that are not allowed")
 endif()

@@ -27,9 +27,9 @@ if(TAMBLE_CLANG_FORMAT)
 endif()
 
 add_custom_target(include-check
-    COMMAND ${CMAKE_COMMAND} -D CONTROL=${PROJECT_SOURCE_DIR}/control
+    COMMAND ${CMAKE_COMMAND} -D CONTROL=${PROJECT_SOURCE_DIR}/control -D QML=${PROJECT_SOURCE_DIR}/qml
             -P ${PROJECT_SOURCE_DIR}/cmake/CheckIncludes.cmake
-    COMMENT "Checking what the folders of control/ include"
+    COMMENT "Checking what the folders of control/ include, and what QML files import"
     VERBATIM
 )
 

@@ -435,6 +435,7 @@ void registerInternals(const Registrar &registrar)
     registrar.singletons("Shared", {"RThemeValues"});
 }
 
+// What native types and QML files of the module derive from.
 void registerTemplates(const Registrar &registrar)
 {
     registrar.withLaterProperties<QWindow>();
