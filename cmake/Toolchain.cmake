@@ -40,7 +40,7 @@ if(TAMBLE_SANITIZE)
 elseif(NOT TAMBLE_BUILD_FUZZERS)
     # A sanitizer's run-time symbols are left undefined in shared libraries.
     add_link_options(LINKER:--no-undefined)
-    # A library takes its own names as its own, without asking all others at its start whether they have them. Nothing
-    # copies its data: whatever includes Qt's headers is compiled as position-independent code.
-    add_link_options(LINKER:-Bsymbolic)
+    # As Qt is linked: a library calls its own functions without asking all others at its start whether they have them.
+    # Not so its data, of which a program that is not position-independent has copies.
+    add_link_options(LINKER:-Bsymbolic-functions)
 endif()
