@@ -175,6 +175,13 @@ public:
         qmlRegisterRevision<T, 0>(m_uri, majorVersion, minorVersion);
     }
 
+    /// One of Qt's templates, with the properties that its later versions brought.
+    template <typename T>
+    void quickTemplate(const char *name) const
+    {
+        qmlRegisterType<T, 0>(m_uri, majorVersion, minorVersion, name);
+    }
+
     void composite(const char *folder, const char *name, const char *file) const
     {
         qmlRegisterType(fileUrl(folder, file), m_uri, majorVersion, minorVersion, name);
@@ -435,13 +442,12 @@ void registerInternals(const Registrar &registrar)
     registrar.singletons("Shared", {"RThemeValues"});
 }
 
-// What native types and QML files of the module derive from.
+// What native types and QML files of the module derive from, and what pages reach through their properties.
 void registerTemplates(const Registrar &registrar)
 {
     registrar.withLaterProperties<QWindow>();
     registrar.withLaterProperties<QQuickWindow>();
     registrar.withLaterProperties<QQuickWindowQmlImpl>();
-    registrar.withLaterProperties<QQuickApplicationWindow>();
     registrar.withLaterProperties<QQuickItem>();
     registrar.withLaterProperties<QQuickFlickable>();
     registrar.withLaterProperties<QQuickItemView>();
@@ -453,32 +459,25 @@ void registerTemplates(const Registrar &registrar)
     registrar.withLaterProperties<QQuickTextEdit>();
     registrar.withLaterProperties<QQuickTextArea>();
     registrar.withLaterProperties<QQuickControl>();
-    registrar.withLaterProperties<QQuickAbstractButton>();
-    registrar.withLaterProperties<QQuickMenuItem>();
-    registrar.withLaterProperties<QQuickPane>();
-    registrar.withLaterProperties<QQuickScrollView>();
-    registrar.withLaterProperties<QQuickToolBar>();
     registrar.withLaterProperties<QQuickContainer>();
-    registrar.withLaterProperties<QQuickDialogButtonBox>();
-    registrar.withLaterProperties<QQuickTabBar>();
     registrar.withLaterProperties<QQuickScrollBar>();
     registrar.withLaterProperties<QQuickComboBox>();
-    registrar.withLaterProperties<QQuickPopup>();
     registrar.withLaterProperties<QQuickMenu>();
     registrar.withLaterProperties<QQuickDialog>();
-    registrar.withLaterProperties<QQuickToolTip>();
-    registrar.creatable<RAbstractButtonTemplate>("RAbstractButtonTemplate");
-    registrar.creatable<RApplicationWindowTemplate>("RApplicationWindowTemplate");
-    registrar.creatable<RDialogButtonBoxTemplate>("RDialogButtonBoxTemplate");
-    registrar.creatable<RMenuItemTemplate>("RMenuItemTemplate");
-    registrar.creatable<ROverlayTemplate>("ROverlayTemplate");
-    registrar.creatable<RPaneTemplate>("RPaneTemplate");
-    registrar.creatable<RPopupTemplate>("RPopupTemplate");
+    registrar.withLaterProperties<QQuickAction>();
+    registrar.withLaterProperties<QQuickPopupAnchors>();
+    registrar.quickTemplate<QQuickAbstractButton>("RAbstractButtonTemplate");
+    registrar.quickTemplate<QQuickApplicationWindow>("RApplicationWindowTemplate");
+    registrar.quickTemplate<QQuickDialogButtonBox>("RDialogButtonBoxTemplate");
+    registrar.quickTemplate<QQuickMenuItem>("RMenuItemTemplate");
+    registrar.uncreatable<QQuickOverlay>("ROverlayTemplate", "");
+    registrar.quickTemplate<QQuickPane>("RPaneTemplate");
+    registrar.quickTemplate<QQuickPopup>("RPopupTemplate");
     registrar.creatable<RScrollBarTemplate>("RScrollBarTemplate");
-    registrar.creatable<RScrollViewTemplate>("RScrollViewTemplate");
-    registrar.creatable<RTabBarTemplate>("RTabBarTemplate");
-    registrar.creatable<RToolBarTemplate>("RToolBarTemplate");
-    registrar.creatable<RToolTipTemplate>("RToolTipTemplate");
+    registrar.quickTemplate<QQuickScrollView>("RScrollViewTemplate");
+    registrar.quickTemplate<QQuickTabBar>("RTabBarTemplate");
+    registrar.quickTemplate<QQuickToolBar>("RToolBarTemplate");
+    registrar.quickTemplate<QQuickToolTip>("RToolTipTemplate");
 }
 
 // Where native items find their parts.

@@ -36,15 +36,12 @@ void begin(GalleryInstallation &installation)
     installation.advance(behaviour.latency);
 }
 
-/// What Qt is to do unless the user's environment says something else.
-void setDefaults()
+/// Icons take a small part of the textures that Qt would make by the size of the window: 8 MB for a common one.
+void limitTextureAtlas()
 {
-    // Icons take a small part of the textures that Qt would make by the size of the window: 8 MB for a common one. The
-    // style is that of the few controls of Qt's own; to be told by a function, their library would have to be there.
-    for (const auto &[name, value] : {std::pair("QSG_ATLAS_WIDTH", "1024"), std::pair("QSG_ATLAS_HEIGHT", "512"),
-                                      std::pair("QT_QUICK_CONTROLS_STYLE", "Basic")}) {
+    for (const auto &[name, pixels] : {std::pair("QSG_ATLAS_WIDTH", "1024"), std::pair("QSG_ATLAS_HEIGHT", "512")}) {
         if (!qEnvironmentVariableIsSet(name))
-            qputenv(name, value);
+            qputenv(name, pixels);
     }
 }
 
@@ -70,7 +67,7 @@ int main(int argc, char **argv)
     if (!options.scale.isEmpty())
         qputenv("QT_SCALE_FACTOR", options.scale.toLatin1());
 
-    setDefaults();
+    limitTextureAtlas();
 
     const PageList pages(QStringLiteral(":/Gallery"));
     const int firstPage = options.page.isEmpty() ? 0 : int(pages.indexOf(options.page));

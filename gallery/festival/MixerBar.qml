@@ -50,7 +50,7 @@ Flow {
         }
         RButton {
             width: theme.dp(80)
-            enabled: preset.currentIndex >= 0 && device.online
+            enabled: preset.currentIndex >= 0 && question.possible
             text: qsTr("Recall")
             onClicked: question.recall(preset.currentIndex)
         }

@@ -12,11 +12,6 @@ Column {
 
     spacing: theme.dp(8)
 
-    DeviceSelection {
-        id: mixer
-        devices: [GalleryInstallation.firstMixer]
-        observed: false
-    }
     RListView {
         id: list
         width: root.width
@@ -25,10 +20,7 @@ Column {
         textRole: "name"
         label: qsTr("Presets")
         placeholderText: qsTr("No preset is stored")
-        onActivated: index => {
-            if (mixer.online)
-                recallQuestion.recall(index)
-        }
+        onActivated: index => recallQuestion.recall(index)
     }
     Flow {
         width: root.width
@@ -36,7 +28,7 @@ Column {
 
         RButton {
             width: theme.dp(96)
-            enabled: root.chosen >= 0 && mixer.online
+            enabled: root.chosen >= 0 && recallQuestion.possible
             text: qsTr("Recall")
             onClicked: recallQuestion.recall(root.chosen)
         }
@@ -53,7 +45,7 @@ Column {
         }
     }
     RText {
-        visible: !mixer.online
+        visible: !recallQuestion.possible
         text: qsTr("The FOH mixer is offline; nothing can be recalled.")
         font.bold: true
     }

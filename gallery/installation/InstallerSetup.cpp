@@ -71,6 +71,7 @@ struct TypicalAmplifier
     {
         int source;
         int delay;
+        bool isLast; // of the inputs, or of the outputs
     };
 
     Setup setup{DeviceKind::Amplifier};
@@ -88,8 +89,9 @@ TypicalAmplifier::TypicalAmplifier()
         const QString number = QString::number(ofKind);
         const QString channel = (isInput ? "input" : "output") + number;
         setup.write(channel + "Name", (isInput ? "In " : "Way ") + number);
-        setup.write(channel + "Gain", ofKind == 4 ? gainOff : -3.0 * i);
-        channels.append({fieldIndex(channel + "Source"), fieldIndex(channel + "DelaySamples")});
+        const bool isLast = ofKind == (isInput ? inputs : outputs);
+        setup.write(channel + "Gain", isLast ? gainOff : -3.0 * i);
+        channels.append({fieldIndex(channel + "Source"), fieldIndex(channel + "DelaySamples"), isLast});
     }
 }
 
@@ -109,10 +111,11 @@ DeviceRecord installedAmplifier(int number)
     const int channels = int(typical.channels.size());
     const int inputs = channelCount(DeviceKind::Amplifier).inputs;
     for (int i = 0; i < channels; ++i) {
+        const TypicalAmplifier::ChannelFields &channel = typical.channels[i];
         const int source = (number * inputs + i) % int(networkSources().size());
-        const bool isUnknown = number % 5 == 4 && i % inputs == 3;
-        amplifier.write(typical.channels[i].source, isUnknown ? 9000 + number : networkSources()[source].id);
-        amplifier.write(typical.channels[i].delay, 48 * place + 12 * i);
+        const bool isUnknown = number % 5 == 4 && channel.isLast;
+        amplifier.write(channel.source, isUnknown ? 9000 + number : networkSources()[source].id);
+        amplifier.write(channel.delay, 48 * place + 12 * i);
     }
     return amplifier.record();
 }

@@ -18,7 +18,7 @@ RButton {
     property bool horizontalText: false
 
     /*! Made when the question is first asked. */
-    property RPopupBase popup: null
+    property RPopupTemplate popup: null
 
     /*! The user wants the devices on (`clickedOn`) or off (`clickedOff`). */
     signal clickedOn()
@@ -29,7 +29,7 @@ RButton {
     onClicked: {
         if (!root.consistent) {
             if (!root.popup)
-                root.popup = popupComponent.createObject(root) as RPopupBase
+                root.popup = popupComponent.createObject(root) as RPopupTemplate
             root.popup.visible = !root.popup.visible
         } else if (root.selected === root.selectable) { // a selectable button has been turned over by the click
             root.clickedOn()

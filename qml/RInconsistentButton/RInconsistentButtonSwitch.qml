@@ -18,7 +18,7 @@ RButtonSwitch {
     property bool horizontalText: false
 
     /*! Made when the question is first asked. */
-    property RPopupBase popup: null
+    property RPopupTemplate popup: null
 
     /*! The user wants the devices on (`clickedOn`) or off (`clickedOff`). */
     signal clickedOn()
@@ -28,7 +28,7 @@ RButtonSwitch {
     onClicked: {
         if (!root.consistent) {
             if (!root.popup)
-                root.popup = popupComponent.createObject(root) as RPopupBase
+                root.popup = popupComponent.createObject(root) as RPopupTemplate
             root.popup.visible = !root.popup.visible
         } else if (root.selected === root.selectable) { // a selectable button has been turned over by the click
             root.clickedOn()

@@ -6,7 +6,7 @@ Rectangle {
     id: root
 
     required property RMenuBase menu
-    // An item of the menu, or of Qt's own.
+    // A RMenuItemTemplate, some of whose properties tools do not know.
     required property var entry
     property string shortcutText: root.entry.action ? root.menu.shownShortcut(root.entry.action.shortcut) : ""
 

@@ -9,6 +9,7 @@
 #include <QtQuick/QQuickWindow>
 #include <QtQuickTemplates2/private/qquickoverlay_p.h>
 
+#include <algorithm>
 #include <functional>
 
 using namespace tamble::client;
@@ -209,6 +210,20 @@ private Q_SLOTS:
         });
     }
     void flyouts() { checkRow(); }
+
+    // Here, where no page imports the templates whose attached objects this takes.
+    void whatIsBehindADialogIsDimmed()
+    {
+        const Stage stage(QStringLiteral("Item { function openIt() { dialog.open() } function isOpen() { return "
+                                         "dialog.opened }\n RDialog { id: dialog; anchors.centerIn: parent } }"));
+        QVERIFY(stage.owner);
+        QMetaObject::invokeMethod(stage.owner, "openIt");
+        QTRY_VERIFY(stage.isOpen());
+        const QList<QQuickItem *> layers = QQuickOverlay::overlay(stage.quickWindow())->childItems();
+        QVERIFY(std::any_of(layers.begin(), layers.end(), [](const QQuickItem *layer) {
+            return layer->property("color").value<QColor>().alpha() > 0;
+        }));
+    }
 
     // It must not answer the box that comes next, whose button stands at the same place.
     void doubleClickAnswersOneBox()
