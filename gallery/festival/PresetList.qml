@@ -45,7 +45,9 @@ Column {
         }
     }
     RText {
+        width: root.width
         visible: !recallQuestion.possible
+        wrapMode: Text.Wrap
         text: qsTr("The FOH mixer is offline; nothing can be recalled.")
         font.bold: true
     }

@@ -16,7 +16,7 @@ RMessageBox {
 
     function recall(row: int) {
         root.row = row
-        if (!Festival.showRuns) {
+        if (!Festival.showRuns || !root.possible) {
             root.recallNow()
             return
         }

@@ -298,6 +298,11 @@ private Q_SLOTS:
             QTRY_VERIFY(!client.question());
             QCOMPARE(history.canUndo(), yes);
         }
+        history.undo();
+        client.installation.dropOut(GalleryInstallation::firstMixer(), 60'000);
+        client.installation.advance(1000);
+        QVERIFY(QMetaObject::invokeMethod(*recall, "recall", Q_ARG(int, 1)));
+        QVERIFY(!client.question() && !history.canUndo());
     }
 
     // From a block on the plan to its device, and for a loudspeaker to its amplifier.
