@@ -6,6 +6,7 @@
 #include "Screenshots.h"
 
 #include <QtCore/QTextStream>
+#include <QtGui/QFont>
 #include <QtGui/QGuiApplication>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
@@ -45,6 +46,14 @@ void limitTextureAtlas()
     }
 }
 
+/// The interface's own font: Qt lays out a text area once before it has one, for which another would be loaded.
+void setFont()
+{
+    QFont font(QStringLiteral("Brack Office Sans"));
+    font.setPixelSize(12);
+    QGuiApplication::setFont(font);
+}
+
 GalleryOptions optionsFrom(int argc, char **argv)
 {
     QStringList arguments;
@@ -78,6 +87,7 @@ int main(int argc, char **argv)
     }
 
     const QGuiApplication application(argc, argv);
+    setFont();
 
     GalleryAudio audio(nullptr);
     audio.setStepped(!options.screenshotDir.isEmpty());

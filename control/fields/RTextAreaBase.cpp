@@ -2,6 +2,7 @@
 
 #include "fields/FieldParts.h"
 
+#include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 
 namespace tamble::client {
@@ -9,6 +10,10 @@ namespace tamble::client {
 RTextAreaBase::RTextAreaBase(QQuickItem *parent)
     : QQuickTextArea(parent)
 {
+    // The base has laid out its empty text in the application's font. The platform's would be loaded next, only to be
+    // replaced. Of a size in points, Qt would say that there are two sizes.
+    if (const QFont font = QGuiApplication::font(); font.pixelSize() > 0)
+        setFont(font);
     connect(this, &QQuickTextEdit::textChanged, this, &RTextAreaBase::updateHint);
     connect(this, &QQuickTextArea::placeholderTextChanged, this, &RTextAreaBase::updateHint);
 }
