@@ -11,7 +11,7 @@ RTextAreaBase::RTextAreaBase(QQuickItem *parent)
     : QQuickTextArea(parent)
 {
     // The base has laid out its empty text in the application's font. The platform's would be loaded next, only to be
-    // replaced. Of a size in points, Qt would say that there are two sizes.
+    // replaced. Not with a size in points: Qt warns of two sizes when the style sets that in pixels.
     if (const QFont font = QGuiApplication::font(); font.pixelSize() > 0)
         setFont(font);
     connect(this, &QQuickTextEdit::textChanged, this, &RTextAreaBase::updateHint);
