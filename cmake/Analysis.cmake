@@ -26,7 +26,7 @@ endforeach()
 add_library(tamble-analysed OBJECT EXCLUDE_FROM_ALL ${analysed})
 set_target_properties(tamble-analysed PROPERTIES AUTOMOC OFF UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
 foreach(target IN ITEMS tambleclient-control tamble-gallery tamble-gallery-audio
-        tamble-gallery-installation tamblecommon-math-response)
+        tamble-gallery-decoder tamble-gallery-installation tamblecommon-math-response)
     if(TARGET ${target})
         target_include_directories(tamble-analysed PRIVATE $<TARGET_PROPERTY:${target},INCLUDE_DIRECTORIES>)
         target_compile_definitions(tamble-analysed PRIVATE $<TARGET_PROPERTY:${target},COMPILE_DEFINITIONS>)
