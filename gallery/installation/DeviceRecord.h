@@ -26,6 +26,7 @@ public:
     const QVariant &read(int field) const { return m_values.at(field); }
     /// Writes a value of the field's own type and returns what is different now: a delay is held in samples and in ms.
     QList<FieldChange> write(int field, const QVariant &value);
+    const QVariantList &values() const { return m_values; }
     /// Every field with its value.
     QList<FieldChange> all() const;
 

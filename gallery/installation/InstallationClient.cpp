@@ -12,21 +12,17 @@ InstallationClient::InstallationClient(EventQueue &queue, const InstalledDevices
     , m_network(network)
 {
     for (int device = 0; device < devices.count(); ++device) {
-        DeviceState known{devices.kind(device), {}, devices.isOnline(device)};
-        const int fields = int(deviceFields(known.kind).size());
-        known.fields.reserve(fields);
-        for (int field = 0; field < fields; ++field)
-            known.fields.append({devices.record(device).read(field)});
-        m_devices.append(known);
+        const QVariantList &values = devices.record(device).values();
+        m_devices.append({devices.kind(device), values, QList<int>(values.size()), {}, devices.isOnline(device)});
     }
     network.setReceiver(
         [this](const NetworkMessage &message) { std::visit([this](const auto &said) { take(said); }, message); });
 }
 
-const QVariant &InstallationClient::shown(int device, int field) const
+QVariant InstallationClient::shown(int device, int field) const
 {
-    const FieldState &known = state(device, field);
-    return known.asked.isValid() ? known.asked : known.said;
+    const QVariant asked = requested(device, field).value;
+    return asked.isValid() ? asked : said(device, field);
 }
 
 QString InstallationClient::alarm(int device) const
@@ -50,15 +46,15 @@ QString InstallationClient::title(int device, int field) const
 
 void InstallationClient::request(int device, int field, const QVariant &value)
 {
-    FieldState &known = state(device, field);
-    known.asked = value;
-    known.lastRequest = ++m_lastRequest;
+    Requested &now = requested(device, field);
+    now.value = value;
+    now.last = ++m_lastRequest;
     if (!isOnline(device)) {
         fail(device, field, tr("The device is not online"));
     } else {
         const int number = m_lastRequest;
-        known.error.clear();
-        ++known.openRequests;
+        now.error.clear();
+        ++now.open;
         m_open.insert(number, {device, field});
         m_network.send(number, device, field, value);
         m_queue.after(m_network.behaviour().timeout, [=, this] { giveUp(number); });
@@ -68,12 +64,19 @@ void InstallationClient::request(int device, int field, const QVariant &value)
 
 void InstallationClient::dismiss(int device, int field)
 {
-    FieldState &known = state(device, field);
-    if (known.error.isEmpty())
-        return;
-    known.error.clear();
-    known.asked.clear();
-    Q_EMIT fieldChanged(device, field);
+    if (forget(device, field))
+        Q_EMIT fieldChanged(device, field);
+}
+
+/// Returns whether there was a failed request to forget.
+bool InstallationClient::forget(int device, int field)
+{
+    if (error(device, field).isEmpty())
+        return false;
+    Requested &failed = requested(device, field);
+    failed.error.clear();
+    failed.value.clear();
+    return true;
 }
 
 void InstallationClient::take(const ValuesSaid &message)
@@ -115,16 +118,14 @@ void InstallationClient::take(const PresenceSaid &message)
 /// What is older than what the client knows already tells it nothing.
 bool InstallationClient::learn(const ValuesSaid &message, const FieldChange &change)
 {
-    FieldState &known = state(message.device, change.field);
-    if (message.revision < known.revision)
+    DeviceState &known = m_devices[message.device];
+    if (message.revision < known.revisions.at(change.field))
         return false;
-    known.revision = message.revision;
-    const bool isDifferent = std::exchange(known.said, change.value) != change.value;
+    known.revisions[change.field] = message.revision;
+    const bool isDifferent = std::exchange(known.said[change.field], change.value) != change.value;
     // News from the device is worth more than a request that failed.
-    if (isDifferent && !known.error.isEmpty()) {
-        known.error.clear();
-        known.asked.clear();
-    }
+    if (isDifferent)
+        forget(message.device, change.field);
     return isDifferent;
 }
 
@@ -138,12 +139,12 @@ void InstallationClient::conclude(int request, const FieldPlace &open, const QSt
 {
     const auto [device, field] = open;
     m_open.remove(request);
-    FieldState &known = state(device, field);
-    --known.openRequests;
+    Requested &now = requested(device, field);
+    --now.open;
     // The answer to an earlier request says nothing about the one that counts.
-    if (request == known.lastRequest) {
+    if (request == now.last) {
         if (reason.isEmpty())
-            known.asked.clear();
+            now.value.clear();
         fail(device, field, reason);
     }
     Q_EMIT fieldChanged(device, field);
@@ -152,7 +153,7 @@ void InstallationClient::conclude(int request, const FieldPlace &open, const QSt
 /// An empty reason is none.
 void InstallationClient::fail(int device, int field, const QString &reason)
 {
-    state(device, field).error = reason;
+    requested(device, field).error = reason;
     if (!reason.isEmpty())
         Q_EMIT requestFailed(device, field, reason);
 }

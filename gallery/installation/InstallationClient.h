@@ -26,18 +26,17 @@ public:
     /// A field for people, a channel's by the name of the channel: "Kick gain".
     QString title(int device, int field) const;
     /// What the device said last.
-    const QVariant &said(int device, int field) const { return state(device, field).said; }
+    const QVariant &said(int device, int field) const { return m_devices[device].said.at(field); }
     /// What a field is to show: the value asked for while that waits or has failed, else what the device said last.
-    const QVariant &shown(int device, int field) const;
+    QVariant shown(int device, int field) const;
     const QVariant &said(FieldPlace place) const { return said(place.device, place.field); }
-    const QVariant &shown(FieldPlace place) const { return shown(place.device, place.field); }
+    QVariant shown(FieldPlace place) const { return shown(place.device, place.field); }
     /// Whether every request about the field is answered or given up.
-    bool isConfirmed(int device, int field) const { return state(device, field).openRequests == 0; }
+    bool isConfirmed(int device, int field) const { return requested(device, field).open == 0; }
     bool isConfirmed(FieldPlace place) const { return isConfirmed(place.device, place.field); }
     /// Why the last request failed, for people; empty when it did not.
-    const QString &error(int device, int field) const { return state(device, field).error; }
-
-    const QString &error(FieldPlace place) const { return error(place.device, place.field); }
+    QString error(int device, int field) const { return requested(device, field).error; }
+    QString error(FieldPlace place) const { return error(place.device, place.field); }
 
     /// Asks a device to take a value; the answer comes later. A device that is known to be off is not asked.
     void request(int device, int field, const QVariant &value);
@@ -54,24 +53,26 @@ Q_SIGNALS:
     void changedElsewhere(int device, int field);
 
 private:
-    struct FieldState
+    /// What was asked of a field.
+    struct Requested
     {
-        QVariant said;
-        int revision = 0;
-        QVariant asked{}; ///< invalid when nothing waits and nothing failed
+        QVariant value{}; ///< invalid when nothing waits and nothing failed
         QString error{};
-        int lastRequest = 0;
-        int openRequests = 0;
+        int last = 0;
+        int open = 0;
     };
     struct DeviceState
     {
         DeviceKind kind;
-        QList<FieldState> fields;
+        QVariantList said;
+        QList<int> revisions;
+        QHash<int, Requested> requested{}; ///< by fields that something was asked of
         bool isOnline = true;
     };
     void fail(int device, int field, const QString &reason);
-    const FieldState &state(int device, int field) const { return m_devices[device].fields[field]; }
-    FieldState &state(int device, int field) { return m_devices[device].fields[field]; }
+    bool forget(int device, int field);
+    Requested requested(int device, int field) const { return m_devices[device].requested.value(field); }
+    Requested &requested(int device, int field) { return m_devices[device].requested[field]; }
 
     void take(const ValuesSaid &message);
     void take(const RequestAnswered &message);
