@@ -5,6 +5,7 @@
 #include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
+#include <QtQuick/QQuickWindow>
 
 #include <utility>
 
@@ -77,6 +78,25 @@ void RListViewBase::geometryChange(const QRectF &newGeometry, const QRectF &oldG
 {
     SelectableListView::geometryChange(newGeometry, oldGeometry);
     polish();
+}
+
+void RListViewBase::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    SelectableListView::itemChange(change, data);
+    if (change != ItemSceneChange || m_isDrawn)
+        return;
+    disconnect(m_frames);
+    if (data.window) // later: the frame itself does not wait for more rows
+        m_frames =
+            connect(data.window, &QQuickWindow::afterAnimating, this, &RListViewBase::onFrame, Qt::QueuedConnection);
+}
+
+void RListViewBase::onFrame()
+{
+    if (!isVisible() || !isComponentComplete() || std::exchange(m_isDrawn, true))
+        return;
+    disconnect(m_frames);
+    Q_EMIT drawnChanged();
 }
 
 void RListViewBase::updatePolish()

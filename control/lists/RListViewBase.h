@@ -42,6 +42,8 @@ class TAMBLE_CLIENT_CONTROL_EXPORT RListViewBase : public tamble::client::Select
     /// Whether the arrows lead from the last row to the first one, and back; false by default.
     Q_PROPERTY(bool loop READ isWrapEnabled WRITE setWrapEnabled NOTIFY keyNavigationWrapsChanged FINAL)
     Q_PROPERTY(bool hoverEnabled READ isHoverEnabled WRITE setHoverEnabled NOTIFY hoverEnabledChanged FINAL)
+    /// Whether the list has been drawn. Rows beyond its ends are made from then on, so that a page appears sooner.
+    Q_PROPERTY(bool drawn READ isDrawn NOTIFY drawnChanged FINAL)
     /// Of the style: `ssColor` of texts; of the highlight `ssBackgroundItemSelected` and `ssForegroundItemSelected`,
     /// where the pointer is `ssBackgroundItemHover` and `ssForegroundItemHover`.
     Q_PROPERTY(QColor ssColor MEMBER m_ssColor NOTIFY ssColorChanged FINAL)
@@ -63,6 +65,7 @@ public:
     /// Whether the row below the pointer is highlighted.
     bool isHoverEnabled() const { return acceptHoverEvents(); }
     void setHoverEnabled(bool enabled);
+    bool isDrawn() const { return m_isDrawn; }
 
     /// What a row without a delegate shows.
     QString rowText(int row) const { return listRows().text(row, m_textRole); }
@@ -91,6 +94,7 @@ Q_SIGNALS:
     void placeholderTextChanged();
     void typeAheadChanged();
     void hoverEnabledChanged();
+    void drawnChanged();
     void ssColorChanged();
     void ssBackgroundItemSelectedChanged();
     void ssForegroundItemSelectedChanged();
@@ -110,6 +114,7 @@ protected:
     void rowsSorting() override;
     void componentComplete() override;
     void initItem(int index, QObject *item) override;
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
     void updatePolish() override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     bool childMouseEventFilter(QQuickItem *item, QEvent *event) override;
@@ -129,6 +134,7 @@ protected:
 private:
     void accessibilityActiveChanged(bool active) override;
     void pointAt(std::optional<QPointF> place);
+    void onFrame();
 
     QString m_textRole = QStringLiteral("display");
     QString m_label;
@@ -141,7 +147,9 @@ private:
     ListLook m_look;
     ListKeys m_keys;
     ListPresses m_presses;
+    QMetaObject::Connection m_frames; // of the window, until the list is drawn
     bool m_typeAhead = true;
+    bool m_isDrawn = false;
 };
 
 } // namespace tamble::client

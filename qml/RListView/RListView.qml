@@ -1,6 +1,6 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! List of devices, presets or channels, in which rows can be selected; see RListViewBase. */
 RListViewBase {
@@ -30,9 +30,10 @@ RListViewBase {
     highlightResizeDuration: 0
     delegate: root.textRow
     reuseItems: root.delegate === root.textRow
+    cacheBuffer: root.drawn ? 320 : 0
 
-    RScrollBarTemplate.vertical: Shared.RScrollBar {}
-    RScrollBarTemplate.horizontal: Shared.RScrollBar {}
+    RScrollBarTemplate.vertical: RScrollBar {}
+    RScrollBarTemplate.horizontal: RScrollBar {}
 
     // qmllint disable unqualified
     highlight: Item {
@@ -63,12 +64,12 @@ RListViewBase {
         maximumLineCount: 100 // a word without end takes seconds to wrap
         elide: Text.ElideRight
     }
-    Shared.RStyleProbe {
+    RStyleProbe {
         id: textStyle
         parent: root
         type: "RText"
     }
-    Shared.RStyleProbe {
+    RStyleProbe {
         id: highlightStyle
         parent: root
         type: "RMenu"
