@@ -22,18 +22,19 @@ Flickable {
     onWidthChanged: root.returnToBounds()
     onContentWidthChanged: root.returnToBounds()
 
-    RAppBarArrow {
+    // Not made where the row has its room, nor while the view has none yet.
+    Repeater {
         parent: root
-        view: root
-        ground: root.ground
-        onClicked: root.moveBy(-root.width / 2)
-    }
-    RAppBarArrow {
-        parent: root
-        view: root
-        ground: root.ground
-        atRight: true
-        onClicked: root.moveBy(root.width / 2)
+        model: root.width > 0 && root.contentWidth > root.width ? 2 : 0
+
+        RAppBarArrow {
+            required property int index
+
+            view: root
+            ground: root.ground
+            atRight: index === 1
+            onClicked: root.moveBy(atRight ? root.width / 2 : -root.width / 2)
+        }
     }
     WheelHandler {
         enabled: root.interactive
