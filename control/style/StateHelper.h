@@ -20,15 +20,15 @@ class TAMBLE_CLIENT_CONTROL_EXPORT StateHelper : public QObject
     /// `focus`, `pressed`, `active`.
     Q_OBJECT
     QML_ANONYMOUS
-    Q_PROPERTY(bool hovered READ hovered WRITE setHovered RESET resetHovered NOTIFY hoveredChanged)
-    Q_PROPERTY(bool selected READ selected WRITE setSelected RESET resetSelected NOTIFY selectedChanged)
-    Q_PROPERTY(bool disabled READ disabled WRITE setDisabled RESET resetDisabled NOTIFY disabledChanged)
-    Q_PROPERTY(bool readOnly READ readOnly WRITE setReadOnly RESET resetReadOnly NOTIFY readOnlyChanged)
-    Q_PROPERTY(
-        bool inconsistent READ inconsistent WRITE setInconsistent RESET resetInconsistent NOTIFY inconsistentChanged)
-    Q_PROPERTY(bool focus READ focus WRITE setFocus RESET resetFocus NOTIFY focusChanged)
-    Q_PROPERTY(bool pressed READ pressed WRITE setPressed RESET resetPressed NOTIFY pressedChanged)
-    Q_PROPERTY(bool active READ active WRITE setActive RESET resetActive NOTIFY activeChanged)
+    Q_PROPERTY(bool hovered READ hovered WRITE setHovered RESET resetHovered NOTIFY hoveredChanged FINAL)
+    Q_PROPERTY(bool selected READ selected WRITE setSelected RESET resetSelected NOTIFY selectedChanged FINAL)
+    Q_PROPERTY(bool disabled READ disabled WRITE setDisabled RESET resetDisabled NOTIFY disabledChanged FINAL)
+    Q_PROPERTY(bool readOnly READ readOnly WRITE setReadOnly RESET resetReadOnly NOTIFY readOnlyChanged FINAL)
+    Q_PROPERTY(bool inconsistent READ inconsistent WRITE setInconsistent RESET resetInconsistent NOTIFY
+                   inconsistentChanged FINAL)
+    Q_PROPERTY(bool focus READ focus WRITE setFocus RESET resetFocus NOTIFY focusChanged FINAL)
+    Q_PROPERTY(bool pressed READ pressed WRITE setPressed RESET resetPressed NOTIFY pressedChanged FINAL)
+    Q_PROPERTY(bool active READ active WRITE setActive RESET resetActive NOTIFY activeChanged FINAL)
 
 public:
     /// Bits, in the order of the words in the state text.

@@ -1,11 +1,11 @@
 import QtQuick
 import TambleClient.Control 1.0
 import "../RLimiter"
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Curve of an automatic gain control with handles for its target level, threshold, knee and ratio, and a meter of its
     gain. The plot shows the levels shifted by `thresholdOffset`. */
-Shared.RDynamicsPlot {
+RDynamicsPlot {
     id: root
 
     property alias calculatorActive: calculator.calculatorActive

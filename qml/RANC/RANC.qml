@@ -1,11 +1,11 @@
 import QtQuick
 import TambleClient.Control 1.0
 import "../RLimiter"
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Gain of an ambient noise compensation over the ambient level, with handles for both gains, the ambient threshold and
     the ratio, and a meter of the ambient level. The plot shows the levels shifted by `ambientThresholdOffset`. */
-Shared.RDynamicsPlot {
+RDynamicsPlot {
     id: root
 
     property alias calculatorActive: calculator.calculatorActive

@@ -1,13 +1,13 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Scrolling stack of sections that open and close, for side panels. Its children are RAccordionItems, with an
     RAccordionSectionHeader in front of those that belong together; a Repeater may make them.
 
     Keys: Up, Down, Home and End move between the headers, Space and Enter open and close, Right opens, Left closes.
     Alt+Up and Alt+Down ask for another place of a section. Esc takes a drag back. */
-Shared.RScrollView {
+RScrollView {
     id: root
 
     RStyleSet.typeName: "RAccordion"

@@ -1,10 +1,10 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Handle of a filter: a disc with a label above the dot that marks the filter's frequency and gain, at three quarters
     of the height. The curve that owns it moves it. */
-Shared.RPlotHandle {
+RPlotHandle {
     id: root
 
     /*! Position among the handles of the curve, from 0. */

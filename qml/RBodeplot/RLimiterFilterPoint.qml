@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Handle of a limiter's threshold: a disc centred on its point. The curve that owns it moves it. */
-Shared.RPlotHandle {
+RPlotHandle {
     id: root
 
     /*! For pages that treat all handles alike; `index`, `quality` and `frequency` are not shown. */

@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Push button with a text. `selected` and `consistent` are the page's to set; a click only emits `clicked`. */
-Shared.RStyledButton {
+RStyledButton {
     id: root
 
     /*! Sets the state word "active", such as for a signal that is present. */

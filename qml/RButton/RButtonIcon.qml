@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Button with an icon; `label` is its name for assistive tools. */
-Shared.RStyledButton {
+RStyledButton {
     id: root
 
     /*! The icon, `iconItem`, and the name of its picture, `iconKey`. */

@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Button that shows either its text or its icon. */
-Shared.RStyledButton {
+RStyledButton {
     id: root
 
     /*! Whether the icon is shown in place of the text. */

@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Button with an icon and its text beside it. Without an icon the text has the whole width. */
-Shared.RStyledButton {
+RStyledButton {
     id: root
 
     /*! The icon, `iconItem`, the name of its picture, `iconKey`, and the item that shows the text, `txt`. */

@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Tall button with an icon above its text. */
-Shared.RStyledButton {
+RStyledButton {
     id: root
 
     /*! The icon, `iconItem`, the name of its picture, `iconKey`, and the item that shows the text, `txt`. */

@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Tall button with a caption above its text, such as a parameter's name above its value. */
-Shared.RStyledButton {
+RStyledButton {
     id: root
 
     /*! The lower text, such as a parameter's value. */

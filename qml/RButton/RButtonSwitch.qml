@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Switch with a handle: at the left off, at the right on, in the middle while several devices differ. */
-Shared.RStyledButton {
+RStyledButton {
     id: root
 
     RStyleSet.typeName: "RButtonSwitch"

@@ -1,6 +1,6 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Mark of a cell that did not take a pasted text. The reason shows while the cell is current or pointed at. */
 Item {
@@ -35,7 +35,7 @@ Item {
     HoverHandler {
         id: pointer
     }
-    Shared.RToolTip {
+    RToolTip {
         text: root.text
         visible: root.visible && (pointer.hovered || (root.parent?.activeFocus ?? false))
     }

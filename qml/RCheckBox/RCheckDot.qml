@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Dot at the corner of the box of a check box that the device has not confirmed. */
-Shared.RConfirmDot {
+RConfirmDot {
     id: root
 
     readonly property var control: root.parent

@@ -1,6 +1,6 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! What the popup of a combo box shows. */
 Rectangle {
@@ -25,7 +25,7 @@ Rectangle {
         clip: true
         reuseItems: true
         boundsBehavior: Flickable.StopAtBounds
-        RScrollBarTemplate.vertical: Shared.RScrollBar {}
+        RScrollBarTemplate.vertical: RScrollBar {}
 
         Connections {
             target: root.comboBox

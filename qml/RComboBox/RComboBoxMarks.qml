@@ -1,6 +1,6 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! What tells that a combo box is mixed or not confirmed, as in fields. */
 Item {
@@ -12,18 +12,18 @@ Item {
     visible: !root.comboBox.editable
     opacity: root.comboBox.enabled ? 1 : 0.5
 
-    Shared.RStyleProbe {
+    RStyleProbe {
         id: style
         type: "RTextField"
     }
-    Shared.RConfirmDot {
+    RConfirmDot {
         x: root.comboBox.mirrored ? 42 * RThemeValues.unit - width : root.width - 42 * RThemeValues.unit
         y: (root.height - height) / 2
         color: style.RStyleSet.props.confirmIndicator
         pulsing: !root.comboBox.confirmed
         visible: pulsing
     }
-    Shared.RMixedFlag {
+    RMixedFlag {
         x: root.comboBox.mirrored ? root.width - width : 0
         mirrored: root.comboBox.mirrored
         color: style.RStyleSet.props.inconsistentFlag

@@ -1,10 +1,10 @@
 import QtQuick
 import TambleClient.Control 1.0
 import "../RLimiter"
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Curve of a compressor with handles for its threshold, ratio and make-up gain, and a meter of its gain reduction. */
-Shared.RDynamicsPlot {
+RDynamicsPlot {
     id: root
 
     property alias calculatorActive: calculator.calculatorActive

@@ -1,5 +1,5 @@
 import QtQuick
-import "../Shared" as Shared
+import "../Shared"
 
 /*! What moves the body of a dialog that has no room for all of it. */
 Item {
@@ -11,13 +11,13 @@ Item {
     readonly property alias vertical: verticalBar
     readonly property alias horizontal: horizontalBar
 
-    Shared.RScrollBar {
+    RScrollBar {
         id: verticalBar
         orientation: Qt.Vertical
         anchors.right: parent.right
         height: parent.height
     }
-    Shared.RScrollBar {
+    RScrollBar {
         id: horizontalBar
         orientation: Qt.Horizontal
         y: parent.height - (root.hasRoomBelow ? 0 : height)

@@ -1,10 +1,10 @@
 import QtQuick
 import TambleClient.Control 1.0
 import "../RLimiter"
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Curve of a ducker with handles for its threshold and for how far it lowers the signal. */
-Shared.RDynamicsPlot {
+RDynamicsPlot {
     id: root
 
     property alias calculatorActive: calculator.calculatorActive

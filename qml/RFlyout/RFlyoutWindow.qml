@@ -1,6 +1,6 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Tool window inside a page, such as the equalizer of a channel above the list of channels. open() shows it. */
 RFlyoutWindowBase {
@@ -49,8 +49,8 @@ RFlyoutWindowBase {
         boundsBehavior: Flickable.StopAtBounds
         clip: true
 
-        RScrollBarTemplate.vertical: Shared.RScrollBar {}
-        RScrollBarTemplate.horizontal: Shared.RScrollBar {}
+        RScrollBarTemplate.vertical: RScrollBar {}
+        RScrollBarTemplate.horizontal: RScrollBar {}
 
         RPaneTemplate {
             id: body

@@ -1,10 +1,10 @@
 import QtQuick
 import TambleClient.Control 1.0
 import "../RLimiter"
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Curve of a noise gate with handles for its threshold and for the depth of the drop below it. */
-Shared.RDynamicsPlot {
+RDynamicsPlot {
     id: root
 
     property alias calculatorActive: calculator.calculatorActive

@@ -1,10 +1,10 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Handle in a plot of levels, which its parent fills. What a gesture changes is told by signals and up to the kinds of
     handles. */
-Shared.RPlotHandle {
+RPlotHandle {
     id: root
 
     /*! Ranges of the plot, `xFrom` to `xTo` and `yFrom` to `yTo` in dB; the handle stands at the nearest edge when its

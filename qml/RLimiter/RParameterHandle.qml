@@ -1,12 +1,12 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Handle of one parameter of a dynamics panel. Keys step the parameter, the pointer moves its point of the plot. */
 RLevelHandle {
     id: root
 
-    required property Shared.RDynamicsPlot plot
+    required property RDynamicsPlot plot
     /*! The object that holds the parameter with its bounds, called `name`, `name`Min and `name`Max. */
     required property QtObject target
     required property string name

@@ -1,6 +1,6 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Drop-down menu of commands. It opens below its parent. */
 RMenuBase {
@@ -28,7 +28,7 @@ RMenuBase {
         hoverEnabled: RThemeValues.hoverEnabled
     }
 
-    contentItem: Shared.RPopupFrame { // qmllint disable deferred-property-id
+    contentItem: RPopupFrame { // qmllint disable deferred-property-id
         id: frame
         color: root.ssBackground
         borderVisible: root.borderVisible
@@ -43,7 +43,7 @@ RMenuBase {
             boundsBehavior: Flickable.StopAtBounds
             clip: true
 
-            RScrollBarTemplate.vertical: Shared.RScrollBar {}
+            RScrollBarTemplate.vertical: RScrollBar {}
         }
         // Without a border, since a shadow does not show on black.
         Rectangle {

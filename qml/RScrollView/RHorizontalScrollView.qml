@@ -1,6 +1,6 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Scrolls a row of items, such as channel strips, sideways. Items that are to fill the height bind theirs to their
     parent's.
@@ -45,7 +45,7 @@ RScrollViewTemplate {
         clip: true
         onMovementEnded: row.snap()
 
-        RScrollBarTemplate.horizontal: Shared.RScrollBar {
+        RScrollBarTemplate.horizontal: RScrollBar {
             parent: root
             x: root.leftPadding
             y: root.height - height

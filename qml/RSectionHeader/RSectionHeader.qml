@@ -1,6 +1,6 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Title of a group on a page, with a line beside or below it, and room for items at its end. */
 Item {
@@ -29,7 +29,7 @@ Item {
     Accessible.role: Accessible.Heading
     Accessible.name: root.text
 
-    Shared.RStyleProbe {
+    RStyleProbe {
         id: caption
         type: "RLabel"
     }

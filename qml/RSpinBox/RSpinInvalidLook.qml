@@ -1,9 +1,9 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Gives a spin box the colours that the sheets have for the unacceptable text of a text field. */
-Shared.RStyleProbe {
+RStyleProbe {
     id: root
 
     required property Item field

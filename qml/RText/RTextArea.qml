@@ -1,12 +1,12 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! Several lines of text that a device stores. What is typed is marked until it is entered.
 
     Keys: Enter makes a new line, Ctrl+Enter enters the text, Esc takes back what was typed. Undo and Redo are
     the area's while something is typed, else the page's. */
-Shared.RScrollView {
+RScrollView {
     id: root
 
     /*! The editor. */

@@ -1,6 +1,6 @@
 import QtQuick
 import TambleClient.Control 1.0
-import "../Shared" as Shared
+import "../Shared"
 
 /*! What shows and moves the place of a workspace's view. */
 Item {
@@ -11,7 +11,7 @@ Item {
     width: root.canvas.width
     height: root.canvas.height
 
-    Shared.RScrollBar {
+    RScrollBar {
         y: root.height - height
         width: root.width - right.width
         orientation: Qt.Horizontal
@@ -22,7 +22,7 @@ Item {
                 root.canvas.scrollHorizontally(position)
         }
     }
-    Shared.RScrollBar {
+    RScrollBar {
         id: right
         x: root.width - width
         height: root.height - width
