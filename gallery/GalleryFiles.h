@@ -12,9 +12,9 @@ class GalleryFiles : public QObject
     QML_ELEMENT
     QML_SINGLETON
     /// The keys of the whole icon set.
-    Q_PROPERTY(QStringList iconKeys READ iconKeys CONSTANT)
+    Q_PROPERTY(QStringList iconKeys READ iconKeys CONSTANT FINAL)
     /// A directory of style sheets to choose from and to edit.
-    Q_PROPERTY(QUrl styleDirectory READ styleDirectory CONSTANT)
+    Q_PROPERTY(QUrl styleDirectory READ styleDirectory CONSTANT FINAL)
 
 public:
     using QObject::QObject;

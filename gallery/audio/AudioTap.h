@@ -15,7 +15,7 @@ class AudioTap : public QObject, public QQmlParserStatus
     Q_INTERFACES(QQmlParserStatus)
     QML_ANONYMOUS
     /// The channel listened to, from 0 and counted around: of a stereo file, channel 5 is the right one. Default 0.
-    Q_PROPERTY(int channel READ channel WRITE setChannel NOTIFY channelChanged)
+    Q_PROPERTY(int channel READ channel WRITE setChannel NOTIFY channelChanged FINAL)
 
 public:
     explicit AudioTap(QObject *parent = nullptr);

@@ -15,11 +15,11 @@ class ChannelLevel : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("Exposed as GalleryAudio.levels")
     /// What the channel carries; its number, from 1, where nobody knows.
-    Q_PROPERTY(QString name READ name CONSTANT)
+    Q_PROPERTY(QString name READ name CONSTANT FINAL)
     /// Highest sample of the block in dB below full scale, −120 for silence.
-    Q_PROPERTY(double peak READ peak NOTIFY levelChanged)
+    Q_PROPERTY(double peak READ peak NOTIFY levelChanged FINAL)
     /// RMS value of the block in dB below full scale, −120 for silence; −3 for a full-scale sine.
-    Q_PROPERTY(double rms READ rms NOTIFY levelChanged)
+    Q_PROPERTY(double rms READ rms NOTIFY levelChanged FINAL)
 
 public:
     ChannelLevel(const QString &name, QObject *parent)

@@ -16,26 +16,26 @@ class DynamicsTap : public AudioTap
     Q_OBJECT
     QML_ELEMENT
     /// The calculator's points, x 0…1 to the right, y 0…1 downward. None, the default, pass the signal on.
-    Q_PROPERTY(QVariantList points MEMBER m_points NOTIFY pointsChanged)
+    Q_PROPERTY(QVariantList points MEMBER m_points NOTIFY pointsChanged FINAL)
     /// Range in dB of the input levels, and of the output levels too: −60…20 by default.
-    Q_PROPERTY(double from MEMBER m_from NOTIFY fromChanged)
-    Q_PROPERTY(double to MEMBER m_to NOTIFY toChanged)
+    Q_PROPERTY(double from MEMBER m_from NOTIFY fromChanged FINAL)
+    Q_PROPERTY(double to MEMBER m_to NOTIFY toChanged FINAL)
     /// Whether y stands for a gain from `gainFrom` to `gainTo` in dB (−20…20), as in the noise compensation. Off by
     /// default: y is the output level.
-    Q_PROPERTY(bool gainCurve MEMBER m_gainCurve NOTIFY gainCurveChanged)
-    Q_PROPERTY(double gainFrom MEMBER m_gainFrom NOTIFY gainFromChanged)
-    Q_PROPERTY(double gainTo MEMBER m_gainTo NOTIFY gainToChanged)
+    Q_PROPERTY(bool gainCurve MEMBER m_gainCurve NOTIFY gainCurveChanged FINAL)
+    Q_PROPERTY(double gainFrom MEMBER m_gainFrom NOTIFY gainFromChanged FINAL)
+    Q_PROPERTY(double gainTo MEMBER m_gainTo NOTIFY gainToChanged FINAL)
     /// Gain in dB where the curve lowers the signal to the floor of the plot; NaN, the default, to read it off there.
-    Q_PROPERTY(double floorGain MEMBER m_floorGain NOTIFY floorGainChanged)
+    Q_PROPERTY(double floorGain MEMBER m_floorGain NOTIFY floorGainChanged FINAL)
     /// Time constants of the level detector in ms: 5 and 150 by default.
-    Q_PROPERTY(double attack MEMBER m_attack NOTIFY attackChanged)
-    Q_PROPERTY(double release MEMBER m_release NOTIFY releaseChanged)
+    Q_PROPERTY(double attack MEMBER m_attack NOTIFY attackChanged FINAL)
+    Q_PROPERTY(double release MEMBER m_release NOTIFY releaseChanged FINAL)
     /// Level in dB that full scale has on the curve; 0 by default, 20 for a device with a full scale of 20 dBu.
-    Q_PROPERTY(double fullScale MEMBER m_fullScale NOTIFY fullScaleChanged)
+    Q_PROPERTY(double fullScale MEMBER m_fullScale NOTIFY fullScaleChanged FINAL)
     /// The loudest moment of the last block, in dB.
-    Q_PROPERTY(double inputLevel READ inputLevel NOTIFY readingChanged)
-    Q_PROPERTY(double outputLevel READ outputLevel NOTIFY readingChanged)
-    Q_PROPERTY(double gain READ gain NOTIFY readingChanged)
+    Q_PROPERTY(double inputLevel READ inputLevel NOTIFY readingChanged FINAL)
+    Q_PROPERTY(double outputLevel READ outputLevel NOTIFY readingChanged FINAL)
+    Q_PROPERTY(double gain READ gain NOTIFY readingChanged FINAL)
 
 public:
     explicit DynamicsTap(QObject *parent = nullptr);

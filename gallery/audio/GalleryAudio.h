@@ -19,15 +19,15 @@ class GalleryAudio : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    Q_PROPERTY(int channels READ channels NOTIFY sourceChanged)
+    Q_PROPERTY(int channels READ channels NOTIFY sourceChanged FINAL)
     /// One object per channel; a new list when the source changes.
-    Q_PROPERTY(QQmlListProperty<ChannelLevel> levels READ levels NOTIFY sourceChanged)
+    Q_PROPERTY(QQmlListProperty<ChannelLevel> levels READ levels NOTIFY sourceChanged FINAL)
     /// Name of the file, or of the built-in signal.
-    Q_PROPERTY(QString sourceName READ sourceName NOTIFY sourceChanged)
+    Q_PROPERTY(QString sourceName READ sourceName NOTIFY sourceChanged FINAL)
     /// Why the last file could not be opened; empty when it could.
-    Q_PROPERTY(QString errorText READ errorText NOTIFY errorTextChanged)
+    Q_PROPERTY(QString errorText READ errorText NOTIFY errorTextChanged FINAL)
     /// Whether the signal plays, in a loop. A page plays it while it is seen.
-    Q_PROPERTY(bool running READ running WRITE setRunning NOTIFY runningChanged)
+    Q_PROPERTY(bool running READ running WRITE setRunning NOTIFY runningChanged FINAL)
 
 public:
     /// Without a default argument: QML would prefer a default constructor to `create`.

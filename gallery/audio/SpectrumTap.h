@@ -16,16 +16,16 @@ class SpectrumTap : public AudioTap
     QML_ELEMENT
     /// Filter sections that the signal passes one after another, each a list [b0, b1, b2, a1, a2] with a0 = 1. None by
     /// default. What is no such list, and an unstable section, passes the signal on.
-    Q_PROPERTY(QVariantList sections READ sections WRITE setSections NOTIFY sectionsChanged)
+    Q_PROPERTY(QVariantList sections READ sections WRITE setSections NOTIFY sectionsChanged FINAL)
     /// Time constant of the average in ms, 300 by default; 0 shows the last third of a second alone.
-    Q_PROPERTY(double averaging MEMBER m_averaging NOTIFY averagingChanged)
+    Q_PROPERTY(double averaging MEMBER m_averaging NOTIFY averagingChanged FINAL)
     /// Levels in dB at the lower and the upper edge of the plot: −90 and 0 by default.
-    Q_PROPERTY(double minimum MEMBER m_minimum NOTIFY minimumChanged)
-    Q_PROPERTY(double maximum MEMBER m_maximum NOTIFY maximumChanged)
+    Q_PROPERTY(double minimum MEMBER m_minimum NOTIFY minimumChanged FINAL)
+    Q_PROPERTY(double maximum MEMBER m_maximum NOTIFY maximumChanged FINAL)
     /// Level of each band in dB: 0 for a full-scale sine, −120 for silence. Empty before the first block.
-    Q_PROPERTY(QList<double> levels READ levels NOTIFY levelsChanged)
+    Q_PROPERTY(QList<double> levels READ levels NOTIFY levelsChanged FINAL)
     /// The levels for a plotter: x 0 (20 Hz) to 1 (20 kHz), logarithmic; y 0 (`maximum`) to 1 (`minimum`), limited.
-    Q_PROPERTY(QVariantList points READ points NOTIFY pointsChanged)
+    Q_PROPERTY(QVariantList points READ points NOTIFY pointsChanged FINAL)
 
 public:
     explicit SpectrumTap(QObject *parent = nullptr);

@@ -11,7 +11,7 @@ class FilterSections : public QObject
     QML_ELEMENT
     QML_SINGLETON
     /// Sample rate in Hz of the signal that plays; 48000 when there is none.
-    Q_PROPERTY(double sampleRate READ sampleRate CONSTANT)
+    Q_PROPERTY(double sampleRate READ sampleRate CONSTANT FINAL)
 
 public:
     explicit FilterSections(QObject *parent = nullptr);

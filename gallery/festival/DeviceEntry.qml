@@ -18,18 +18,20 @@ Item {
     property bool selected: false
     property bool hovered: false
 
+    /*! Pixels per density-independent unit, asked once for all: calls are not compiled. */
+    readonly property real unit: theme.dp(1)
     readonly property RListView list: ListView.view as RListView
     readonly property color color: !root.list ? "transparent" : root.selected ? root.list.ssForegroundItemSelected : root.hovered ? root.list.ssForegroundItemHover : root.list.ssColor
 
     width: root.list ? root.list.width : 0
-    height: theme.dp(48)
+    height: 48 * root.unit
     Accessible.role: Accessible.ListItem
     Accessible.name: qsTr("%1, %2, %3").arg(root.name).arg(root.location).arg(state.text)
     Accessible.selected: root.selected
 
     RIcon {
         anchors.left: parent.left
-        anchors.leftMargin: theme.dp(16)
+        anchors.leftMargin: 16 * root.unit
         anchors.verticalCenter: parent.verticalCenter
         key: root.kind
         ssIconForeground: root.color
@@ -37,11 +39,11 @@ Item {
     }
     Column {
         anchors.left: parent.left
-        anchors.leftMargin: theme.dp(56)
+        anchors.leftMargin: 56 * root.unit
         anchors.right: state.left
-        anchors.rightMargin: theme.dp(8)
+        anchors.rightMargin: 8 * root.unit
         anchors.verticalCenter: parent.verticalCenter
-        spacing: theme.dp(2)
+        spacing: 2 * root.unit
 
         RText {
             width: parent.width
@@ -63,7 +65,7 @@ Item {
     RText {
         id: state
         anchors.right: mark.left
-        anchors.rightMargin: theme.dp(8)
+        anchors.rightMargin: 8 * root.unit
         anchors.verticalCenter: parent.verticalCenter
         text: root.alarm || qsTr("%1 °C").arg(root.temperature.toFixed(1))
         color: root.color
@@ -72,7 +74,7 @@ Item {
     RIcon {
         id: mark
         anchors.right: parent.right
-        anchors.rightMargin: theme.dp(16)
+        anchors.rightMargin: 16 * root.unit
         anchors.verticalCenter: parent.verticalCenter
         sizeClass: "XS"
         key: root.alarm.length === 0 ? "check" : root.online ? "temperature" : "offline"

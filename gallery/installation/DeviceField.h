@@ -12,24 +12,24 @@ class DeviceField : public QObject, public QQmlParserStatus
     Q_OBJECT
     Q_INTERFACES(QQmlParserStatus)
     QML_ELEMENT
-    Q_PROPERTY(DeviceSelection *target READ target WRITE setTarget NOTIFY targetChanged)
+    Q_PROPERTY(DeviceSelection *target READ target WRITE setTarget NOTIFY targetChanged FINAL)
     /// Name of the field; see `deviceFields`.
-    Q_PROPERTY(QString field READ field WRITE setField NOTIFY fieldChanged)
+    Q_PROPERTY(QString field READ field WRITE setField NOTIFY fieldChanged FINAL)
     /// What the first device said last; undefined without one.
-    Q_PROPERTY(QVariant value READ value NOTIFY valueChanged)
+    Q_PROPERTY(QVariant value READ value NOTIFY valueChanged FINAL)
     /// What it was asked for while that waits or has failed, else `value`.
-    Q_PROPERTY(QVariant shown READ shown NOTIFY shownChanged)
+    Q_PROPERTY(QVariant shown READ shown NOTIFY shownChanged FINAL)
     /// Whether all devices show the same.
-    Q_PROPERTY(bool consistent READ isConsistent NOTIFY consistentChanged)
+    Q_PROPERTY(bool consistent READ isConsistent NOTIFY consistentChanged FINAL)
     /// Whether no request waits for its answer.
-    Q_PROPERTY(bool confirmed READ isConfirmed NOTIFY confirmedChanged)
+    Q_PROPERTY(bool confirmed READ isConfirmed NOTIFY confirmedChanged FINAL)
     /// Why the last request failed, with the name of the device where there are several.
-    Q_PROPERTY(QString errorText READ errorText NOTIFY errorTextChanged)
+    Q_PROPERTY(QString errorText READ errorText NOTIFY errorTextChanged FINAL)
     /// What the devices really have, whatever the network does, in the order of the selection and on one line.
-    Q_PROPERTY(QString actualText READ actualText NOTIFY actualTextChanged)
+    Q_PROPERTY(QString actualText READ actualText NOTIFY actualTextChanged FINAL)
     /// Bounds of a number, or of the length of a text.
-    Q_PROPERTY(double minimum READ minimum NOTIFY fieldChanged)
-    Q_PROPERTY(double maximum READ maximum NOTIFY fieldChanged)
+    Q_PROPERTY(double minimum READ minimum NOTIFY fieldChanged FINAL)
+    Q_PROPERTY(double maximum READ maximum NOTIFY fieldChanged FINAL)
 
 public:
     explicit DeviceField(QObject *parent = nullptr);

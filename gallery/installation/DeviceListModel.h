@@ -15,7 +15,7 @@ class DeviceListModel : public QAbstractListModel
     QML_ELEMENT
     QML_UNCREATABLE("Exposed by GalleryInstallation")
     /// How many of the devices have an alarm.
-    Q_PROPERTY(int alarms READ alarms NOTIFY alarmsChanged)
+    Q_PROPERTY(int alarms READ alarms NOTIFY alarmsChanged FINAL)
 
 public:
     DeviceListModel(InstallationClient &client, int count, QObject *parent);

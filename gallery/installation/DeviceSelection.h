@@ -18,12 +18,12 @@ class DeviceSelection : public QObject, public QQmlParserStatus
     Q_INTERFACES(QQmlParserStatus)
     QML_ELEMENT
     /// Numbers of the devices, from 0; those that are not there do not count. Empty by default.
-    Q_PROPERTY(QVariantList devices READ devices WRITE setDevices NOTIFY devicesChanged)
+    Q_PROPERTY(QVariantList devices READ devices WRITE setDevices NOTIFY devicesChanged FINAL)
     /// Whether forms show what the devices really have, which no client of a real network could know, and let another
     /// client edit them. True by default.
-    Q_PROPERTY(bool observed MEMBER m_isObserved NOTIFY observedChanged)
+    Q_PROPERTY(bool observed MEMBER m_isObserved NOTIFY observedChanged FINAL)
     /// Whether all of them are on the network.
-    Q_PROPERTY(bool online READ isOnline NOTIFY onlineChanged)
+    Q_PROPERTY(bool online READ isOnline NOTIFY onlineChanged FINAL)
 
 public:
     explicit DeviceSelection(QObject *parent = nullptr);

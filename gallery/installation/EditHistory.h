@@ -32,9 +32,9 @@ class EditHistory : public QUndoStack
 {
     Q_OBJECT
     /// Where steps are done at present, in words of the program's own; empty for nowhere.
-    Q_PROPERTY(QString place MEMBER m_place NOTIFY placeChanged)
+    Q_PROPERTY(QString place MEMBER m_place NOTIFY placeChanged FINAL)
     /// A gesture is going on, however long nothing moves.
-    Q_PROPERTY(bool held READ isHeld WRITE setHeld NOTIFY heldChanged)
+    Q_PROPERTY(bool held READ isHeld WRITE setHeld NOTIFY heldChanged FINAL)
 
 public:
     explicit EditHistory(QObject *parent = nullptr);

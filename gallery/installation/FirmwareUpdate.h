@@ -11,13 +11,13 @@ class FirmwareUpdate : public QObject
     Q_OBJECT
     QML_ELEMENT
     /// The device that gets it, or got it last; −1 at first.
-    Q_PROPERTY(int device READ device NOTIFY changed)
+    Q_PROPERTY(int device READ device NOTIFY changed FINAL)
     /// How much of it has been sent: 0 to 1.
-    Q_PROPERTY(double progress READ progress NOTIFY changed)
-    Q_PROPERTY(bool running READ isRunning NOTIFY changed)
+    Q_PROPERTY(double progress READ progress NOTIFY changed FINAL)
+    Q_PROPERTY(bool running READ isRunning NOTIFY changed FINAL)
     /// Whether the last one did not come to its end.
-    Q_PROPERTY(bool failed READ isFailed NOTIFY changed)
-    Q_PROPERTY(QString text READ text NOTIFY changed)
+    Q_PROPERTY(bool failed READ isFailed NOTIFY changed FINAL)
+    Q_PROPERTY(QString text READ text NOTIFY changed FINAL)
 
 public:
     using QObject::QObject;

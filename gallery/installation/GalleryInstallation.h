@@ -44,23 +44,23 @@ class GalleryInstallation : public QObject
     QML_ELEMENT
     QML_SINGLETON
     /// The amplifiers (`amplifiers`), and all devices, as the client sees them.
-    Q_PROPERTY(DeviceListModel *amplifiers READ amplifiers CONSTANT)
-    Q_PROPERTY(DeviceListModel *allDevices READ allDevices CONSTANT)
+    Q_PROPERTY(DeviceListModel *amplifiers READ amplifiers CONSTANT FINAL)
+    Q_PROPERTY(DeviceListModel *allDevices READ allDevices CONSTANT FINAL)
     /// What channels can be given, a `SourceListModel`.
-    Q_PROPERTY(QAbstractItemModel *sources READ sources CONSTANT)
+    Q_PROPERTY(QAbstractItemModel *sources READ sources CONSTANT FINAL)
     /// What has happened.
-    Q_PROPERTY(EventLog *log READ log CONSTANT)
+    Q_PROPERTY(EventLog *log READ log CONSTANT FINAL)
     /// Settings of the first mixer that can be recalled.
-    Q_PROPERTY(PresetListModel *presets READ presets CONSTANT)
+    Q_PROPERTY(PresetListModel *presets READ presets CONSTANT FINAL)
     /// The plan of all devices and loudspeakers.
-    Q_PROPERTY(StageModel *stage READ stage CONSTANT)
+    Q_PROPERTY(StageModel *stage READ stage CONSTANT FINAL)
     /// Everything that was edited.
-    Q_PROPERTY(EditHistory *history READ history CONSTANT)
+    Q_PROPERTY(EditHistory *history READ history CONSTANT FINAL)
     /// Number of the first mixer and of the matrix.
-    Q_PROPERTY(int firstMixer READ firstMixer CONSTANT)
-    Q_PROPERTY(int matrix READ matrix CONSTANT)
+    Q_PROPERTY(int firstMixer READ firstMixer CONSTANT FINAL)
+    Q_PROPERTY(int matrix READ matrix CONSTANT FINAL)
     /// How the network behaves; may be changed at any time, also by its parts.
-    Q_PROPERTY(NetworkBehaviour behaviour READ behaviour WRITE setBehaviour NOTIFY behaviourChanged)
+    Q_PROPERTY(NetworkBehaviour behaviour READ behaviour WRITE setBehaviour NOTIFY behaviourChanged FINAL)
 
 public:
     /// All that happens by chance is repeated by the same seed. Without a default argument: QML would prefer a default

@@ -6,16 +6,16 @@
 struct NetworkBehaviour
 {
     Q_GADGET
-    Q_PROPERTY(int latency MEMBER latency)
-    Q_PROPERTY(int jitter MEMBER jitter)
-    Q_PROPERTY(double loss MEMBER loss)
-    Q_PROPERTY(double refusals MEMBER refusals)
-    Q_PROPERTY(bool clamping MEMBER clamping)
-    Q_PROPERTY(double dropOutsPerMinute MEMBER dropOutsPerMinute)
-    Q_PROPERTY(int dropOutTime MEMBER dropOutTime)
-    Q_PROPERTY(double otherEditsPerMinute MEMBER otherEditsPerMinute)
-    Q_PROPERTY(double readingsPerMinute MEMBER readingsPerMinute)
-    Q_PROPERTY(int timeout MEMBER timeout)
+    Q_PROPERTY(int latency MEMBER latency FINAL)
+    Q_PROPERTY(int jitter MEMBER jitter FINAL)
+    Q_PROPERTY(double loss MEMBER loss FINAL)
+    Q_PROPERTY(double refusals MEMBER refusals FINAL)
+    Q_PROPERTY(bool clamping MEMBER clamping FINAL)
+    Q_PROPERTY(double dropOutsPerMinute MEMBER dropOutsPerMinute FINAL)
+    Q_PROPERTY(int dropOutTime MEMBER dropOutTime FINAL)
+    Q_PROPERTY(double otherEditsPerMinute MEMBER otherEditsPerMinute FINAL)
+    Q_PROPERTY(double readingsPerMinute MEMBER readingsPerMinute FINAL)
+    Q_PROPERTY(int timeout MEMBER timeout FINAL)
 
 public:
     /// From a request to its answer, half of it each way, in ms: 0 to 3000.

@@ -16,8 +16,8 @@ class RoutingModel : public QAbstractTableModel, public QQmlParserStatus
     Q_INTERFACES(QQmlParserStatus)
     QML_ELEMENT
     /// Names of the inputs and of the outputs.
-    Q_PROPERTY(QStringList inputs READ inputs NOTIFY inputsChanged)
-    Q_PROPERTY(QStringList outputs READ outputs NOTIFY outputsChanged)
+    Q_PROPERTY(QStringList inputs READ inputs NOTIFY inputsChanged FINAL)
+    Q_PROPERTY(QStringList outputs READ outputs NOTIFY outputsChanged FINAL)
 
 public:
     enum Role : int { RoutedRole = Qt::UserRole, ConfirmedRole, RefusalRole };

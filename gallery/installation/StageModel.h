@@ -34,9 +34,9 @@ class StageModel : public QAbstractListModel
     QML_ELEMENT
     QML_UNCREATABLE("Exposed by GalleryInstallation")
     /// The plane, with a margin around the blocks as the installer drew them.
-    Q_PROPERTY(QRectF area READ area CONSTANT)
+    Q_PROPERTY(QRectF area READ area CONSTANT FINAL)
     /// How many blocks there are.
-    Q_PROPERTY(int count READ count CONSTANT)
+    Q_PROPERTY(int count READ count CONSTANT FINAL)
 
 public:
     enum Role : int {

@@ -16,11 +16,13 @@ GridLayout {
     default property alias content: place.data
     readonly property alias source: source
 
+    /*! Pixels per density-independent unit. */
+    readonly property real unit: theme.dp(1)
     readonly property bool failed: source.errorText.length > 0
     /*! What became of the last request; empty when there is nothing to tell. */
     readonly property string answer: source.errorText || (!source.confirmed ? qsTr("waits for the answer") : root.target.online ? "" : qsTr("offline, as it was"))
     /*! Whether the answers stand below the control, as they have no room beside it. */
-    readonly property bool narrow: root.width < theme.dp(400)
+    readonly property bool narrow: root.width < 400 * root.unit
 
     function repeat(event: var) {
         event.accepted = root.failed
@@ -28,7 +30,7 @@ GridLayout {
             source.request(source.shown)
     }
 
-    columnSpacing: theme.dp(12)
+    columnSpacing: 12 * root.unit
     rowSpacing: 0
     Keys.onEscapePressed: event => {
         event.accepted = root.failed
@@ -43,14 +45,14 @@ GridLayout {
         field: root.field
     }
     RLabel {
-        Layout.preferredWidth: theme.dp(76)
+        Layout.preferredWidth: 76 * root.unit
         text: root.title
         buddy: root.editor
     }
     Item {
         id: place
         Layout.fillWidth: root.narrow
-        Layout.preferredWidth: theme.dp(168)
+        Layout.preferredWidth: 168 * root.unit
         implicitHeight: root.editor.height
     }
     // qmllint disable unqualified
@@ -61,7 +63,7 @@ GridLayout {
         Layout.fillWidth: true
         Layout.preferredWidth: 1
         // The form does not jump with each request.
-        Layout.minimumHeight: root.narrow ? (root.target.observed ? 2 : 1) * theme.dp(14) : 0
+        Layout.minimumHeight: root.narrow ? (root.target.observed ? 2 : 1) * 14 * root.unit : 0
         active: root.answer.length > 0 || root.target.observed
         sourceComponent: ColumnLayout {
             spacing: 0
@@ -90,7 +92,7 @@ GridLayout {
     Loader {
         Layout.row: 0
         Layout.column: root.narrow ? 2 : 3
-        Layout.preferredWidth: theme.dp(28)
+        Layout.preferredWidth: 28 * root.unit
         active: root.target.observed
         visible: root.target.observed
         // Without the focus, so that it can be clicked while the field is being edited.

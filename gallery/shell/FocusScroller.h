@@ -9,9 +9,9 @@ class FocusScroller : public QQuickItem
     Q_OBJECT
     QML_ELEMENT
     /// The Flickable.
-    Q_PROPERTY(QQuickItem *view MEMBER m_view NOTIFY viewChanged REQUIRED)
+    Q_PROPERTY(QQuickItem *view MEMBER m_view NOTIFY viewChanged REQUIRED FINAL)
     /// Room in pixels that is kept around the item.
-    Q_PROPERTY(qreal margin MEMBER m_margin NOTIFY marginChanged)
+    Q_PROPERTY(qreal margin MEMBER m_margin NOTIFY marginChanged FINAL)
 
 public:
     explicit FocusScroller(QQuickItem *parent = nullptr);

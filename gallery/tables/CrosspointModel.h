@@ -9,7 +9,7 @@ class CrosspointModel : public QAbstractTableModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(int size READ size WRITE setSize NOTIFY sizeChanged)
+    Q_PROPERTY(int size READ size WRITE setSize NOTIFY sizeChanged FINAL)
 
 public:
     enum Role { RoutedRole = Qt::UserRole, SignalRole };
