@@ -1,7 +1,7 @@
 import QtQuick
+import "../Shared"
 import TambleClient.Control 1.0
 import "../RLimiter"
-import "../Shared"
 
 /*! Curve of an automatic gain control with handles for its target level, threshold, knee and ratio, and a meter of its
     gain. The plot shows the levels shifted by `thresholdOffset`. */

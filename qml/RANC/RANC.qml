@@ -1,7 +1,7 @@
 import QtQuick
+import "../Shared"
 import TambleClient.Control 1.0
 import "../RLimiter"
-import "../Shared"
 
 /*! Gain of an ambient noise compensation over the ambient level, with handles for both gains, the ambient threshold and
     the ratio, and a meter of the ambient level. The plot shows the levels shifted by `ambientThresholdOffset`. */

@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Scrolling stack of sections that open and close, for side panels. Its children are RAccordionItems, with an
     RAccordionSectionHeader in front of those that belong together; a Repeater may make them.

@@ -23,6 +23,7 @@ Flickable {
     onContentWidthChanged: root.returnToBounds()
 
     // Not made where the row has its room, nor while the view has none yet.
+    // qmllint disable unqualified
     Repeater {
         parent: root
         model: root.width > 0 && root.contentWidth > root.width ? 2 : 0
@@ -36,6 +37,7 @@ Flickable {
             onClicked: root.moveBy(atRight ? root.width / 2 : -root.width / 2)
         }
     }
+    // qmllint enable unqualified
     WheelHandler {
         enabled: root.interactive
         onWheel: event => root.moveBy(-event.angleDelta.y)

@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Handle of a filter: a disc with a label above the dot that marks the filter's frequency and gain, at three quarters
     of the height. The curve that owns it moves it. */

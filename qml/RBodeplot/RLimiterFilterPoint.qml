@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Handle of a limiter's threshold: a disc centred on its point. The curve that owns it moves it. */
 RPlotHandle {

@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Push button with a text. `selected` and `consistent` are the page's to set; a click only emits `clicked`. */
 RStyledButton {

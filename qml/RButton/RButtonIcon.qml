@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Button with an icon; `label` is its name for assistive tools. */
 RStyledButton {

@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Button with an icon and its text beside it. Without an icon the text has the whole width. */
 RStyledButton {

@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Tall button with a caption above its text, such as a parameter's name above its value. */
 RStyledButton {

@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Switch with a handle: at the left off, at the right on, in the middle while several devices differ. */
 RStyledButton {

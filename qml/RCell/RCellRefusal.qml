@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Mark of a cell that did not take a pasted text. The reason shows while the cell is current or pointed at. */
 Item {

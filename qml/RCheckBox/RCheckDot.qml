@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Dot at the corner of the box of a check box that the device has not confirmed. */
 RConfirmDot {

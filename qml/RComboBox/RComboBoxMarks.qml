@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! What tells that a combo box is mixed or not confirmed, as in fields. */
 Item {

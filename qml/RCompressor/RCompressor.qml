@@ -1,7 +1,7 @@
 import QtQuick
+import "../Shared"
 import TambleClient.Control 1.0
 import "../RLimiter"
-import "../Shared"
 
 /*! Curve of a compressor with handles for its threshold, ratio and make-up gain, and a meter of its gain reduction. */
 RDynamicsPlot {

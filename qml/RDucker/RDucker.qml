@@ -1,7 +1,7 @@
 import QtQuick
+import "../Shared"
 import TambleClient.Control 1.0
 import "../RLimiter"
-import "../Shared"
 
 /*! Curve of a ducker with handles for its threshold and for how far it lowers the signal. */
 RDynamicsPlot {

@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Tool window inside a page, such as the equalizer of a channel above the list of channels. open() shows it. */
 RFlyoutWindowBase {

@@ -1,7 +1,7 @@
 import QtQuick
+import "../Shared"
 import TambleClient.Control 1.0
 import "../RLimiter"
-import "../Shared"
 
 /*! Curve of a noise gate with handles for its threshold and for the depth of the drop below it. */
 RDynamicsPlot {

@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Handle in a plot of levels, which its parent fills. What a gesture changes is told by signals and up to the kinds of
     handles. */

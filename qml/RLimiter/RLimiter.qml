@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Curve of a limiter with a handle for its threshold, on the diagonal. */
 RDynamicsPlot {

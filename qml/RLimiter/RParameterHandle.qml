@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Handle of one parameter of a dynamics panel. Keys step the parameter, the pointer moves its point of the plot. */
 RLevelHandle {

@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! List of devices, presets or channels, in which rows can be selected; see RListViewBase. */
 RListViewBase {

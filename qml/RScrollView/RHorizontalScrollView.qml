@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Scrolls a row of items, such as channel strips, sideways. Items that are to fill the height bind theirs to their
     parent's.

@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Title of a group on a page, with a line beside or below it, and room for items at its end. */
 Item {

@@ -1,6 +1,6 @@
 import QtQuick
-import TambleClient.Control 1.0
 import "../Shared"
+import TambleClient.Control 1.0
 
 /*! Gives a spin box the colours that the sheets have for the unacceptable text of a text field. */
 RStyleProbe {
