@@ -149,7 +149,12 @@ ThemedTestCase {
     }
 
     function test_wheelAndArrows() {
-        const bar = makeBar("", "width: 300")
+        const bar = makeBar("", "width: 800")
+        const arrows = item => item.autoRepeat === true ? 1 : Array.from(item.children).reduce((sum, child) => sum + arrows(child), 0)
+        compare(arrows(bar), 0, "where there is room")
+        bar.width = 300
+        waitForRendering(bar)
+        verify(arrows(bar) > 0)
         const before = leftOf(bar, "a")
         mouseWheel(bar, 200, 24, 0, -120)
         tryVerify(() => leftOf(bar, "a") < before)

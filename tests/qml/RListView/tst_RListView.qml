@@ -339,6 +339,15 @@ ThemedTestCase {
         }
     }
 
+    /*! A page appears before rows that nobody sees are made. */
+    function test_rowsBeyondTheEnds() {
+        const list = make(`RListView { width: 200; height: 160; model: 100; property int made: 0
+            delegate: Item { width: 200; height: 32; Component.onCompleted: ListView.view.made += 1 } }`)
+        list.forceLayout()
+        verify(list.made <= 6)
+        tryVerify(() => list.made >= 15)
+    }
+
     /*! What a page does when it is told something. */
     function test_handlers_data() {
         return [
