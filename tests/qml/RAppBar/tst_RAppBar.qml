@@ -150,7 +150,7 @@ ThemedTestCase {
 
     function test_wheelAndArrows() {
         const arrows = item => item.autoRepeat === true ? 1 : Array.from(item.children).reduce((sum, child) => sum + arrows(child), 0)
-        compare(arrows(makeBar()), 0, "where there is room")
+        compare(arrows(makeBar("")), 0, "where there is room")
         const bar = makeBar("", "width: 300")
         compare(arrows(bar), 2)
         const before = leftOf(bar, "a")
