@@ -83,12 +83,12 @@ void RListViewBase::geometryChange(const QRectF &newGeometry, const QRectF &oldG
 void RListViewBase::itemChange(ItemChange change, const ItemChangeData &data)
 {
     SelectableListView::itemChange(change, data);
-    if (change != ItemSceneChange || m_isDrawn)
+    if (m_isDrawn || (change != ItemSceneChange && change != ItemVisibleHasChanged))
         return;
     disconnect(m_frames);
-    if (data.window) // later: the frame itself does not wait for more rows
+    if (window() && isVisible()) // later: the frame itself does not wait for more rows
         m_frames =
-            connect(data.window, &QQuickWindow::afterAnimating, this, &RListViewBase::onFrame, Qt::QueuedConnection);
+            connect(window(), &QQuickWindow::afterAnimating, this, &RListViewBase::onFrame, Qt::QueuedConnection);
 }
 
 void RListViewBase::onFrame()
