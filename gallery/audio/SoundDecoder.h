@@ -4,8 +4,8 @@
 
 #include <QtCore/QtPlugin>
 
-/// What reads sound files. A plug-in, so that libsndfile and the nine libraries below it are loaded with the first sound
-/// file, not at each start.
+/// What reads sound files. A plug-in, so that libsndfile and the nine libraries below it are loaded with the first
+/// sound file, not at each start.
 class SoundDecoder
 {
 public:
