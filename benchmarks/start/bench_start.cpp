@@ -123,12 +123,12 @@ int main()
     std::vector<double> toClient;
     std::vector<double> toBare;
     for (int i = 0; i < turns; ++i) {
-        const double ms = startOf(galleryCommand).ms;
+        const int galleryMs = startOf(galleryCommand).ms;
         const int clientMs = startOf(clientCommand).ms;
         const int bareMs = startOf(bareCommand).ms;
-        toClient.push_back(ms / clientMs);
-        toBare.push_back(ms / bareMs);
-        gallery.ms = std::min(gallery.ms, int(ms));
+        toClient.push_back(double(galleryMs) / clientMs);
+        toBare.push_back(double(galleryMs) / bareMs);
+        gallery.ms = std::min(gallery.ms, galleryMs);
         client.ms = std::min(client.ms, clientMs);
         bare.ms = std::min(bare.ms, bareMs);
     }

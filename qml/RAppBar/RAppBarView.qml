@@ -22,7 +22,8 @@ Flickable {
     onWidthChanged: root.returnToBounds()
     onContentWidthChanged: root.returnToBounds()
 
-    // Not made where the row has its room, nor while the view has none yet.
+    // Not made where the row has its room, nor while the view has none yet. Compared anew: while one width changes before
+    // the other, `interactive` may still be of before.
     // qmllint disable unqualified
     Repeater {
         parent: root

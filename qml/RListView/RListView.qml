@@ -30,7 +30,7 @@ RListViewBase {
     highlightResizeDuration: 0
     delegate: root.textRow
     reuseItems: root.delegate === root.textRow
-    cacheBuffer: root.drawn ? 320 : 0
+    cacheBuffer: root.drawn ? 320 : 0 // pixels, Qt's own
 
     RScrollBarTemplate.vertical: RScrollBar {}
     RScrollBarTemplate.horizontal: RScrollBar {}
